@@ -1,0 +1,71 @@
+# A layer is a static library of the sources in one folder. Its include path holds a view of the source
+# tree with its own folder and those of the layers below it, and nothing else: an include that points
+# upwards does not compile.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+add_library(zor_warnings INTERFACE)
+target_compile_options(zor_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+
+if(ZOR_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# zor_view(NAME FOLDER...): a folder in the build tree that shows only these top-level folders.
+function(zor_view name)
+  set(view ${CMAKE_BINARY_DIR}/views/${name})
+  file(REMOVE_RECURSE ${view})
+  file(MAKE_DIRECTORY ${view})
+  foreach(folder IN LISTS ARGN)
+    get_filename_component(parent ${folder} DIRECTORY)
+    if(parent)
+      file(MAKE_DIRECTORY ${view}/${parent})
+    endif()
+    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${folder} ${view}/${folder} SYMBOLIC)
+  endforeach()
+endfunction()
+
+# zor_layer(NAME DIR folder [RECURSE] [BELOW layer]): target zor_NAME.
+function(zor_layer name)
+  cmake_parse_arguments(L "RECURSE" "DIR;BELOW" "" ${ARGN})
+  if(L_RECURSE)
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${L_DIR}/*.cpp ${L_DIR}/*.h)
+  else()
+    file(GLOB sources CONFIGURE_DEPENDS ${L_DIR}/*.cpp ${L_DIR}/*.h)
+  endif()
+  if(NOT sources)
+    message(FATAL_ERROR "layer ${name}: no sources in ${L_DIR}")
+  endif()
+  add_library(zor_${name} STATIC ${sources})
+  target_link_libraries(zor_${name} PRIVATE zor_warnings)
+  target_compile_features(zor_${name} PUBLIC cxx_std_20)
+  set(folders ${L_DIR})
+  if(L_BELOW)
+    target_link_libraries(zor_${name} PUBLIC zor_${L_BELOW})
+    get_target_property(lower zor_${L_BELOW} ZOR_FOLDERS)
+    list(APPEND folders ${lower})
+  endif()
+  set_target_properties(zor_${name} PROPERTIES ZOR_FOLDERS "${folders}")
+  # A folder below one that is already shown needs no link of its own.
+  set(shown)
+  foreach(folder IN LISTS folders)
+    set(inside FALSE)
+    foreach(other IN LISTS folders)
+      string(FIND "${folder}" "${other}/" at)
+      if(at EQUAL 0)
+        set(inside TRUE)
+      endif()
+    endforeach()
+    if(NOT inside)
+      list(APPEND shown ${folder})
+    endif()
+  endforeach()
+  zor_view(${name} ${shown})
+  # The views serve compilation of the layer itself; programs on top include from the source tree.
+  target_include_directories(zor_${name} PRIVATE ${CMAKE_BINARY_DIR}/views/${name}
+                             INTERFACE ${CMAKE_SOURCE_DIR})
+endfunction()

@@ -1,0 +1,150 @@
+#include "controls/numeric/text_box/ctx_ZorTextBox.h"
+
+#include "controls/numeric/text_box/text_box_numbers.h"
+
+namespace zor {
+
+using platform::Alignment;
+using namespace text_box;
+
+// --- From the device to the operator
+
+void ctx_ZorTextBox::s_ApplyDeviceValue()
+{
+    const std::optional<double> number = isNumeric() ? validNumber(m_deviceValue) : std::nullopt;
+    if (number) {
+        m_displayValue = fc_FormatValue(m_units.toOutput(*number), m_units.outputUnit, m_numberOfDigits);
+        show(m_displayValue);
+        // A unit without a display pattern shows nothing: then there is nothing to hand back either.
+        if (textNumber())
+            assignOutput(m_deviceValue);
+    } else {
+        m_displayValue = m_deviceValue;
+        show(m_displayValue);
+        assignOutput(m_deviceValue);
+    }
+    m_status.dataModified = false;
+    m_invalidEntry = false;
+    s_UpdateColors();
+    s_UpdateStatusDisplay();
+}
+
+Variant ctx_ZorTextBox::fv_FormatDisplayValue(const Variant& value, MEAS_TYPE unit)
+{
+    const std::optional<double> number = isNumeric() ? validNumber(value) : std::nullopt;
+    m_text->setAlignment(number ? Alignment::Right : Alignment::Left);
+    return number ? fc_FormatValue(*number, unit, m_numberOfDigits) : value;
+}
+
+void ctx_ZorTextBox::show(const Variant& value)
+{
+    const Variant shown = fv_FormatDisplayValue(value, m_units.outputUnit);
+    if (shown.isText())
+        m_text->setText(shown.text());
+    else
+        m_text->setText(shown.toText());
+}
+
+void ctx_ZorTextBox::assignOutput(Variant value)
+{
+    m_outputValue = std::move(value);
+    raise(kOutputValueChange);
+}
+
+std::optional<double> ctx_ZorTextBox::textNumber() const
+{
+    return validNumber(std::string_view(m_text->text()));
+}
+
+void ctx_ZorTextBox::ModifiedValue(const Variant& value)
+{
+    run([&] {
+        if (const std::optional<double> number = validNumber(value)) {
+            show(m_units.toOutput(*number));
+            if (textNumber())
+                assignOutput(value);
+        } else {
+            show(value);
+            assignOutput(value);
+        }
+        s_UpdateColors();
+        s_UpdateStatusDisplay();
+    });
+}
+
+// --- Units
+
+void ctx_ZorTextBox::s_DeviceUnitChanged()
+{
+    if (const std::optional<double> number = textNumber())
+        assignOutput(m_units.toDevice(*number));
+}
+
+void ctx_ZorTextBox::s_OutputUnitChanged()
+{
+    const std::optional<double> text = textNumber();
+    const std::optional<double> display = validNumber(m_displayValue);
+    if (!text || !display)
+        return;
+    const double newText = m_units.reExpress(*text);
+    const double newDisplay = m_units.reExpress(*display);
+    const double newMinimum = m_units.reExpress(m_units.minParam);
+    const double newMaximum = m_units.reExpress(m_units.maxParam);
+    m_displayValue = newDisplay;
+    // Showing the same value in another unit is no edit, even though rounding may part text and value.
+    const bool modified = m_status.dataModified;
+    show(newText);
+    m_status.dataModified = modified;
+    s_UpdateColors();
+    m_units.minParam = newMinimum;
+    m_units.maxParam = newMaximum;
+    m_units.previousOutputUnit = m_units.outputUnit;
+}
+
+void ctx_ZorTextBox::afterOutputUnit()
+{
+    s_OutputUnitChanged();
+    m_unitLabelCaption = fc_GetUnitLabel(m_units.outputUnit);
+    m_unitLabel->setCaption(m_unitLabelCaption);
+    s_PlaceIcon();
+    // For the alignment only.
+    static_cast<void>(fv_FormatDisplayValue(m_text->text(), m_units.outputUnit));
+}
+
+std::string ctx_ZorTextBox::fc_GetCaptionID() const
+{
+    return std::string(fc_GetUnitID(m_units.outputUnit));
+}
+
+double ctx_ZorTextBox::fd_GetConversionFactor(const UNIT_TYPE& i_UnitType, MEAS_TYPE i_FromUnit,
+                                              const MEAS_TYPE& i_ToUnit) const noexcept
+{
+    return zor::fd_GetConversionFactor(i_UnitType, i_FromUnit, i_ToUnit);
+}
+
+double ctx_ZorTextBox::fd_GetOffset(MEAS_TYPE i_FromUnit, const MEAS_TYPE& i_ToUnit) const noexcept
+{
+    return zor::fd_GetOffset(i_FromUnit, i_ToUnit);
+}
+
+// --- Texts of the states
+
+void ctx_ZorTextBox::appendDisplayValue(std::string& text) const
+{
+    if (m_displayValue.isText())
+        text += m_displayValue.text();
+    else
+        text += m_displayValue.toText();
+}
+
+std::string ctx_ZorTextBox::rangeText() const
+{
+    const std::string_view unit = fc_GetUnitLabel(m_units.outputUnit);
+    std::string text = m_entryMessages.invalid;
+    text.append("  ").append(Variant(m_units.minParam).toText()).append(" ").append(unit);
+    text.append(" ").append(m_entryMessages.to).append(" ");
+    text.append(Variant(m_units.maxParam).toText()).append(" ").append(unit);
+    return text;
+}
+
+} // namespace zor

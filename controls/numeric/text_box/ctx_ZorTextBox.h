@@ -1,0 +1,224 @@
+#pragma once
+
+/// The text box: one device parameter as a number in a unit, or as free text.
+
+#include "controls/numeric/text_box/text_box_events.h"
+#include "controls/numeric/unit_binding.h"
+#include "core/control.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zor {
+
+/// A text field with a unit label and a state icon beside it.
+///
+/// The host writes DeviceValue in DeviceUnit; the operator sees and types it in OutputUnit; OutputValue hands
+/// the entry back in DeviceUnit. A new DeviceValue always ends an edit.
+class ctx_ZorTextBox final : public core::Control {
+public:
+    /// A control in the container, not yet initialised: call initialiseProperties() or readProperties() next.
+    [[nodiscard]] static core::ControlPtr<ctx_ZorTextBox> create(platform::Container& container);
+    /// The tables of the class.
+    [[nodiscard]] static const core::ClassInfo& classInfo() noexcept;
+
+    using Control::DataChanged;
+    using Control::DataModified;
+    using Control::IconEnable;
+    using Control::MsgDataChanged;
+    using Control::ReadOnly;
+
+    /// @name Value
+    /// @{
+    /// The raw value from the device, in DeviceUnit. Writing raises Overflow, and changes nothing, when the
+    /// conversion to OutputUnit has no finite result.
+    [[nodiscard]] const Variant& DeviceValue() const noexcept { return m_deviceValue; }
+    void DeviceValue(const Variant& value);
+    /// The value to write to the device, in DeviceUnit. Writing raises ReadOnly in user mode and is ignored
+    /// at design time.
+    [[nodiscard]] const Variant& OutputValue() const noexcept { return m_outputValue; }
+    void OutputValue(const Variant& value);
+    /// Reading gives OutputValue; writing shows a value (in DeviceUnit) as the operator's modification.
+    [[nodiscard]] const Variant& ModifiedValue() const noexcept { return m_outputValue; }
+    void ModifiedValue(const Variant& value);
+    /// Whether the value is a number or free text.
+    [[nodiscard]] ENTRY_TYPE EntryType() const noexcept { return m_entryType; }
+    void EntryType(ENTRY_TYPE value);
+    /// Decimals of a number without a unit (NoneU); 0 or less shows none.
+    [[nodiscard]] std::int16_t NumberOfDigits() const noexcept { return m_numberOfDigits; }
+    void NumberOfDigits(std::int16_t value);
+    /// Kept and stored; writing it shows the text anew. The decimals shown follow the unit and NumberOfDigits.
+    [[nodiscard]] std::int16_t NumberOfDecimals() const noexcept { return m_numberOfDecimals; }
+    void NumberOfDecimals(std::int16_t value);
+    /// @}
+
+    /// @name Units
+    /// @{
+    [[nodiscard]] UNIT_TYPE UnitType() const noexcept { return m_units.unitType; }
+    void UnitType(UNIT_TYPE value);
+    [[nodiscard]] MEAS_TYPE DeviceUnit() const noexcept { return m_units.deviceUnit; }
+    void DeviceUnit(MEAS_TYPE value);
+    [[nodiscard]] MEAS_TYPE OutputUnit() const noexcept { return m_units.outputUnit; }
+    void OutputUnit(MEAS_TYPE value);
+    /// The unit of MinValue and MaxValue.
+    [[nodiscard]] MEAS_TYPE DefaultUnit() const noexcept { return m_units.defaultUnit; }
+    void DefaultUnit(MEAS_TYPE value);
+    /// Whether the unit label is shown.
+    [[nodiscard]] bool UnitEnable() const noexcept { return m_unitEnable; }
+    void UnitEnable(bool value);
+    /// Text of the unit label; follows OutputUnit until it is overwritten.
+    [[nodiscard]] const std::string& UnitLabelCaption() const noexcept { return m_unitLabelCaption; }
+    void UnitLabelCaption(std::string_view value);
+    /// The identifier under which a host looks up a translated unit label.
+    [[nodiscard]] std::string fc_GetCaptionID() const;
+    /// The unit module's functions, for hosts that reach it through a control only.
+    [[nodiscard]] double fd_GetConversionFactor(const UNIT_TYPE& i_UnitType, MEAS_TYPE i_FromUnit,
+                                                const MEAS_TYPE& i_ToUnit) const noexcept;
+    [[nodiscard]] double fd_GetOffset(MEAS_TYPE i_FromUnit, const MEAS_TYPE& i_ToUnit) const noexcept;
+    /// @}
+
+    /// @name Valid range
+    /// @{
+    /// Limits of an entry, in DefaultUnit, both included.
+    [[nodiscard]] double MinValue() const noexcept { return m_units.minValue; }
+    void MinValue(double value);
+    [[nodiscard]] double MaxValue() const noexcept { return m_units.maxValue; }
+    void MaxValue(double value);
+    /// The same limits in OutputUnit. Writing as OutputValue.
+    [[nodiscard]] double MinParamValue() const noexcept { return m_units.minParam; }
+    void MinParamValue(double value);
+    [[nodiscard]] double MaxParamValue() const noexcept { return m_units.maxParam; }
+    void MaxParamValue(double value);
+    /// Whether numbers are checked against the limits when the operator leaves the field.
+    [[nodiscard]] bool InvalidEntryEnable() const noexcept { return m_invalidEntryEnable; }
+    void InvalidEntryEnable(bool value);
+    /// The last committed entry was invalid. Writing as OutputValue.
+    [[nodiscard]] bool InvalidEntry() const noexcept { return m_invalidEntry; }
+    void InvalidEntry(bool value);
+    /// Longest valid text (in characters) of a text entry, checked when the operator leaves the field.
+    [[nodiscard]] std::int16_t MaxLength() const noexcept { return m_maxLength; }
+    void MaxLength(std::int16_t value);
+    /// @}
+
+    /// @name Editing and looks
+    /// @{
+    /// The selected part of the text. Writing replaces it, or inserts at the caret, and counts as an edit.
+    [[nodiscard]] std::string SelectedText() const;
+    void SelectedText(std::string_view value);
+    [[nodiscard]] bool TextFontBold() const noexcept { return m_textFontBold; }
+    void TextFontBold(bool value);
+    [[nodiscard]] bool UnitsFontBold() const;
+    void UnitsFontBold(bool value);
+    /// Room right of the text field for unit label and state icon, in twips.
+    [[nodiscard]] std::int16_t WidthDifference() const noexcept { return m_widthDifference; }
+    void WidthDifference(std::int16_t value);
+    /// Takes the entry over as it stands, without showing it anew, while the field still has the focus.
+    void s_ForceOutputValueUpdate();
+    /// Surface, unit label and text field; remembered as the field's normal colour.
+    void s_ChangeBackColor(Colour l_ColorValue) override;
+    /// @}
+
+    /// @name Messages of the entry
+    /// @{
+    [[nodiscard]] const std::string& MsgInvalidEntry() const noexcept { return m_entryMessages.invalid; }
+    void MsgInvalidEntry(std::string_view value);
+    [[nodiscard]] const std::string& MsgInvalidEntryTo() const noexcept { return m_entryMessages.to; }
+    void MsgInvalidEntryTo(std::string_view value);
+    [[nodiscard]] const std::string& MsgInvalidEntryNAN() const noexcept { return m_entryMessages.notANumber; }
+    void MsgInvalidEntryNAN(std::string_view value);
+    [[nodiscard]] const std::string& MsgInvalidEntryForText() const noexcept { return m_entryMessages.tooLong; }
+    void MsgInvalidEntryForText(std::string_view value);
+    /// @}
+
+    using Control::subscribe;
+    using Control::unsubscribe;
+    /// A listener must be taken away before it ends.
+    void subscribe(__ctx_ZorTextBox& sink) { addTypedSink(&sink); }
+    void unsubscribe(__ctx_ZorTextBox& sink) noexcept { removeTypedSink(&sink); }
+
+    [[nodiscard]] platform::Widget* widget(int number) noexcept override;
+    [[nodiscard]] platform::PopupMenu* menu() noexcept override { return &m_undo.menu(); }
+
+private:
+    struct Rows;
+    struct States;
+    struct Tables;
+
+    struct EntryMessages {
+        std::string invalid = "Invalid Entry";
+        std::string to = "To";
+        std::string notANumber = "Invalid Entry";
+        std::string tooLong = "Text is too long. Please enter a shorter text.";
+    };
+
+    explicit ctx_ZorTextBox(platform::Container& container);
+    ~ctx_ZorTextBox() override = default;
+
+    // Value pipeline
+    void s_ApplyDeviceValue();
+    void s_DeviceUnitChanged();
+    void s_OutputUnitChanged();
+    void afterOutputUnit();
+    [[nodiscard]] Variant fv_FormatDisplayValue(const Variant& value, MEAS_TYPE unit);
+    void show(const Variant& value);
+    void assignOutput(Variant value);
+    [[nodiscard]] std::optional<double> textNumber() const;
+    [[nodiscard]] bool isNumeric() const noexcept { return m_entryType == Numeric; }
+
+    // Editing
+    void onTextChanged();
+    void selectAll();
+    void s_CommitEntry(bool reformat);
+    void validateEntry(bool reformat);
+    void assignEntry();
+    void setInvalidEntry();
+    void undoEdit();
+    void offerUndo(const platform::Widget& widget, platform::EventArgs mouse);
+    [[nodiscard]] std::string rangeText() const;
+    void appendDisplayValue(std::string& text) const;
+
+    // Display
+    void s_UpdateColors() override;
+    void s_UpdateDeviceSupportDisplay() override;
+    void s_UpdateUnitLabelVisibility();
+    void s_PlaceIcon();
+    void s_Layout() override;
+    void s_AfterLoading() override;
+    [[nodiscard]] std::span<platform::Widget* const> body() noexcept override { return m_body; }
+    [[nodiscard]] platform::Image& icon() noexcept override { return *m_icon; }
+    [[nodiscard]] std::string accessibleDetail() const override { return m_unitLabelCaption; }
+    void onNotice(int widget, platform::Notice notice, platform::EventArgs args) override;
+
+    std::unique_ptr<platform::TextField> m_text;
+    std::unique_ptr<platform::Label> m_unitLabel;
+    std::unique_ptr<platform::Image> m_icon;
+    core::UndoMenu m_undo;
+    std::array<platform::Widget*, 2> m_body;
+
+    controls::UnitBinding m_units;
+    Variant m_deviceValue = 0;
+    Variant m_outputValue = 0;
+    /// What was last shown from the device, in OutputUnit: the edit is judged against it and undo returns to it.
+    Variant m_displayValue = 0.0;
+    EntryMessages m_entryMessages;
+    std::string m_unitLabelCaption;
+    double m_heightMargin = 0;
+    Colour m_customBackColour = 0;
+    ENTRY_TYPE m_entryType = Numeric;
+    std::int16_t m_numberOfDigits = 3;
+    std::int16_t m_numberOfDecimals = 3;
+    std::int16_t m_maxLength = 10;
+    std::int16_t m_widthDifference = 1305;
+    bool m_unitEnable = true;
+    bool m_invalidEntryEnable = true;
+    bool m_invalidEntry = false;
+    bool m_textFontBold = false;
+    bool m_hasCustomBackColour = false;
+    bool m_editPending = false;
+    bool m_selectAllPending = false;
+};
+
+} // namespace zor

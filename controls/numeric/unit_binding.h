@@ -1,0 +1,47 @@
+#pragma once
+
+/// The units of a numeric control and the range that goes with them.
+
+#include "units/mod_Common.h"
+
+namespace zor::controls {
+
+/// In which units a numeric control receives, shows and limits its value. `minParam` and `maxParam` are the
+/// limits `minValue` and `maxValue` expressed in the output unit.
+struct UnitBinding {
+    UNIT_TYPE unitType = Length;
+    MEAS_TYPE deviceUnit = LgthU_1By10_MM;
+    MEAS_TYPE outputUnit = LgthU_MM;
+    MEAS_TYPE defaultUnit = LgthU_MM;
+    /// The output unit before its last change; what is shown is re-expressed from it.
+    MEAS_TYPE previousOutputUnit = LgthU_MM;
+    double minValue = 0;
+    double maxValue = 0;
+    double minParam = 0;
+    double maxParam = 0;
+
+    /// The conversions raise Overflow when the result is infinite or undefined.
+    [[nodiscard]] double toOutput(double value) const { return convert(value, unitType, deviceUnit, outputUnit); }
+    [[nodiscard]] double toDevice(double value) const { return convert(value, unitType, outputUnit, deviceUnit); }
+    [[nodiscard]] double limitToOutput(double value) const
+    {
+        return convert(value, unitType, defaultUnit, outputUnit);
+    }
+    /// From the previous output unit to the present one.
+    [[nodiscard]] double reExpress(double value) const
+    {
+        return convert(value, unitType, previousOutputUnit, outputUnit);
+    }
+
+    void updateMinParam() { minParam = limitToOutput(minValue); }
+    void updateMaxParam() { maxParam = limitToOutput(maxValue); }
+    /// Both or neither.
+    void updateLimits()
+    {
+        const double lower = limitToOutput(minValue);
+        updateMaxParam();
+        minParam = lower;
+    }
+};
+
+} // namespace zor::controls

@@ -1,0 +1,40 @@
+#include "core/class_info.h"
+
+#include "platform/error.h"
+
+#include <algorithm>
+
+namespace zor::core {
+
+const PropertyRow* ClassInfo::property(std::string_view wanted) const noexcept
+{
+    const auto at = std::ranges::find(properties, wanted, [](const PropertyRow* row) { return row->name; });
+    return at == properties.end() ? nullptr : *at;
+}
+
+const MethodRow* ClassInfo::method(std::string_view wanted) const noexcept
+{
+    const auto at = std::ranges::find(methods, wanted, &MethodRow::name);
+    return at == methods.end() ? nullptr : &*at;
+}
+
+const EventRow* ClassInfo::event(std::string_view wanted) const noexcept
+{
+    const auto at = std::ranges::find(events, wanted, &EventRow::name);
+    return at == events.end() ? nullptr : &*at;
+}
+
+void ClassRegistry::add(const ClassInfo& info)
+{
+    if (find(info.name) != nullptr)
+        raiseError(ErrorNumber::InvalidCall);
+    m_classes.push_back(&info);
+}
+
+const ClassInfo* ClassRegistry::find(std::string_view name) const noexcept
+{
+    const auto at = std::ranges::find(m_classes, name, [](const ClassInfo* info) { return info->name; });
+    return at == m_classes.end() ? nullptr : *at;
+}
+
+} // namespace zor::core

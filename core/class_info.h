@@ -1,0 +1,106 @@
+#pragma once
+
+/// A class of controls as data: its tables, and how to make one.
+
+#include "core/event_row.h"
+#include "core/property_row.h"
+#include "platform/container.h"
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace zor::core {
+
+class Control;
+
+/// Destroys a control, or, inside one of its own events, lets it end when the event has returned.
+struct ControlDeleter {
+    void operator()(Control* control) const noexcept;
+};
+
+/// The owner of a control.
+template <class T = Control>
+using ControlPtr = std::unique_ptr<T, ControlDeleter>;
+
+/// A numbered message: hosts look its text up by the identifier and replace it by the number.
+struct MessageRow {
+    std::string_view identifier;
+    const PropertyRow* property;
+};
+
+/// What a method answers: nothing, a value, or an array.
+using MethodResult = std::variant<std::monostate, Variant, std::vector<Variant>>;
+
+struct MethodRow {
+    std::string_view name;
+    std::vector<Variant>::size_type argumentCount = 0;
+    MethodResult (*call)(Control&, std::span<const Variant>) = nullptr;
+    /// Names of the arguments, for people.
+    std::string_view signature{};
+};
+
+/// One of the states a control explains to the operator. The first row of a class's table that applies wins.
+struct StatusRow {
+    bool (*applies)(const Control&);
+    /// Appends the tooltip.
+    void (*toolTip)(const Control&, std::string&);
+    int picture;
+    /// Appends the text of the message box that a click on the state icon opens.
+    void (*boxText)(const Control&, std::string&);
+    platform::BoxIcon boxIcon;
+    /// The click acknowledges the state: DataChanged is cleared.
+    bool acknowledged = false;
+};
+
+/// Where a class's write of a shared property refreshes something else than the row says.
+struct EffectRow {
+    const PropertyRow* property;
+    Refreshes refreshes;
+};
+
+struct WidgetRow {
+    int widget;
+    std::string_view name;
+};
+
+struct ClassInfo {
+    std::string_view name;
+    /// In the order in which they are stored, the properties that are not stored last.
+    std::span<const PropertyRow* const> properties;
+    /// In the order in which a new instance sets them.
+    std::span<const PropertyRow* const> initialOrder;
+    /// Numbered from 1.
+    std::span<const MessageRow> messages;
+    /// Answered for a number without a message.
+    std::string_view otherMessage;
+    std::span<const EventRow> events;
+    std::span<const MethodRow> methods;
+    std::span<const StatusRow> states;
+    std::span<const EffectRow> effects;
+    std::span<const WidgetRow> widgets;
+    ControlPtr<> (*create)(platform::Container&);
+
+    [[nodiscard]] const PropertyRow* property(std::string_view property) const noexcept;
+    [[nodiscard]] const MethodRow* method(std::string_view method) const noexcept;
+    [[nodiscard]] const EventRow* event(std::string_view event) const noexcept;
+};
+
+/// The classes a program offers, by name.
+class ClassRegistry {
+public:
+    /// The class information must live as long as the registry; a second class of the same name raises
+    /// InvalidCall.
+    void add(const ClassInfo& info);
+    [[nodiscard]] const ClassInfo* find(std::string_view name) const noexcept;
+    [[nodiscard]] std::span<const ClassInfo* const> classes() const noexcept { return m_classes; }
+
+private:
+    std::vector<const ClassInfo*> m_classes;
+};
+
+} // namespace zor::core

@@ -1,0 +1,366 @@
+#include "core/control.h"
+
+#include "core/shared_rows.h"
+#include "platform/error.h"
+#include "units/mod_Common.h"
+
+#include <algorithm>
+
+namespace zor::core {
+
+void ControlDeleter::operator()(Control* control) const noexcept
+{
+    if (control->m_holds == 0)
+        delete control;
+    else
+        control->m_ended = true;
+}
+
+Control::Control(const ClassInfo& info, platform::Container& container, platform::Twips width,
+                 platform::Twips height)
+    : m_info(info), m_container(container), m_surface(container.createSurface(*this, width, height))
+{
+}
+
+Control::~Control() = default;
+
+void Control::release() noexcept
+{
+    if (--m_holds == 0 && m_ended)
+        delete this;
+}
+
+// --- By name
+
+Variant Control::property(std::string_view name)
+{
+    const PropertyRow* row = m_info.property(name);
+    if (row == nullptr)
+        raiseError(ErrorNumber::NoSuchMember);
+    return get(*row);
+}
+
+void Control::setProperty(std::string_view name, const Variant& value)
+{
+    const PropertyRow* row = m_info.property(name);
+    if (row == nullptr)
+        raiseError(ErrorNumber::NoSuchMember);
+    put(*row, value);
+}
+
+MethodResult Control::call(std::string_view method, std::span<const Variant> arguments)
+{
+    const MethodRow* row = m_info.method(method);
+    if (row == nullptr)
+        raiseError(ErrorNumber::NoSuchMember);
+    if (row->argumentCount != arguments.size())
+        raiseError(ErrorNumber::WrongArguments);
+    MethodResult result;
+    run([&] { result = row->call(*this, arguments); });
+    return result;
+}
+
+Variant Control::get(const PropertyRow& row)
+{
+    return row.get != nullptr ? row.get(*this) : valueOf(row.field.at(*this));
+}
+
+void Control::put(const PropertyRow& row, const Variant& value)
+{
+    if (row.access == Access::Derived && refusesWrite(row))
+        return;
+    if (row.put != nullptr) {
+        run([&] { row.put(*this, value); });
+        return;
+    }
+    std::visit(
+        [&](auto* field) {
+            auto converted = *field;
+            storeInto(&converted, value);
+            write(row, std::move(converted));
+        },
+        row.field.at(*this));
+}
+
+bool Control::refusesWrite(const PropertyRow& row) const
+{
+    if (row.access == Access::Derived && m_container.userMode())
+        raiseError(ErrorNumber::ReadOnly);
+    return true;
+}
+
+void Control::stored(const PropertyRow& row)
+{
+    if (row.access != Access::Silent && !m_ended)
+        m_container.propertyChanged(*this, row.name);
+    const auto own = std::ranges::find(m_info.effects, &row, &EffectRow::property);
+    for (const Refresh step : own == m_info.effects.end() ? row.refreshes : own->refreshes)
+        refresh(step);
+    if (row.after != nullptr)
+        row.after(*this);
+}
+
+void Control::refresh(Refresh refresh)
+{
+    switch (refresh) {
+    case Refresh::Status: s_UpdateStatusDisplay(); break;
+    case Refresh::Colours: s_UpdateColors(); break;
+    case Refresh::Enabled: s_UpdateEnabledState(); break;
+    case Refresh::Support: s_UpdateDeviceSupportDisplay(); break;
+    case Refresh::CheckType: s_CheckDeviceType(); break;
+    case Refresh::CheckVersion: s_CheckDeviceVersion(); break;
+    }
+}
+
+// --- Shared refreshes
+
+void Control::s_CheckDeviceType()
+{
+    m_binding.typeIndex = fi_GetDeviceTypeIndex(m_binding.typesSupported, m_binding.deviceType);
+    m_status.deviceTypeNotSupported = m_binding.typeIndex == -1;
+    s_UpdateDeviceSupportDisplay();
+}
+
+void Control::s_CheckDeviceVersion()
+{
+    // Without a type the lists have no entry to compare with: the last answer stands.
+    if (m_binding.typeIndex != -1)
+        m_status.deviceVerNotSupported = fb_VersionNotSupported(m_binding.minVersions, m_binding.maxVersions,
+                                                                m_binding.deviceVersion, m_binding.typeIndex);
+    s_UpdateDeviceSupportDisplay();
+}
+
+void Control::s_UpdateEnabledState()
+{
+    const bool waiting = m_status.waitingForData;
+    const bool locked = m_status.deviceTagNotFound || !m_status.enableControl;
+    for (platform::Widget* widget : body())
+        widget->setEnabled(!waiting && !locked);
+    // An unknown identifier must stay explainable, so only waiting takes the icon away from the operator.
+    if (waiting || !locked)
+        icon().setEnabled(!waiting);
+}
+
+void Control::s_UpdateStatusDisplay()
+{
+    if (!isDeviceSupported())
+        return;
+    const auto row = std::ranges::find_if(m_info.states, [this](const StatusRow& state) {
+        return state.applies(*this);
+    });
+    const StatusRow* state = row == m_info.states.end() ? nullptr : &*row;
+    platform::Widget& carrier = *body().front();
+    if (state == nullptr) {
+        carrier.setToolTip(m_messages.defaultText);
+        icon().setVisible(false);
+    } else {
+        std::string tip;
+        state->toolTip(*this, tip);
+        carrier.setToolTip(tip);
+        icon().setPicture(state->picture);
+        if (m_status.iconEnable)
+            icon().setVisible(true);
+    }
+    if (std::exchange(m_shownState, state) != state)
+        describeForReaders();
+}
+
+void Control::describeForReaders()
+{
+    std::string description = accessibleDetail();
+    if (m_shownState != nullptr) {
+        if (!description.empty())
+            description += ", ";
+        m_shownState->toolTip(*this, description);
+    }
+    body().front()->setAccessible(m_binding.deviceTag, description);
+    icon().setAccessible(m_binding.deviceTag, description);
+}
+
+void Control::s_ExplainState()
+{
+    const auto state = std::ranges::find_if(m_info.states, [this](const StatusRow& row) {
+        return row.applies(*this);
+    });
+    if (state == m_info.states.end())
+        return;
+    std::string text;
+    state->boxText(*this, text);
+    m_container.showMessage(*this, {state->boxIcon, m_messages.header, text});
+    if (state->acknowledged) {
+        m_status.dataChanged = false;
+        s_UpdateStatusDisplay();
+    }
+}
+
+void Control::s_ChangeBackColor(Colour l_ColorValue)
+{
+    m_surface->setBackColour(l_ColorValue);
+}
+
+// --- Messages
+
+std::int16_t Control::fi_GetMaxMessage() const noexcept
+{
+    return static_cast<std::int16_t>(m_info.messages.size());
+}
+
+std::string_view Control::fc_GetMessageID(std::int16_t i_MessageNumber) const noexcept
+{
+    if (i_MessageNumber < 1 || i_MessageNumber > fi_GetMaxMessage())
+        return m_info.otherMessage;
+    return m_info.messages[static_cast<std::size_t>(i_MessageNumber - 1)].identifier;
+}
+
+bool Control::fb_SetMessage(std::int16_t i_MessageNumber, std::string_view c_MessageString)
+{
+    if (i_MessageNumber < 1 || i_MessageNumber > fi_GetMaxMessage())
+        return false;
+    const MessageRow& row = m_info.messages[static_cast<std::size_t>(i_MessageNumber - 1)];
+    storeInto(row.property->field.at(*this), c_MessageString);
+    return true;
+}
+
+// --- Events
+
+void Control::raise(std::size_t number, platform::EventArgs args)
+{
+    // Who destroyed the control does not expect to hear from it again.
+    if (m_sinks.empty() || m_ended)
+        return;
+    const EventRow& row = m_info.events[number - 1];
+    m_sinks.each([&](const SinkList::Entry& entry) {
+        if (!m_ended)
+            deliver(entry, row, args);
+    });
+}
+
+void Control::deliver(const SinkList::Entry& entry, const EventRow& row, platform::EventArgs args)
+{
+    try {
+        if (entry.generic != nullptr)
+            entry.generic->event(*this, row, args);
+        else
+            row.call(entry.typed, args);
+    } catch (...) {
+        // The control finishes what it is doing and the other listeners are heard; then the caller learns it.
+        if (!m_handlerError)
+            m_handlerError = std::current_exception();
+    }
+}
+
+void Control::passOnHandlerError()
+{
+    std::rethrow_exception(std::exchange(m_handlerError, nullptr));
+}
+
+void Control::notice(int widget, platform::Notice notice, platform::EventArgs args)
+{
+    if (!m_ended)
+        run([&] { onNotice(widget, notice, args); });
+}
+
+void Control::onNotice(int widget, platform::Notice notice, platform::EventArgs args)
+{
+    forward(widget, notice, args);
+}
+
+void Control::forward(int widget, platform::Notice notice, platform::EventArgs args)
+{
+    if (m_sinks.empty())
+        return;
+    const auto row = std::ranges::find_if(m_info.events, [&](const EventRow& event) {
+        return event.widget == widget && event.notice == notice;
+    });
+    if (row != m_info.events.end())
+        raise(static_cast<std::size_t>(row - m_info.events.begin()) + 1, args);
+}
+
+platform::Widget* Control::widget(int number) noexcept
+{
+    return number == platform::kSurfaceWidget ? m_surface.get() : nullptr;
+}
+
+// --- The container's side
+
+void Control::initialiseProperties()
+{
+    run([this] {
+        for (const PropertyRow* row : m_info.initialOrder) {
+            const bool isDefault = std::holds_alternative<std::monostate>(row->initial);
+            if (row->access != Access::Derived)
+                put(*row, toVariant(isDefault ? row->bagDefault : row->initial));
+        }
+    });
+}
+
+void Control::load(const PropertyRow& row, const Variant& value)
+{
+    if (row.field.at != nullptr)
+        storeInto(row.field.at(*this), value);
+    else
+        row.put(*this, value);
+}
+
+void Control::readProperties(const platform::PropertyBag& bag)
+{
+    run([&] {
+        for (const PropertyRow* row : m_info.properties) {
+            if (!row->key.empty())
+                load(*row, bag.ReadProperty(row->key, toVariant(row->bagDefault)));
+        }
+        s_AfterLoading();
+        describeForReaders();
+    });
+}
+
+void Control::writeProperties(platform::PropertyBag& bag)
+{
+    for (const PropertyRow* row : m_info.properties) {
+        if (!row->key.empty())
+            bag.WriteProperty(row->key, get(*row), toVariant(row->bagDefault));
+    }
+}
+
+void Control::resized()
+{
+    run([this] { s_Layout(); });
+}
+
+// --- Shared properties
+
+void Control::DeviceTag(std::string_view value) { write(SharedRows::DeviceTag, std::string(value)); }
+void Control::RegisterType(REGISTER_TYPE value) { write(SharedRows::RegisterType, value); }
+void Control::DeviceType(std::string_view value) { write(SharedRows::DeviceType, std::string(value)); }
+void Control::DeviceVersion(std::string_view value) { write(SharedRows::DeviceVersion, std::string(value)); }
+void Control::DeviceTypeSupported(std::string_view value) { write(SharedRows::DeviceTypeSupported, std::string(value)); }
+void Control::DeviceMinVersionSupported(std::string_view value)
+{
+    write(SharedRows::DeviceMinVersionSupported, std::string(value));
+}
+void Control::DeviceMaxVersionSupported(std::string_view value)
+{
+    write(SharedRows::DeviceMaxVersionSupported, std::string(value));
+}
+void Control::CFail(bool value) { write(SharedRows::CFail, value); }
+void Control::DataNotAvailable(bool value) { write(SharedRows::DataNotAvailable, value); }
+void Control::DeviceTagNotFound(bool value) { write(SharedRows::DeviceTagNotFound, value); }
+void Control::WaitingForData(bool value) { write(SharedRows::WaitingForData, value); }
+void Control::DeviceTypeNotSupported(bool value) { write(SharedRows::DeviceTypeNotSupported, value); }
+void Control::DeviceVerNotSupported(bool value) { write(SharedRows::DeviceVerNotSupported, value); }
+void Control::EnableControl(bool value) { write(SharedRows::EnableControl, value); }
+void Control::ReadOnly(bool value) { write(SharedRows::ReadOnly, value); }
+void Control::IconEnable(bool value) { write(SharedRows::IconEnable, value); }
+void Control::DataChanged(bool value) { write(SharedRows::DataChanged, value); }
+void Control::DataModified(bool value) { write(SharedRows::DataModified, value); }
+void Control::MessageHeader(std::string_view value) { write(SharedRows::MessageHeader, std::string(value)); }
+void Control::MsgCfail(std::string_view value) { write(SharedRows::MsgCfail, std::string(value)); }
+void Control::MsgDataNotAvailable(std::string_view value) { write(SharedRows::MsgDataNotAvailable, std::string(value)); }
+void Control::MsgDeviceTagNotFound(std::string_view value)
+{
+    write(SharedRows::MsgDeviceTagNotFound, std::string(value));
+}
+void Control::MsgDefault(std::string_view value) { write(SharedRows::MsgDefault, std::string(value)); }
+void Control::MsgDataChanged(std::string_view value) { write(SharedRows::MsgDataChanged, std::string(value)); }
+
+} // namespace zor::core

@@ -1,0 +1,303 @@
+#pragma once
+
+/// What all nine controls share: identity, container, properties by name, binding, status, messages, events.
+
+#include "core/class_info.h"
+#include "core/undo_menu.h"
+#include "platform/container.h"
+
+#include <cstdint>
+#include <exception>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace zor::core {
+
+/// Which parameter of which devices a control shows. The three lists are comma-separated and parallel.
+struct Binding {
+    std::string deviceTag;
+    std::string deviceType;
+    std::string deviceVersion;
+    std::string typesSupported;
+    std::string minVersions;
+    std::string maxVersions;
+    REGISTER_TYPE registerType = HoldingRegister;
+    std::int16_t typeIndex = 0; ///< position of deviceType in typesSupported, -1 when it is not there
+};
+
+/// The flags that decide what the operator sees. A control that does not publish one never sets it.
+struct Status {
+    bool cFail = false;
+    bool dataNotAvailable = false;
+    bool deviceTagNotFound = false;
+    bool waitingForData = false;
+    bool dataChanged = false;
+    bool dataModified = false;
+    bool deviceTypeNotSupported = false;
+    bool deviceVerNotSupported = false;
+    bool enableControl = true;
+    bool readOnly = false;
+    bool iconEnable = true;
+};
+
+/// The texts every control has, and the one that all editing controls add.
+struct Messages {
+    std::string header = "Zor";
+    std::string cFail = "Communication Failure !";
+    std::string dataNotAvailable = "Data Not Available";
+    std::string deviceTagNotFound = "Identifier Look Up Failed";
+    std::string defaultText;
+    std::string dataChanged = "Data Changed by other user ";
+};
+
+/// A control without a kind. Controls are created through their class (`create`) and owned by a ControlPtr.
+///
+/// Properties are published as pairs of overloads, `bool CFail() const` and `void CFail(bool)`. A write
+/// stores the value, notifies the container under the property's own name and runs the refreshes that depend
+/// on it. When an exception leaves a write, the property has its old value again. An exception thrown by an
+/// event handler is passed on to the caller after the control has finished its work.
+class Control : public platform::Component, public platform::WidgetListener {
+public:
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    [[nodiscard]] const ClassInfo& info() const noexcept { return m_info; }
+
+    /// @name By name
+    /// A name that the class does not have raises NoSuchMember.
+    /// @{
+    [[nodiscard]] Variant property(std::string_view name);
+    void setProperty(std::string_view name, const Variant& value);
+    /// Another number of arguments than the method has raises WrongArguments.
+    MethodResult call(std::string_view method, std::span<const Variant> arguments);
+    [[nodiscard]] Variant get(const PropertyRow& row);
+    void put(const PropertyRow& row, const Variant& value);
+    /// @}
+
+    /// @name Parameter
+    /// @{
+    [[nodiscard]] const std::string& DeviceTag() const noexcept { return m_binding.deviceTag; }
+    void DeviceTag(std::string_view value);
+    [[nodiscard]] REGISTER_TYPE RegisterType() const noexcept { return m_binding.registerType; }
+    void RegisterType(REGISTER_TYPE value);
+    [[nodiscard]] const std::string& DeviceType() const noexcept { return m_binding.deviceType; }
+    void DeviceType(std::string_view value);
+    [[nodiscard]] const std::string& DeviceVersion() const noexcept { return m_binding.deviceVersion; }
+    void DeviceVersion(std::string_view value);
+    [[nodiscard]] const std::string& DeviceTypeSupported() const noexcept { return m_binding.typesSupported; }
+    void DeviceTypeSupported(std::string_view value);
+    [[nodiscard]] const std::string& DeviceMinVersionSupported() const noexcept { return m_binding.minVersions; }
+    void DeviceMinVersionSupported(std::string_view value);
+    [[nodiscard]] const std::string& DeviceMaxVersionSupported() const noexcept { return m_binding.maxVersions; }
+    void DeviceMaxVersionSupported(std::string_view value);
+    /// @}
+
+    /// @name State of the last read, and the host's permission
+    /// @{
+    [[nodiscard]] bool CFail() const noexcept { return m_status.cFail; }
+    void CFail(bool value);
+    [[nodiscard]] bool DataNotAvailable() const noexcept { return m_status.dataNotAvailable; }
+    void DataNotAvailable(bool value);
+    [[nodiscard]] bool DeviceTagNotFound() const noexcept { return m_status.deviceTagNotFound; }
+    void DeviceTagNotFound(bool value);
+    [[nodiscard]] bool WaitingForData() const noexcept { return m_status.waitingForData; }
+    void WaitingForData(bool value);
+    [[nodiscard]] bool DeviceTypeNotSupported() const noexcept { return m_status.deviceTypeNotSupported; }
+    void DeviceTypeNotSupported(bool value);
+    [[nodiscard]] bool DeviceVerNotSupported() const noexcept { return m_status.deviceVerNotSupported; }
+    void DeviceVerNotSupported(bool value);
+    [[nodiscard]] bool EnableControl() const noexcept { return m_status.enableControl; }
+    void EnableControl(bool value);
+    /// @}
+
+    /// @name Messages
+    /// @{
+    [[nodiscard]] const std::string& MessageHeader() const noexcept { return m_messages.header; }
+    void MessageHeader(std::string_view value);
+    [[nodiscard]] const std::string& MsgCfail() const noexcept { return m_messages.cFail; }
+    void MsgCfail(std::string_view value);
+    [[nodiscard]] const std::string& MsgDataNotAvailable() const noexcept { return m_messages.dataNotAvailable; }
+    void MsgDataNotAvailable(std::string_view value);
+    [[nodiscard]] const std::string& MsgDeviceTagNotFound() const noexcept { return m_messages.deviceTagNotFound; }
+    void MsgDeviceTagNotFound(std::string_view value);
+    [[nodiscard]] const std::string& MsgDefault() const noexcept { return m_messages.defaultText; }
+    void MsgDefault(std::string_view value);
+
+    /// The highest message number; numbers run from 1 without gaps.
+    [[nodiscard]] std::int16_t fi_GetMaxMessage() const noexcept;
+    /// The identifier of a message; the class's fixed answer for a number without one.
+    [[nodiscard]] std::string_view fc_GetMessageID(std::int16_t i_MessageNumber) const noexcept;
+    /// Replaces a message; shown from the next status refresh on. False for a number without a message.
+    bool fb_SetMessage(std::int16_t i_MessageNumber, std::string_view c_MessageString);
+    /// @}
+
+    /// Gives the control's own surface, and what else the class names, a back colour (0xRRGGBB or a system
+    /// colour).
+    virtual void s_ChangeBackColor(Colour l_ColorValue);
+
+    /// @name Listening by name
+    /// A listener must be taken away before it ends.
+    /// @{
+    void subscribe(EventSink& sink) { m_sinks.add({&sink, nullptr}); }
+    void unsubscribe(EventSink& sink) noexcept { m_sinks.remove({&sink, nullptr}); }
+    /// @}
+
+    /// @name The container's side
+    /// @{
+    [[nodiscard]] platform::Surface& surface() noexcept { return *m_surface; }
+    /// A constituent widget by the number in the class's table; nullptr for another number.
+    [[nodiscard]] virtual platform::Widget* widget(int number) noexcept;
+    /// The menu behind the right mouse button, if the class has one.
+    [[nodiscard]] virtual platform::PopupMenu* menu() noexcept { return nullptr; }
+    void initialiseProperties() final;
+    void readProperties(const platform::PropertyBag& bag) final;
+    void writeProperties(platform::PropertyBag& bag) final;
+    void resized() final;
+    void notice(int widget, platform::Notice notice, platform::EventArgs args) final;
+    void hold() noexcept final { ++m_holds; }
+    void release() noexcept final;
+    /// @}
+
+protected:
+    Control(const ClassInfo& info, platform::Container& container, platform::Twips width, platform::Twips height);
+    virtual ~Control();
+
+    /// @name Shared members that some classes publish
+    /// @{
+    [[nodiscard]] bool ReadOnly() const noexcept { return m_status.readOnly; }
+    void ReadOnly(bool value);
+    [[nodiscard]] bool IconEnable() const noexcept { return m_status.iconEnable; }
+    void IconEnable(bool value);
+    [[nodiscard]] bool DataChanged() const noexcept { return m_status.dataChanged; }
+    void DataChanged(bool value);
+    [[nodiscard]] bool DataModified() const noexcept { return m_status.dataModified; }
+    void DataModified(bool value);
+    [[nodiscard]] const std::string& MsgDataChanged() const noexcept { return m_messages.dataChanged; }
+    void MsgDataChanged(std::string_view value);
+    /// @}
+
+    /// @name Refreshes, in each class's own form
+    /// All are idempotent.
+    /// @{
+    virtual void s_UpdateStatusDisplay();
+    virtual void s_UpdateColors() = 0;
+    virtual void s_UpdateEnabledState();
+    virtual void s_UpdateDeviceSupportDisplay() = 0;
+    void s_CheckDeviceType();
+    void s_CheckDeviceVersion();
+    /// @}
+
+    /// @name What the shared refreshes ask of a class
+    /// @{
+    /// The widget that carries the tooltip, and those that are enabled and disabled with it.
+    [[nodiscard]] virtual std::span<platform::Widget* const> body() noexcept = 0;
+    [[nodiscard]] virtual platform::Image& icon() noexcept = 0;
+    /// After the stored properties have been read.
+    virtual void s_AfterLoading() = 0;
+    virtual void s_Layout() = 0;
+    /// A report of a widget. The base re-raises it as the event that the class's table names.
+    virtual void onNotice(int widget, platform::Notice notice, platform::EventArgs args);
+    /// What a screen reader adds to the state in words (a unit, say).
+    [[nodiscard]] virtual std::string accessibleDetail() const { return {}; }
+    /// @}
+
+    /// Shows the message of the state that the icon stands for, and acknowledges it where the state says so.
+    /// The caller raises imgClick afterwards.
+    void s_ExplainState();
+
+    [[nodiscard]] bool isDeviceSupported() const noexcept
+    {
+        return !m_status.deviceTypeNotSupported && !m_status.deviceVerNotSupported;
+    }
+    /// ReadOnly, or a parameter in an input register.
+    [[nodiscard]] bool isReadOnlyForOperator() const noexcept
+    {
+        return m_status.readOnly || m_binding.registerType == InputRegister;
+    }
+    [[nodiscard]] platform::Container& container() noexcept { return m_container; }
+
+    /// Writes a property: store, notify, refresh.
+    template <class T>
+    void write(const PropertyRow& row, T value);
+
+    /// Runs an action that may raise events: keeps the control alive, and passes a handler's exception on
+    /// when the outermost action has ended.
+    template <class Action>
+    void run(Action&& action);
+
+    /// Raises the event of a published number.
+    void raise(std::size_t number, platform::EventArgs args = {});
+    /// Re-raises a widget's report as the event that the class's table names, if it names one.
+    void forward(int widget, platform::Notice notice, platform::EventArgs args);
+
+    void addTypedSink(void* sink) { m_sinks.add({nullptr, sink}); }
+    void removeTypedSink(void* sink) noexcept { m_sinks.remove({nullptr, sink}); }
+
+    Binding m_binding;
+    Status m_status;
+    Messages m_messages;
+
+private:
+    friend struct SharedRows;
+    friend struct ControlDeleter;
+
+    void describeForReaders();
+    [[nodiscard]] bool refusesWrite(const PropertyRow& row) const;
+    void stored(const PropertyRow& row);
+    void refresh(Refresh refresh);
+    void deliver(const SinkList::Entry& entry, const EventRow& row, platform::EventArgs args);
+    void passOnHandlerError();
+    void load(const PropertyRow& row, const Variant& value);
+
+    const ClassInfo& m_info;
+    platform::Container& m_container;
+    std::unique_ptr<platform::Surface> m_surface;
+    SinkList m_sinks;
+    std::exception_ptr m_handlerError;
+    const StatusRow* m_shownState = nullptr;
+    std::uint32_t m_holds = 0;
+    std::uint32_t m_runs = 0;
+    bool m_ended = false;
+};
+
+template <class Action>
+void Control::run(Action&& action)
+{
+    struct Depth {
+        explicit Depth(Control& control) noexcept : control(control) { ++control.m_runs; }
+        ~Depth()
+        {
+            if (--control.m_runs == 0 && control.m_handlerError)
+                control.m_handlerError = nullptr;
+        }
+        Depth(const Depth&) = delete;
+        Depth& operator=(const Depth&) = delete;
+        Control& control;
+    };
+    const platform::Hold hold(*this);
+    const Depth depth(*this);
+    std::forward<Action>(action)();
+    if (m_runs == 1 && m_handlerError)
+        passOnHandlerError();
+}
+
+template <class T>
+void Control::write(const PropertyRow& row, T value)
+{
+    if (row.access == Access::Derived && refusesWrite(row))
+        return;
+    run([&] {
+        T& field = *std::get<T*>(row.field.at(*this));
+        T old = std::exchange(field, std::move(value));
+        try {
+            stored(row);
+        } catch (...) {
+            field = std::move(old);
+            throw;
+        }
+    });
+}
+
+} // namespace zor::core

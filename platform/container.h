@@ -1,0 +1,51 @@
+#pragma once
+
+/// The host's form designer or run time, as a control sees it, and a control, as its container sees it.
+
+#include "platform/property_bag.h"
+#include "platform/widgets.h"
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+namespace zor::platform {
+
+/// What the container tells a control. Either initialise or readProperties comes once, after creation.
+class Component {
+public:
+    virtual void initialiseProperties() = 0;
+    virtual void readProperties(const PropertyBag& bag) = 0;
+    virtual void writeProperties(PropertyBag& bag) = 0;
+    /// The container has given the surface a new size.
+    virtual void resized() = 0;
+
+protected:
+    ~Component() = default;
+};
+
+enum class BoxIcon : std::uint8_t { Critical, Information, Exclamation };
+
+/// A message box with one OK button. The texts are data from outside and shown as plain text.
+struct MessageBox {
+    BoxIcon icon = BoxIcon::Information;
+    std::string_view title;
+    std::string_view text;
+};
+
+class Container {
+public:
+    /// True while the host runs, false while a form is being designed.
+    [[nodiscard]] virtual bool userMode() const noexcept = 0;
+    /// A property changed through its write accessor.
+    virtual void propertyChanged(Component& component, std::string_view name) = 0;
+    virtual void showMessage(Component& component, const MessageBox& box) = 0;
+    /// Creates the surface of a control in the given size (twips). It does not outlive the container.
+    [[nodiscard]] virtual std::unique_ptr<Surface> createSurface(WidgetListener& listener, Twips width,
+                                                                 Twips height) = 0;
+
+protected:
+    ~Container() = default;
+};
+
+} // namespace zor::platform

@@ -1,0 +1,40 @@
+#pragma once
+
+/// Run-time errors: the one exception type that crosses the library's interface.
+
+#include <cstdint>
+#include <stdexcept>
+#include <string_view>
+
+namespace zor {
+
+/// The error numbers a caller can meet. The number is the contract; the text is for people.
+enum class ErrorNumber : std::int32_t {
+    InvalidCall = 5,         ///< an argument makes no sense, or a line cannot be read
+    Overflow = 6,            ///< a number does not fit its type, or a conversion is infinite or undefined
+    SubscriptOutOfRange = 9, ///< an index outside a table
+    DivisionByZero = 11,     ///< a division by a scale of 0
+    TypeMismatch = 13,       ///< a value of a type that cannot be converted
+    ReadOnly = 383,          ///< a derived property was written while the container runs in user mode
+    ObjectRequired = 424,    ///< no object of that name
+    NoSuchMember = 438,      ///< no property or method of that name
+    WrongArguments = 450,    ///< a method was called with the wrong number of arguments
+};
+
+/// The short text that goes with a number ("type mismatch").
+[[nodiscard]] std::string_view errorText(ErrorNumber number) noexcept;
+
+/// Thrown to the caller of a property, a method or a bag. After it nothing is half written.
+class RunTimeError : public std::runtime_error {
+public:
+    explicit RunTimeError(ErrorNumber number);
+
+    [[nodiscard]] ErrorNumber number() const noexcept { return m_number; }
+
+private:
+    ErrorNumber m_number;
+};
+
+[[noreturn]] void raiseError(ErrorNumber number);
+
+} // namespace zor

@@ -1,0 +1,356 @@
+#include "platform/headless/operator.h"
+
+#include "platform/error.h"
+#include "platform/headless/menu.h"
+#include "platform/text.h"
+
+#include <algorithm>
+#include <array>
+
+namespace zor::platform::headless {
+namespace {
+
+HeadlessWidget& base(Widget& widget)
+{
+    return dynamic_cast<HeadlessWidget&>(widget);
+}
+
+bool takesFocus(const Widget& widget)
+{
+    return dynamic_cast<const Label*>(&widget) == nullptr && dynamic_cast<const Image*>(&widget) == nullptr &&
+           dynamic_cast<const Surface*>(&widget) == nullptr && dynamic_cast<const SpinButton*>(&widget) == nullptr;
+}
+
+void reportMouse(Widget& widget, Notice notice, std::int16_t button)
+{
+    std::int16_t shift = 0;
+    auto x = static_cast<float>(widget.width() / 2);
+    auto y = static_cast<float>(widget.height() / 2);
+    const std::array<ArgRef, 4> args{&button, &shift, &x, &y};
+    base(widget).report(notice, args);
+}
+
+void click(Widget& widget)
+{
+    reportMouse(widget, Notice::MouseDown, kLeftButton);
+    if (auto* field = dynamic_cast<TextField*>(&widget))
+        field->select(characterCount(field->text()), 0);
+    reportMouse(widget, Notice::MouseUp, kLeftButton);
+    base(widget).report(Notice::Click);
+}
+
+/// Key down and key up around `action`, which gets the key press's code.
+template <class Action>
+void stroke(Widget& widget, std::int16_t code, std::int16_t ascii, Action&& action)
+{
+    std::int16_t shift = 0;
+    std::int16_t down = code;
+    base(widget).report(Notice::KeyDown, std::array<ArgRef, 2>{&down, &shift});
+    // A handler that sets the code to 0 swallows the key itself, its character included.
+    if (down != 0 || code == 0) {
+        std::int16_t press = ascii;
+        if (ascii != 0)
+            base(widget).report(Notice::KeyPress, std::array<ArgRef, 1>{&press});
+        action(down, press);
+    }
+    std::int16_t up = code;
+    base(widget).report(Notice::KeyUp, std::array<ArgRef, 2>{&up, &shift});
+}
+
+std::string latin1(std::int16_t code)
+{
+    const auto byte = static_cast<unsigned>(code);
+    if (byte < 0x80)
+        return {static_cast<char>(byte)};
+    if (byte > 0xFF)
+        return {};
+    return {static_cast<char>(0xC0U | byte >> 6U), static_cast<char>(0x80U | (byte & 0x3FU))};
+}
+
+/// The code a key press reports for a character: its own for Latin-1, "?" beyond.
+std::int16_t codeOf(std::string_view character)
+{
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(character[i]); };
+    if (character.size() == 1)
+        return static_cast<std::int16_t>(byte(0) < 0x80 ? byte(0) : '?');
+    if (character.size() == 2 && byte(0) <= 0xC3)
+        return static_cast<std::int16_t>((byte(0) & 0x03U) << 6U | (byte(1) & 0x3FU));
+    return '?';
+}
+
+
+enum KeyCode : std::int16_t { kBack = 8, kEnd = 35, kHome = 36, kLeft = 37, kRight = 39, kDelete = 46 };
+
+void moveCaret(TextField& field, std::int16_t code)
+{
+    const std::size_t start = field.selectionStart();
+    const std::size_t end = start + field.selectionLength();
+    switch (code) {
+    case kHome: field.select(0, 0); break;
+    case kEnd: field.select(characterCount(field.text()), 0); break;
+    case kLeft: field.select(start != end ? start : start - std::min<std::size_t>(start, 1), 0); break;
+    case kRight: field.select(start != end ? end : end + 1, 0); break;
+    default: break;
+    }
+}
+
+void erase(TextField& field, bool before)
+{
+    if (field.selectionLength() == 0) {
+        const std::size_t start = field.selectionStart();
+        if (before && start == 0)
+            return;
+        field.select(before ? start - 1 : start, 1);
+    }
+    field.replaceSelection({});
+}
+
+void applyKey(Widget& widget, std::int16_t code, std::int16_t press)
+{
+    if (auto* field = dynamic_cast<TextField*>(&widget)) {
+        if (code == kBack || code == kDelete) {
+            if (!field->isLocked() && (code == kDelete || press != 0))
+                erase(*field, code == kBack);
+        } else if (press >= ' ') {
+            if (!field->isLocked())
+                field->replaceSelection(latin1(press));
+        } else {
+            moveCaret(*field, code);
+        }
+    } else if (auto* button = dynamic_cast<ToggleButton*>(&widget); button != nullptr && code == ' ') {
+        button->setOn(dynamic_cast<OptionButton*>(button) != nullptr || !button->isOn());
+    }
+}
+
+} // namespace
+
+Refusal HeadlessOperator::reach(Widget& widget)
+{
+    if (PopupMenu* menu = m_container.openMenu())
+        menu->close();
+    if (!widget.isVisible())
+        return Refusal::Hidden;
+    return widget.isEnabled() ? Refusal::None : Refusal::Disabled;
+}
+
+bool HeadlessOperator::moveFocus(Widget* widget)
+{
+    Widget* old = m_container.focused();
+    if (old == widget)
+        return true;
+    if (old != nullptr) {
+        const Hold hold(base(*old).host().listener());
+        bool cancel = false;
+        base(*old).report(Notice::Validate, std::array<ArgRef, 1>{&cancel});
+        if (cancel)
+            return false;
+        m_container.setFocused(nullptr);
+        base(*old).report(Notice::LostFocus);
+    }
+    if (widget != nullptr) {
+        m_container.setFocused(widget);
+        base(*widget).report(Notice::GotFocus);
+    }
+    return true;
+}
+
+Refusal HeadlessOperator::approach(Widget& widget, bool& moved)
+{
+    const Refusal refusal = reach(widget);
+    moved = refusal == Refusal::None && (!takesFocus(widget) || moveFocus(&widget));
+    return refusal;
+}
+
+Refusal HeadlessOperator::focus(Widget& widget)
+{
+    if (!takesFocus(widget))
+        raiseError(ErrorNumber::NoSuchMember);
+    const Hold hold(base(widget).host().listener());
+    bool moved = false;
+    return approach(widget, moved);
+}
+
+Refusal HeadlessOperator::blur(Widget& widget)
+{
+    if (!takesFocus(widget))
+        raiseError(ErrorNumber::NoSuchMember);
+    if (PopupMenu* menu = m_container.openMenu())
+        menu->close();
+    if (m_container.focused() == &widget)
+        moveFocus(nullptr);
+    return Refusal::None;
+}
+
+Refusal HeadlessOperator::pointer(Widget& widget, Pointer action)
+{
+    const Hold hold(base(widget).host().listener());
+    bool moved = false;
+    const Refusal refusal = approach(widget, moved);
+    if (!moved)
+        return refusal;
+    if (action == Pointer::RightClick) {
+        reportMouse(widget, Notice::MouseDown, kRightButton);
+        reportMouse(widget, Notice::MouseUp, kRightButton);
+        return refusal;
+    }
+    if (auto* button = dynamic_cast<ToggleButton*>(&widget))
+        return press(*button);
+    click(widget);
+    if (action == Pointer::DoubleClick) {
+        base(widget).report(Notice::DblClick);
+        reportMouse(widget, Notice::MouseUp, kLeftButton);
+    }
+    return refusal;
+}
+
+Refusal HeadlessOperator::type(TextField& field, std::string_view text)
+{
+    const Hold hold(base(field).host().listener());
+    bool moved = false;
+    Refusal refusal = reach(field);
+    if (refusal == Refusal::None && field.isLocked())
+        refusal = Refusal::Locked;
+    if (refusal != Refusal::None || approach(field, moved) != Refusal::None || !moved)
+        return refusal;
+    while (!text.empty()) {
+        const std::string_view character = text.substr(0, byteOffset(text, 1));
+        text.remove_prefix(character.size());
+        const std::int16_t ascii = codeOf(character);
+        stroke(field, keyCodeOf(ascii), ascii, [&](std::int16_t, std::int16_t press) {
+            if (press != 0 && !field.isLocked())
+                field.replaceSelection(press == ascii ? std::string(character) : latin1(press));
+        });
+    }
+    return Refusal::None;
+}
+
+Refusal HeadlessOperator::paste(TextField& field, std::string_view text)
+{
+    const Hold hold(base(field).host().listener());
+    bool moved = false;
+    Refusal refusal = reach(field);
+    if (refusal == Refusal::None && field.isLocked())
+        refusal = Refusal::Locked;
+    if (refusal == Refusal::None && approach(field, moved) == Refusal::None && moved)
+        field.replaceSelection(text);
+    return refusal;
+}
+
+Refusal HeadlessOperator::select(TextField& field, std::size_t start, std::size_t length)
+{
+    const Hold hold(base(field).host().listener());
+    bool moved = false;
+    const Refusal refusal = approach(field, moved);
+    if (moved)
+        field.select(start, length);
+    return refusal;
+}
+
+Refusal HeadlessOperator::key(Widget& widget, std::int16_t code)
+{
+    if (!takesFocus(widget))
+        raiseError(ErrorNumber::NoSuchMember);
+    const Hold hold(base(widget).host().listener());
+    bool moved = false;
+    const Refusal refusal = approach(widget, moved);
+    if (!moved)
+        return refusal;
+    constexpr std::array<std::int16_t, 3> kControlCharacters{8, 13, 27};
+    const bool printable = code >= ' ' && code <= 'Z' && keyCodeOf(code) == code;
+    const bool control = std::ranges::find(kControlCharacters, code) != kControlCharacters.end();
+    stroke(widget, code, printable || control ? code : std::int16_t{0},
+           [&](std::int16_t down, std::int16_t press) { applyKey(widget, down, press); });
+    return refusal;
+}
+
+Refusal HeadlessOperator::spin(SpinButton& button, bool up)
+{
+    const Hold hold(base(button).host().listener());
+    const Refusal refusal = reach(button);
+    if (refusal != Refusal::None)
+        return refusal;
+    const std::int64_t next = std::int64_t{button.value()} + (up ? 1 : -1);
+    if (next >= button.minimum() && next <= button.maximum())
+        button.setValue(static_cast<std::int32_t>(next));
+    base(button).report(up ? Notice::SpinUp : Notice::SpinDown);
+    return refusal;
+}
+
+Refusal HeadlessOperator::moveTo(Track& track, std::int32_t position)
+{
+    const Hold hold(base(track).host().listener());
+    bool moved = false;
+    const Refusal refusal = approach(track, moved);
+    if (moved && track.value() != position) {
+        base(track).report(Notice::Scroll);
+        track.setValue(position);
+    }
+    return refusal;
+}
+
+Refusal HeadlessOperator::dropDown(ComboBox& box)
+{
+    const Hold hold(base(box).host().listener());
+    bool moved = false;
+    Refusal refusal = reach(box);
+    if (refusal == Refusal::None && box.isLocked())
+        refusal = Refusal::Locked;
+    if (refusal == Refusal::None && approach(box, moved) == Refusal::None && moved)
+        base(box).report(Notice::DropDown);
+    return refusal;
+}
+
+Refusal HeadlessOperator::choose(ComboBox& box, std::int32_t index)
+{
+    const Hold hold(base(box).host().listener());
+    static_cast<void>(box.entryText(index));
+    const Refusal refusal = dropDown(box);
+    if (refusal == Refusal::None && m_container.focused() == &box) {
+        // Choosing the entry that is chosen already is a click all the same.
+        if (box.current() == index)
+            base(box).report(Notice::Click);
+        else
+            box.setCurrent(index);
+    }
+    return refusal;
+}
+
+Refusal HeadlessOperator::toggle(ListBox& box, std::int32_t index)
+{
+    const Hold hold(base(box).host().listener());
+    static_cast<void>(box.entryText(index));
+    bool moved = false;
+    const Refusal refusal = approach(box, moved);
+    if (moved)
+        box.setSelected(index, !box.isSelected(index));
+    return refusal;
+}
+
+Refusal HeadlessOperator::press(ToggleButton& button)
+{
+    const Hold hold(base(button).host().listener());
+    bool moved = false;
+    const Refusal refusal = approach(button, moved);
+    if (!moved)
+        return refusal;
+    reportMouse(button, Notice::MouseDown, kLeftButton);
+    reportMouse(button, Notice::MouseUp, kLeftButton);
+    button.setOn(dynamic_cast<OptionButton*>(&button) != nullptr || !button.isOn());
+    return refusal;
+}
+
+Refusal HeadlessOperator::chooseItem(PopupMenu& menu, std::size_t item)
+{
+    if (!menu.isOpen())
+        return Refusal::Closed;
+    if (item >= menu.items().size())
+        raiseError(ErrorNumber::SubscriptOutOfRange);
+    WidgetListener& listener = dynamic_cast<HeadlessMenu&>(menu).host().listener();
+    const Hold hold(listener);
+    const int number = menu.items()[item].widget;
+    menu.close();
+    listener.notice(number, Notice::Click, {});
+    return Refusal::None;
+}
+
+} // namespace zor::platform::headless

@@ -1,0 +1,140 @@
+#pragma once
+
+/// Label, image, check box, option button, spin button, track and menu.
+
+#include "platform/headless/text_metrics.h"
+#include "platform/headless/widget_base.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace zor::platform::headless {
+
+class HeadlessLabel final : public FontBase<Label> {
+public:
+    HeadlessLabel(Host& host, int number) : FontBase(host, number, ButtonFace) { m_geometry.height = kLineHeight; }
+
+    void setGeometry(const Rect& geometry) override
+    {
+        m_geometry = geometry;
+        fit();
+    }
+    void setBold(bool bold) override
+    {
+        FontBase::setBold(bold);
+        fit();
+    }
+    [[nodiscard]] std::string caption() const override { return m_caption; }
+    void setCaption(std::string_view caption) override
+    {
+        if (m_caption == caption)
+            return;
+        m_caption = caption;
+        fit();
+        report(Notice::Change);
+    }
+
+private:
+    void fit() { m_geometry.width = textWidth(m_caption, isBold()); }
+
+    std::string m_caption;
+};
+
+class HeadlessImage final : public WidgetBase<Image> {
+public:
+    HeadlessImage(Host& host, int number) : WidgetBase(host, number, ButtonFace) { m_geometry = {0, 0, 285, 285}; }
+
+    [[nodiscard]] int picture() const override { return m_picture; }
+    void setPicture(int index) override { m_picture = index; }
+
+private:
+    int m_picture = 0;
+};
+
+/// A check box reports every change, an option button only becoming selected.
+template <class Interface, bool ReportsOff>
+class HeadlessToggle final : public FontBase<Interface> {
+public:
+    HeadlessToggle(Host& host, int number) : FontBase<Interface>(host, number, ButtonFace) {}
+
+    [[nodiscard]] std::string caption() const override { return m_caption; }
+    void setCaption(std::string_view caption) override { m_caption = caption; }
+    [[nodiscard]] bool isOn() const override { return m_on; }
+    void setOn(bool on) override
+    {
+        if (m_on == on)
+            return;
+        m_on = on;
+        if (on || ReportsOff)
+            this->report(Notice::Click);
+    }
+    [[nodiscard]] bool hasFocus() const override { return this->host().focused() == this; }
+
+private:
+    std::string m_caption;
+    bool m_on = false;
+};
+
+using HeadlessCheckBox = HeadlessToggle<CheckBox, true>;
+using HeadlessOptionButton = HeadlessToggle<OptionButton, false>;
+
+/// A whole number between two ends. A range turned upside down holds its lower end.
+template <class Interface>
+class HeadlessRange : public WidgetBase<Interface> {
+public:
+    using WidgetBase<Interface>::WidgetBase;
+
+    [[nodiscard]] std::int32_t value() const override { return m_value; }
+    void setValue(std::int32_t value) override
+    {
+        const std::int32_t cut = std::max(std::min(value, m_maximum), m_minimum);
+        if (std::exchange(m_value, cut) != cut)
+            this->report(Notice::Change);
+    }
+    [[nodiscard]] std::int32_t minimum() const override { return m_minimum; }
+    [[nodiscard]] std::int32_t maximum() const override { return m_maximum; }
+    void setMinimum(std::int32_t minimum) override
+    {
+        m_minimum = minimum;
+        setValue(m_value);
+    }
+    void setMaximum(std::int32_t maximum) override
+    {
+        m_maximum = maximum;
+        setValue(m_value);
+    }
+
+private:
+    std::int32_t m_value = 0;
+    std::int32_t m_minimum = 0;
+    std::int32_t m_maximum = 10;
+};
+
+class HeadlessSpinButton final : public HeadlessRange<SpinButton> {
+public:
+    HeadlessSpinButton(Host& host, int number) : HeadlessRange(host, number, ButtonFace) { m_geometry.width = 240; }
+};
+
+class HeadlessTrack final : public HeadlessRange<Track> {
+public:
+    HeadlessTrack(Host& host, int number) : HeadlessRange(host, number, ButtonFace) { m_geometry.height = 510; }
+
+    [[nodiscard]] std::int16_t tickStyle() const override { return m_tickStyle; }
+    void setTickStyle(std::int16_t style) override { m_tickStyle = style; }
+    [[nodiscard]] std::int32_t tickFrequency() const override { return m_tickFrequency; }
+    void setTickFrequency(std::int32_t frequency) override { m_tickFrequency = std::max(frequency, 1); }
+    [[nodiscard]] std::int32_t tickCount() const override
+    {
+        const std::int64_t length = std::int64_t{maximum()} - minimum();
+        const std::int64_t count = length <= 0 ? 1 : (length + m_tickFrequency - 1) / m_tickFrequency + 1;
+        return static_cast<std::int32_t>(std::min<std::int64_t>(count, std::numeric_limits<std::int32_t>::max()));
+    }
+    [[nodiscard]] bool hasFocus() const override { return host().focused() == this; }
+
+private:
+    std::int32_t m_tickFrequency = 1;
+    std::int16_t m_tickStyle = 0;
+};
+
+} // namespace zor::platform::headless

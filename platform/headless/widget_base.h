@@ -1,0 +1,86 @@
+#pragma once
+
+/// What all headless widgets share: plain state behind the interfaces.
+
+#include "platform/widgets.h"
+
+#include <string>
+
+namespace zor::platform::headless {
+
+/// What a widget needs of the surface it stands on.
+class Host {
+public:
+    [[nodiscard]] virtual WidgetListener& listener() noexcept = 0;
+    [[nodiscard]] virtual const Widget* focused() const noexcept = 0;
+    /// The widget ends: it neither has the focus nor gets it back.
+    virtual void forget(const Widget& widget) noexcept = 0;
+
+protected:
+    ~Host() = default;
+};
+
+/// What the operator needs of a widget without knowing its kind.
+class HeadlessWidget {
+public:
+    virtual ~HeadlessWidget() = default;
+    [[nodiscard]] virtual Host& host() const noexcept = 0;
+    [[nodiscard]] virtual int number() const noexcept = 0;
+    void report(Notice notice, EventArgs args = {}) const { host().listener().notice(number(), notice, args); }
+};
+
+template <class Interface>
+class WidgetBase : public Interface, public HeadlessWidget {
+public:
+    WidgetBase(Host& host, int number, Colour backColour) : m_host(host), m_number(number), m_backColour(backColour) {}
+    ~WidgetBase() override { m_host.forget(*this); }
+    WidgetBase(const WidgetBase&) = delete;
+    WidgetBase& operator=(const WidgetBase&) = delete;
+
+    [[nodiscard]] Rect geometry() const override { return m_geometry; }
+    void setGeometry(const Rect& geometry) override { m_geometry = geometry; }
+    [[nodiscard]] bool isVisible() const override { return m_visible; }
+    void setVisible(bool visible) override { m_visible = visible; }
+    [[nodiscard]] bool isEnabled() const override { return m_enabled; }
+    void setEnabled(bool enabled) override { m_enabled = enabled; }
+    [[nodiscard]] Colour backColour() const override { return m_backColour; }
+    void setBackColour(Colour colour) override { m_backColour = colour; }
+    [[nodiscard]] std::string toolTip() const override { return m_toolTip; }
+    void setToolTip(std::string_view text) override { m_toolTip = text; }
+    // No screen reader listens without a screen.
+    void setAccessible(std::string_view /*name*/, std::string_view /*description*/) override {}
+
+    [[nodiscard]] Host& host() const noexcept override { return m_host; }
+    [[nodiscard]] int number() const noexcept override { return m_number; }
+
+protected:
+    Rect m_geometry;
+
+private:
+    Host& m_host;
+    std::string m_toolTip;
+    int m_number;
+    Colour m_backColour;
+    bool m_visible = true;
+    bool m_enabled = true;
+};
+
+template <class Interface>
+class FontBase : public WidgetBase<Interface> {
+public:
+    using WidgetBase<Interface>::WidgetBase;
+
+    [[nodiscard]] Colour foreColour() const override { return m_foreColour; }
+    void setForeColour(Colour colour) override { m_foreColour = colour; }
+    [[nodiscard]] bool isBold() const override { return m_bold; }
+    void setBold(bool bold) override { m_bold = bold; }
+    [[nodiscard]] bool isItalic() const override { return m_italic; }
+    void setItalic(bool italic) override { m_italic = italic; }
+
+private:
+    Colour m_foreColour = ButtonText;
+    bool m_bold = false;
+    bool m_italic = false;
+};
+
+} // namespace zor::platform::headless

@@ -1,0 +1,83 @@
+#pragma once
+
+/// What a widget reports to the control that owns it.
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <variant>
+
+namespace zor::platform {
+
+/// One argument of an event, by reference: what a handler changes, the widget (or the control) receives.
+using ArgRef = std::variant<std::int16_t*, std::int32_t*, float*, bool*, std::string*>;
+
+using EventArgs = std::span<const ArgRef>;
+
+/// The kinds of reports. The arguments, where there are any, are given with each.
+enum class Notice : std::uint8_t {
+    None,            ///< marks an event that no widget's report raises
+    Change,          ///< text, caption, selected position or value changed, by whomever
+    Click,           ///<
+    DblClick,        ///<
+    GotFocus,        ///<
+    LostFocus,       ///<
+    KeyDown,         ///< KeyCode, Shift (16-bit)
+    KeyPress,        ///< KeyAscii (16-bit); 0 afterwards swallows the key
+    KeyUp,           ///< KeyCode, Shift (16-bit)
+    MouseDown,       ///< Button, Shift (16-bit), X, Y (single, twips)
+    MouseMove,       ///< as MouseDown
+    MouseUp,         ///< as MouseDown
+    Validate,        ///< Cancel (boolean); True afterwards keeps the focus
+    DropDown,        ///< a list opens
+    Scroll,          ///< a track is being dragged, a list was scrolled
+    SpinDown,        ///< the spin button went one step down
+    SpinUp,          ///< the spin button went one step up
+    LinkNotify,      ///<
+    LinkOpen,        ///< Cancel (16-bit)
+    OLECompleteDrag, ///< Effect (32-bit)
+    OLEGiveFeedback, ///< Effect (32-bit), DefaultCursors (boolean)
+};
+
+/// Mouse buttons as they stand in Button (a bit each).
+inline constexpr std::int16_t kLeftButton = 1;
+inline constexpr std::int16_t kRightButton = 2;
+inline constexpr std::int16_t kMiddleButton = 4;
+
+/// Key states as they stand in Shift (a bit each).
+inline constexpr std::int16_t kShiftMask = 1;
+inline constexpr std::int16_t kCtrlMask = 2;
+inline constexpr std::int16_t kAltMask = 4;
+
+/// The number under which a surface reports; a control's own widgets are numbered from 1.
+inline constexpr int kSurfaceWidget = 0;
+
+/// Receives the reports of all widgets of one control. `widget` is the number the control gave the widget
+/// when it created it.
+class WidgetListener {
+public:
+    virtual void notice(int widget, Notice notice, EventArgs args) = 0;
+
+    /// While held, the listener and its widgets stay alive even when a handler destroys the control.
+    /// A widget holds its listener through every operator action; release() must be the last thing it does,
+    /// because the widget itself may be gone afterwards.
+    virtual void hold() noexcept = 0;
+    virtual void release() noexcept = 0;
+
+protected:
+    ~WidgetListener() = default;
+};
+
+/// Holds a listener for the length of a scope.
+class Hold {
+public:
+    explicit Hold(WidgetListener& listener) noexcept : m_listener(listener) { m_listener.hold(); }
+    ~Hold() { m_listener.release(); }
+    Hold(const Hold&) = delete;
+    Hold& operator=(const Hold&) = delete;
+
+private:
+    WidgetListener& m_listener;
+};
+
+} // namespace zor::platform

@@ -1,0 +1,68 @@
+#pragma once
+
+/// The operator's hands: what a person can do to a widget, for the console and for tests. On a platform with
+/// real widgets every action arrives as mouse and key events.
+
+#include "platform/widgets.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace zor::platform {
+
+/// Why an action could not be done. Nothing has changed then.
+enum class Refusal : std::uint8_t { None, Hidden, Disabled, Locked, Closed };
+
+/// The key code that goes with a character: the upper-case letter, the digit, the code of the key for blank,
+/// comma, point, plus and minus, 0 for any other.
+[[nodiscard]] constexpr std::int16_t keyCodeOf(std::int16_t character) noexcept
+{
+    if (character >= 'a' && character <= 'z')
+        return static_cast<std::int16_t>(character - 'a' + 'A');
+    if ((character >= 'A' && character <= 'Z') || (character >= '0' && character <= '9') || character == ' ')
+        return character;
+    switch (character) {
+    case '+': return 187;
+    case ',': return 188;
+    case '-': return 189;
+    case '.': return 190;
+    default: return 0;
+    }
+}
+
+enum class Pointer : std::uint8_t { Click, DoubleClick, RightClick };
+
+/// Each action returns why it was refused, or None. A widget that cannot do what is asked (a label does not
+/// take the focus) raises NoSuchMember.
+///
+/// An action on a text field, combo box, list box, check box, option button, track or spin button takes the
+/// focus first, as it would for a person; the widget that had it is blurred. `type` sends key down, key
+/// press, change and key up for each character; a key press whose code a handler set to 0 changes nothing.
+class Operator {
+public:
+    virtual ~Operator() = default;
+
+    virtual Refusal focus(Widget& widget) = 0;
+    /// Moves the focus to nothing; refused by none, without effect when the widget has not the focus.
+    virtual Refusal blur(Widget& widget) = 0;
+    virtual Refusal pointer(Widget& widget, Pointer action) = 0;
+    virtual Refusal type(TextField& field, std::string_view text) = 0;
+    virtual Refusal paste(TextField& field, std::string_view text) = 0;
+    virtual Refusal select(TextField& field, std::size_t start, std::size_t length) = 0;
+    /// Key down, key press where the key has a character, key up. 8 Backspace, 13 Enter, 27 Escape, 32 Space,
+    /// 35 to 40 End, Home and the arrows, 46 Delete, and the upper-case letters and digits do what they say.
+    virtual Refusal key(Widget& widget, std::int16_t code) = 0;
+    /// One step of a spin button.
+    virtual Refusal spin(SpinButton& button, bool up) = 0;
+    /// Drags the handle to a position: Scroll, then Change.
+    virtual Refusal moveTo(Track& track, std::int32_t position) = 0;
+    virtual Refusal choose(ComboBox& box, std::int32_t index) = 0;
+    virtual Refusal dropDown(ComboBox& box) = 0;
+    virtual Refusal toggle(ListBox& box, std::int32_t index) = 0;
+    /// A click on a check box or an option button.
+    virtual Refusal press(ToggleButton& button) = 0;
+    virtual Refusal chooseItem(PopupMenu& menu, std::size_t item) = 0;
+};
+
+} // namespace zor::platform

@@ -1,0 +1,23 @@
+#pragma once
+
+/// The container's store for a control's settings.
+
+#include "platform/variant.h"
+
+#include <string_view>
+
+namespace zor::platform {
+
+/// A set of named values. Key names are case-sensitive.
+class PropertyBag {
+public:
+    virtual ~PropertyBag() = default;
+
+    /// The value under the name, or the default when there is none.
+    [[nodiscard]] virtual Variant ReadProperty(std::string_view name, const Variant& defaultValue) const = 0;
+
+    /// Stores the value, unless it equals the default: then the name is left out.
+    virtual void WriteProperty(std::string_view name, const Variant& value, const Variant& defaultValue) = 0;
+};
+
+} // namespace zor::platform

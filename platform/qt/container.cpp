@@ -1,0 +1,225 @@
+#include "platform/qt/container.h"
+
+#include "platform/qt/entry_lists.h"
+#include "platform/qt/range_widgets.h"
+#include "platform/qt/simple_widgets.h"
+#include "platform/qt/text_field.h"
+
+#include <QDebug>
+#include <QMenu>
+#include <QMessageBox>
+#include <QResizeEvent>
+
+namespace zor::platform::qt {
+namespace {
+
+/// The menu itself is made when it is first opened: ten thousand controls would hold as many.
+class QtMenu final : public PopupMenu, public MenuHands {
+public:
+    QtMenu(const Context& context, std::span<const MenuItem> items) : m_context(context), m_items(items) {}
+    ~QtMenu() override
+    {
+        closed();
+        if (m_menu != nullptr) {
+            m_menu->disconnect();
+            m_context.container->discard(*m_menu);
+        }
+    }
+    QtMenu(const QtMenu&) = delete;
+    QtMenu& operator=(const QtMenu&) = delete;
+
+    [[nodiscard]] bool isOpen() const override { return m_context.container->openMenu() == this; }
+    [[nodiscard]] std::span<const MenuItem> items() const override { return m_items; }
+    void popUp(Twips x, Twips y) override
+    {
+        if (m_menu == nullptr)
+            build();
+        if (PopupMenu* other = m_context.container->openMenu())
+            other->close();
+        m_context.container->setOpenMenu(this);
+        const Rect point{x, y, 0, 0};
+        m_menu->popup(m_context.surface->mapToGlobal(toPixels(point).topLeft()));
+    }
+    void close() override
+    {
+        if (m_menu != nullptr)
+            m_menu->close();
+        closed();
+    }
+    void trigger(std::size_t item) override
+    {
+        m_menu->setActiveAction(m_menu->actions().at(static_cast<qsizetype>(item)));
+        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(m_menu, &enter);
+    }
+
+private:
+    void closed()
+    {
+        if (isOpen())
+            m_context.container->setOpenMenu(nullptr);
+    }
+    void build()
+    {
+        m_menu = new QMenu(m_context.surface);
+        for (const MenuItem& item : m_items) {
+            const QString caption = QString::fromUtf8(item.caption.data(), static_cast<qsizetype>(item.caption.size()));
+            QObject::connect(m_menu->addAction(caption), &QAction::triggered, m_menu, [this, number = item.widget] {
+                const Context context = m_context;
+                const Hold hold(*context.listener);
+                closed();
+                ++context.container->eventDepth;
+                try {
+                    context.listener->notice(number, Notice::Click, {});
+                } catch (...) {
+                    context.container->failed(std::current_exception());
+                }
+                --context.container->eventDepth;
+            });
+        }
+        // Choosing an item hides the menu before it is triggered: the menu counts as open until then.
+        QObject::connect(m_menu, &QMenu::aboutToHide, m_menu, [this] { closed(); }, Qt::QueuedConnection);
+    }
+
+    Context m_context;
+    std::span<const MenuItem> m_items;
+    QPointer<QMenu> m_menu;
+};
+
+/// The QWidget under a surface; tells the component when the container gives it another size.
+class SurfaceWidget : public QWidget {
+public:
+    using QWidget::QWidget;
+    std::function<void(QSize)> onResized;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QWidget::resizeEvent(event);
+        if (onResized)
+            onResized(event->size());
+    }
+};
+
+class QtSurface final : public QtBase<Surface, SurfaceWidget> {
+public:
+    QtSurface(const Context& context, Twips width, Twips height) : QtBase(context, kSurfaceWidget, ButtonFace)
+    {
+        setGeometry({0, 0, width, height});
+        m_inner = context;
+        m_inner.surface = &widget();
+        widget().setVisible(true);
+        widget().onResized = [this](QSize size) { resizedByForm(size); };
+    }
+
+    // Twips that the host gave stay as they are; only a size that comes from the form's layout is counted
+    // from pixels.
+    void setGeometry(const Rect& geometry) override
+    {
+        m_setting = true;
+        QtBase::setGeometry(geometry);
+        m_setting = false;
+    }
+
+    [[nodiscard]] std::unique_ptr<TextField> createTextField(int number) override { return make<QtTextField>(number); }
+    [[nodiscard]] std::unique_ptr<Label> createLabel(int number) override { return make<QtLabel>(number); }
+    [[nodiscard]] std::unique_ptr<Image> createImage(int number) override { return make<QtImage>(number); }
+    [[nodiscard]] std::unique_ptr<SpinButton> createSpinButton(int number) override { return make<QtSpinButton>(number); }
+    [[nodiscard]] std::unique_ptr<Track> createTrack(int number) override { return make<QtTrack>(number); }
+    [[nodiscard]] std::unique_ptr<ComboBox> createComboBox(int number) override { return make<QtComboBox>(number); }
+    [[nodiscard]] std::unique_ptr<ListBox> createListBox(int number) override { return make<QtListBox>(number); }
+    [[nodiscard]] std::unique_ptr<CheckBox> createCheckBox(int number) override { return make<QtCheckBox>(number); }
+    [[nodiscard]] std::unique_ptr<OptionButton> createOptionButton(int number) override
+    {
+        return make<QtOptionButton>(number);
+    }
+    [[nodiscard]] std::unique_ptr<PopupMenu> createMenu(std::span<const MenuItem> items) override
+    {
+        return std::make_unique<QtMenu>(m_inner, items);
+    }
+    [[nodiscard]] Twips textWidth(std::string_view text, bool bold) const override
+    {
+        QFont font = widget().font();
+        font.setBold(bold);
+        constexpr int kLimit = 4096;
+        return QFontMetrics(font).horizontalAdvance(shownText(text, kLimit)) * kTwipsPerPixel;
+    }
+
+private:
+    template <class T>
+    std::unique_ptr<T> make(int number)
+    {
+        auto made = std::make_unique<T>(m_inner, number);
+        made->qwidget().setVisible(true);
+        return made;
+    }
+
+    void resizedByForm(QSize size)
+    {
+        auto* component = dynamic_cast<Component*>(context().listener);
+        if (m_setting || component == nullptr || size == toPixels(m_geometry).size())
+            return;
+        m_geometry.width = size.width() * kTwipsPerPixel;
+        m_geometry.height = size.height() * kTwipsPerPixel;
+        component->resized();
+    }
+
+    Context m_inner{};
+    bool m_setting = false;
+};
+
+} // namespace
+
+std::unique_ptr<Surface> QtContainer::createSurface(WidgetListener& listener, Twips width, Twips height)
+{
+    return std::make_unique<QtSurface>(Context{this, &listener, &m_parent}, width, height);
+}
+
+std::string_view QtContainer::picture(int index) const noexcept
+{
+    return index >= 1 && static_cast<std::size_t>(index) <= m_pictures.size()
+               ? m_pictures[static_cast<std::size_t>(index) - 1]
+               : std::string_view{};
+}
+
+void QtContainer::showMessage(Component& component, const MessageBox& box)
+{
+    if (onMessage) {
+        onMessage(component, box);
+        return;
+    }
+    constexpr std::array kIcons{QMessageBox::Critical, QMessageBox::Information, QMessageBox::Warning};
+    constexpr int kTitleLimit = 200;
+    constexpr int kTextLimit = 4000;
+    QMessageBox message(kIcons[static_cast<std::size_t>(box.icon)], shownText(box.title, kTitleLimit), QString(),
+                        QMessageBox::Ok, &m_parent);
+    message.setTextFormat(Qt::PlainText);
+    message.setText(shownText(box.text, kTextLimit));
+    message.exec();
+}
+
+void QtContainer::failed(std::exception_ptr error)
+{
+    if (onError)
+        return onError(error);
+    try {
+        std::rethrow_exception(error);
+    } catch (const std::exception& exception) {
+        qWarning("An event handler failed: %s", exception.what());
+    } catch (...) {
+        qWarning("An event handler failed");
+    }
+}
+
+void QtContainer::discard(QWidget& widget)
+{
+    if (eventDepth == 0) {
+        delete &widget;
+        return;
+    }
+    widget.hide();
+    widget.setParent(nullptr);
+    widget.deleteLater();
+}
+
+} // namespace zor::platform::qt

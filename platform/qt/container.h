@@ -1,0 +1,81 @@
+#pragma once
+
+/// A form of real Qt widgets.
+
+#include "platform/container.h"
+
+#include <cstddef>
+#include <exception>
+#include <functional>
+#include <span>
+#include <string_view>
+
+class QWidget;
+
+namespace zor::platform::qt {
+
+/// Holds the surfaces of the controls created in it as children of `parent`; it must outlive them, and the
+/// parent must outlive it. Starts in design mode. A QApplication must exist.
+class QtContainer final : public Container {
+public:
+    /// `pictures`: the SVG texts of the image list, picture 1 first; they must outlive the container.
+    QtContainer(QWidget& parent, std::span<const std::string_view> pictures)
+        : m_parent(parent), m_pictures(pictures)
+    {
+    }
+
+    [[nodiscard]] bool userMode() const noexcept override { return m_userMode; }
+    void setUserMode(bool userMode) noexcept { m_userMode = userMode; }
+    void propertyChanged(Component& component, std::string_view name) override
+    {
+        if (onPropertyChanged)
+            onPropertyChanged(component, name);
+    }
+    /// Shows a real message box, unless onMessage is set.
+    void showMessage(Component& component, const MessageBox& box) override;
+    [[nodiscard]] std::unique_ptr<Surface> createSurface(WidgetListener& listener, Twips width,
+                                                         Twips height) override;
+
+    /// Hears of every property change.
+    std::function<void(Component&, std::string_view)> onPropertyChanged;
+    /// Takes the place of the real message boxes.
+    std::function<void(Component&, const MessageBox&)> onMessage;
+    /// Receives what an event handler of the host threw; without it, it is logged.
+    std::function<void(std::exception_ptr)> onError;
+
+    /// The menu that is open; nullptr for none.
+    [[nodiscard]] PopupMenu* openMenu() const noexcept { return m_openMenu; }
+
+    /// @name For the widgets of this container
+    /// @{
+    [[nodiscard]] QWidget& parent() const noexcept { return m_parent; }
+    [[nodiscard]] std::string_view picture(int index) const noexcept;
+    void setOpenMenu(PopupMenu* menu) noexcept { m_openMenu = menu; }
+    void failed(std::exception_ptr error);
+    /// Takes a Qt widget away; inside one of its events it is deleted when the event has ended.
+    void discard(QWidget& widget);
+    /// Counts the events under way.
+    int eventDepth = 0;
+    /// @}
+
+private:
+    QWidget& m_parent;
+    std::span<const std::string_view> m_pictures;
+    PopupMenu* m_openMenu = nullptr;
+    bool m_userMode = false;
+};
+
+/// What the operator needs of an open menu.
+class MenuHands {
+public:
+    /// Chooses an item as a key on the open menu would.
+    virtual void trigger(std::size_t item) = 0;
+
+protected:
+    ~MenuHands() = default;
+};
+
+/// The Qt widget under a widget or a surface.
+[[nodiscard]] QWidget& widgetOf(const Widget& widget);
+
+} // namespace zor::platform::qt

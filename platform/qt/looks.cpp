@@ -1,0 +1,91 @@
+#include "platform/qt/looks.h"
+
+#include "platform/text.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+#include <QTextDocument>
+
+#include <algorithm>
+#include <cmath>
+
+namespace zor::platform::qt {
+namespace {
+
+constexpr double kReadable = 4.5;
+constexpr int kToolTipLimit = 2000;
+
+double channel(double value)
+{
+    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& colour)
+{
+    return 0.2126 * channel(colour.redF()) + 0.7152 * channel(colour.greenF()) + 0.0722 * channel(colour.blueF());
+}
+
+int pixels(Twips twips)
+{
+    return static_cast<int>(std::lround(twips / kTwipsPerPixel));
+}
+
+} // namespace
+
+QRect toPixels(const Rect& rect)
+{
+    return {pixels(rect.left), pixels(rect.top), pixels(rect.width), pixels(rect.height)};
+}
+
+QString shownText(std::string_view text, int limit)
+{
+    const std::size_t end = byteOffset(text, static_cast<std::size_t>(limit));
+    const bool cut = end < text.size();
+    QString shown = QString::fromStdString(validUtf8(text.substr(0, end)));
+    shown.replace(QChar(u'\0'), QChar(QChar::ReplacementCharacter));
+    return cut ? shown + QChar(0x2026) : shown;
+}
+
+QString plainToolTip(std::string_view text)
+{
+    const QString shown = shownText(text, kToolTipLimit);
+    if (!Qt::mightBeRichText(shown))
+        return shown;
+    return "<span style=\"white-space: pre-wrap\">" + shown.toHtmlEscaped() + "</span>";
+}
+
+QColor toQColor(Colour colour)
+{
+    const QPalette palette = QGuiApplication::palette();
+    switch (colour) {
+    case WindowBackground: return palette.color(QPalette::Base);
+    case ButtonFace: return palette.color(QPalette::Window);
+    case ButtonText: return palette.color(QPalette::WindowText);
+    default: return QColor::fromRgb(colour & 0xFFFFFFU);
+    }
+}
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto [low, high] = std::minmax({luminance(one), luminance(other)});
+    return (high + 0.05) / (low + 0.05);
+}
+
+QColor readableOn(Colour wanted, const QColor& background)
+{
+    QColor colour = toQColor(wanted);
+    const QColor end = contrast(Qt::black, background) >= contrast(Qt::white, background) ? Qt::black : Qt::white;
+    if ((wanted & kSystemColourBit) != 0)
+        return contrast(colour, background) >= kReadable ? colour : end;
+    constexpr int kSteps = 20;
+    const QColor start = colour;
+    for (int step = 1; step <= kSteps && contrast(colour, background) < kReadable; ++step) {
+        const double part = static_cast<double>(step) / kSteps;
+        const auto mix = [part](float from, float to) { return static_cast<float>(from + (to - from) * part); };
+        colour = QColor::fromRgbF(mix(start.redF(), end.redF()), mix(start.greenF(), end.greenF()),
+                                  mix(start.blueF(), end.blueF()));
+    }
+    return colour;
+}
+
+} // namespace zor::platform::qt

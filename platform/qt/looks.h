@@ -1,0 +1,38 @@
+#pragma once
+
+/// How texts and colours from outside become what Qt paints.
+
+#include "platform/colour.h"
+#include "platform/widgets.h"
+
+#include <QColor>
+#include <QRect>
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+namespace zor::platform::qt {
+
+inline constexpr double kTwipsPerPixel = 15.0; ///< device-independent pixels
+
+[[nodiscard]] QRect toPixels(const Rect& rect);
+
+/// A text that Qt can show at once: invalid UTF-8 and NULs as replacement characters, no more than `limit`
+/// characters, an ellipsis in place of the rest.
+[[nodiscard]] QString shownText(std::string_view text, int limit);
+
+/// A tooltip that is never taken for mark-up.
+[[nodiscard]] QString plainToolTip(std::string_view text);
+
+/// The theme's colour for a system colour, any other as it is.
+[[nodiscard]] QColor toQColor(Colour colour);
+
+/// Contrast of two colours, 1 to 21.
+[[nodiscard]] double contrast(const QColor& one, const QColor& other);
+
+/// The text colour nearest to the one wanted that reaches a contrast of 4.5 on the background. A system
+/// colour that does not reach it becomes black or white.
+[[nodiscard]] QColor readableOn(Colour wanted, const QColor& background);
+
+} // namespace zor::platform::qt

@@ -1,0 +1,291 @@
+#include "platform/qt/operator.h"
+
+#include "platform/error.h"
+#include "platform/qt/entry_lists.h"
+#include "platform/qt/keys.h"
+#include "platform/qt/range_widgets.h"
+#include "platform/qt/simple_widgets.h"
+#include "platform/qt/text_field.h"
+#include "platform/text.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QTest>
+
+#include <limits>
+
+namespace zor::platform::qt {
+namespace {
+
+QtWidget& base(Widget& widget)
+{
+    return dynamic_cast<QtWidget&>(widget);
+}
+
+bool takesFocus(const Widget& widget)
+{
+    return dynamic_cast<const Label*>(&widget) == nullptr && dynamic_cast<const Image*>(&widget) == nullptr &&
+           dynamic_cast<const Surface*>(&widget) == nullptr && dynamic_cast<const SpinButton*>(&widget) == nullptr;
+}
+
+/// The event goes straight to the widget: it may lie beyond the edge of its form, where no screen shows it.
+void sendMouse(QWidget& widget, QEvent::Type type, Qt::MouseButton button, QPointF at)
+{
+    const Qt::MouseButtons buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(button);
+    QMouseEvent event(type, at, widget.mapToGlobal(at), button, buttons, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &event);
+}
+
+void click(QWidget& widget, Qt::MouseButton button, QPointF at)
+{
+    const QPointer<QWidget> alive = &widget;
+    sendMouse(widget, QEvent::MouseButtonPress, button, at);
+    if (alive)
+        sendMouse(widget, QEvent::MouseButtonRelease, button, at);
+}
+
+QPointF centre(const QWidget& widget)
+{
+    return QRectF(widget.rect()).center();
+}
+
+void sendKey(QWidget& widget, Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    const QPointer<QWidget> alive = &widget;
+    QKeyEvent down(QEvent::KeyPress, key, modifiers, text);
+    QApplication::sendEvent(&widget, &down);
+    QKeyEvent up(QEvent::KeyRelease, key, modifiers, text);
+    if (alive)
+        QApplication::sendEvent(&widget, &up);
+}
+
+QString characterOf(std::int16_t code)
+{
+    constexpr std::array<std::int16_t, 3> kControlCharacters{8, 13, 27};
+    const bool control = std::ranges::find(kControlCharacters, code) != kControlCharacters.end();
+    const bool printable = code >= ' ' && code <= 'Z' && keyCodeOf(code) == code;
+    return control || printable ? QString(QChar(static_cast<char16_t>(code))) : QString();
+}
+
+} // namespace
+
+Refusal QtOperator::reach(Widget& widget)
+{
+    if (PopupMenu* menu = m_container.openMenu())
+        menu->close();
+    if (!widget.isVisible())
+        return Refusal::Hidden;
+    return widget.isEnabled() ? Refusal::None : Refusal::Disabled;
+}
+
+Refusal QtOperator::approach(Widget& widget, bool& there)
+{
+    const Refusal refusal = reach(widget);
+    there = refusal == Refusal::None;
+    if (!there || !takesFocus(widget))
+        return refusal;
+    const QPointer<QWidget> alive = &base(widget).qwidget();
+    QWidget* window = alive->window();
+    if (QApplication::activeWindow() != window) {
+        window->activateWindow();
+        QApplication::setActiveWindow(window);
+    }
+    if (!base(widget).focusReported)
+        alive->setFocus(Qt::MouseFocusReason);
+    there = alive && base(widget).focusReported;
+    return refusal;
+}
+
+Refusal QtOperator::focus(Widget& widget)
+{
+    if (!takesFocus(widget))
+        raiseError(ErrorNumber::NoSuchMember);
+    const Hold hold(*base(widget).context().listener);
+    bool there = false;
+    return approach(widget, there);
+}
+
+Refusal QtOperator::blur(Widget& widget)
+{
+    if (!takesFocus(widget))
+        raiseError(ErrorNumber::NoSuchMember);
+    const Hold hold(*base(widget).context().listener);
+    if (PopupMenu* menu = m_container.openMenu())
+        menu->close();
+    if (base(widget).focusReported)
+        base(widget).qwidget().clearFocus();
+    return Refusal::None;
+}
+
+Refusal QtOperator::pointer(Widget& widget, Pointer action)
+{
+    const Hold hold(*base(widget).context().listener);
+    bool there = false;
+    const Refusal refusal = approach(widget, there);
+    if (!there)
+        return refusal;
+    if (auto* button = dynamic_cast<ToggleButton*>(&widget); button != nullptr && action != Pointer::RightClick)
+        return press(*button);
+    QWidget& target = base(widget).qwidget();
+    const QPointer<QWidget> alive = &target;
+    const Qt::MouseButton button = action == Pointer::RightClick ? Qt::RightButton : Qt::LeftButton;
+    click(target, button, centre(target));
+    if (action == Pointer::DoubleClick && alive) {
+        sendMouse(target, QEvent::MouseButtonDblClick, button, centre(target));
+        if (alive)
+            sendMouse(target, QEvent::MouseButtonRelease, button, centre(target));
+    }
+    return refusal;
+}
+
+Refusal QtOperator::type(TextField& field, std::string_view text)
+{
+    const Hold hold(*base(field).context().listener);
+    bool there = false;
+    Refusal refusal = reach(field);
+    if (refusal == Refusal::None && field.isLocked())
+        refusal = Refusal::Locked;
+    if (refusal != Refusal::None || approach(field, there) != Refusal::None || !there)
+        return refusal;
+    const QPointer<QWidget> alive = &base(field).qwidget();
+    while (!text.empty() && alive) {
+        const std::string_view character = text.substr(0, byteOffset(text, 1));
+        text.remove_prefix(character.size());
+        const QString shown = QString::fromStdString(validUtf8(character));
+        const char16_t unit = shown.at(0).unicode();
+        const std::int16_t code = unit < 256 ? keyCodeOf(static_cast<std::int16_t>(unit)) : std::int16_t{0};
+        sendKey(*alive, keyOf(code), shown);
+    }
+    return refusal;
+}
+
+Refusal QtOperator::paste(TextField& field, std::string_view text)
+{
+    const Hold hold(*base(field).context().listener);
+    bool there = false;
+    Refusal refusal = reach(field);
+    if (refusal == Refusal::None && field.isLocked())
+        refusal = Refusal::Locked;
+    if (refusal == Refusal::None && approach(field, there) == Refusal::None && there) {
+        // As the menu's "Paste": no key is pressed.
+        QGuiApplication::clipboard()->setText(shownText(text, std::numeric_limits<int>::max()));
+        dynamic_cast<QLineEdit&>(base(field).qwidget()).paste();
+    }
+    return refusal;
+}
+
+Refusal QtOperator::select(TextField& field, std::size_t start, std::size_t length)
+{
+    const Hold hold(*base(field).context().listener);
+    bool there = false;
+    const Refusal refusal = approach(field, there);
+    if (there)
+        field.select(start, length);
+    return refusal;
+}
+
+Refusal QtOperator::key(Widget& widget, std::int16_t code)
+{
+    if (!takesFocus(widget))
+        raiseError(ErrorNumber::NoSuchMember);
+    const Hold hold(*base(widget).context().listener);
+    bool there = false;
+    const Refusal refusal = approach(widget, there);
+    if (there)
+        sendKey(base(widget).qwidget(), keyOf(code), characterOf(code));
+    return refusal;
+}
+
+Refusal QtOperator::spin(SpinButton& button, bool up)
+{
+    const Hold hold(*base(button).context().listener);
+    const Refusal refusal = reach(button);
+    if (refusal == Refusal::None) {
+        QWidget& target = dynamic_cast<QtSpinButton&>(button).button(up);
+        click(target, Qt::LeftButton, centre(target));
+    }
+    return refusal;
+}
+
+Refusal QtOperator::moveTo(Track& track, std::int32_t position)
+{
+    const Hold hold(*base(track).context().listener);
+    bool there = false;
+    const Refusal refusal = approach(track, there);
+    if (there) {
+        // A position between two pixels has no mouse event: the slider's own way of being dragged.
+        auto& slider = dynamic_cast<QSlider&>(base(track).qwidget());
+        const QPointer<QSlider> alive = &slider;
+        slider.setSliderDown(true);
+        if (alive)
+            slider.setSliderPosition(position);
+        if (alive)
+            slider.setSliderDown(false);
+    }
+    return refusal;
+}
+
+Refusal QtOperator::dropDown(ComboBox& box)
+{
+    const Hold hold(*base(box).context().listener);
+    bool there = false;
+    Refusal refusal = reach(box);
+    if (refusal == Refusal::None && box.isLocked())
+        refusal = Refusal::Locked;
+    if (refusal == Refusal::None && approach(box, there) == Refusal::None && there)
+        dynamic_cast<QComboBox&>(base(box).qwidget()).showPopup();
+    return refusal;
+}
+
+Refusal QtOperator::choose(ComboBox& box, std::int32_t index)
+{
+    const Hold hold(*base(box).context().listener);
+    static_cast<void>(box.entryText(index));
+    const Refusal refusal = dropDown(box);
+    if (refusal == Refusal::None && base(box).focusReported) {
+        auto& combo = dynamic_cast<QComboBox&>(base(box).qwidget());
+        combo.hidePopup();
+        // Choosing the entry that is chosen already is a click all the same.
+        if (combo.currentIndex() == index)
+            base(box).report(Notice::Click);
+        else
+            combo.setCurrentIndex(index);
+    }
+    return refusal;
+}
+
+Refusal QtOperator::toggle(ListBox& box, std::int32_t index)
+{
+    const Hold hold(*base(box).context().listener);
+    static_cast<void>(box.entryText(index));
+    bool there = false;
+    const Refusal refusal = approach(box, there);
+    if (there)
+        box.setSelected(index, !box.isSelected(index));
+    return refusal;
+}
+
+Refusal QtOperator::press(ToggleButton& button)
+{
+    const Hold hold(*base(button).context().listener);
+    bool there = false;
+    const Refusal refusal = approach(button, there);
+    if (there) {
+        // The indicator at the left edge is what a person aims at, however wide the caption is.
+        QWidget& target = base(button).qwidget();
+        click(target, Qt::LeftButton, QPointF(8, centre(target).y()));
+    }
+    return refusal;
+}
+
+Refusal QtOperator::chooseItem(PopupMenu& menu, std::size_t item)
+{
+    if (!menu.isOpen())
+        return Refusal::Closed;
+    if (item >= menu.items().size())
+        raiseError(ErrorNumber::SubscriptOutOfRange);
+    dynamic_cast<MenuHands&>(menu).trigger(item);
+    return Refusal::None;
+}
+
+} // namespace zor::platform::qt

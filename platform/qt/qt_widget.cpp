@@ -1,0 +1,118 @@
+#include "platform/qt/qt_widget.h"
+
+#include "platform/operator.h"
+#include "platform/qt/keys.h"
+
+namespace zor::platform::qt {
+
+void QtWidget::report(Notice notice, EventArgs args) const
+{
+    QtContainer& container = *m_context.container;
+    ++container.eventDepth;
+    try {
+        m_context.listener->notice(m_number, notice, args);
+    } catch (...) {
+        container.failed(std::current_exception());
+    }
+    --container.eventDepth;
+}
+
+bool EventReports::before()
+{
+    if (m_event.type() == QEvent::KeyPress)
+        return keyPressed(static_cast<QKeyEvent&>(m_event));
+    return false;
+}
+
+bool EventReports::keyPressed(QKeyEvent& key)
+{
+    // Tab moves the focus; it is no key of the widget's.
+    if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab)
+        return false;
+    std::int16_t code = codeOf(key);
+    std::int16_t shift = shiftOf(key.modifiers());
+    const bool hadCode = code != 0;
+    m_widget.report(Notice::KeyDown, std::array<ArgRef, 2>{&code, &shift});
+    if (hadCode && code == 0)
+        return true;
+    const std::int16_t ascii = characterOf(key);
+    if (ascii == 0)
+        return false;
+    std::int16_t press = ascii;
+    m_widget.report(Notice::KeyPress, std::array<ArgRef, 1>{&press});
+    if (press != 0 && press != ascii)
+        m_replacement = std::make_unique<QKeyEvent>(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier,
+                                                    QString(QChar(static_cast<char16_t>(press))));
+    return press == 0;
+}
+
+void EventReports::after()
+{
+    switch (m_event.type()) {
+    case QEvent::FocusIn:
+        if (!std::exchange(m_widget.focusReported, true))
+            m_widget.report(Notice::GotFocus);
+        break;
+    case QEvent::FocusOut: focusLost(static_cast<QFocusEvent&>(m_event)); break;
+    case QEvent::KeyRelease: {
+        auto& key = static_cast<QKeyEvent&>(m_event);
+        std::int16_t code = codeOf(key);
+        std::int16_t shift = shiftOf(key.modifiers());
+        m_widget.report(Notice::KeyUp, std::array<ArgRef, 2>{&code, &shift});
+        break;
+    }
+    case QEvent::MouseButtonPress: mouse(Notice::MouseDown); break;
+    case QEvent::MouseMove: mouse(Notice::MouseMove); break;
+    case QEvent::MouseButtonDblClick:
+        m_widget.doubleClicked = true;
+        m_widget.report(Notice::DblClick);
+        break;
+    case QEvent::MouseButtonRelease: {
+        const auto& release = static_cast<QMouseEvent&>(m_event);
+        const bool inside = m_widget.qwidget().rect().contains(release.position().toPoint());
+        const bool second = std::exchange(m_widget.doubleClicked, false);
+        mouse(Notice::MouseUp);
+        if (release.button() == Qt::LeftButton && inside && !second && m_widget.reportsClicks())
+            m_widget.report(Notice::Click);
+        break;
+    }
+    case QEvent::ApplicationPaletteChange: m_widget.themeChanged(); break;
+    default: break;
+    }
+}
+
+void EventReports::focusLost(const QFocusEvent& focus)
+{
+    // A menu or another program over the window does not end the operator's work in the field.
+    const Qt::FocusReason reason = focus.reason();
+    if (reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason || !m_widget.focusReported)
+        return;
+    bool cancel = false;
+    const QPointer<QWidget> widget = &m_widget.qwidget();
+    m_widget.report(Notice::Validate, std::array<ArgRef, 1>{&cancel});
+    if (!widget)
+        return;
+    if (cancel) {
+        widget->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+    m_widget.focusReported = false;
+    m_widget.report(Notice::LostFocus);
+}
+
+void EventReports::mouse(Notice notice) const
+{
+    const auto& event = static_cast<QMouseEvent&>(m_event);
+    std::int16_t button = notice == Notice::MouseMove ? buttonsOf(event.buttons()) : buttonsOf(event.button());
+    std::int16_t shift = shiftOf(event.modifiers());
+    auto x = static_cast<float>(event.position().x() * kTwipsPerPixel);
+    auto y = static_cast<float>(event.position().y() * kTwipsPerPixel);
+    m_widget.report(notice, std::array<ArgRef, 4>{&button, &shift, &x, &y});
+}
+
+QWidget& widgetOf(const Widget& widget)
+{
+    return dynamic_cast<const QtWidget&>(widget).qwidget();
+}
+
+} // namespace zor::platform::qt

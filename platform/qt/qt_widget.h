@@ -1,0 +1,258 @@
+#pragma once
+
+/// What all widgets of the Qt platform share: the settings behind the interface, and the reports.
+
+#include "platform/qt/container.h"
+#include "platform/qt/looks.h"
+#include "platform/widgets.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPalette>
+#include <QPointer>
+#include <QWidget>
+
+#include <array>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace zor::platform::qt {
+
+/// Where a widget reports to.
+struct Context {
+    QtContainer* container;
+    WidgetListener* listener;
+    QWidget* surface;
+};
+
+/// What the platform needs of a widget without knowing its interface.
+class QtWidget {
+public:
+    QtWidget(const Context& context, int number) : m_context(context), m_number(number) {}
+    virtual ~QtWidget() = default;
+    QtWidget(const QtWidget&) = delete;
+    QtWidget& operator=(const QtWidget&) = delete;
+
+    [[nodiscard]] virtual QWidget& qwidget() const = 0;
+    [[nodiscard]] const Context& context() const noexcept { return m_context; }
+    /// Reports; what a handler throws goes to the container, never through Qt's event loop.
+    void report(Notice notice, EventArgs args = {}) const;
+    /// Whether a press and release is a Click; a widget that reports its changes as clicks says no.
+    [[nodiscard]] virtual bool reportsClicks() const { return true; }
+    /// The theme changed: colours that follow it are set anew.
+    virtual void themeChanged() = 0;
+
+    /// Whether the listener believes that the widget has the focus.
+    bool focusReported = false;
+    /// The release after a double click is no click of its own.
+    bool doubleClicked = false;
+
+private:
+    Context m_context;
+    int m_number;
+};
+
+/// Sends a widget's events through `QtWidget`: reports them, and lets handlers change or swallow keys.
+/// Returns true when the widget must not see the event; `after` is set to what is reported once it has.
+class EventReports {
+public:
+    EventReports(QtWidget& widget, QEvent& event) : m_widget(widget), m_event(event) {}
+
+    /// Before the widget handles the event. True: it is swallowed.
+    [[nodiscard]] bool before();
+    /// After the widget has handled it.
+    void after();
+    /// A key that a handler replaced by another character.
+    [[nodiscard]] QEvent* replacement() noexcept { return m_replacement.get(); }
+
+private:
+    [[nodiscard]] bool keyPressed(QKeyEvent& key);
+    void focusLost(const QFocusEvent& focus);
+    void mouse(Notice notice) const;
+
+    QtWidget& m_widget;
+    QEvent& m_event;
+    std::unique_ptr<QKeyEvent> m_replacement;
+};
+
+/// A Qt widget whose events are reported. `owner` is cleared when the interface object ends first.
+template <class Base>
+class Reporting : public Base {
+public:
+    using Base::Base;
+    QtWidget* owner = nullptr;
+
+    bool event(QEvent* event) override
+    {
+        if (owner == nullptr || !isOfInterest(event->type()))
+            return Base::event(event);
+        // The control may be destroyed by a handler; the Qt widget itself is deleted later then.
+        const Hold hold(*owner->context().listener);
+        EventReports reports(*owner, *event);
+        if (reports.before())
+            return true;
+        const bool handled = Base::event(reports.replacement() != nullptr ? reports.replacement() : event);
+        if (owner != nullptr)
+            reports.after();
+        // A press that nobody takes would go to the widget beneath, and its release with it.
+        return handled || dynamic_cast<QMouseEvent*>(event) != nullptr;
+    }
+
+private:
+    static bool isOfInterest(QEvent::Type type)
+    {
+        switch (type) {
+        case QEvent::FocusIn:
+        case QEvent::FocusOut:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove:
+        case QEvent::ApplicationPaletteChange: return true;
+        default: return false;
+        }
+    }
+};
+
+/// The interface's settings over a Qt widget of type Q.
+template <class Interface, class Q>
+class QtBase : public Interface, public QtWidget {
+public:
+    QtBase(const Context& context, int number, Colour backColour)
+        : QtWidget(context, number), m_widget(new Reporting<Q>(context.surface)), m_backColour(backColour)
+    {
+        m_widget->owner = this;
+    }
+    ~QtBase() override
+    {
+        m_widget->owner = nullptr;
+        m_widget->disconnect();
+        this->context().container->discard(*m_widget);
+    }
+    QtBase(const QtBase&) = delete;
+    QtBase& operator=(const QtBase&) = delete;
+
+    [[nodiscard]] Rect geometry() const override { return m_geometry; }
+    void setGeometry(const Rect& geometry) override
+    {
+        if (m_geometry == geometry)
+            return;
+        m_geometry = geometry;
+        m_widget->setGeometry(toPixels(m_geometry));
+    }
+    [[nodiscard]] bool isVisible() const override { return !m_widget->isHidden(); }
+    void setVisible(bool visible) override
+    {
+        if (isVisible() != visible)
+            m_widget->setVisible(visible);
+    }
+    [[nodiscard]] bool isEnabled() const override { return m_enabled; }
+    void setEnabled(bool enabled) override
+    {
+        if (std::exchange(m_enabled, enabled) != enabled)
+            m_widget->setEnabled(enabled);
+    }
+    [[nodiscard]] Colour backColour() const override { return m_backColour; }
+    void setBackColour(Colour colour) override
+    {
+        if (std::exchange(m_backColour, colour) != colour)
+            paintColours();
+    }
+    [[nodiscard]] std::string toolTip() const override { return m_toolTip; }
+    void setToolTip(std::string_view text) override
+    {
+        if (m_toolTip == text)
+            return;
+        m_toolTip = text;
+        m_widget->setToolTip(plainToolTip(m_toolTip));
+    }
+    void setAccessible(std::string_view name, std::string_view description) override
+    {
+        constexpr int kLimit = 500;
+        m_widget->setAccessibleName(shownText(name, kLimit));
+        m_widget->setAccessibleDescription(shownText(description, kLimit));
+    }
+
+    [[nodiscard]] QWidget& qwidget() const override { return *m_widget; }
+    void themeChanged() override { paintColours(); }
+
+protected:
+    [[nodiscard]] Reporting<Q>& widget() const { return *m_widget; }
+    virtual void paintColours()
+    {
+        QPalette palette;
+        palette.setColor(QPalette::Window, toQColor(m_backColour));
+        m_widget->setPalette(palette);
+        m_widget->setAutoFillBackground((m_backColour & kSystemColourBit) == 0);
+    }
+
+    Rect m_geometry;
+
+private:
+    Reporting<Q>* m_widget;
+    std::string m_toolTip;
+    Colour m_backColour;
+    bool m_enabled = true;
+};
+
+/// The same for a widget that writes text.
+template <class Interface, class Q>
+class QtFontBase : public QtBase<Interface, Q> {
+public:
+    using QtBase<Interface, Q>::QtBase;
+
+    [[nodiscard]] Colour foreColour() const override { return m_foreColour; }
+    void setForeColour(Colour colour) override
+    {
+        if (std::exchange(m_foreColour, colour) != colour)
+            this->paintColours();
+    }
+    [[nodiscard]] bool isBold() const override { return this->widget().font().bold(); }
+    void setBold(bool bold) override
+    {
+        if (isBold() != bold)
+            changeFont([bold](QFont& font) { font.setBold(bold); });
+    }
+    [[nodiscard]] bool isItalic() const override { return this->widget().font().italic(); }
+    void setItalic(bool italic) override
+    {
+        if (isItalic() != italic)
+            changeFont([italic](QFont& font) { font.setItalic(italic); });
+    }
+
+protected:
+    void paintColours() override
+    {
+        const QColor back = toQColor(this->backColour());
+        const QColor fore = readableOn(m_foreColour, back);
+        QPalette palette;
+        for (const auto role : {QPalette::Base, QPalette::Window})
+            palette.setColor(role, back);
+        for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+            palette.setColor(QPalette::Active, role, fore);
+            palette.setColor(QPalette::Inactive, role, fore);
+        }
+        this->widget().setPalette(palette);
+        this->widget().setAutoFillBackground((this->backColour() & kSystemColourBit) == 0);
+    }
+
+private:
+    template <class Change>
+    void changeFont(Change&& change)
+    {
+        QFont font = this->widget().font();
+        change(font);
+        this->widget().setFont(font);
+        fontChanged();
+    }
+    virtual void fontChanged() {}
+
+    Colour m_foreColour = ButtonText;
+};
+
+} // namespace zor::platform::qt

@@ -1,0 +1,114 @@
+#include "platform/qt/text_field.h"
+
+#include <limits>
+
+namespace zor::platform::qt {
+namespace {
+
+/// A line of more characters takes Qt longer to lay out than a person would wait.
+constexpr int kShownLimit = 32767;
+
+} // namespace
+
+QtTextField::QtTextField(const Context& context, int number) : QtFontBase(context, number, WindowBackground)
+{
+    widget().setMaxLength(std::numeric_limits<int>::max());
+    paintColours();
+    QObject::connect(&widget(), &QLineEdit::textChanged, &widget(), [this](const QString& text) {
+        if (m_setting)
+            return;
+        m_text = text.toStdString();
+        report(Notice::Change);
+    });
+}
+
+void QtTextField::setText(std::string_view text)
+{
+    if (m_text == text)
+        return;
+    m_text = text;
+    m_setting = true;
+    const QString shown = shownText(text, kShownLimit);
+    m_cut = shown.size() > kShownLimit;
+    widget().setText(shown);
+    widget().setCursorPosition(0);
+    m_setting = false;
+    applyLock();
+    report(Notice::Change);
+}
+
+void QtTextField::setLocked(bool locked)
+{
+    if (std::exchange(m_locked, locked) != locked)
+        applyLock();
+}
+
+void QtTextField::applyLock()
+{
+    // What is shown in part only cannot be edited: the rest would be lost.
+    if (widget().isReadOnly() != (m_locked || m_cut))
+        widget().setReadOnly(m_locked || m_cut);
+}
+
+void QtTextField::setAlignment(Alignment alignment)
+{
+    if (std::exchange(m_alignment, alignment) != alignment)
+        widget().setAlignment((alignment == Alignment::Right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+}
+
+std::size_t QtTextField::characters(qsizetype units) const
+{
+    std::size_t count = 0;
+    const QString text = widget().text();
+    for (qsizetype i = 0; i < units && i < text.size(); ++i)
+        count += text.at(i).isLowSurrogate() ? 0 : 1;
+    return count;
+}
+
+int QtTextField::units(std::size_t characters) const
+{
+    const QString text = widget().text();
+    qsizetype i = 0;
+    for (; characters > 0 && i < text.size(); --characters)
+        i += text.at(i).isHighSurrogate() && i + 1 < text.size() ? 2 : 1;
+    return static_cast<int>(i);
+}
+
+std::size_t QtTextField::selectionStart() const
+{
+    return characters(widget().hasSelectedText() ? widget().selectionStart() : widget().cursorPosition());
+}
+
+std::size_t QtTextField::selectionLength() const
+{
+    if (!widget().hasSelectedText())
+        return 0;
+    return characters(widget().selectionEnd()) - characters(widget().selectionStart());
+}
+
+void QtTextField::select(std::size_t start, std::size_t length)
+{
+    const int from = units(start);
+    const int to = length > std::numeric_limits<std::size_t>::max() - start ? from : units(start + length);
+    if (to == from)
+        widget().setCursorPosition(from);
+    else
+        widget().setSelection(from, to - from);
+    if (to == from)
+        widget().deselect();
+}
+
+void QtTextField::replaceSelection(std::string_view text)
+{
+    // The host may write where the operator may not; QLineEdit's insert() ignores the lock itself.
+    const QString before = widget().text();
+    m_setting = true;
+    widget().insert(shownText(text, std::numeric_limits<int>::max()));
+    m_setting = false;
+    if (widget().text() == before)
+        return;
+    m_text = widget().text().toStdString();
+    report(Notice::Change);
+}
+
+} // namespace zor::platform::qt

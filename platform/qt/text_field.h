@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/qt/qt_widget.h"
+
+#include <QLineEdit>
+
+namespace zor::platform::qt {
+
+/// A QLineEdit. The text is kept as it was given until the operator edits it, so that a text which Qt cannot
+/// show (invalid UTF-8, embedded NULs) comes back as it was.
+class QtTextField final : public QtFontBase<TextField, QLineEdit> {
+public:
+    QtTextField(const Context& context, int number);
+
+    [[nodiscard]] const std::string& text() const override { return m_text; }
+    void setText(std::string_view text) override;
+    [[nodiscard]] bool isLocked() const override { return m_locked; }
+    void setLocked(bool locked) override;
+    [[nodiscard]] Alignment alignment() const override { return m_alignment; }
+    void setAlignment(Alignment alignment) override;
+    [[nodiscard]] std::size_t selectionStart() const override;
+    [[nodiscard]] std::size_t selectionLength() const override;
+    void select(std::size_t start, std::size_t length) override;
+    [[nodiscard]] std::string selectedText() const override { return widget().selectedText().toStdString(); }
+    void replaceSelection(std::string_view text) override;
+    [[nodiscard]] bool hasFocus() const override { return focusReported; }
+
+private:
+    void applyLock();
+    [[nodiscard]] std::size_t characters(qsizetype units) const;
+    [[nodiscard]] int units(std::size_t characters) const;
+
+    std::string m_text;
+    Alignment m_alignment = Alignment::Left;
+    bool m_locked = false;
+    bool m_cut = false;
+    bool m_setting = false;
+};
+
+} // namespace zor::platform::qt

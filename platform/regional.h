@@ -1,0 +1,27 @@
+#pragma once
+
+/// The user's regional settings: which characters separate decimals and groups of digits.
+
+#include <string>
+
+namespace zor::platform {
+
+/// One setting for the process, because it belongs to the user and not to a call. Both separators are
+/// UTF-8 texts: some regions group with a narrow no-break space. The decimal separator is never empty;
+/// an empty grouping separator means that the region groups nothing.
+struct RegionalSettings {
+    std::string decimal = ".";
+    std::string group = ",";
+
+    bool operator==(const RegionalSettings&) const = default;
+};
+
+/// The settings in force. Read on the user-interface thread only.
+[[nodiscard]] const RegionalSettings& regionalSettings() noexcept;
+
+/// Replaces the settings, while running if need be; values already shown keep their text until they are
+/// shown anew. Raises InvalidCall when the decimal separator is empty, equals the grouping separator, or
+/// when either holds a digit, a sign, a blank at its ends (U+0020) or a letter E.
+void setRegionalSettings(RegionalSettings settings);
+
+} // namespace zor::platform

@@ -1,0 +1,111 @@
+#include "platform/variant.h"
+
+#include "platform/error.h"
+#include "platform/number_text.h"
+
+#include <cmath>
+#include <limits>
+
+namespace zor {
+namespace {
+
+double roundHalfEven(double value) noexcept
+{
+    const double below = std::floor(value);
+    const double rest = value - below;
+    if (rest > 0.5 || (rest == 0.5 && std::fmod(below, 2.0) != 0.0))
+        return below + 1.0;
+    return below;
+}
+
+template <class Integer>
+Integer roundTo(double value)
+{
+    const double rounded = roundHalfEven(value);
+    if (!(rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max()))
+        raiseError(ErrorNumber::Overflow);
+    return static_cast<Integer>(rounded);
+}
+
+template <class Integer>
+Integer toInteger(const Variant& value)
+{
+    if (const auto* small = std::get_if<std::int16_t>(&value.storage()))
+        return *small;
+    return roundTo<Integer>(value.toDouble());
+}
+
+} // namespace
+
+std::int32_t roundToInt32(double value)
+{
+    return roundTo<std::int32_t>(value);
+}
+
+std::int16_t roundToInt16(double value)
+{
+    return roundTo<std::int16_t>(value);
+}
+
+double Variant::number() const noexcept
+{
+    if (const auto* value = std::get_if<double>(&m_value))
+        return *value;
+    if (const auto* value = std::get_if<std::int32_t>(&m_value))
+        return *value;
+    if (const auto* value = std::get_if<std::int16_t>(&m_value))
+        return *value;
+    return 0.0;
+}
+
+double Variant::toDouble() const
+{
+    if (isNumber())
+        return number();
+    if (const auto* flag = std::get_if<bool>(&m_value))
+        return *flag ? -1.0 : 0.0;
+    if (const auto* string = std::get_if<std::string>(&m_value))
+        return platform::textToDouble(*string);
+    return 0.0;
+}
+
+bool Variant::toBoolean() const
+{
+    if (const auto* flag = std::get_if<bool>(&m_value))
+        return *flag;
+    if (isText() && (text() == "True" || text() == "False"))
+        return text() == "True";
+    return toDouble() != 0.0;
+}
+
+std::int16_t Variant::toInt16() const
+{
+    return toInteger<std::int16_t>(*this);
+}
+
+std::int32_t Variant::toInt32() const
+{
+    if (const auto* value = std::get_if<std::int32_t>(&m_value))
+        return *value;
+    return toInteger<std::int32_t>(*this);
+}
+
+std::string Variant::toText() const
+{
+    if (isText())
+        return text();
+    if (const auto* flag = std::get_if<bool>(&m_value))
+        return *flag ? "True" : "False";
+    if (isNumber())
+        return platform::doubleToText(number());
+    return {};
+}
+
+bool operator==(const Variant& left, const Variant& right) noexcept
+{
+    if (left.isNumber() && right.isNumber())
+        return left.number() == right.number();
+    return left.m_value == right.m_value;
+}
+
+} // namespace zor

@@ -1,0 +1,74 @@
+#pragma once
+
+/// Variant values: what properties, property bags and the console exchange.
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace zor {
+
+/// A value that is empty, a boolean, a 16- or 32-bit integer, a double or a UTF-8 string.
+///
+/// The to...() functions convert the way the platform converts between types: a boolean counts as -1 or 0
+/// as a number, a double becomes an integer by rounding halves to the even neighbour, a text is read with
+/// the user's separators, Empty is 0, False or "". What has no such reading raises TypeMismatch, what does
+/// not fit raises Overflow.
+class Variant {
+public:
+    using Storage = std::variant<std::monostate, bool, std::int16_t, std::int32_t, double, std::string>;
+
+    Variant() noexcept = default;
+    Variant(bool value) noexcept : m_value(value) {}
+    Variant(std::int16_t value) noexcept : m_value(value) {}
+    Variant(std::int32_t value) noexcept : m_value(value) {}
+    Variant(double value) noexcept : m_value(value) {}
+    Variant(std::string value) noexcept : m_value(std::move(value)) {}
+    Variant(std::string_view value) : m_value(std::string(value)) {}
+    Variant(const char* value) : m_value(std::string(value)) {}
+
+    [[nodiscard]] bool isEmpty() const noexcept { return holds<std::monostate>(); }
+    [[nodiscard]] bool isText() const noexcept { return holds<std::string>(); }
+    [[nodiscard]] bool isBoolean() const noexcept { return holds<bool>(); }
+    /// An integer or a double; a boolean and a numeric text are not.
+    [[nodiscard]] bool isNumber() const noexcept
+    {
+        return holds<std::int16_t>() || holds<std::int32_t>() || holds<double>();
+    }
+
+    template <class T>
+    [[nodiscard]] bool holds() const noexcept
+    {
+        return std::holds_alternative<T>(m_value);
+    }
+
+    [[nodiscard]] bool toBoolean() const;
+    [[nodiscard]] std::int16_t toInt16() const;
+    [[nodiscard]] std::int32_t toInt32() const;
+    [[nodiscard]] double toDouble() const;
+    /// Numbers as plain decimal text with the user's decimal separator; booleans as "True" and "False".
+    [[nodiscard]] std::string toText() const;
+    /// The string itself; only for a value that isText().
+    [[nodiscard]] const std::string& text() const noexcept { return *std::get_if<std::string>(&m_value); }
+    /// The number of a value that isNumber(), as a double.
+    [[nodiscard]] double number() const noexcept;
+
+    [[nodiscard]] const Storage& storage() const noexcept { return m_value; }
+    [[nodiscard]] Storage& storage() noexcept { return m_value; }
+
+    /// Equal values: numbers compare as numbers whatever their width (16-bit 3 equals double 3), texts byte
+    /// by byte, booleans with booleans, Empty with Empty. Anything else is unequal. A property bag leaves a
+    /// value out when it equals its default in this sense.
+    friend bool operator==(const Variant& left, const Variant& right) noexcept;
+
+private:
+    Storage m_value;
+};
+
+/// Rounds to the nearest whole number, halves to the even neighbour, whatever the floating-point mode;
+/// raises Overflow outside the type's range and for a value that is not a number.
+[[nodiscard]] std::int32_t roundToInt32(double value);
+[[nodiscard]] std::int16_t roundToInt16(double value);
+
+} // namespace zor

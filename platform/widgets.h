@@ -1,0 +1,226 @@
+#pragma once
+
+/// The widgets that controls are composed of, as small interfaces. Every length is in twips (1/1440 inch,
+/// 15 to the device-independent pixel). Every text is UTF-8 and shown as plain text, whatever is in it.
+///
+/// Setting a property of a widget reports what an operator's action would report where the function says
+/// "reports". Reports go to the WidgetListener the surface was created with.
+
+#include "platform/colour.h"
+#include "platform/notice.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace zor::platform {
+
+using Twips = double;
+
+struct Rect {
+    Twips left = 0;
+    Twips top = 0;
+    Twips width = 0;
+    Twips height = 0;
+
+    bool operator==(const Rect&) const = default;
+};
+
+/// What every widget has. A widget is created visible and enabled, unless its creator says otherwise.
+class Widget {
+public:
+    virtual ~Widget() = default;
+
+    [[nodiscard]] virtual Rect geometry() const = 0;
+    virtual void setGeometry(const Rect& geometry) = 0;
+    /// The widget's own setting; a widget on a hidden window still says true.
+    [[nodiscard]] virtual bool isVisible() const = 0;
+    virtual void setVisible(bool visible) = 0;
+    [[nodiscard]] virtual bool isEnabled() const = 0;
+    virtual void setEnabled(bool enabled) = 0;
+    [[nodiscard]] virtual Colour backColour() const = 0;
+    virtual void setBackColour(Colour colour) = 0;
+    [[nodiscard]] virtual std::string toolTip() const = 0;
+    virtual void setToolTip(std::string_view text) = 0;
+
+    /// What a screen reader says of the widget: which parameter it is, and its state in words.
+    virtual void setAccessible(std::string_view name, std::string_view description) = 0;
+
+    [[nodiscard]] Twips left() const { return geometry().left; }
+    [[nodiscard]] Twips top() const { return geometry().top; }
+    [[nodiscard]] Twips width() const { return geometry().width; }
+    [[nodiscard]] Twips height() const { return geometry().height; }
+};
+
+/// A widget that writes text.
+class FontWidget : public Widget {
+public:
+    [[nodiscard]] virtual Colour foreColour() const = 0;
+    virtual void setForeColour(Colour colour) = 0;
+    [[nodiscard]] virtual bool isBold() const = 0;
+    virtual void setBold(bool bold) = 0;
+    [[nodiscard]] virtual bool isItalic() const = 0;
+    virtual void setItalic(bool italic) = 0;
+};
+
+enum class Alignment : std::uint8_t { Left, Right };
+
+/// A one-line text field. Positions and lengths count characters.
+class TextField : public FontWidget {
+public:
+    [[nodiscard]] virtual const std::string& text() const = 0;
+    /// Replaces the text and reports Change when it differs from the old one; the caret goes to the start.
+    virtual void setText(std::string_view text) = 0;
+    /// Takes the operator's means of changing the text away, and nothing else.
+    [[nodiscard]] virtual bool isLocked() const = 0;
+    virtual void setLocked(bool locked) = 0;
+    [[nodiscard]] virtual Alignment alignment() const = 0;
+    virtual void setAlignment(Alignment alignment) = 0;
+    [[nodiscard]] virtual std::size_t selectionStart() const = 0;
+    [[nodiscard]] virtual std::size_t selectionLength() const = 0;
+    /// Both are cut to the text.
+    virtual void select(std::size_t start, std::size_t length) = 0;
+    [[nodiscard]] virtual std::string selectedText() const = 0;
+    /// Replaces the selection, or inserts at the caret, and reports Change when the text changed.
+    virtual void replaceSelection(std::string_view text) = 0;
+    [[nodiscard]] virtual bool hasFocus() const = 0;
+};
+
+/// A line of text whose width follows its caption; setGeometry() places it and its width is ignored.
+class Label : public FontWidget {
+public:
+    [[nodiscard]] virtual std::string caption() const = 0;
+    /// Reports Change when the caption differs from the old one.
+    virtual void setCaption(std::string_view caption) = 0;
+};
+
+/// A picture out of the shared image list.
+class Image : public Widget {
+public:
+    /// 1-based index into the image list of frm_Container, 0 for none.
+    [[nodiscard]] virtual int picture() const = 0;
+    virtual void setPicture(int index) = 0;
+};
+
+/// A pair of buttons around a whole number; one step is 1.
+class SpinButton : public Widget {
+public:
+    [[nodiscard]] virtual std::int32_t value() const = 0;
+    /// Cut to the limits. Reports Change when the value differs from the old one.
+    virtual void setValue(std::int32_t value) = 0;
+    [[nodiscard]] virtual std::int32_t minimum() const = 0;
+    [[nodiscard]] virtual std::int32_t maximum() const = 0;
+    /// A value outside the new limits is moved to the nearer one, with a report of Change.
+    virtual void setMinimum(std::int32_t minimum) = 0;
+    virtual void setMaximum(std::int32_t maximum) = 0;
+};
+
+/// A track with a handle at a whole position.
+class Track : public Widget {
+public:
+    [[nodiscard]] virtual std::int32_t value() const = 0;
+    /// Cut to the ends. Reports Change when the position differs from the old one.
+    virtual void setValue(std::int32_t value) = 0;
+    [[nodiscard]] virtual std::int32_t minimum() const = 0;
+    [[nodiscard]] virtual std::int32_t maximum() const = 0;
+    virtual void setMinimum(std::int32_t minimum) = 0;
+    virtual void setMaximum(std::int32_t maximum) = 0;
+    /// 0 ticks below the track, 1 above, 2 both, 3 none.
+    [[nodiscard]] virtual std::int16_t tickStyle() const = 0;
+    virtual void setTickStyle(std::int16_t style) = 0;
+    /// Positions from tick to tick, at least 1.
+    [[nodiscard]] virtual std::int32_t tickFrequency() const = 0;
+    virtual void setTickFrequency(std::int32_t frequency) = 0;
+    [[nodiscard]] virtual std::int32_t tickCount() const = 0;
+    [[nodiscard]] virtual bool hasFocus() const = 0;
+};
+
+/// What combo box and list box share: entries with a text and a 32-bit datum each.
+class EntryWidget : public FontWidget {
+public:
+    [[nodiscard]] virtual std::int32_t count() const = 0;
+    virtual void append(std::string_view text, std::int32_t datum) = 0;
+    virtual void remove(std::int32_t index) = 0;
+    virtual void clear() = 0;
+    [[nodiscard]] virtual std::string entryText(std::int32_t index) const = 0;
+    [[nodiscard]] virtual std::int32_t datum(std::int32_t index) const = 0;
+    /// The current position, -1 for none. Setting it reports Click when it differs from the old one.
+    [[nodiscard]] virtual std::int32_t current() const = 0;
+    virtual void setCurrent(std::int32_t index) = 0;
+    [[nodiscard]] virtual bool hasFocus() const = 0;
+};
+
+/// A drop-down list without typed text, unsorted.
+class ComboBox : public EntryWidget {
+public:
+    /// Takes the operator's means of choosing away; look and tooltip stay.
+    [[nodiscard]] virtual bool isLocked() const = 0;
+    virtual void setLocked(bool locked) = 0;
+    [[nodiscard]] virtual std::string selectedText() const = 0;
+};
+
+/// A list with a check mark per entry.
+class ListBox : public EntryWidget {
+public:
+    [[nodiscard]] virtual bool isSelected(std::int32_t index) const = 0;
+    /// Makes the entry the current one and reports Click when its mark changes.
+    virtual void setSelected(std::int32_t index, bool selected) = 0;
+    [[nodiscard]] virtual std::int32_t selectedCount() const = 0;
+};
+
+/// A check box or an option button: a caption and an on/off state.
+class ToggleButton : public FontWidget {
+public:
+    [[nodiscard]] virtual std::string caption() const = 0;
+    virtual void setCaption(std::string_view caption) = 0;
+    [[nodiscard]] virtual bool isOn() const = 0;
+    /// Reports Click when a check box changes, and when an option button becomes selected.
+    virtual void setOn(bool on) = 0;
+    [[nodiscard]] virtual bool hasFocus() const = 0;
+};
+
+class CheckBox : public ToggleButton {};
+class OptionButton : public ToggleButton {};
+
+struct MenuItem {
+    int widget;              ///< the number its choice is reported under, as Click
+    std::string_view name;   ///< its published name
+    std::string_view caption;
+};
+
+/// A pop-up menu that stays closed until it is popped up.
+class PopupMenu {
+public:
+    virtual ~PopupMenu() = default;
+    [[nodiscard]] virtual bool isOpen() const = 0;
+    [[nodiscard]] virtual std::span<const MenuItem> items() const = 0;
+    /// Opens at a point of the surface (twips). Never blocks; choosing an item reports Click under the item's
+    /// number and closes the menu.
+    virtual void popUp(Twips x, Twips y) = 0;
+    virtual void close() = 0;
+};
+
+/// The control's own area, parent of its widgets. Its geometry is in the container's twips; left and top are
+/// the container's business.
+class Surface : public Widget {
+public:
+    [[nodiscard]] virtual std::unique_ptr<TextField> createTextField(int widget) = 0;
+    [[nodiscard]] virtual std::unique_ptr<Label> createLabel(int widget) = 0;
+    [[nodiscard]] virtual std::unique_ptr<Image> createImage(int widget) = 0;
+    [[nodiscard]] virtual std::unique_ptr<SpinButton> createSpinButton(int widget) = 0;
+    [[nodiscard]] virtual std::unique_ptr<Track> createTrack(int widget) = 0;
+    [[nodiscard]] virtual std::unique_ptr<ComboBox> createComboBox(int widget) = 0;
+    [[nodiscard]] virtual std::unique_ptr<ListBox> createListBox(int widget) = 0;
+    [[nodiscard]] virtual std::unique_ptr<CheckBox> createCheckBox(int widget) = 0;
+    [[nodiscard]] virtual std::unique_ptr<OptionButton> createOptionButton(int widget) = 0;
+    /// The items must outlive the menu.
+    [[nodiscard]] virtual std::unique_ptr<PopupMenu> createMenu(std::span<const MenuItem> items) = 0;
+
+    /// Width of a text in the surface's font.
+    [[nodiscard]] virtual Twips textWidth(std::string_view text, bool bold) const = 0;
+};
+
+} // namespace zor::platform

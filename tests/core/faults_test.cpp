@@ -1,0 +1,106 @@
+// Errors leave nothing half written; bags and numbers are not trusted.
+
+#include "tests/core/text_box_fixture.h"
+
+#include <cstdint>
+#include <limits>
+
+namespace zor::tests {
+namespace {
+
+using platform::headless::MemoryPropertyBag;
+
+TEST_F(TextBoxTest, AWrongTypeInTheBagStopsTheReadingThere)
+{
+    MemoryPropertyBag bag;
+    bag.set("CFail", true);
+    bag.set("MaxLength", "many");
+    bag.set("DeviceTag", "read before the fault");
+    bag.set("WidthDifference", 700);
+    auto other = ctx_ZorTextBox::create(container);
+    EXPECT_EQ(errorOf([&] { other->readProperties(bag); }), 13);
+    EXPECT_TRUE(other->CFail());
+    EXPECT_EQ(other->DeviceTag(), "read before the fault");
+    EXPECT_EQ(other->MaxLength(), 10);
+    EXPECT_EQ(other->WidthDifference(), 1305) << "keys after the fault are not read";
+}
+
+TEST_F(TextBoxTest, AnEmptyBagGivesTheDefaultsAndUnknownKeysAreNobodysBusiness)
+{
+    MemoryPropertyBag bag;
+    bag.set("NoSuchKey", 12);
+    auto other = ctx_ZorTextBox::create(container);
+    other->readProperties(bag);
+    EXPECT_EQ(other->DeviceUnit(), LgthU_MM);
+    EXPECT_EQ(other->MsgDataChanged(), "Data Changed by other user ");
+    EXPECT_EQ(other->NumberOfDigits(), 3);
+}
+
+TEST_F(TextBoxTest, AnOverflowingConversionChangesNothing)
+{
+    box->DeviceValue(1234);
+    box->DeviceUnit(LgthU_Mtr);
+    EXPECT_EQ(errorOf([&] { box->DeviceValue(1e308); }), 6);
+    EXPECT_TRUE(box->DeviceValue() == Variant(1234));
+    EXPECT_EQ(text(), "123");
+    EXPECT_EQ(errorOf([&] { box->ModifiedValue(-1e308); }), 6);
+    EXPECT_EQ(errorOf([&] { box->MinValue(std::numeric_limits<double>::max()); }), 0);
+    EXPECT_EQ(errorOf([&] { box->DefaultUnit(LgthU_Mtr); }), 6);
+    EXPECT_EQ(box->DefaultUnit(), LgthU_MM);
+}
+
+TEST_F(TextBoxTest, AnEntryThatOverflowsIsNeverHandedBack)
+{
+    box->DeviceUnit(LgthU_1By10_MM);
+    box->OutputUnit(LgthU_Mtr);
+    box->InvalidEntryEnable(false);
+    box->DeviceValue(10);
+    const std::string huge = "9" + std::string(307, '0');
+    hands.type(field(), huge);
+    EXPECT_EQ(errorOf([&] { hands.blur(field()); }), 6);
+    EXPECT_TRUE(box->InvalidEntry());
+    EXPECT_TRUE(box->OutputValue() == Variant(10));
+}
+
+TEST_F(TextBoxTest, AnyIntegerMayArriveAsAnEnumerationOrANumber)
+{
+    for (const std::int32_t value : {-1, 14, 53, std::numeric_limits<std::int32_t>::max(),
+                                     std::numeric_limits<std::int32_t>::min()}) {
+        for (const char* name : {"UnitType", "DeviceUnit", "DefaultUnit", "EntryType", "RegisterType", "OutputUnit"})
+            box->setProperty(name, value);
+        box->DeviceValue(12);
+        const auto number = static_cast<std::int16_t>(value);
+        EXPECT_FALSE(box->fb_SetMessage(number, "x"));
+        EXPECT_EQ(box->fc_GetMessageID(number), "MSG_INVALIDENTRYTO");
+    }
+    EXPECT_EQ(errorOf([&] { box->setProperty("MaxLength", 70000); }), 6);
+    EXPECT_EQ(box->MaxLength(), 10);
+}
+
+TEST_F(TextBoxTest, LongAndBrokenTextsAreShownAsTheyAre)
+{
+    const std::string texts[] = {std::string(10 << 20, 'x'), std::string("a\0b", 3), "\xff\xfe\xc0\xaf",
+                                 std::string(400, '7')};
+    box->EntryType(Text);
+    for (const std::string& wanted : texts) {
+        box->DeviceValue(wanted);
+        EXPECT_TRUE(text() == wanted);
+        EXPECT_TRUE(box->OutputValue() == Variant(wanted));
+    }
+}
+
+TEST_F(TextBoxTest, DerivedPropertiesRefuseWritesAtRunTimeAndIgnoreThemAtDesignTime)
+{
+    box->DeviceValue(55);
+    for (const char* name : {"OutputValue", "MinParamValue", "MaxParamValue", "InvalidEntry"}) {
+        const Variant before = box->property(name);
+        container.setUserMode(true);
+        EXPECT_EQ(errorOf([&] { box->setProperty(name, 1); }), 383) << name;
+        container.setUserMode(false);
+        EXPECT_EQ(errorOf([&] { box->setProperty(name, 1); }), 0) << name;
+        EXPECT_TRUE(box->property(name) == before) << name;
+    }
+}
+
+} // namespace
+} // namespace zor::tests

@@ -1,0 +1,119 @@
+// What a host's handler may do inside an event without harm.
+
+#include "tests/core/text_box_fixture.h"
+
+#include <functional>
+#include <stdexcept>
+
+namespace zor::tests {
+namespace {
+
+struct Handler : __ctx_ZorTextBox {
+    void OutputValueChange() override
+    {
+        ++outputs;
+        if (onOutput)
+            onOutput();
+    }
+    void textChange() override { ++changes; }
+
+    std::function<void()> onOutput;
+    int outputs = 0;
+    int changes = 0;
+};
+
+TEST_F(TextBoxTest, AHandlerThatThrowsIsHeardOfAfterTheControlHasFinished)
+{
+    Handler thrower;
+    Handler witness;
+    thrower.onOutput = [] { throw std::domain_error("host"); };
+    box->subscribe(thrower);
+    box->subscribe(witness);
+    EXPECT_THROW(box->DeviceValue(1234), std::domain_error);
+    EXPECT_EQ(witness.outputs, 1) << "the other listener is heard all the same";
+    EXPECT_EQ(text(), "123");
+    EXPECT_TRUE(box->OutputValue() == Variant(1234));
+    EXPECT_FALSE(box->DataModified());
+    thrower.onOutput = nullptr;
+    EXPECT_NO_THROW(box->DeviceValue(10)) << "the old exception is not thrown again";
+    box->unsubscribe(thrower);
+    box->unsubscribe(witness);
+}
+
+TEST_F(TextBoxTest, AHandlerMayUnsubscribeItselfAndOthers)
+{
+    Handler first;
+    Handler second;
+    first.onOutput = [&] {
+        box->unsubscribe(first);
+        box->unsubscribe(second);
+    };
+    box->subscribe(first);
+    box->subscribe(second);
+    box->DeviceValue(10);
+    box->DeviceValue(20);
+    EXPECT_EQ(first.outputs, 1);
+    EXPECT_EQ(second.outputs, 0);
+}
+
+TEST_F(TextBoxTest, AHandlerAddedInsideAnEventHearsTheNextOne)
+{
+    Handler first;
+    Handler late;
+    first.onOutput = [&] {
+        if (first.outputs == 1)
+            box->subscribe(late);
+    };
+    box->subscribe(first);
+    box->DeviceValue(10);
+    EXPECT_EQ(late.outputs, 0);
+    box->DeviceValue(20);
+    EXPECT_EQ(late.outputs, 1);
+    box->unsubscribe(first);
+    box->unsubscribe(late);
+}
+
+TEST_F(TextBoxTest, AHandlerMayWriteTheValueAgain)
+{
+    Handler handler;
+    handler.onOutput = [&] {
+        if (handler.outputs == 1)
+            box->DeviceValue(500);
+    };
+    box->subscribe(handler);
+    box->DeviceValue(1234);
+    EXPECT_EQ(text(), "50");
+    EXPECT_TRUE(box->DeviceValue() == Variant(500));
+    box->unsubscribe(handler);
+}
+
+TEST_F(TextBoxTest, AHandlerMayDestroyTheControl)
+{
+    Handler handler;
+    Handler witness;
+    handler.onOutput = [&] { box.reset(); };
+    box->subscribe(handler);
+    box->subscribe(witness);
+    box->DeviceValue(1234);
+    EXPECT_EQ(box, nullptr);
+    EXPECT_EQ(witness.outputs, 0) << "a control that is gone says nothing more";
+}
+
+TEST_F(TextBoxTest, AKeystrokeMayDestroyTheControl)
+{
+    struct Destroyer : __ctx_ZorTextBox {
+        explicit Destroyer(core::ControlPtr<ctx_ZorTextBox>& box) : box(box) {}
+        void textKeyPress(std::int16_t& code) override
+        {
+            if (code == '2')
+                box.reset();
+        }
+        core::ControlPtr<ctx_ZorTextBox>& box;
+    } destroyer(box);
+    box->subscribe(destroyer);
+    EXPECT_EQ(hands.type(field(), "123"), platform::Refusal::None);
+    EXPECT_EQ(box, nullptr);
+}
+
+} // namespace
+} // namespace zor::tests

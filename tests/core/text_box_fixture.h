@@ -1,0 +1,44 @@
+#pragma once
+
+#include "controls/numeric/text_box/ctx_ZorTextBox.h"
+#include "platform/error.h"
+#include "platform/headless/container.h"
+#include "platform/headless/memory_bag.h"
+#include "platform/headless/operator.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace zor::tests {
+
+/// A text box on a headless form that runs.
+class TextBoxTest : public testing::Test {
+protected:
+    TextBoxTest()
+    {
+        box->initialiseProperties();
+        container.setUserMode(true);
+    }
+
+    [[nodiscard]] platform::TextField& field() { return dynamic_cast<platform::TextField&>(*box->widget(1)); }
+    [[nodiscard]] std::string text() { return field().text(); }
+
+    template <class Action>
+    static int errorOf(Action&& action)
+    {
+        try {
+            action();
+        } catch (const RunTimeError& error) {
+            return static_cast<int>(error.number());
+        }
+        return 0;
+    }
+
+    platform::headless::HeadlessContainer container;
+    platform::headless::HeadlessOperator hands{container};
+    core::ControlPtr<ctx_ZorTextBox> box = ctx_ZorTextBox::create(container);
+};
+
+} // namespace zor::tests

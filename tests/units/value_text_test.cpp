@@ -1,0 +1,117 @@
+#include "platform/error.h"
+#include "platform/number_text.h"
+#include "platform/regional.h"
+#include "units/mod_Common.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <charconv>
+#include <limits>
+#include <random>
+
+namespace zor {
+namespace {
+
+using platform::doubleToText;
+using platform::formatFixed;
+
+class ValueText : public testing::Test {
+protected:
+    ~ValueText() override { platform::setRegionalSettings({}); }
+};
+
+TEST_F(ValueText, RoundsHalfAwayFromZeroOnTheShortestDecimal)
+{
+    struct Row {
+        double value;
+        int decimals;
+        const char* text;
+    };
+    for (const auto& [value, decimals, text] :
+         {Row{1.005, 2, "1.01"}, Row{2.5, 0, "3"}, Row{-0.5, 0, "-1"}, Row{-0.04, 1, "-0.0"}, Row{0.0, 3, "0.000"},
+          Row{1234.5678, 3, "1234.568"}, Row{9.9996, 3, "10.000"}, Row{0.0005, 3, "0.001"}, Row{0.00049, 3, "0.000"},
+          Row{1e22, 1, "10000000000000000000000.0"}, Row{999999.5, 0, "1000000"}, Row{123.0, 2, "123.00"}})
+        EXPECT_EQ(formatFixed(value, decimals), text);
+    EXPECT_EQ(formatFixed(1e308, 3), "1" + std::string(308, '0') + ".000");
+    EXPECT_EQ(formatFixed(5e-324, 2), "0.00");
+    EXPECT_THROW(static_cast<void>(formatFixed(std::numeric_limits<double>::infinity(), 1)), RunTimeError);
+}
+
+TEST_F(ValueText, FollowsTheUnitAndForNumbersWithoutOneTheCaller)
+{
+    EXPECT_TRUE(fc_FormatValue(1234.5678, LgthU_MM, 3) == Variant("1235"));
+    EXPECT_TRUE(fc_FormatValue(3.7, NoneU, 0) == Variant("4"));
+    EXPECT_TRUE(fc_FormatValue(3.7, NoneU, -5) == Variant("4"));
+    EXPECT_TRUE(fc_FormatValue("3.7", NoneU, 3) == Variant("3.700"));
+    EXPECT_EQ(fc_FormatValue(1, NoneU, 32767).text().size(), 32769U);
+    for (const int unit : {-1, 53})
+        EXPECT_TRUE(fc_FormatValue(1, MEAS_TYPE{unit}, 1).isEmpty());
+    EXPECT_EQ(fc_GetUnitLabel(TempU_1By10_DegF), "1/10\u00B0F");
+}
+
+TEST_F(ValueText, PlainTextOfADouble)
+{
+    for (const auto& [value, text] :
+         {std::pair{0.1 + 0.2, "0.3"}, {1e15, "1E+15"}, {999999999999999.0, "999999999999999"}, {1e-4, "0.0001"},
+          {0.00001234, "1.234E-05"}, {-1.5e300, "-1.5E+300"}, {-0.0, "0"}, {123456789.0125, "123456789.0125"},
+          {9999999999999999.0, "1E+16"}})
+        EXPECT_EQ(doubleToText(value), text);
+}
+
+TEST_F(ValueText, WhatIsANumberDependsOnTheSeparators)
+{
+    const auto valid = [](std::string_view text) { return fb_IsValidNumber(text); };
+    for (const char* text : {"12", " -12.5 ", "+.5", "5.", "1e5", "1.5E3", "1E-400"})
+        EXPECT_TRUE(valid(text)) << text;
+    for (const char* text : {"", "abc", "1,234", "12-", "$5", "0x10", "inf", "nan", "1e", "1e5.0", "--1", ".", "1 2",
+                             "1E400", "e5", "1..2"})
+        EXPECT_FALSE(valid(text)) << text;
+    EXPECT_FALSE(valid(std::string_view("1\0002", 3)));
+    EXPECT_TRUE(valid(std::string(300, '7')));
+    EXPECT_FALSE(valid(std::string(400, '7'))) << "beyond a double";
+    EXPECT_TRUE(valid("0" + std::string(10 << 20, '0') + "1"));
+    platform::setRegionalSettings({",", "."});
+    EXPECT_TRUE(valid("12,5"));
+    EXPECT_FALSE(valid("1.000")) << "a thousand for one reader, one for the other";
+    EXPECT_EQ(formatFixed(0.5, 2), "0,50");
+    platform::setRegionalSettings({",", "\u202F"});
+    EXPECT_EQ(platform::textToDouble("1\u202F234,5"), 1234.5);
+}
+
+TEST_F(ValueText, RandomNumbersReadBackAsTheyWere)
+{
+    const unsigned seed = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937_64 random(seed);
+    for (int i = 0; i < 20'000; ++i) {
+        const auto value = std::bit_cast<double>(random());
+        if (!std::isfinite(value) || std::fabs(value) > 1e17 || std::fabs(value) < 1e-3)
+            continue;
+        const std::string text = formatFixed(value, 25);
+        double back = 0;
+        std::from_chars(text.data(), text.data() + text.size(), back);
+        ASSERT_EQ(back, value) << text;
+    }
+}
+
+TEST(DeviceSupport, VersionsAndTypes)
+{
+    EXPECT_EQ(fi_GetDeviceTypeIndex("TYPEA, TYPEB", "typeb "), 1);
+    EXPECT_EQ(fi_GetDeviceTypeIndex("TYPEA,TYPEB", "TYPEC"), -1);
+    EXPECT_EQ(fi_GetDeviceTypeIndex("  ", ""), 0);
+    EXPECT_EQ(fi_GetDeviceTypeIndex("G\u00C4RAT", "g\u00E4rat"), 0);
+    EXPECT_FALSE(fb_VersionNotSupported("1.5", "2.10", "2.3", 0));
+    EXPECT_TRUE(fb_VersionNotSupported("1.5", "2.10", "1.4", 0));
+    EXPECT_TRUE(fb_VersionNotSupported("1.0", "", "1.0", 1));
+    EXPECT_FALSE(fb_VersionNotSupported("1.0,,2.0", "", "0.1", 1));
+    EXPECT_TRUE(fb_VersionNotSupported("", "", "1.0", -1));
+    for (auto [version, padded] : {std::pair{std::string("1.5"), "01.05"}, {"2.1.3", "02.1.3"}, {".", "0.0"},
+                                   {"12", "12"}, {"", ""}, {"10.1", "10.01"}}) {
+        s_PadVersion(version);
+        EXPECT_EQ(version, padded);
+    }
+}
+
+} // namespace
+} // namespace zor

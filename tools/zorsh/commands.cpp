@@ -1,0 +1,282 @@
+// The commands of the console, as a table.
+
+#include "tools/zorsh/commands.h"
+
+#include "platform/error.h"
+#include "platform/headless/memory_bag.h"
+#include "platform/regional.h"
+#include "tools/zorsh/notation.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <limits>
+
+namespace zor::console {
+namespace {
+
+using platform::headless::MemoryPropertyBag;
+
+constexpr std::size_t kAny = std::numeric_limits<std::size_t>::max();
+
+/// KEY and VALUE of KEY=VALUE.
+std::pair<std::string_view, Variant> assignment(std::string_view word)
+{
+    const auto equals = word.find('=');
+    if (equals == std::string_view::npos || equals == 0)
+        raiseError(ErrorNumber::InvalidCall);
+    return {word.substr(0, equals), parseValue(word.substr(equals + 1))};
+}
+
+// --- The form
+
+void userMode(Session& session, const Call& call)
+{
+    if (call[0] != "on" && call[0] != "off")
+        raiseError(ErrorNumber::InvalidCall);
+    session.stage().setUserMode(call[0] == "on");
+}
+
+/// A separator stands in quotes, or bare where it is no quote itself.
+std::string separator(std::string_view word)
+{
+    return word.starts_with('"') ? parseValue(word).text() : std::string(word);
+}
+
+void locale(Session&, const Call& call)
+{
+    platform::setRegionalSettings(
+        {separator(call[0]), call.words.size() > 1 ? separator(call[1]) : std::string()});
+}
+
+void create(Session& session, const Call& call)
+{
+    session.create(session.classNamed(call[0]), call[1],
+                   [](core::Control& control) { control.initialiseProperties(); });
+}
+
+void restore(Session& session, const Call& call)
+{
+    const core::ClassInfo& info = session.classNamed(call[0]);
+    MemoryPropertyBag bag;
+    for (const std::string_view word : call.words.subspan(2)) {
+        const auto [key, value] = assignment(word);
+        bag.set(key, value);
+    }
+    session.create(info, call[1], [&](core::Control& control) { control.readProperties(bag); });
+}
+
+void clone(Session& session, const Call& call)
+{
+    MemoryPropertyBag bag;
+    core::Control& original = session.control(call[0]);
+    original.writeProperties(bag);
+    session.create(original.info(), call[1], [&](core::Control& control) { control.readProperties(bag); });
+}
+
+void printBag(Session& session, const Call& call)
+{
+    MemoryPropertyBag bag;
+    session.control(call[0]).writeProperties(bag);
+    for (const auto& [key, value] : bag.entries())
+        session.print(key + '=' + print(value));
+}
+
+void destroy(Session& session, const Call& call)
+{
+    session.destroy(call[0]);
+}
+
+void resize(Session& session, const Call& call)
+{
+    core::Control& control = session.control(call[0]);
+    const double width = parseValue(call[1]).toDouble();
+    const double height = parseValue(call[2]).toDouble();
+    constexpr double kLargest = 245745; // twips; a form of the platform goes no further
+    if (!(width >= 0 && height >= 0 && width <= kLargest && height <= kLargest))
+        raiseError(ErrorNumber::InvalidCall);
+    const platform::Hold hold(control);
+    platform::Rect area = control.surface().geometry();
+    area.width = width;
+    area.height = height;
+    control.surface().setGeometry(area);
+    control.resized();
+}
+
+void list(Session& session, const Call&)
+{
+    std::vector<const Session::Objects::value_type*> objects;
+    for (const auto& object : session.objects())
+        objects.push_back(&object);
+    std::ranges::sort(objects, {}, [](const auto* object) { return object->second.number; });
+    for (const auto* object : objects)
+        session.print(object->first + ' ' + std::string(object->second.control->info().name));
+}
+
+// --- The host
+
+void put(Session& session, const Call& call)
+{
+    const auto [object, member] = resolve(session, call[0]);
+    // A member that does not exist is reported before a value that cannot be read.
+    const core::PropertyRow* row = object.control->info().property(member);
+    if (row == nullptr)
+        raiseError(ErrorNumber::NoSuchMember);
+    object.control->put(*row, parseValue(call[1]));
+}
+
+void get(Session& session, const Call& call)
+{
+    session.print(print(read(session, call[0])));
+}
+
+void callMethod(Session& session, const Call& call)
+{
+    const auto [object, method] = resolve(session, call[0]);
+    if (object.control->info().method(method) == nullptr)
+        raiseError(ErrorNumber::NoSuchMember);
+    std::vector<Variant> values;
+    std::ranges::transform(call.words.subspan(1), std::back_inserter(values), parseValue);
+    const core::MethodResult result = object.control->call(method, values);
+    if (!std::holds_alternative<std::monostate>(result))
+        session.print(print(result));
+}
+
+void calculate(Session& session, const Call& call)
+{
+    session.print(print(evaluate(call.from(0), session)));
+}
+
+void addHandler(Recorder& recorder, const core::EventRow& event, const Call& call)
+{
+    if (call[1] == "run") {
+        if (call.words.size() < 3)
+            raiseError(ErrorNumber::WrongArguments);
+        return recorder.addHandler({event.name, 0, {}, std::string(call.from(2))});
+    }
+    const auto [name, value] = assignment(call[1]);
+    if (call.words.size() != 2)
+        raiseError(ErrorNumber::WrongArguments);
+    const auto names = std::span(event.arguments).first(event.argumentCount);
+    const auto argument = std::ranges::find(names, name);
+    if (argument == names.end())
+        raiseError(ErrorNumber::NoSuchMember);
+    recorder.addHandler({event.name, static_cast<std::size_t>(argument - names.begin()), value, {}});
+}
+
+void host(Session& session, const Call& call)
+{
+    const auto [object, eventName] = resolve(session, call[0]);
+    const core::EventRow* event = object.control->info().event(eventName);
+    if (event == nullptr)
+        raiseError(ErrorNumber::NoSuchMember);
+    if (call[1] != "off")
+        return addHandler(*object.recorder, *event, call);
+    if (call.words.size() != 2)
+        raiseError(ErrorNumber::WrongArguments);
+    object.recorder->removeHandlers(event->name);
+}
+
+void events(Session& session, const Call& call)
+{
+    session.print(session.object(call[0]).recorder->events.take());
+}
+
+void notices(Session& session, const Call& call)
+{
+    session.print(session.object(call[0]).recorder->notices.take());
+}
+
+void boxes(Session& session, const Call&)
+{
+    std::vector<std::string> shown = session.takeBoxes();
+    if (shown.empty())
+        shown.emplace_back("-");
+    for (std::string& box : shown)
+        session.print(std::move(box));
+}
+
+// --- The operator
+
+void operate(Session& session, const Call& call)
+{
+    const auto [object, widget] = resolve(session, call[0]);
+    act(session, *object.control, widget, call.words.subspan(1));
+}
+
+void menu(Session& session, const Call&)
+{
+    const platform::PopupMenu* open = session.stage().openMenu();
+    session.print(std::string(open == nullptr ? "none" : kMenuName));
+}
+
+// --- Help
+
+void describeClass(Session& session, const Call& call)
+{
+    describe(session, session.classNamed(call[0]));
+}
+
+void help(Session& session, const Call& call)
+{
+    if (call.words.empty()) {
+        for (const Command& command : commands())
+            session.print(std::string(command.usage));
+        return;
+    }
+    const auto command = std::ranges::find(commands(), call[0], &Command::name);
+    if (command == commands().end())
+        raiseError(ErrorNumber::InvalidCall);
+    session.print(std::string(command->usage));
+    session.print(std::string(command->help));
+}
+
+void quit(Session& session, const Call&)
+{
+    session.end();
+}
+
+constexpr std::array kCommands{
+    Command{"usermode", "usermode on|off", "run time or design time", 1, 1, userMode},
+    Command{"locale", "locale DECIMAL [GROUP]", "changes the user's separators; without GROUP nothing is grouped",
+            1, 2, locale},
+    Command{"new", "new CLASS NAME", "creates a control and initialises it", 2, 2, create},
+    Command{"restore", "restore CLASS NAME KEY=VALUE ...",
+            "creates a control and reads the keys; after an error the control stays, with what was read", 2, kAny,
+            restore},
+    Command{"clone", "clone NAME NEWNAME", "stores a control and restores another from it", 2, 2, clone},
+    Command{"bag", "bag NAME", "prints what a control stores", 1, 1, printBag},
+    Command{"destroy", "destroy NAME", "destroys a control", 1, 1, destroy},
+    Command{"size", "size NAME WIDTH HEIGHT", "the container resizes a control (twips)", 3, 3, resize},
+    Command{"put", "put NAME.PROPERTY VALUE", "the host writes a property", 2, 2, put},
+    Command{"get", "get NAME.PROPERTY or NAME.WIDGET.ASPECT", "prints a property, or what the operator sees", 1, 1,
+            get},
+    Command{"call", "call NAME.METHOD VALUE ...", "the host calls a method; prints its result", 1, kAny,
+            callMethod},
+    Command{"calc", "calc EXPRESSION", "evaluates + - * / ( ) over numbers and what get prints", 1, kAny,
+            calculate},
+    Command{"do", "do NAME.WIDGET ACTION ...", "the operator acts on a widget", 2, kAny, operate},
+    Command{"menu", "menu", "prints the menu that is open, or none", 0, 0, menu},
+    Command{"events", "events NAME",
+            "prints the events since it was last asked, or since the control stood on the form", 1, 1, events},
+    Command{"notices", "notices NAME",
+            "prints the properties notified since it was last asked, or since the control stood on the form", 1, 1,
+            notices},
+    Command{"boxes", "boxes", "prints the message boxes shown since it was last asked", 0, 0, boxes},
+    Command{"host", "host NAME.EVENT ARGUMENT=VALUE | run COMMAND | off", "what the host's handler does", 2, kAny,
+            host},
+    Command{"list", "list", "the controls on the form, oldest first", 0, 0, list},
+    Command{"describe", "describe CLASS", "a class's properties, methods, events, messages and widgets", 1, 1,
+            describeClass},
+    Command{"help", "help [COMMAND]", "the commands, or what one does", 0, 1, help},
+    Command{"quit", "quit", "ends the session, or this file", 0, 0, quit},
+};
+
+} // namespace
+
+std::span<const Command> commands() noexcept
+{
+    return kCommands;
+}
+
+} // namespace zor::console

@@ -1,0 +1,82 @@
+#include "tools/zorsh/qt_stage.h"
+
+#include "core/frm_Container.h"
+#include "platform/qt/container.h"
+#include "platform/qt/operator.h"
+
+#include <QApplication>
+#include <QWidget>
+
+#include <exception>
+#include <utility>
+
+namespace zor::console {
+namespace {
+
+constexpr int kFormWidth = 1024;
+constexpr int kFormHeight = 768;
+
+class QtStage final : public Stage {
+public:
+    QtStage()
+    {
+        m_container.onPropertyChanged = [this](platform::Component& component, std::string_view name) {
+            onPropertyChanged(component, name);
+        };
+        m_container.onMessage = [this](platform::Component&, const platform::MessageBox& box) { onMessage(box); };
+        m_container.onError = [this](std::exception_ptr error) {
+            if (!m_error)
+                m_error = std::move(error);
+        };
+        m_form.resize(kFormWidth, kFormHeight);
+        m_form.show();
+        m_form.activateWindow();
+        QtStage::settle();
+    }
+
+    platform::Container& container() override { return m_container; }
+    platform::Operator& hands() override { return m_operator; }
+    platform::PopupMenu* openMenu() override { return m_container.openMenu(); }
+    void setUserMode(bool userMode) override { m_container.setUserMode(userMode); }
+    void settle() override
+    {
+        QCoreApplication::processEvents();
+        // Widgets that are deleted later would otherwise wait for an event loop that never runs.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    void passOnError() override
+    {
+        if (m_error)
+            std::rethrow_exception(std::exchange(m_error, nullptr));
+    }
+
+private:
+    QWidget m_form;
+    platform::qt::QtContainer m_container{m_form, core::pictureData};
+    platform::qt::QtOperator m_operator{m_container};
+    std::exception_ptr m_error;
+};
+
+} // namespace
+
+std::shared_ptr<void> startQt()
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        // Qt tries the platforms of the list in turn: a display that cannot be reached is no display.
+        if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
+            qputenv("QT_QPA_PLATFORM", "wayland;xcb;offscreen");
+        else
+            qputenv("QT_QPA_PLATFORM", qEnvironmentVariableIsSet("DISPLAY") ? "xcb;offscreen" : "offscreen");
+    }
+    static int argc = 1;
+    static char name[] = "zorsh";
+    static char* argv[] = {name, nullptr};
+    return std::make_shared<QApplication>(argc, argv);
+}
+
+std::unique_ptr<Stage> qtStage()
+{
+    return std::make_unique<QtStage>();
+}
+
+} // namespace zor::console

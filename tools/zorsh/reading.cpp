@@ -1,0 +1,48 @@
+// From a name to what can be read there.
+
+#include "platform/error.h"
+#include "tools/zorsh/commands.h"
+#include "tools/zorsh/notation.h"
+
+#include <algorithm>
+
+namespace zor::console {
+
+std::string print(const Reading& reading)
+{
+    switch (reading.form) {
+    case Reading::Form::Colour: return printColour(static_cast<Colour>(reading.value.toInt32()));
+    case Reading::Form::Word: return reading.value.toText();
+    case Reading::Form::Value: break;
+    }
+    return print(reading.value);
+}
+
+std::pair<Session::Object&, std::string_view> resolve(Session& session, std::string_view path)
+{
+    const auto point = path.find('.');
+    Session::Object& object = session.object(path.substr(0, point));
+    if (point == std::string_view::npos || point + 1 == path.size())
+        raiseError(ErrorNumber::InvalidCall);
+    return {object, path.substr(point + 1)};
+}
+
+platform::Widget& widgetNamed(core::Control& control, std::string_view name)
+{
+    const auto row = std::ranges::find(control.info().widgets, name, &core::WidgetRow::name);
+    platform::Widget* widget = row == control.info().widgets.end() ? nullptr : control.widget(row->widget);
+    if (widget == nullptr)
+        raiseError(ErrorNumber::ObjectRequired);
+    return *widget;
+}
+
+Reading read(Session& session, std::string_view path)
+{
+    const auto [object, member] = resolve(session, path);
+    const auto point = member.find('.');
+    if (point == std::string_view::npos)
+        return {object.control->property(member)};
+    return aspect(widgetNamed(*object.control, member.substr(0, point)), member.substr(point + 1));
+}
+
+} // namespace zor::console

@@ -1,0 +1,91 @@
+#include "tools/zorsh/recorder.h"
+
+#include "tools/zorsh/notation.h"
+#include "tools/zorsh/session.h"
+
+#include <algorithm>
+
+namespace zor::console {
+namespace {
+
+constexpr std::size_t kMostKept = 1'000'000;
+
+void setArgument(const platform::ArgRef& argument, const Variant& value)
+{
+    std::visit(
+        [&](auto* target) {
+            using T = std::remove_pointer_t<decltype(target)>;
+            if constexpr (std::is_same_v<T, bool>)
+                *target = value.toBoolean();
+            else if constexpr (std::is_same_v<T, std::int16_t>)
+                *target = value.toInt16();
+            else if constexpr (std::is_same_v<T, std::int32_t>)
+                *target = value.toInt32();
+            else if constexpr (std::is_same_v<T, float>)
+                *target = static_cast<float>(value.toDouble());
+            else
+                *target = value.toText();
+        },
+        argument);
+}
+
+} // namespace
+
+void Log::add(std::string item)
+{
+    if (m_items.size() < kMostKept)
+        m_items.push_back(std::move(item));
+    else
+        m_isCut = true;
+}
+
+std::string Log::take()
+{
+    std::string line;
+    for (const std::string& item : m_items)
+        line.append(line.empty() ? "" : " ").append(item);
+    if (m_isCut)
+        line += " ...";
+    m_items.clear();
+    m_isCut = false;
+    return line.empty() ? "-" : line;
+}
+
+void Recorder::detach() noexcept
+{
+    if (m_control != nullptr)
+        m_control->unsubscribe(*this);
+    m_control = nullptr;
+}
+
+void Recorder::addHandler(Handler handler)
+{
+    m_handlers.push_back(std::make_shared<const Handler>(std::move(handler)));
+}
+
+void Recorder::removeHandlers(std::string_view event)
+{
+    std::erase_if(m_handlers, [&](const auto& handler) { return handler->event == event; });
+}
+
+void Recorder::event(core::Control& /*control*/, const core::EventRow& row, platform::EventArgs args)
+{
+    events.add(printEvent(row.name, args));
+    if (m_handlers.empty())
+        return;
+    // A command may take handlers away, add some, or destroy the control: the rest of the handler runs.
+    const std::shared_ptr<Recorder> self = shared_from_this();
+    const Handlers before = m_handlers;
+    for (const auto& handler : before) {
+        if (handler->event != row.name)
+            continue;
+        if (std::ranges::find(m_handlers, handler) == m_handlers.end())
+            continue;
+        if (handler->command.empty())
+            m_session.guard([&] { setArgument(args[handler->argument], handler->value); });
+        else
+            m_session.runInside(handler->command);
+    }
+}
+
+} // namespace zor::console

@@ -1,0 +1,152 @@
+#include "tools/zorsh/script.h"
+
+#include "tools/zorsh/notation.h"
+
+#include <algorithm>
+#include <istream>
+#include <ostream>
+
+namespace zor::console {
+namespace {
+
+constexpr std::string_view kHexDigits = "0123456789ABCDEFabcdef";
+constexpr std::string_view kDigits = "0123456789";
+constexpr std::string_view kErrorWord = "error ";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::size_t kColourLength = 7;
+
+/// What stands behind "=", in canonical spelling. A colour starts like a comment and is none.
+std::string expectedText(std::string_view text)
+{
+    const auto start = text.find_first_not_of(" \t\r");
+    const std::string_view word = start == std::string_view::npos ? std::string_view{} : text.substr(start);
+    if (!word.starts_with('#'))
+        return canonical(withoutComment(text));
+    std::string colour(word.substr(0, kColourLength));
+    const bool isColour = colour.size() == kColourLength &&
+                          colour.find_first_not_of(kHexDigits, 1) == std::string::npos &&
+                          withoutComment(word.substr(kColourLength)).empty();
+    if (!isColour)
+        return {};
+    std::ranges::transform(colour, colour.begin(),
+                           [](char c) { return c >= 'a' && c <= 'f' ? static_cast<char>(c - 'a' + 'A') : c; });
+    return colour;
+}
+
+bool matches(std::string_view expected, const OutputLine& came)
+{
+    const std::string text = canonical(came.text);
+    if (expected == text)
+        return true;
+    // The text of an error is for people; its number alone is enough.
+    const bool isNumberOnly = expected.starts_with(kErrorWord) && expected.size() > kErrorWord.size() &&
+                              expected.find_first_not_of(kDigits, kErrorWord.size()) == std::string_view::npos;
+    return came.isError && isNumberOnly && text.starts_with(expected) && text[expected.size()] == ' ';
+}
+
+/// A failure is read by a person: what is longer than a screen is cut.
+std::string_view shortened(std::string_view text)
+{
+    constexpr std::size_t kMost = 2000;
+    return text.substr(0, kMost);
+}
+
+} // namespace
+
+Script::Script(Session& session, std::string name, ScriptOptions options, std::ostream& output,
+               std::ostream& failures)
+    : m_session(session), m_name(std::move(name)), m_options(options), m_output(output), m_failures(failures)
+{}
+
+bool Script::feed(std::string_view line)
+{
+    if (++m_line == 1 && line.starts_with(kByteOrderMark))
+        line.remove_prefix(kByteOrderMark.size());
+    const std::string_view content = withoutComment(line);
+    if (content.empty())
+        return true;
+    if (content.front() == '=') {
+        // From the whole line: a colour would have been taken for a comment.
+        expect(line.substr(line.find('=') + 1));
+        return true;
+    }
+    if (m_session.hasEnded())
+        return false;
+    judge();
+    m_commandLine = m_line;
+    m_came = m_session.run(content);
+    if (m_options.echoAll) {
+        for (const OutputLine& came : m_came)
+            m_output << came.text << '\n';
+        m_output.flush();
+    }
+    return !(m_session.hasEnded() && m_options.echoAll);
+}
+
+void Script::feedAll(std::istream& input)
+{
+    std::string line;
+    while (std::getline(input, line) && feed(line))
+        ;
+    finish();
+}
+
+void Script::finish()
+{
+    judge();
+    m_commandLine = 0;
+}
+
+void Script::expect(std::string_view text)
+{
+    m_expected.push_back({expectedText(text), m_line});
+    if (m_commandLine == 0) {
+        fail(m_line, "a command in front of this line", "none");
+        m_expected.clear();
+    }
+}
+
+void Script::judge()
+{
+    if (!m_expected.empty()) {
+        ++m_expectationCount;
+        if (m_expected.size() == 1 && m_expected.front().text.empty() && m_came.empty())
+            m_expected.clear();
+        else
+            compare();
+    } else {
+        const auto error = std::ranges::find(m_came, true, &OutputLine::isError);
+        if (!m_options.echoAll) {
+            for (const OutputLine& came : m_came)
+                m_output << came.text << '\n';
+        }
+        if (error != m_came.end() && !m_options.errorsAllowed)
+            fail(m_commandLine, "no error", error->text);
+    }
+    m_expected.clear();
+    m_came.clear();
+}
+
+void Script::compare()
+{
+    const bool expectsNothing = m_expected.size() == 1 && m_expected.front().text.empty();
+    const std::size_t expectedCount = expectsNothing ? 0 : m_expected.size();
+    for (std::size_t i = 0; i < std::max(expectedCount, m_came.size()); ++i) {
+        if (i >= expectedCount)
+            return fail(m_expected.back().line, i == 0 ? "nothing" : "no further line", m_came[i].text);
+        if (i >= m_came.size())
+            return fail(m_expected[i].line, m_expected[i].text, "nothing");
+        if (!matches(m_expected[i].text, m_came[i]))
+            return fail(m_expected[i].line, m_expected[i].text, m_came[i].text);
+    }
+}
+
+void Script::fail(int line, std::string_view expected, std::string_view got)
+{
+    ++m_failureCount;
+    m_output.flush();
+    m_failures << m_name << ':' << line << ": expected " << shortened(expected) << " got " << shortened(got)
+               << '\n';
+}
+
+} // namespace zor::console

@@ -1,0 +1,206 @@
+#include "tools/zorsh/session.h"
+
+#include "controls/registration.h"
+#include "platform/error.h"
+#include "tools/zorsh/commands.h"
+#include "tools/zorsh/notation.h"
+
+#include <algorithm>
+#include <array>
+#include <new>
+
+namespace zor::console {
+namespace {
+
+/// How deep handlers may run commands that raise events that run handlers.
+constexpr int kDeepest = 50;
+constexpr int kOutOfStackSpace = 28;
+constexpr int kOutOfMemory = 7;
+
+constexpr std::string_view kNotInNames = " \t.=\"()[]+-*/,#";
+
+std::string_view boxIconName(platform::BoxIcon icon)
+{
+    constexpr std::array<std::string_view, 3> kNames{"critical", "information", "exclamation"};
+    return kNames[static_cast<std::size_t>(icon)];
+}
+
+bool isName(std::string_view text)
+{
+    return !text.empty() && text.find_first_of(kNotInNames) == std::string_view::npos &&
+           !(text[0] >= '0' && text[0] <= '9');
+}
+
+} // namespace
+
+Session::Session(std::unique_ptr<Stage> stage) : m_stage(std::move(stage))
+{
+    registerControls(m_registry);
+    m_stage->onPropertyChanged = [this](platform::Component& component, std::string_view name) {
+        if (const auto at = m_recorders.find(&component); at != m_recorders.end())
+            at->second->notices.add(std::string(name));
+    };
+    m_stage->onMessage = [this](const platform::MessageBox& box) {
+        m_boxes.push_back(std::string(boxIconName(box.icon)) + ' ' + printText(box.title) + ' ' +
+                          printText(box.text));
+    };
+}
+
+Session::~Session()
+{
+    while (!m_objects.empty())
+        destroy(std::string(m_objects.begin()->first));
+    m_stage->settle();
+}
+
+std::vector<OutputLine> Session::run(std::string_view line)
+{
+    m_output.clear();
+    m_isRunaway = false;
+    runInside(line);
+    m_stage->settle();
+    guard([this] { m_stage->passOnError(); });
+    return std::exchange(m_output, {});
+}
+
+void Session::runInside(std::string_view line)
+{
+    // Once too deep, nothing more is run until the outermost command has ended: two handlers that call each
+    // other twice would otherwise go on for 2^50 commands.
+    if (m_isRunaway)
+        return;
+    struct Depth {
+        explicit Depth(int& depth) noexcept : depth(depth) { ++depth; }
+        ~Depth() { --depth; }
+        Depth(const Depth&) = delete;
+        Depth& operator=(const Depth&) = delete;
+        int& depth;
+    } const depth(m_depth);
+    if (m_depth > kDeepest) {
+        m_isRunaway = true;
+        return printError(kOutOfStackSpace, "handlers run commands that raise events without end");
+    }
+    guard([&] { dispatch(line); });
+}
+
+void Session::guard(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const RunTimeError& error) {
+        printError(static_cast<int>(error.number()), error.what());
+    } catch (const std::bad_alloc&) {
+        printError(kOutOfMemory, "out of memory");
+    } catch (const std::exception& error) {
+        printError(static_cast<int>(ErrorNumber::InvalidCall), error.what());
+    }
+}
+
+void Session::dispatch(std::string_view line)
+{
+    line = withoutComment(line);
+    const std::vector<std::string_view> parts = words(line);
+    if (parts.empty())
+        return;
+    const auto command = std::ranges::find(commands(), parts.front(), &Command::name);
+    if (command == commands().end())
+        raiseError(ErrorNumber::InvalidCall);
+    const auto arguments = std::span(parts).subspan(1);
+    if (arguments.size() < command->least || arguments.size() > command->most)
+        raiseError(ErrorNumber::WrongArguments);
+    command->run(*this, {arguments, line});
+    m_stage->passOnError();
+}
+
+void Session::printError(int number, std::string_view text)
+{
+    m_output.push_back({"error " + std::to_string(number) + ' ' + std::string(text), true});
+}
+
+// --- Controls by name
+
+Session::Object& Session::object(std::string_view name)
+{
+    const auto at = m_objects.find(name);
+    if (at == m_objects.end())
+        raiseError(ErrorNumber::ObjectRequired);
+    return at->second;
+}
+
+const core::ClassInfo& Session::classNamed(std::string_view name) const
+{
+    const core::ClassInfo* info = m_registry.find(name);
+    if (info == nullptr)
+        raiseError(ErrorNumber::ObjectRequired);
+    return *info;
+}
+
+void Session::create(const core::ClassInfo& info, std::string_view name,
+                     const std::function<void(core::Control&)>& prepare)
+{
+    if (!isName(name) || m_objects.contains(name))
+        raiseError(ErrorNumber::InvalidCall);
+    core::ControlPtr<> created = info.create(m_stage->container());
+    core::Control& control = *created;
+    Object& object = m_objects.emplace(name, Object{std::move(created), nullptr, m_created++}).first->second;
+    // The host connects itself once the control stands: what came before is not its business. A control whose
+    // stored properties could not be read stays on the form, so that it can be looked at.
+    const auto connect = [&] {
+        object.recorder = std::make_shared<Recorder>(*this, control);
+        m_recorders.emplace(&control, object.recorder);
+    };
+    try {
+        prepare(control);
+    } catch (...) {
+        connect();
+        throw;
+    }
+    connect();
+}
+
+void Session::destroy(std::string_view name)
+{
+    const auto at = m_objects.find(name);
+    if (at == m_objects.end())
+        raiseError(ErrorNumber::ObjectRequired);
+    // The name is free before the control ends, whatever its end brings about.
+    const Object object = std::move(at->second);
+    m_objects.erase(at);
+    m_recorders.erase(object.control.get());
+    if (object.recorder)
+        object.recorder->detach();
+}
+
+// --- Completion
+
+std::vector<std::string> Session::completions(std::string_view word) const
+{
+    std::vector<std::string> found;
+    const auto offer = [&](std::string name) {
+        if (name.starts_with(word))
+            found.push_back(std::move(name));
+    };
+    const auto point = word.find('.');
+    if (point == std::string_view::npos) {
+        for (const Command& command : commands())
+            offer(std::string(command.name));
+        for (const core::ClassInfo* info : m_registry.classes())
+            offer(std::string(info->name));
+        for (const auto& [name, object] : m_objects)
+            offer(name + '.');
+    } else if (const auto at = m_objects.find(word.substr(0, point)); at != m_objects.end()) {
+        const core::ClassInfo& info = at->second.control->info();
+        const std::string prefix = at->first + '.';
+        for (const core::PropertyRow* row : info.properties)
+            offer(prefix + std::string(row->name));
+        for (const core::MethodRow& row : info.methods)
+            offer(prefix + std::string(row.name));
+        for (const core::WidgetRow& row : info.widgets)
+            offer(prefix + std::string(row.name));
+        for (const core::EventRow& row : info.events)
+            offer(prefix + std::string(row.name));
+    }
+    return found;
+}
+
+} // namespace zor::console

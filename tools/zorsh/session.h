@@ -1,0 +1,90 @@
+#pragma once
+
+/// A form, its controls by name, and the commands that work on them.
+
+#include "core/control.h"
+#include "tools/zorsh/recorder.h"
+#include "tools/zorsh/stage.h"
+
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace zor::console {
+
+/// One line that a command printed.
+struct OutputLine {
+    std::string text;
+    bool isError = false;
+};
+
+/// Runs commands. An error is a line "error NUMBER text" of the command's output.
+class Session {
+public:
+    explicit Session(std::unique_ptr<Stage> stage);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    /// Runs one line and returns what it printed. Never throws for what is in the line.
+    [[nodiscard]] std::vector<OutputLine> run(std::string_view line);
+    /// After `quit`.
+    [[nodiscard]] bool hasEnded() const noexcept { return m_ended; }
+
+    /// Words that start like this one: commands, classes, controls, their members and widgets.
+    [[nodiscard]] std::vector<std::string> completions(std::string_view word) const;
+
+    /// @name For the commands
+    /// @{
+    struct Object {
+        core::ControlPtr<> control;
+        std::shared_ptr<Recorder> recorder;
+        std::size_t number = 0; ///< order of creation
+    };
+    using Objects = std::map<std::string, Object, std::less<>>;
+
+    void print(std::string line) { m_output.push_back({std::move(line), false}); }
+    /// Runs a command inside another; its output joins the other's.
+    void runInside(std::string_view line);
+    /// Runs something and prints the error it raises.
+    void guard(const std::function<void()>& action);
+
+    /// Raises ObjectRequired for a name that is none.
+    [[nodiscard]] Object& object(std::string_view name);
+    [[nodiscard]] core::Control& control(std::string_view name) { return *object(name).control; }
+    [[nodiscard]] const core::ClassInfo& classNamed(std::string_view name) const;
+    /// Creates a control under a new name; `prepare` initialises or reads it.
+    void create(const core::ClassInfo& info, std::string_view name,
+                const std::function<void(core::Control&)>& prepare);
+    void destroy(std::string_view name);
+
+    [[nodiscard]] const Objects& objects() const noexcept { return m_objects; }
+    [[nodiscard]] Stage& stage() noexcept { return *m_stage; }
+    /// The message boxes shown since the last call.
+    [[nodiscard]] std::vector<std::string> takeBoxes() { return std::exchange(m_boxes, {}); }
+    void end() noexcept { m_ended = true; }
+    /// @}
+
+private:
+    void dispatch(std::string_view line);
+    void printError(int number, std::string_view text);
+
+    std::unique_ptr<Stage> m_stage;
+    core::ClassRegistry m_registry;
+    Objects m_objects;
+    std::map<const platform::Component*, std::shared_ptr<Recorder>> m_recorders;
+    std::vector<OutputLine> m_output;
+    std::vector<std::string> m_boxes;
+    std::size_t m_created = 0;
+    int m_depth = 0;
+    bool m_isRunaway = false;
+    bool m_ended = false;
+};
+
+} // namespace zor::console
