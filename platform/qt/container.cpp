@@ -66,19 +66,16 @@ private:
             const QString caption = QString::fromUtf8(item.caption.data(), static_cast<qsizetype>(item.caption.size()));
             QObject::connect(m_menu->addAction(caption), &QAction::triggered, m_menu, [this, number = item.widget] {
                 const Context context = m_context;
-                const Hold hold(*context.listener);
+                const EventScope scope(context);
                 closed();
-                ++context.container->eventDepth;
                 try {
                     context.listener->notice(number, Notice::Click, {});
                 } catch (...) {
                     context.container->failed(std::current_exception());
                 }
-                --context.container->eventDepth;
             });
         }
-        // Choosing an item hides the menu before it is triggered: the menu counts as open until then.
-        QObject::connect(m_menu, &QMenu::aboutToHide, m_menu, [this] { closed(); }, Qt::QueuedConnection);
+        QObject::connect(m_menu, &QMenu::aboutToHide, m_menu, [this] { closed(); });
     }
 
     Context m_context;
@@ -213,6 +210,8 @@ void QtContainer::failed(std::exception_ptr error)
 
 void QtContainer::discard(QWidget& widget)
 {
+    // Qt would hand the focus of a widget that disappears to its neighbour, which nobody has entered.
+    widget.clearFocus();
     if (eventDepth == 0) {
         delete &widget;
         return;

@@ -100,7 +100,7 @@ Refusal QtOperator::focus(Widget& widget)
 {
     if (!takesFocus(widget))
         raiseError(ErrorNumber::NoSuchMember);
-    const Hold hold(*base(widget).context().listener);
+    const EventScope scope(base(widget).context());
     bool there = false;
     return approach(widget, there);
 }
@@ -109,7 +109,7 @@ Refusal QtOperator::blur(Widget& widget)
 {
     if (!takesFocus(widget))
         raiseError(ErrorNumber::NoSuchMember);
-    const Hold hold(*base(widget).context().listener);
+    const EventScope scope(base(widget).context());
     if (PopupMenu* menu = m_container.openMenu())
         menu->close();
     if (base(widget).focusReported)
@@ -119,7 +119,7 @@ Refusal QtOperator::blur(Widget& widget)
 
 Refusal QtOperator::pointer(Widget& widget, Pointer action)
 {
-    const Hold hold(*base(widget).context().listener);
+    const EventScope scope(base(widget).context());
     bool there = false;
     const Refusal refusal = approach(widget, there);
     if (!there)
@@ -140,7 +140,7 @@ Refusal QtOperator::pointer(Widget& widget, Pointer action)
 
 Refusal QtOperator::type(TextField& field, std::string_view text)
 {
-    const Hold hold(*base(field).context().listener);
+    const EventScope scope(base(field).context());
     bool there = false;
     Refusal refusal = reach(field);
     if (refusal == Refusal::None && field.isLocked())
@@ -161,7 +161,7 @@ Refusal QtOperator::type(TextField& field, std::string_view text)
 
 Refusal QtOperator::paste(TextField& field, std::string_view text)
 {
-    const Hold hold(*base(field).context().listener);
+    const EventScope scope(base(field).context());
     bool there = false;
     Refusal refusal = reach(field);
     if (refusal == Refusal::None && field.isLocked())
@@ -176,7 +176,7 @@ Refusal QtOperator::paste(TextField& field, std::string_view text)
 
 Refusal QtOperator::select(TextField& field, std::size_t start, std::size_t length)
 {
-    const Hold hold(*base(field).context().listener);
+    const EventScope scope(base(field).context());
     bool there = false;
     const Refusal refusal = approach(field, there);
     if (there)
@@ -188,7 +188,7 @@ Refusal QtOperator::key(Widget& widget, std::int16_t code)
 {
     if (!takesFocus(widget))
         raiseError(ErrorNumber::NoSuchMember);
-    const Hold hold(*base(widget).context().listener);
+    const EventScope scope(base(widget).context());
     bool there = false;
     const Refusal refusal = approach(widget, there);
     if (there)
@@ -198,7 +198,7 @@ Refusal QtOperator::key(Widget& widget, std::int16_t code)
 
 Refusal QtOperator::spin(SpinButton& button, bool up)
 {
-    const Hold hold(*base(button).context().listener);
+    const EventScope scope(base(button).context());
     const Refusal refusal = reach(button);
     if (refusal == Refusal::None) {
         QWidget& target = dynamic_cast<QtSpinButton&>(button).button(up);
@@ -209,7 +209,7 @@ Refusal QtOperator::spin(SpinButton& button, bool up)
 
 Refusal QtOperator::moveTo(Track& track, std::int32_t position)
 {
-    const Hold hold(*base(track).context().listener);
+    const EventScope scope(base(track).context());
     bool there = false;
     const Refusal refusal = approach(track, there);
     if (there) {
@@ -227,7 +227,7 @@ Refusal QtOperator::moveTo(Track& track, std::int32_t position)
 
 Refusal QtOperator::dropDown(ComboBox& box)
 {
-    const Hold hold(*base(box).context().listener);
+    const EventScope scope(base(box).context());
     bool there = false;
     Refusal refusal = reach(box);
     if (refusal == Refusal::None && box.isLocked())
@@ -239,7 +239,7 @@ Refusal QtOperator::dropDown(ComboBox& box)
 
 Refusal QtOperator::choose(ComboBox& box, std::int32_t index)
 {
-    const Hold hold(*base(box).context().listener);
+    const EventScope scope(base(box).context());
     static_cast<void>(box.entryText(index));
     const Refusal refusal = dropDown(box);
     if (refusal == Refusal::None && base(box).focusReported) {
@@ -256,7 +256,7 @@ Refusal QtOperator::choose(ComboBox& box, std::int32_t index)
 
 Refusal QtOperator::toggle(ListBox& box, std::int32_t index)
 {
-    const Hold hold(*base(box).context().listener);
+    const EventScope scope(base(box).context());
     static_cast<void>(box.entryText(index));
     bool there = false;
     const Refusal refusal = approach(box, there);
@@ -267,7 +267,7 @@ Refusal QtOperator::toggle(ListBox& box, std::int32_t index)
 
 Refusal QtOperator::press(ToggleButton& button)
 {
-    const Hold hold(*base(button).context().listener);
+    const EventScope scope(base(button).context());
     bool there = false;
     const Refusal refusal = approach(button, there);
     if (there) {

@@ -8,13 +8,12 @@ namespace zor::platform::qt {
 void QtWidget::report(Notice notice, EventArgs args) const
 {
     QtContainer& container = *m_context.container;
-    ++container.eventDepth;
+    const EventScope scope(m_context);
     try {
         m_context.listener->notice(m_number, notice, args);
     } catch (...) {
         container.failed(std::current_exception());
     }
-    --container.eventDepth;
 }
 
 bool EventReports::before()

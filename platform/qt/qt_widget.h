@@ -28,6 +28,27 @@ struct Context {
     QWidget* surface;
 };
 
+/// A scope inside one of Qt's events. The control may be destroyed by a handler: it ends with the scope at the
+/// earliest, and its Qt widgets, still in use further up, are deleted later.
+class EventScope {
+public:
+    explicit EventScope(const Context& context) noexcept : m_context(context)
+    {
+        ++m_context.container->eventDepth;
+        m_context.listener->hold();
+    }
+    ~EventScope()
+    {
+        m_context.listener->release();
+        --m_context.container->eventDepth;
+    }
+    EventScope(const EventScope&) = delete;
+    EventScope& operator=(const EventScope&) = delete;
+
+private:
+    Context m_context;
+};
+
 /// What the platform needs of a widget without knowing its interface.
 class QtWidget {
 public:
@@ -89,8 +110,7 @@ public:
     {
         if (owner == nullptr || !isOfInterest(event->type()))
             return Base::event(event);
-        // The control may be destroyed by a handler; the Qt widget itself is deleted later then.
-        const Hold hold(*owner->context().listener);
+        const EventScope scope(owner->context());
         EventReports reports(*owner, *event);
         if (reports.before())
             return true;

@@ -74,7 +74,7 @@ public:
 private:
     void step(bool up)
     {
-        const Hold hold(*context().listener);
+        const EventScope scope(context());
         const std::int64_t next = std::int64_t{m_value} + (up ? 1 : -1);
         if (next >= m_minimum && next <= m_maximum)
             setValue(static_cast<std::int32_t>(next));

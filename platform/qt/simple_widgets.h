@@ -112,7 +112,7 @@ private:
             const int key = static_cast<QKeyEvent*>(event)->key();
             if (key != Qt::Key_Space && key != Qt::Key_Return && key != Qt::Key_Enter)
                 return false;
-            const Hold hold(*m_image.context().listener);
+            const EventScope scope(m_image.context());
             m_image.report(Notice::Click);
             return true;
         }
