@@ -4,9 +4,6 @@
 
 namespace zor {
 
-void registerControls(core::ClassRegistry& registry)
-{
-    registry.add(ctx_ZorTextBox::classInfo());
-}
+void registerControls(core::ClassRegistry& registry) { registry.add(ctx_ZorTextBox::classInfo()); }
 
 } // namespace zor

@@ -19,8 +19,7 @@ void ControlDeleter::operator()(Control* control) const noexcept
 Control::Control(const ClassInfo& info, platform::Container& container, platform::Twips width,
                  platform::Twips height)
     : m_info(info), m_container(container), m_surface(container.createSurface(*this, width, height))
-{
-}
+{}
 
 Control::~Control() = default;
 
@@ -145,9 +144,8 @@ void Control::s_UpdateStatusDisplay()
 {
     if (!isDeviceSupported())
         return;
-    const auto row = std::ranges::find_if(m_info.states, [this](const StatusRow& state) {
-        return state.applies(*this);
-    });
+    const auto row =
+        std::ranges::find_if(m_info.states, [this](const StatusRow& state) { return state.applies(*this); });
     const StatusRow* state = row == m_info.states.end() ? nullptr : &*row;
     platform::Widget& carrier = *body().front();
     if (state == nullptr) {
@@ -179,9 +177,8 @@ void Control::describeForReaders()
 
 void Control::s_ExplainState()
 {
-    const auto state = std::ranges::find_if(m_info.states, [this](const StatusRow& row) {
-        return row.applies(*this);
-    });
+    const auto state =
+        std::ranges::find_if(m_info.states, [this](const StatusRow& row) { return row.applies(*this); });
     if (state == m_info.states.end())
         return;
     std::string text;
@@ -193,10 +190,7 @@ void Control::s_ExplainState()
     }
 }
 
-void Control::s_ChangeBackColor(Colour l_ColorValue)
-{
-    m_surface->setBackColour(l_ColorValue);
-}
+void Control::s_ChangeBackColor(Colour l_ColorValue) { m_surface->setBackColour(l_ColorValue); }
 
 // --- Messages
 
@@ -249,10 +243,7 @@ void Control::deliver(const SinkList::Entry& entry, const EventRow& row, platfor
     }
 }
 
-void Control::passOnHandlerError()
-{
-    std::rethrow_exception(std::exchange(m_handlerError, nullptr));
-}
+void Control::passOnHandlerError() { std::rethrow_exception(std::exchange(m_handlerError, nullptr)); }
 
 void Control::notice(int widget, platform::Notice notice, platform::EventArgs args)
 {
@@ -269,9 +260,8 @@ void Control::forward(int widget, platform::Notice notice, platform::EventArgs a
 {
     if (m_sinks.empty())
         return;
-    const auto row = std::ranges::find_if(m_info.events, [&](const EventRow& event) {
-        return event.widget == widget && event.notice == notice;
-    });
+    const auto row = std::ranges::find_if(
+        m_info.events, [&](const EventRow& event) { return event.widget == widget && event.notice == notice; });
     if (row != m_info.events.end())
         raise(static_cast<std::size_t>(row - m_info.events.begin()) + 1, args);
 }
@@ -333,7 +323,10 @@ void Control::DeviceTag(std::string_view value) { write(SharedRows::DeviceTag, s
 void Control::RegisterType(REGISTER_TYPE value) { write(SharedRows::RegisterType, value); }
 void Control::DeviceType(std::string_view value) { write(SharedRows::DeviceType, std::string(value)); }
 void Control::DeviceVersion(std::string_view value) { write(SharedRows::DeviceVersion, std::string(value)); }
-void Control::DeviceTypeSupported(std::string_view value) { write(SharedRows::DeviceTypeSupported, std::string(value)); }
+void Control::DeviceTypeSupported(std::string_view value)
+{
+    write(SharedRows::DeviceTypeSupported, std::string(value));
+}
 void Control::DeviceMinVersionSupported(std::string_view value)
 {
     write(SharedRows::DeviceMinVersionSupported, std::string(value));
@@ -355,7 +348,10 @@ void Control::DataChanged(bool value) { write(SharedRows::DataChanged, value); }
 void Control::DataModified(bool value) { write(SharedRows::DataModified, value); }
 void Control::MessageHeader(std::string_view value) { write(SharedRows::MessageHeader, std::string(value)); }
 void Control::MsgCfail(std::string_view value) { write(SharedRows::MsgCfail, std::string(value)); }
-void Control::MsgDataNotAvailable(std::string_view value) { write(SharedRows::MsgDataNotAvailable, std::string(value)); }
+void Control::MsgDataNotAvailable(std::string_view value)
+{
+    write(SharedRows::MsgDataNotAvailable, std::string(value));
+}
 void Control::MsgDeviceTagNotFound(std::string_view value)
 {
     write(SharedRows::MsgDeviceTagNotFound, std::string(value));

@@ -23,13 +23,13 @@ public:
     /// The roles of the pictures. A picture is told from the others by its shape alone.
     enum Picture : int {
         None = 0,
-        Error = 1,           ///< communication failure
-        Warning = 2,         ///< no data, changed by another user, invalid entry
-        NotFound = 3,        ///< identifier not found
-        Waiting = 4,         ///< status image: waiting for data
-        StatusNotOk = 5,     ///< status image: a bit is set
-        StatusOk = 6,        ///< status image: no bit is set
-        StatusNotOkAlt = 7,  ///< the other pair of status pictures
+        Error = 1,          ///< communication failure
+        Warning = 2,        ///< no data, changed by another user, invalid entry
+        NotFound = 3,       ///< identifier not found
+        Waiting = 4,        ///< status image: waiting for data
+        StatusNotOk = 5,    ///< status image: a bit is set
+        StatusOk = 6,       ///< status image: no bit is set
+        StatusNotOkAlt = 7, ///< the other pair of status pictures
         StatusOkAlt = 8,
     };
 

@@ -149,7 +149,7 @@ template <auto First, auto... Rest>
 inline constexpr FieldSpec field{
     detail::kindOf<typename detail::Last<First, Rest...>::Type>(), [](Control& control) -> FieldRef {
         auto& owner = static_cast<typename detail::Member<decltype(First)>::Class&>(control);
-        return &((owner.*First) .* ... .* Rest);
+        return &((owner.*First).*....*Rest);
     }};
 
 } // namespace zor::core

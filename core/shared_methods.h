@@ -6,23 +6,22 @@
 
 namespace zor::core {
 
-inline constexpr MethodRow kGetMaxMessage{
-    "fi_GetMaxMessage", 0,
-    [](Control& control, std::span<const Variant>) -> MethodResult { return Variant(control.fi_GetMaxMessage()); }};
+inline constexpr MethodRow kGetMaxMessage{"fi_GetMaxMessage", 0,
+                                          [](Control& control, std::span<const Variant>) -> MethodResult {
+                                              return Variant(control.fi_GetMaxMessage());
+                                          }};
 
-inline constexpr MethodRow kGetMessageID{
-    "fc_GetMessageID", 1,
-    [](Control& control, std::span<const Variant> a) -> MethodResult {
-        return Variant(control.fc_GetMessageID(a[0].toInt16()));
-    },
-    "i_MessageNumber"};
+inline constexpr MethodRow kGetMessageID{"fc_GetMessageID", 1,
+                                         [](Control& control, std::span<const Variant> a) -> MethodResult {
+                                             return Variant(control.fc_GetMessageID(a[0].toInt16()));
+                                         },
+                                         "i_MessageNumber"};
 
-inline constexpr MethodRow kSetMessage{
-    "fb_SetMessage", 2,
-    [](Control& control, std::span<const Variant> a) -> MethodResult {
-        return Variant(control.fb_SetMessage(a[0].toInt16(), a[1].toText()));
-    },
-    "i_MessageNumber c_MessageString"};
+inline constexpr MethodRow kSetMessage{"fb_SetMessage", 2,
+                                       [](Control& control, std::span<const Variant> a) -> MethodResult {
+                                           return Variant(control.fb_SetMessage(a[0].toInt16(), a[1].toText()));
+                                       },
+                                       "i_MessageNumber c_MessageString"};
 
 inline constexpr MethodRow kChangeBackColor{
     "s_ChangeBackColor", 1,

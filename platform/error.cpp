@@ -20,11 +20,10 @@ std::string_view errorText(ErrorNumber number) noexcept
     return "unknown error";
 }
 
-RunTimeError::RunTimeError(ErrorNumber number) : std::runtime_error(std::string(errorText(number))), m_number(number) {}
+RunTimeError::RunTimeError(ErrorNumber number)
+    : std::runtime_error(std::string(errorText(number))), m_number(number)
+{}
 
-void raiseError(ErrorNumber number)
-{
-    throw RunTimeError(number);
-}
+void raiseError(ErrorNumber number) { throw RunTimeError(number); }
 
 } // namespace zor

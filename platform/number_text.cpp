@@ -80,10 +80,7 @@ void dropTrailingZeros(Decimal& decimal)
         --decimal.count;
 }
 
-bool isDigit(char c) noexcept
-{
-    return c >= '0' && c <= '9';
-}
+bool isDigit(char c) noexcept { return c >= '0' && c <= '9'; }
 
 /// Reads a number text; `out` receives the same number in the form from_chars reads, byte by byte.
 template <class Out>

@@ -21,10 +21,7 @@ bool canSeparate(std::string_view separator) noexcept
 
 } // namespace
 
-const RegionalSettings& regionalSettings() noexcept
-{
-    return current();
-}
+const RegionalSettings& regionalSettings() noexcept { return current(); }
 
 void setRegionalSettings(RegionalSettings settings)
 {

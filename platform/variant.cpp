@@ -37,15 +37,9 @@ Integer toInteger(const Variant& value)
 
 } // namespace
 
-std::int32_t roundToInt32(double value)
-{
-    return roundTo<std::int32_t>(value);
-}
+std::int32_t roundToInt32(double value) { return roundTo<std::int32_t>(value); }
 
-std::int16_t roundToInt16(double value)
-{
-    return roundTo<std::int16_t>(value);
-}
+std::int16_t roundToInt16(double value) { return roundTo<std::int16_t>(value); }
 
 double Variant::number() const noexcept
 {
@@ -78,10 +72,7 @@ bool Variant::toBoolean() const
     return toDouble() != 0.0;
 }
 
-std::int16_t Variant::toInt16() const
-{
-    return toInteger<std::int16_t>(*this);
-}
+std::int16_t Variant::toInt16() const { return toInteger<std::int16_t>(*this); }
 
 std::int32_t Variant::toInt32() const
 {

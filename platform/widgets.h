@@ -186,8 +186,8 @@ class CheckBox : public ToggleButton {};
 class OptionButton : public ToggleButton {};
 
 struct MenuItem {
-    int widget;              ///< the number its choice is reported under, as Click
-    std::string_view name;   ///< its published name
+    int widget;            ///< the number its choice is reported under, as Click
+    std::string_view name; ///< its published name
     std::string_view caption;
 };
 

@@ -1,6 +1,5 @@
-#include "units/mod_Common.h"
-
 #include "platform/error.h"
+#include "units/mod_Common.h"
 #include "units/unit_catalogue.h"
 
 #include <array>
@@ -20,10 +19,7 @@ constexpr double LI = LITRE_PER_IMPGAL;
 constexpr double YM = YD3_PER_M3;
 constexpr double CL = IN3_PER_LITRE;
 
-constexpr double cubed(double x)
-{
-    return x * x * x;
-}
+constexpr double cubed(double x) { return x * x * x; }
 
 template <std::size_t N>
 using Table = std::array<std::array<double, N>, N>;
@@ -119,13 +115,15 @@ constexpr Factors factors(const Table<N>& table)
 
 // By unit type; a type without a table converts nothing.
 constexpr std::array<Factors, units::kUnitTypes.size()> kFactors{
-    factors(kLength),   factors(kVELOCITY),       factors(kTEMPERATURE), factors(kVOLUMEE),
-    factors(kPRESSURE), factors(kVOLUMETRICFLOW), Factors{},             Factors{},
-    factors(kTIMEUNITS), factors(kFREQUENCY)};
+    factors(kLength),   factors(kVELOCITY), factors(kTEMPERATURE),
+    factors(kVOLUMEE),  factors(kPRESSURE), factors(kVOLUMETRICFLOW),
+    Factors{},          Factors{},          factors(kTIMEUNITS),
+    factors(kFREQUENCY)};
 
 } // namespace
 
-double fd_GetConversionFactor(const UNIT_TYPE& i_UnitType, MEAS_TYPE i_FromUnit, const MEAS_TYPE& i_ToUnit) noexcept
+double fd_GetConversionFactor(const UNIT_TYPE& i_UnitType, MEAS_TYPE i_FromUnit,
+                              const MEAS_TYPE& i_ToUnit) noexcept
 {
     const units::UnitTypeRow* type = units::rowOf(i_UnitType);
     if (type == nullptr)

@@ -17,12 +17,12 @@ namespace zor {
 /// The catalogue's own, in the precision in which devices of this family use them.
 /// @{
 inline constexpr double MM_PER_INCH = 25.4;
-inline constexpr double GAL_PER_M3 = 264.172;       ///< US gallons per cubic metre
+inline constexpr double GAL_PER_M3 = 264.172; ///< US gallons per cubic metre
 inline constexpr double PSI_PER_BAR = 14.50377;
-inline constexpr double GAL_PER_IMPGAL = 1.20095;   ///< US gallons per imperial gallon
+inline constexpr double GAL_PER_IMPGAL = 1.20095; ///< US gallons per imperial gallon
 inline constexpr double LITRE_PER_IMPGAL = 4.54609;
-inline constexpr double YD3_PER_M3 = 1.30795;       ///< cubic yards per cubic metre
-inline constexpr double IN3_PER_LITRE = 61.02374;   ///< cubic inches per litre
+inline constexpr double YD3_PER_M3 = 1.30795;     ///< cubic yards per cubic metre
+inline constexpr double IN3_PER_LITRE = 61.02374; ///< cubic inches per litre
 /// @}
 
 /// The identifier of a unit's translated label; "UNIT_ERROR" for an integer that is no unit.

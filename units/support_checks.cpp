@@ -41,10 +41,7 @@ bool isMet(std::string_view list, std::string_view version, std::int16_t index, 
     return side == Side::Minimum ? order >= 0 : order <= 0;
 }
 
-bool isDigit(char c) noexcept
-{
-    return c >= '0' && c <= '9';
-}
+bool isDigit(char c) noexcept { return c >= '0' && c <= '9'; }
 
 } // namespace
 

@@ -84,7 +84,7 @@ struct UnitTypeRow {
     std::string_view displayName; ///< empty for a type that no picker offers
     std::int32_t first;           ///< its units, by value; first > last for a type without units
     std::int32_t last;
-    MEAS_TYPE start;              ///< what a design-time page sets; NoneU for a type without units
+    MEAS_TYPE start; ///< what a design-time page sets; NoneU for a type without units
 };
 
 inline constexpr std::array kUnitTypes{
@@ -125,8 +125,9 @@ inline constexpr std::array kEntryTypes{
 [[nodiscard]] constexpr const UnitRow* rowOf(MEAS_TYPE unit) noexcept
 {
     const auto value = static_cast<std::int32_t>(unit);
-    return value >= 0 && value < static_cast<std::int32_t>(kUnits.size()) ? &kUnits[static_cast<std::size_t>(value)]
-                                                                          : nullptr;
+    return value >= 0 && value < static_cast<std::int32_t>(kUnits.size())
+               ? &kUnits[static_cast<std::size_t>(value)]
+               : nullptr;
 }
 
 /// The row of a unit type; nullptr for any integer that is none.

@@ -19,10 +19,7 @@ std::string_view fc_GetUnitLabel(MEAS_TYPE i_Unit) noexcept
     return row != nullptr ? row->label : std::string_view{};
 }
 
-bool hasPattern(MEAS_TYPE unit) noexcept
-{
-    return units::rowOf(unit) != nullptr;
-}
+bool hasPattern(MEAS_TYPE unit) noexcept { return units::rowOf(unit) != nullptr; }
 
 std::string formatValueText(double value, MEAS_TYPE unit, std::int16_t digits)
 {
@@ -67,10 +64,7 @@ std::optional<double> validNumber(const Variant& value) noexcept
     return value.number();
 }
 
-bool fb_IsValidNumber(const Variant& v_Value) noexcept
-{
-    return validNumber(v_Value).has_value();
-}
+bool fb_IsValidNumber(const Variant& v_Value) noexcept { return validNumber(v_Value).has_value(); }
 
 std::optional<std::int32_t> memberValue(std::string_view name) noexcept
 {

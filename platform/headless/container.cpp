@@ -11,9 +11,9 @@ namespace {
 
 class SurfaceHost : public Host {
 public:
-    SurfaceHost(HeadlessContainer& container, WidgetListener& listener) : m_container(container), m_listener(listener)
-    {
-    }
+    SurfaceHost(HeadlessContainer& container, WidgetListener& listener)
+        : m_container(container), m_listener(listener)
+    {}
 
     [[nodiscard]] WidgetListener& listener() noexcept override { return m_listener; }
     [[nodiscard]] const Widget* focused() const noexcept override { return m_container.focused(); }
@@ -88,9 +88,6 @@ std::unique_ptr<Surface> HeadlessContainer::createSurface(WidgetListener& listen
     return std::make_unique<HeadlessSurface>(*this, listener, width, height);
 }
 
-PopupMenu* HeadlessContainer::openMenu() const noexcept
-{
-    return m_openMenu;
-}
+PopupMenu* HeadlessContainer::openMenu() const noexcept { return m_openMenu; }
 
 } // namespace zor::platform::headless

@@ -19,7 +19,10 @@ public:
     using FontBase<Interface>::FontBase;
 
     [[nodiscard]] std::int32_t count() const override { return static_cast<std::int32_t>(m_entries.size()); }
-    void append(std::string_view text, std::int32_t datum) override { m_entries.push_back({std::string(text), datum, false}); }
+    void append(std::string_view text, std::int32_t datum) override
+    {
+        m_entries.push_back({std::string(text), datum, false});
+    }
     void remove(std::int32_t index) override
     {
         static_cast<void>(at(index));

@@ -9,8 +9,7 @@ class HeadlessMenu final : public PopupMenu {
 public:
     HeadlessMenu(HeadlessContainer& container, Host& host, std::span<const MenuItem> items)
         : m_container(container), m_host(host), m_items(items)
-    {
-    }
+    {}
     ~HeadlessMenu() override { close(); }
     HeadlessMenu(const HeadlessMenu&) = delete;
     HeadlessMenu& operator=(const HeadlessMenu&) = delete;

@@ -10,10 +10,7 @@
 namespace zor::platform::headless {
 namespace {
 
-HeadlessWidget& base(Widget& widget)
-{
-    return dynamic_cast<HeadlessWidget&>(widget);
-}
+HeadlessWidget& base(Widget& widget) { return dynamic_cast<HeadlessWidget&>(widget); }
 
 bool takesFocus(const Widget& widget)
 {
@@ -77,7 +74,6 @@ std::int16_t codeOf(std::string_view character)
         return static_cast<std::int16_t>((byte(0) & 0x03U) << 6U | (byte(1) & 0x3FU));
     return '?';
 }
-
 
 enum KeyCode : std::int16_t { kBack = 8, kEnd = 35, kHome = 36, kLeft = 37, kRight = 39, kDelete = 46 };
 

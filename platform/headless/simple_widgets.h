@@ -113,7 +113,10 @@ private:
 
 class HeadlessSpinButton final : public HeadlessRange<SpinButton> {
 public:
-    HeadlessSpinButton(Host& host, int number) : HeadlessRange(host, number, ButtonFace) { m_geometry.width = 240; }
+    HeadlessSpinButton(Host& host, int number) : HeadlessRange(host, number, ButtonFace)
+    {
+        m_geometry.width = 240;
+    }
 };
 
 class HeadlessTrack final : public HeadlessRange<Track> {

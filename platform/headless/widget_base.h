@@ -32,7 +32,9 @@ public:
 template <class Interface>
 class WidgetBase : public Interface, public HeadlessWidget {
 public:
-    WidgetBase(Host& host, int number, Colour backColour) : m_host(host), m_number(number), m_backColour(backColour) {}
+    WidgetBase(Host& host, int number, Colour backColour)
+        : m_host(host), m_number(number), m_backColour(backColour)
+    {}
     ~WidgetBase() override { m_host.forget(*this); }
     WidgetBase(const WidgetBase&) = delete;
     WidgetBase& operator=(const WidgetBase&) = delete;

@@ -63,17 +63,19 @@ private:
     {
         m_menu = new QMenu(m_context.surface);
         for (const MenuItem& item : m_items) {
-            const QString caption = QString::fromUtf8(item.caption.data(), static_cast<qsizetype>(item.caption.size()));
-            QObject::connect(m_menu->addAction(caption), &QAction::triggered, m_menu, [this, number = item.widget] {
-                const Context context = m_context;
-                const EventScope scope(context);
-                closed();
-                try {
-                    context.listener->notice(number, Notice::Click, {});
-                } catch (...) {
-                    context.container->failed(std::current_exception());
-                }
-            });
+            const QString caption =
+                QString::fromUtf8(item.caption.data(), static_cast<qsizetype>(item.caption.size()));
+            QObject::connect(m_menu->addAction(caption), &QAction::triggered, m_menu,
+                             [this, number = item.widget] {
+                                 const Context context = m_context;
+                                 const EventScope scope(context);
+                                 closed();
+                                 try {
+                                     context.listener->notice(number, Notice::Click, {});
+                                 } catch (...) {
+                                     context.container->failed(std::current_exception());
+                                 }
+                             });
         }
         QObject::connect(m_menu, &QMenu::aboutToHide, m_menu, [this] { closed(); });
     }
@@ -118,14 +120,26 @@ public:
         m_setting = false;
     }
 
-    [[nodiscard]] std::unique_ptr<TextField> createTextField(int number) override { return make<QtTextField>(number); }
+    [[nodiscard]] std::unique_ptr<TextField> createTextField(int number) override
+    {
+        return make<QtTextField>(number);
+    }
     [[nodiscard]] std::unique_ptr<Label> createLabel(int number) override { return make<QtLabel>(number); }
     [[nodiscard]] std::unique_ptr<Image> createImage(int number) override { return make<QtImage>(number); }
-    [[nodiscard]] std::unique_ptr<SpinButton> createSpinButton(int number) override { return make<QtSpinButton>(number); }
+    [[nodiscard]] std::unique_ptr<SpinButton> createSpinButton(int number) override
+    {
+        return make<QtSpinButton>(number);
+    }
     [[nodiscard]] std::unique_ptr<Track> createTrack(int number) override { return make<QtTrack>(number); }
-    [[nodiscard]] std::unique_ptr<ComboBox> createComboBox(int number) override { return make<QtComboBox>(number); }
+    [[nodiscard]] std::unique_ptr<ComboBox> createComboBox(int number) override
+    {
+        return make<QtComboBox>(number);
+    }
     [[nodiscard]] std::unique_ptr<ListBox> createListBox(int number) override { return make<QtListBox>(number); }
-    [[nodiscard]] std::unique_ptr<CheckBox> createCheckBox(int number) override { return make<QtCheckBox>(number); }
+    [[nodiscard]] std::unique_ptr<CheckBox> createCheckBox(int number) override
+    {
+        return make<QtCheckBox>(number);
+    }
     [[nodiscard]] std::unique_ptr<OptionButton> createOptionButton(int number) override
     {
         return make<QtOptionButton>(number);

@@ -21,8 +21,7 @@ public:
     /// `pictures`: the SVG texts of the image list, picture 1 first; they must outlive the container.
     QtContainer(QWidget& parent, std::span<const std::string_view> pictures)
         : m_parent(parent), m_pictures(pictures)
-    {
-    }
+    {}
 
     [[nodiscard]] bool userMode() const noexcept override { return m_userMode; }
     void setUserMode(bool userMode) noexcept { m_userMode = userMode; }

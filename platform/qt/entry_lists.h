@@ -178,7 +178,10 @@ public:
         static_cast<void>(at(index));
         return m_texts[static_cast<std::size_t>(index)];
     }
-    [[nodiscard]] std::int32_t datum(std::int32_t index) const override { return at(index).data(Qt::UserRole).toInt(); }
+    [[nodiscard]] std::int32_t datum(std::int32_t index) const override
+    {
+        return at(index).data(Qt::UserRole).toInt();
+    }
     [[nodiscard]] std::int32_t current() const override { return widget().currentRow(); }
     void setCurrent(std::int32_t index) override
     {
@@ -187,7 +190,10 @@ public:
         widget().setCurrentRow(index);
     }
     [[nodiscard]] bool hasFocus() const override { return focusReported; }
-    [[nodiscard]] bool isSelected(std::int32_t index) const override { return at(index).checkState() == Qt::Checked; }
+    [[nodiscard]] bool isSelected(std::int32_t index) const override
+    {
+        return at(index).checkState() == Qt::Checked;
+    }
     void setSelected(std::int32_t index, bool selected) override
     {
         at(index).setCheckState(selected ? Qt::Checked : Qt::Unchecked);

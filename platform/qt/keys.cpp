@@ -15,11 +15,12 @@ struct KeyRow {
 };
 
 constexpr std::array kKeys{
-    KeyRow{Qt::Key_Backspace, 8}, KeyRow{Qt::Key_Return, 13}, KeyRow{Qt::Key_Enter, 13}, KeyRow{Qt::Key_Escape, 27},
-    KeyRow{Qt::Key_Space, 32},    KeyRow{Qt::Key_PageUp, 33}, KeyRow{Qt::Key_PageDown, 34}, KeyRow{Qt::Key_End, 35},
-    KeyRow{Qt::Key_Home, 36},     KeyRow{Qt::Key_Left, 37},   KeyRow{Qt::Key_Up, 38},    KeyRow{Qt::Key_Right, 39},
-    KeyRow{Qt::Key_Down, 40},     KeyRow{Qt::Key_Delete, 46}, KeyRow{Qt::Key_Plus, 187}, KeyRow{Qt::Key_Comma, 188},
-    KeyRow{Qt::Key_Minus, 189},   KeyRow{Qt::Key_Period, 190},
+    KeyRow{Qt::Key_Backspace, 8}, KeyRow{Qt::Key_Return, 13}, KeyRow{Qt::Key_Enter, 13},
+    KeyRow{Qt::Key_Escape, 27},   KeyRow{Qt::Key_Space, 32},  KeyRow{Qt::Key_PageUp, 33},
+    KeyRow{Qt::Key_PageDown, 34}, KeyRow{Qt::Key_End, 35},    KeyRow{Qt::Key_Home, 36},
+    KeyRow{Qt::Key_Left, 37},     KeyRow{Qt::Key_Up, 38},     KeyRow{Qt::Key_Right, 39},
+    KeyRow{Qt::Key_Down, 40},     KeyRow{Qt::Key_Delete, 46}, KeyRow{Qt::Key_Plus, 187},
+    KeyRow{Qt::Key_Comma, 188},   KeyRow{Qt::Key_Minus, 189}, KeyRow{Qt::Key_Period, 190},
 };
 
 bool isLetterOrDigit(int key)

@@ -15,20 +15,14 @@ namespace {
 constexpr double kReadable = 4.5;
 constexpr int kToolTipLimit = 2000;
 
-double channel(double value)
-{
-    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-}
+double channel(double value) { return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4); }
 
 double luminance(const QColor& colour)
 {
     return 0.2126 * channel(colour.redF()) + 0.7152 * channel(colour.greenF()) + 0.0722 * channel(colour.blueF());
 }
 
-int pixels(Twips twips)
-{
-    return static_cast<int>(std::lround(twips / kTwipsPerPixel));
-}
+int pixels(Twips twips) { return static_cast<int>(std::lround(twips / kTwipsPerPixel)); }
 
 } // namespace
 

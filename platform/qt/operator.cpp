@@ -17,10 +17,7 @@
 namespace zor::platform::qt {
 namespace {
 
-QtWidget& base(Widget& widget)
-{
-    return dynamic_cast<QtWidget&>(widget);
-}
+QtWidget& base(Widget& widget) { return dynamic_cast<QtWidget&>(widget); }
 
 bool takesFocus(const Widget& widget)
 {
@@ -44,10 +41,7 @@ void click(QWidget& widget, Qt::MouseButton button, QPointF at)
         sendMouse(widget, QEvent::MouseButtonRelease, button, at);
 }
 
-QPointF centre(const QWidget& widget)
-{
-    return QRectF(widget.rect()).center();
-}
+QPointF centre(const QWidget& widget) { return QRectF(widget.rect()).center(); }
 
 void sendKey(QWidget& widget, Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {

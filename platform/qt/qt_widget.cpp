@@ -109,9 +109,6 @@ void EventReports::mouse(Notice notice) const
     m_widget.report(notice, std::array<ArgRef, 4>{&button, &shift, &x, &y});
 }
 
-QWidget& widgetOf(const Widget& widget)
-{
-    return dynamic_cast<const QtWidget&>(widget).qwidget();
-}
+QWidget& widgetOf(const Widget& widget) { return dynamic_cast<const QtWidget&>(widget).qwidget(); }
 
 } // namespace zor::platform::qt

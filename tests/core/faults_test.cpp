@@ -64,9 +64,10 @@ TEST_F(TextBoxTest, AnEntryThatOverflowsIsNeverHandedBack)
 
 TEST_F(TextBoxTest, AnyIntegerMayArriveAsAnEnumerationOrANumber)
 {
-    for (const std::int32_t value : {-1, 14, 53, std::numeric_limits<std::int32_t>::max(),
-                                     std::numeric_limits<std::int32_t>::min()}) {
-        for (const char* name : {"UnitType", "DeviceUnit", "DefaultUnit", "EntryType", "RegisterType", "OutputUnit"})
+    for (const std::int32_t value :
+         {-1, 14, 53, std::numeric_limits<std::int32_t>::max(), std::numeric_limits<std::int32_t>::min()}) {
+        for (const char* name :
+             {"UnitType", "DeviceUnit", "DefaultUnit", "EntryType", "RegisterType", "OutputUnit"})
             box->setProperty(name, value);
         box->DeviceValue(12);
         const auto number = static_cast<std::int16_t>(value);

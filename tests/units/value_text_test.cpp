@@ -30,8 +30,9 @@ TEST_F(ValueText, RoundsHalfAwayFromZeroOnTheShortestDecimal)
     };
     for (const auto& [value, decimals, text] :
          {Row{1.005, 2, "1.01"}, Row{2.5, 0, "3"}, Row{-0.5, 0, "-1"}, Row{-0.04, 1, "-0.0"}, Row{0.0, 3, "0.000"},
-          Row{1234.5678, 3, "1234.568"}, Row{9.9996, 3, "10.000"}, Row{0.0005, 3, "0.001"}, Row{0.00049, 3, "0.000"},
-          Row{1e22, 1, "10000000000000000000000.0"}, Row{999999.5, 0, "1000000"}, Row{123.0, 2, "123.00"}})
+          Row{1234.5678, 3, "1234.568"}, Row{9.9996, 3, "10.000"}, Row{0.0005, 3, "0.001"},
+          Row{0.00049, 3, "0.000"}, Row{1e22, 1, "10000000000000000000000.0"}, Row{999999.5, 0, "1000000"},
+          Row{123.0, 2, "123.00"}})
         EXPECT_EQ(formatFixed(value, decimals), text);
     EXPECT_EQ(formatFixed(1e308, 3), "1" + std::string(308, '0') + ".000");
     EXPECT_EQ(formatFixed(5e-324, 2), "0.00");
@@ -52,10 +53,15 @@ TEST_F(ValueText, FollowsTheUnitAndForNumbersWithoutOneTheCaller)
 
 TEST_F(ValueText, PlainTextOfADouble)
 {
-    for (const auto& [value, text] :
-         {std::pair{0.1 + 0.2, "0.3"}, {1e15, "1E+15"}, {999999999999999.0, "999999999999999"}, {1e-4, "0.0001"},
-          {0.00001234, "1.234E-05"}, {-1.5e300, "-1.5E+300"}, {-0.0, "0"}, {123456789.0125, "123456789.0125"},
-          {9999999999999999.0, "1E+16"}})
+    for (const auto& [value, text] : {std::pair{0.1 + 0.2, "0.3"},
+                                      {1e15, "1E+15"},
+                                      {999999999999999.0, "999999999999999"},
+                                      {1e-4, "0.0001"},
+                                      {0.00001234, "1.234E-05"},
+                                      {-1.5e300, "-1.5E+300"},
+                                      {-0.0, "0"},
+                                      {123456789.0125, "123456789.0125"},
+                                      {9999999999999999.0, "1E+16"}})
         EXPECT_EQ(doubleToText(value), text);
 }
 
@@ -64,8 +70,8 @@ TEST_F(ValueText, WhatIsANumberDependsOnTheSeparators)
     const auto valid = [](std::string_view text) { return fb_IsValidNumber(text); };
     for (const char* text : {"12", " -12.5 ", "+.5", "5.", "1e5", "1.5E3", "1E-400"})
         EXPECT_TRUE(valid(text)) << text;
-    for (const char* text : {"", "abc", "1,234", "12-", "$5", "0x10", "inf", "nan", "1e", "1e5.0", "--1", ".", "1 2",
-                             "1E400", "e5", "1..2"})
+    for (const char* text : {"", "abc", "1,234", "12-", "$5", "0x10", "inf", "nan", "1e", "1e5.0", "--1", ".",
+                             "1 2", "1E400", "e5", "1..2"})
         EXPECT_FALSE(valid(text)) << text;
     EXPECT_FALSE(valid(std::string_view("1\0002", 3)));
     EXPECT_TRUE(valid(std::string(300, '7')));
@@ -106,8 +112,12 @@ TEST(DeviceSupport, VersionsAndTypes)
     EXPECT_TRUE(fb_VersionNotSupported("1.0", "", "1.0", 1));
     EXPECT_FALSE(fb_VersionNotSupported("1.0,,2.0", "", "0.1", 1));
     EXPECT_TRUE(fb_VersionNotSupported("", "", "1.0", -1));
-    for (auto [version, padded] : {std::pair{std::string("1.5"), "01.05"}, {"2.1.3", "02.1.3"}, {".", "0.0"},
-                                   {"12", "12"}, {"", ""}, {"10.1", "10.01"}}) {
+    for (auto [version, padded] : {std::pair{std::string("1.5"), "01.05"},
+                                   {"2.1.3", "02.1.3"},
+                                   {".", "0.0"},
+                                   {"12", "12"},
+                                   {"", ""},
+                                   {"10.1", "10.01"}}) {
         s_PadVersion(version);
         EXPECT_EQ(version, padded);
     }

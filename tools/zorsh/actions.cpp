@@ -51,10 +51,7 @@ constexpr ActionRow own(std::string_view name, std::size_t arguments = 0)
             }};
 }
 
-std::int32_t number(std::string_view word)
-{
-    return parseValue(word).toInt32();
-}
+std::int32_t number(std::string_view word) { return parseValue(word).toInt32(); }
 
 std::size_t position(std::string_view word)
 {

@@ -20,25 +20,13 @@ struct AspectRow {
     std::optional<Reading> (*read)(const Widget& widget, std::int32_t index);
 };
 
-Reading reading(Variant value)
-{
-    return {std::move(value)};
-}
+Reading reading(Variant value) { return {std::move(value)}; }
 
-Reading colour(Colour value)
-{
-    return {static_cast<std::int32_t>(value), Reading::Form::Colour};
-}
+Reading colour(Colour value) { return {static_cast<std::int32_t>(value), Reading::Form::Colour}; }
 
-Reading count(std::size_t value)
-{
-    return {static_cast<std::int32_t>(value)};
-}
+Reading count(std::size_t value) { return {static_cast<std::int32_t>(value)}; }
 
-Reading alignment(Alignment value)
-{
-    return {value == Alignment::Right ? "right" : "left", Reading::Form::Word};
-}
+Reading alignment(Alignment value) { return {value == Alignment::Right ? "right" : "left", Reading::Form::Word}; }
 
 template <class Kind, auto Read>
 constexpr AspectRow row(std::string_view name)

@@ -82,10 +82,7 @@ void printBag(Session& session, const Call& call)
         session.print(key + '=' + print(value));
 }
 
-void destroy(Session& session, const Call& call)
-{
-    session.destroy(call[0]);
-}
+void destroy(Session& session, const Call& call) { session.destroy(call[0]); }
 
 void resize(Session& session, const Call& call)
 {
@@ -125,10 +122,7 @@ void put(Session& session, const Call& call)
     object.control->put(*row, parseValue(call[1]));
 }
 
-void get(Session& session, const Call& call)
-{
-    session.print(print(read(session, call[0])));
-}
+void get(Session& session, const Call& call) { session.print(print(read(session, call[0]))); }
 
 void callMethod(Session& session, const Call& call)
 {
@@ -142,10 +136,7 @@ void callMethod(Session& session, const Call& call)
         session.print(print(result));
 }
 
-void calculate(Session& session, const Call& call)
-{
-    session.print(print(evaluate(call.from(0), session)));
-}
+void calculate(Session& session, const Call& call) { session.print(print(evaluate(call.from(0), session))); }
 
 void addHandler(Recorder& recorder, const core::EventRow& event, const Call& call)
 {
@@ -177,10 +168,7 @@ void host(Session& session, const Call& call)
     object.recorder->removeHandlers(event->name);
 }
 
-void events(Session& session, const Call& call)
-{
-    session.print(session.object(call[0]).recorder->events.take());
-}
+void events(Session& session, const Call& call) { session.print(session.object(call[0]).recorder->events.take()); }
 
 void notices(Session& session, const Call& call)
 {
@@ -212,10 +200,7 @@ void menu(Session& session, const Call&)
 
 // --- Help
 
-void describeClass(Session& session, const Call& call)
-{
-    describe(session, session.classNamed(call[0]));
-}
+void describeClass(Session& session, const Call& call) { describe(session, session.classNamed(call[0])); }
 
 void help(Session& session, const Call& call)
 {
@@ -231,10 +216,7 @@ void help(Session& session, const Call& call)
     session.print(std::string(command->help));
 }
 
-void quit(Session& session, const Call&)
-{
-    session.end();
-}
+void quit(Session& session, const Call&) { session.end(); }
 
 constexpr std::array kCommands{
     Command{"usermode", "usermode on|off", "run time or design time", 1, 1, userMode},
@@ -274,9 +256,6 @@ constexpr std::array kCommands{
 
 } // namespace
 
-std::span<const Command> commands() noexcept
-{
-    return kCommands;
-}
+std::span<const Command> commands() noexcept { return kCommands; }
 
 } // namespace zor::console

@@ -142,9 +142,6 @@ private:
 
 } // namespace
 
-double evaluate(std::string_view expression, Session& session)
-{
-    return Parser(expression, session).whole();
-}
+double evaluate(std::string_view expression, Session& session) { return Parser(expression, session).whole(); }
 
 } // namespace zor::console

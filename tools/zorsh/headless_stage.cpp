@@ -26,9 +26,6 @@ private:
 
 } // namespace
 
-std::unique_ptr<Stage> headlessStage()
-{
-    return std::make_unique<HeadlessStage>();
-}
+std::unique_ptr<Stage> headlessStage() { return std::make_unique<HeadlessStage>(); }
 
 } // namespace zor::console

@@ -21,10 +21,7 @@ constexpr std::array kSystemColours{SystemColour{"WindowBackground", WindowBackg
                                     SystemColour{"ButtonFace", ButtonFace},
                                     SystemColour{"ButtonText", ButtonText}};
 
-bool isBlank(char c)
-{
-    return c == ' ' || c == '\t' || c == '\r';
-}
+bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
 
 /// Length of the quoted text at the front, both quotes included; 0 when it does not end.
 std::size_t quotedLength(std::string_view text)

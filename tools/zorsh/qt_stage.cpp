@@ -74,9 +74,6 @@ std::shared_ptr<void> startQt()
     return std::make_shared<QApplication>(argc, argv);
 }
 
-std::unique_ptr<Stage> qtStage()
-{
-    return std::make_unique<QtStage>();
-}
+std::unique_ptr<Stage> qtStage() { return std::make_unique<QtStage>(); }
 
 } // namespace zor::console

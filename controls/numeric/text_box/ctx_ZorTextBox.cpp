@@ -51,10 +51,7 @@ void ctx_ZorTextBox::assignOutput(Variant value)
     raise(kOutputValueChange);
 }
 
-std::optional<double> ctx_ZorTextBox::textNumber() const
-{
-    return validNumber(std::string_view(m_text->text()));
-}
+std::optional<double> ctx_ZorTextBox::textNumber() const { return validNumber(std::string_view(m_text->text())); }
 
 void ctx_ZorTextBox::ModifiedValue(const Variant& value)
 {
@@ -111,10 +108,7 @@ void ctx_ZorTextBox::afterOutputUnit()
     static_cast<void>(fv_FormatDisplayValue(m_text->text(), m_units.outputUnit));
 }
 
-std::string ctx_ZorTextBox::fc_GetCaptionID() const
-{
-    return std::string(fc_GetUnitID(m_units.outputUnit));
-}
+std::string ctx_ZorTextBox::fc_GetCaptionID() const { return std::string(fc_GetUnitID(m_units.outputUnit)); }
 
 double ctx_ZorTextBox::fd_GetConversionFactor(const UNIT_TYPE& i_UnitType, MEAS_TYPE i_FromUnit,
                                               const MEAS_TYPE& i_ToUnit) const noexcept

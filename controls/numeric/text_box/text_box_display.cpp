@@ -29,22 +29,20 @@ Rect at(const platform::Widget& widget, Twips left, Twips top)
     return {left, top, old.width, old.height};
 }
 
-Twips centredOn(const Rect& field, Twips height)
-{
-    return field.top + field.height / 2 - height / 2;
-}
+Twips centredOn(const Rect& field, Twips height) { return field.top + field.height / 2 - height / 2; }
 
 } // namespace
 
 ctx_ZorTextBox::ctx_ZorTextBox(platform::Container& container)
     : Control(classInfo(), container, kDesignedWidth, kDesignedHeight), m_text(surface().createTextField(kText)),
-      m_unitLabel(surface().createLabel(kUnits)), m_icon(surface().createImage(kState)), m_undo(surface()),
-      m_body{m_text.get(), m_unitLabel.get()}
+      m_unitLabel(surface().createLabel(kUnits)), m_icon(surface().createImage(kState)),
+      m_undo(surface()), m_body{m_text.get(), m_unitLabel.get()}
 {
     m_text->setGeometry({0, 0, kDesignedTextWidth, kDesignedHeight});
     m_unitLabel->setGeometry(at(*m_unitLabel, kDesignedTextWidth + kGap, 0));
     m_icon->setVisible(false);
-    m_icon->setGeometry({kDesignedTextWidth + kGap, centredOn(m_text->geometry(), kIconSize), kIconSize, kIconSize});
+    m_icon->setGeometry(
+        {kDesignedTextWidth + kGap, centredOn(m_text->geometry(), kIconSize), kIconSize, kIconSize});
     m_heightMargin = surface().height() - m_text->height();
     m_text->setAlignment(platform::Alignment::Right);
     s_UpdateColors();

@@ -53,10 +53,7 @@ void ctx_ZorTextBox::onTextChanged()
     raise(kTextChange);
 }
 
-void ctx_ZorTextBox::selectAll()
-{
-    m_text->select(0, platform::characterCount(m_text->text()));
-}
+void ctx_ZorTextBox::selectAll() { m_text->select(0, platform::characterCount(m_text->text())); }
 
 // --- Commit
 
@@ -74,8 +71,8 @@ void ctx_ZorTextBox::validateEntry(bool reformat)
 {
     const bool holding = m_binding.registerType == HoldingRegister;
     if (!isNumeric()) {
-        const bool tooLong = m_status.dataModified && std::cmp_greater(platform::characterCount(m_text->text()),
-                                                                       m_maxLength);
+        const bool tooLong =
+            m_status.dataModified && std::cmp_greater(platform::characterCount(m_text->text()), m_maxLength);
         m_invalidEntry = false;
         if (tooLong)
             setInvalidEntry();

@@ -30,9 +30,9 @@ public:
     virtual void textKeyDown(std::int16_t& /*KeyCode*/, std::int16_t& /*Shift*/) {}
     virtual void textKeyPress(std::int16_t& /*KeyAscii*/) {}
     virtual void textKeyUp(std::int16_t& /*KeyCode*/, std::int16_t& /*Shift*/) {}
-    virtual void textLinkClose() {}                        ///< declared, never raised
+    virtual void textLinkClose() {}                          ///< declared, never raised
     virtual void textLinkError(std::int16_t& /*LinkErr*/) {} ///< declared, never raised
-    virtual void textLinkNotify() {}                       ///< only where the platform's field offers links
+    virtual void textLinkNotify() {}                         ///< only where the platform's field offers links
     virtual void textLinkOpen(std::int16_t& /*Cancel*/) {}   ///< only where the platform's field offers links
     /// The field lost the focus, after the commit.
     virtual void textLostFocus() {}
@@ -43,14 +43,12 @@ public:
     /// Declared, never raised, as the next one.
     virtual void textOLEDragDrop(std::string& /*Data*/, std::int32_t& /*Effect*/, std::int16_t& /*Button*/,
                                  std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/)
-    {
-    }
+    {}
     virtual void textOLEDragOver(std::string& /*Data*/, std::int32_t& /*Effect*/, std::int16_t& /*Button*/,
                                  std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/, std::int16_t& /*State*/)
-    {
-    }
+    {}
     virtual void textOLEGiveFeedback(std::int32_t& /*Effect*/, bool& /*DefaultCursors*/) {}
-    virtual void textOLESetData(std::string& /*Data*/, std::int16_t& /*DataFormat*/) {} ///< never raised
+    virtual void textOLESetData(std::string& /*Data*/, std::int16_t& /*DataFormat*/) {}       ///< never raised
     virtual void textOLEStartDrag(std::string& /*Data*/, std::int32_t& /*AllowedEffects*/) {} ///< never raised
     /// The focus is about to leave; Cancel set to true keeps it.
     virtual void textValidate(bool& /*Cancel*/) {}

@@ -24,10 +24,7 @@ using namespace text_box;
 
 namespace {
 
-ctx_ZorTextBox& self(core::Control& control)
-{
-    return static_cast<ctx_ZorTextBox&>(control);
-}
+ctx_ZorTextBox& self(core::Control& control) { return static_cast<ctx_ZorTextBox&>(control); }
 
 } // namespace
 
@@ -37,12 +34,21 @@ struct ctx_ZorTextBox::Rows {
     using This = ctx_ZorTextBox;
     using Units = controls::UnitBinding;
 
-    static constexpr PropertyRow DeviceValue{"DeviceValue", field<&This::m_deviceValue>, "DeviceValue", 0, {}, {}, {},
-                                             [](core::Control& c) { self(c).s_ApplyDeviceValue(); }};
-    static constexpr PropertyRow OutputValue{"OutputValue",   field<&This::m_outputValue>, "OutputValue", 0, {},
+    static constexpr PropertyRow DeviceValue{
+        "DeviceValue", field<&This::m_deviceValue>, "DeviceValue", 0, {}, {}, {}, [](core::Control& c) {
+            self(c).s_ApplyDeviceValue();
+        }};
+    static constexpr PropertyRow OutputValue{"OutputValue",  field<&This::m_outputValue>, "OutputValue", 0, {},
                                              Access::Derived};
     static constexpr PropertyRow ModifiedValue{
-        "ModifiedValue", {core::ValueKind::Any}, {}, {}, {}, Access::Silent, {}, {},
+        "ModifiedValue",
+        {core::ValueKind::Any},
+        {},
+        {},
+        {},
+        Access::Silent,
+        {},
+        {},
         [](core::Control& c) { return self(c).ModifiedValue(); },
         [](core::Control& c, const Variant& value) { self(c).ModifiedValue(value); }};
 
@@ -56,79 +62,146 @@ struct ctx_ZorTextBox::Rows {
                                             {},
                                             {},
                                             [](core::Control& c) { self(c).s_DeviceUnitChanged(); }};
-    static constexpr PropertyRow OutputUnit{
-        "OutputUnit", field<&This::m_units, &Units::outputUnit>, "OutputUnit", 0, {}, {}, {},
-        [](core::Control& c) { self(c).afterOutputUnit(); }, {},
-        [](core::Control& c, const Variant& value) { self(c).OutputUnit(MEAS_TYPE{value.toInt32()}); }};
-    static constexpr PropertyRow DefaultUnit{"DefaultUnit", field<&This::m_units, &Units::defaultUnit>, "DefaultUnit",
-                                             0, {}, {}, {},
+    static constexpr PropertyRow OutputUnit{"OutputUnit",
+                                            field<&This::m_units, &Units::outputUnit>,
+                                            "OutputUnit",
+                                            0,
+                                            {},
+                                            {},
+                                            {},
+                                            [](core::Control& c) { self(c).afterOutputUnit(); },
+                                            {},
+                                            [](core::Control& c, const Variant& value) { self(c).OutputUnit(MEAS_TYPE{value.toInt32()}); }};
+    static constexpr PropertyRow DefaultUnit{"DefaultUnit",
+                                             field<&This::m_units, &Units::defaultUnit>,
+                                             "DefaultUnit",
+                                             0,
+                                             {},
+                                             {},
+                                             {},
                                              [](core::Control& c) { self(c).m_units.updateLimits(); }};
-    static constexpr PropertyRow MinValue{"MinValue", field<&This::m_units, &Units::minValue>, "MinValue", 0.0, {}, {},
-                                          {}, [](core::Control& c) { self(c).m_units.updateMinParam(); }};
-    static constexpr PropertyRow MaxValue{"MaxValue", field<&This::m_units, &Units::maxValue>, "MaxValue", 0.0, {}, {},
-                                          {}, [](core::Control& c) { self(c).m_units.updateMaxParam(); }};
-    static constexpr PropertyRow MinParamValue{"MinParamValue", field<&This::m_units, &Units::minParam>,
-                                               "MinParamValue", 0.0, {}, Access::Derived};
-    static constexpr PropertyRow MaxParamValue{"MaxParamValue", field<&This::m_units, &Units::maxParam>,
-                                               "MaxParamValue", 0.0, {}, Access::Derived};
-    static constexpr PropertyRow InvalidEntry{"InvalidEntry", field<&This::m_invalidEntry>, "InvalidEntry", false, {},
-                                              Access::Derived};
+    static constexpr PropertyRow MinValue{"MinValue", field<&This::m_units, &Units::minValue>,
+                                          "MinValue", 0.0,
+                                          {},         {},
+                                          {},         [](core::Control& c) { self(c).m_units.updateMinParam(); }};
+    static constexpr PropertyRow MaxValue{"MaxValue", field<&This::m_units, &Units::maxValue>,
+                                          "MaxValue", 0.0,
+                                          {},         {},
+                                          {},         [](core::Control& c) { self(c).m_units.updateMaxParam(); }};
+    static constexpr PropertyRow MinParamValue{
+        "MinParamValue", field<&This::m_units, &Units::minParam>, "MinParamValue", 0.0, {}, Access::Derived};
+    static constexpr PropertyRow MaxParamValue{
+        "MaxParamValue", field<&This::m_units, &Units::maxParam>, "MaxParamValue", 0.0, {}, Access::Derived};
+    static constexpr PropertyRow InvalidEntry{
+        "InvalidEntry", field<&This::m_invalidEntry>, "InvalidEntry", false, {}, Access::Derived};
     static constexpr PropertyRow InvalidEntryEnable{"InvalidEntryEnable", field<&This::m_invalidEntryEnable>,
                                                     "InvalidEntryEnable", true};
 
-    static constexpr PropertyRow EntryType{
-        "EntryType", field<&This::m_entryType>, "EntryType", static_cast<std::int32_t>(Numeric), {}, {}, {},
-        [](core::Control& c) {
-            self(c).m_text->setAlignment(self(c).isNumeric() ? platform::Alignment::Right
-                                                             : platform::Alignment::Left);
-        }};
+    static constexpr PropertyRow EntryType{"EntryType",
+                                           field<&This::m_entryType>,
+                                           "EntryType",
+                                           static_cast<std::int32_t>(Numeric),
+                                           {},
+                                           {},
+                                           {},
+                                           [](core::Control& c) {
+                                               self(c).m_text->setAlignment(self(c).isNumeric()
+                                                                                ? platform::Alignment::Right
+                                                                                : platform::Alignment::Left);
+                                           }};
     // The key's small "o" is in every form ever saved.
-    static constexpr PropertyRow NumberOfDigits{"NumberOfDigits", field<&This::m_numberOfDigits>, "NumberofDigits", 3};
-    static constexpr PropertyRow NumberOfDecimals{
-        "NumberOfDecimals", field<&This::m_numberOfDecimals>, "NumberOfDecimals", 3, {}, {}, {},
-        [](core::Control& c) { self(c).show(self(c).m_text->text()); }};
+    static constexpr PropertyRow NumberOfDigits{"NumberOfDigits", field<&This::m_numberOfDigits>, "NumberofDigits",
+                                                3};
+    static constexpr PropertyRow NumberOfDecimals{"NumberOfDecimals",
+                                                  field<&This::m_numberOfDecimals>,
+                                                  "NumberOfDecimals",
+                                                  3,
+                                                  {},
+                                                  {},
+                                                  {},
+                                                  [](core::Control& c) { self(c).show(self(c).m_text->text()); }};
     static constexpr PropertyRow MaxLength{"MaxLength", field<&This::m_maxLength>, "MaxLength", 10};
 
-    static constexpr PropertyRow UnitEnable{"UnitEnable", field<&This::m_unitEnable>, "UnitEnable", true, {}, {}, {},
-                                            [](core::Control& c) {
-                                                self(c).s_UpdateUnitLabelVisibility();
-                                                self(c).s_Layout();
-                                            }};
-    static constexpr PropertyRow UnitLabelCaption{"UnitLabelCaption", field<&This::m_unitLabelCaption>,
-                                                  "UnitLabelCaption", string_view(""), {}, {}, {},
+    static constexpr PropertyRow UnitEnable{
+        "UnitEnable", field<&This::m_unitEnable>, "UnitEnable", true, {}, {}, {}, [](core::Control& c) {
+            self(c).s_UpdateUnitLabelVisibility();
+            self(c).s_Layout();
+        }};
+    static constexpr PropertyRow UnitLabelCaption{"UnitLabelCaption",
+                                                  field<&This::m_unitLabelCaption>,
+                                                  "UnitLabelCaption",
+                                                  string_view(""),
+                                                  {},
+                                                  {},
+                                                  {},
                                                   [](core::Control& c) {
                                                       self(c).m_unitLabel->setCaption(self(c).m_unitLabelCaption);
                                                       self(c).s_PlaceIcon();
                                                   }};
-    static constexpr PropertyRow WidthDifference{"WidthDifference", field<&This::m_widthDifference>,
-                                                 "WidthDifference", 1305, {}, {}, {},
+    static constexpr PropertyRow WidthDifference{"WidthDifference",
+                                                 field<&This::m_widthDifference>,
+                                                 "WidthDifference",
+                                                 1305,
+                                                 {},
+                                                 {},
+                                                 {},
                                                  [](core::Control& c) { self(c).s_Layout(); }};
-    static constexpr PropertyRow TextFontBold{"TextFontBold", field<&This::m_textFontBold>, {}, false, {}, {}, {},
-                                              [](core::Control& c) {
-                                                  self(c).m_text->setBold(self(c).m_textFontBold);
-                                                  self(c).s_UpdateColors();
-                                              }};
+    static constexpr PropertyRow TextFontBold{
+        "TextFontBold", field<&This::m_textFontBold>, {}, false, {}, {}, {}, [](core::Control& c) {
+            self(c).m_text->setBold(self(c).m_textFontBold);
+            self(c).s_UpdateColors();
+        }};
     static constexpr PropertyRow UnitsFontBold{
-        "UnitsFontBold", {core::ValueKind::Boolean}, {}, {}, {}, Access::Silent, {}, {},
+        "UnitsFontBold",
+        {core::ValueKind::Boolean},
+        {},
+        {},
+        {},
+        Access::Silent,
+        {},
+        {},
         [](core::Control& c) -> Variant { return self(c).UnitsFontBold(); },
         [](core::Control& c, const Variant& value) { self(c).UnitsFontBold(value.toBoolean()); }};
     static constexpr PropertyRow SelectedText{
-        "SelectedText", {core::ValueKind::Text}, {}, {}, {}, Access::Silent, {}, {},
+        "SelectedText",
+        {core::ValueKind::Text},
+        {},
+        {},
+        {},
+        Access::Silent,
+        {},
+        {},
         [](core::Control& c) -> Variant { return self(c).SelectedText(); },
         [](core::Control& c, const Variant& value) { self(c).SelectedText(value.toText()); }};
 
-    static constexpr PropertyRow MsgInvalidEntry{
-        "MsgInvalidEntry", field<&This::m_entryMessages, &EntryMessages::invalid>, "MsgInvalidEntry",
-        string_view("Invalid Entry"), {}, {}, {Refresh::Status}};
+    static constexpr PropertyRow MsgInvalidEntry{"MsgInvalidEntry",
+                                                 field<&This::m_entryMessages, &EntryMessages::invalid>,
+                                                 "MsgInvalidEntry",
+                                                 string_view("Invalid Entry"),
+                                                 {},
+                                                 {},
+                                                 {Refresh::Status}};
     static constexpr PropertyRow MsgInvalidEntryForText{
-        "MsgInvalidEntryForText", field<&This::m_entryMessages, &EntryMessages::tooLong>, "MsgInvalidEntryForText",
-        string_view("Text is too long. Please enter a shorter text."), {}, {}, {Refresh::Status}};
-    static constexpr PropertyRow MsgInvalidEntryTo{
-        "MsgInvalidEntryTo", field<&This::m_entryMessages, &EntryMessages::to>, "MsgInvalidEntryTo",
-        string_view("To"), {}, Access::Silent};
-    static constexpr PropertyRow MsgInvalidEntryNAN{
-        "MsgInvalidEntryNAN", field<&This::m_entryMessages, &EntryMessages::notANumber>, "MsgInvalidEntryNAN",
-        string_view("Invalid Entry"), {}, {}, {Refresh::Status}};
+        "MsgInvalidEntryForText",
+        field<&This::m_entryMessages, &EntryMessages::tooLong>,
+        "MsgInvalidEntryForText",
+        string_view("Text is too long. Please enter a shorter text."),
+        {},
+        {},
+        {Refresh::Status}};
+    static constexpr PropertyRow MsgInvalidEntryTo{"MsgInvalidEntryTo",
+                                                   field<&This::m_entryMessages, &EntryMessages::to>,
+                                                   "MsgInvalidEntryTo",
+                                                   string_view("To"),
+                                                   {},
+                                                   Access::Silent};
+    static constexpr PropertyRow MsgInvalidEntryNAN{"MsgInvalidEntryNAN",
+                                                    field<&This::m_entryMessages, &EntryMessages::notANumber>,
+                                                    "MsgInvalidEntryNAN",
+                                                    string_view("Invalid Entry"),
+                                                    {},
+                                                    {},
+                                                    {Refresh::Status}};
 };
 
 // --- States
@@ -147,18 +220,18 @@ struct ctx_ZorTextBox::States {
             text += box.m_entryMessages.notANumber;
     }
 
-    static constexpr core::StatusRow DataChanged{
-        SharedRows::isDataChanged,
-        [](const core::Control& c, std::string& text) {
-            text.append(self(c).MsgDataChanged()).append(" :  , ");
-            self(c).appendDisplayValue(text);
-        },
-        frm_Container::Warning,
-        [](const core::Control& c, std::string& text) {
-            text.append(self(c).MsgDataChanged()).append(", :  , ");
-            self(c).appendDisplayValue(text);
-        },
-        platform::BoxIcon::Exclamation, true};
+    static constexpr core::StatusRow DataChanged{SharedRows::isDataChanged,
+                                                 [](const core::Control& c, std::string& text) {
+                                                     text.append(self(c).MsgDataChanged()).append(" :  , ");
+                                                     self(c).appendDisplayValue(text);
+                                                 },
+                                                 frm_Container::Warning,
+                                                 [](const core::Control& c, std::string& text) {
+                                                     text.append(self(c).MsgDataChanged()).append(", :  , ");
+                                                     self(c).appendDisplayValue(text);
+                                                 },
+                                                 platform::BoxIcon::Exclamation,
+                                                 true};
     static constexpr core::StatusRow InvalidEntry{[](const core::Control& c) { return self(c).m_invalidEntry; },
                                                   invalidEntryText, frm_Container::Warning, invalidEntryText,
                                                   platform::BoxIcon::Exclamation};
@@ -172,28 +245,63 @@ struct ctx_ZorTextBox::Tables {
     using E = __ctx_ZorTextBox;
 
     static constexpr std::array kProperties{
-        &S::CFail, &R::MinParamValue, &R::MaxParamValue, &R::InvalidEntry, &R::InvalidEntryEnable, &S::DataModified,
-        &S::WaitingForData, &R::UnitType, &R::DeviceValue, &R::OutputValue, &R::DeviceUnit, &R::OutputUnit,
-        &S::DataChanged, &S::DataNotAvailable, &S::DeviceTypeSupported, &S::DeviceMinVersionSupported,
-        &S::DeviceMaxVersionSupported, &S::DeviceTag, &S::DeviceTagNotFound, &S::DeviceVerNotSupported,
-        &S::DeviceTypeNotSupported, &S::MsgCfail, &S::MsgDataChanged, &S::MsgDataNotAvailable, &R::MsgInvalidEntry,
-        &R::MsgInvalidEntryForText, &R::MsgInvalidEntryTo, &R::MsgInvalidEntryNAN, &S::MsgDeviceTagNotFound,
-        &S::MsgDefault, &R::EntryType, &R::NumberOfDigits, &R::MaxLength, &R::UnitEnable, &S::IconEnable,
-        &S::ReadOnly, &R::DefaultUnit, &R::MinValue, &R::MaxValue, &R::UnitLabelCaption, &S::DeviceType,
-        &S::DeviceVersion, &S::RegisterType, &S::EnableControl, &R::NumberOfDecimals, &R::WidthDifference,
+        &S::CFail, &R::MinParamValue, &R::MaxParamValue, &R::InvalidEntry, &R::InvalidEntryEnable,
+        &S::DataModified, &S::WaitingForData, &R::UnitType, &R::DeviceValue, &R::OutputValue, &R::DeviceUnit,
+        &R::OutputUnit, &S::DataChanged, &S::DataNotAvailable, &S::DeviceTypeSupported,
+        &S::DeviceMinVersionSupported, &S::DeviceMaxVersionSupported, &S::DeviceTag, &S::DeviceTagNotFound,
+        &S::DeviceVerNotSupported, &S::DeviceTypeNotSupported, &S::MsgCfail, &S::MsgDataChanged,
+        &S::MsgDataNotAvailable, &R::MsgInvalidEntry, &R::MsgInvalidEntryForText, &R::MsgInvalidEntryTo,
+        &R::MsgInvalidEntryNAN, &S::MsgDeviceTagNotFound, &S::MsgDefault, &R::EntryType, &R::NumberOfDigits,
+        &R::MaxLength, &R::UnitEnable, &S::IconEnable, &S::ReadOnly, &R::DefaultUnit, &R::MinValue, &R::MaxValue,
+        &R::UnitLabelCaption, &S::DeviceType, &S::DeviceVersion, &S::RegisterType, &S::EnableControl,
+        &R::NumberOfDecimals, &R::WidthDifference,
         // not stored
         &S::MessageHeader, &R::ModifiedValue, &R::SelectedText, &R::TextFontBold, &R::UnitsFontBold};
 
-    static constexpr std::array kInitialOrder{
-        &S::CFail, &R::MinParamValue, &R::MaxParamValue, &R::InvalidEntry, &R::InvalidEntryEnable, &S::DataModified,
-        &S::WaitingForData, &R::UnitType, &R::DeviceValue, &R::OutputValue, &R::DeviceUnit, &R::OutputUnit,
-        &R::DefaultUnit, &S::DataChanged, &S::DataNotAvailable, &S::DeviceTypeSupported,
-        &S::DeviceMinVersionSupported, &S::DeviceMaxVersionSupported, &S::DeviceTag, &S::DeviceTagNotFound,
-        &S::DeviceVerNotSupported, &S::DeviceTypeNotSupported, &S::MsgCfail, &S::MsgDataChanged,
-        &S::MsgDataNotAvailable, &R::MsgInvalidEntry, &R::MsgInvalidEntryTo, &R::MsgInvalidEntryNAN,
-        &R::MsgInvalidEntryForText, &S::MsgDeviceTagNotFound, &S::MsgDefault, &R::EntryType, &R::NumberOfDigits,
-        &R::MaxLength, &S::IconEnable, &R::UnitEnable, &S::ReadOnly, &R::UnitLabelCaption, &S::DeviceType,
-        &S::DeviceVersion, &S::RegisterType, &S::EnableControl, &R::NumberOfDecimals, &R::WidthDifference};
+    static constexpr std::array kInitialOrder{&S::CFail,
+                                              &R::MinParamValue,
+                                              &R::MaxParamValue,
+                                              &R::InvalidEntry,
+                                              &R::InvalidEntryEnable,
+                                              &S::DataModified,
+                                              &S::WaitingForData,
+                                              &R::UnitType,
+                                              &R::DeviceValue,
+                                              &R::OutputValue,
+                                              &R::DeviceUnit,
+                                              &R::OutputUnit,
+                                              &R::DefaultUnit,
+                                              &S::DataChanged,
+                                              &S::DataNotAvailable,
+                                              &S::DeviceTypeSupported,
+                                              &S::DeviceMinVersionSupported,
+                                              &S::DeviceMaxVersionSupported,
+                                              &S::DeviceTag,
+                                              &S::DeviceTagNotFound,
+                                              &S::DeviceVerNotSupported,
+                                              &S::DeviceTypeNotSupported,
+                                              &S::MsgCfail,
+                                              &S::MsgDataChanged,
+                                              &S::MsgDataNotAvailable,
+                                              &R::MsgInvalidEntry,
+                                              &R::MsgInvalidEntryTo,
+                                              &R::MsgInvalidEntryNAN,
+                                              &R::MsgInvalidEntryForText,
+                                              &S::MsgDeviceTagNotFound,
+                                              &S::MsgDefault,
+                                              &R::EntryType,
+                                              &R::NumberOfDigits,
+                                              &R::MaxLength,
+                                              &S::IconEnable,
+                                              &R::UnitEnable,
+                                              &S::ReadOnly,
+                                              &R::UnitLabelCaption,
+                                              &S::DeviceType,
+                                              &S::DeviceVersion,
+                                              &S::RegisterType,
+                                              &S::EnableControl,
+                                              &R::NumberOfDecimals,
+                                              &R::WidthDifference};
 
     static constexpr std::array kMessages{
         core::MessageRow{"MSG_CFAIL", &S::MsgCfail},
@@ -274,17 +382,25 @@ struct ctx_ZorTextBox::Tables {
                   }},
     };
 
-    static constexpr std::array kWidgets{core::WidgetRow{platform::kSurfaceWidget, "Surface"},
-                                         core::WidgetRow{kText, "txt_TextBox"}, core::WidgetRow{kUnits, "lbl_Units"},
-                                         core::WidgetRow{kState, "img_State"}};
+    static constexpr std::array kWidgets{
+        core::WidgetRow{platform::kSurfaceWidget, "Surface"}, core::WidgetRow{kText, "txt_TextBox"},
+        core::WidgetRow{kUnits, "lbl_Units"}, core::WidgetRow{kState, "img_State"}};
 };
 
 const core::ClassInfo& ctx_ZorTextBox::classInfo() noexcept
 {
     using T = Tables;
     static constexpr core::ClassInfo info{
-        "ctx_ZorTextBox", T::kProperties, T::kInitialOrder, T::kMessages, "MSG_INVALIDENTRYTO", T::kEvents,
-        T::kMethods, T::kStates, {}, T::kWidgets,
+        "ctx_ZorTextBox",
+        T::kProperties,
+        T::kInitialOrder,
+        T::kMessages,
+        "MSG_INVALIDENTRYTO",
+        T::kEvents,
+        T::kMethods,
+        T::kStates,
+        {},
+        T::kWidgets,
         [](platform::Container& container) -> core::ControlPtr<> { return create(container); }};
     return info;
 }
