@@ -3,6 +3,7 @@
 /// A class of controls as data: its tables, and how to make one.
 
 #include "core/event_row.h"
+#include "core/method_row.h"
 #include "core/property_row.h"
 #include "platform/container.h"
 
@@ -33,26 +34,16 @@ struct MessageRow {
     const PropertyRow* property;
 };
 
-/// What a method answers: nothing, a value, or an array.
-using MethodResult = std::variant<std::monostate, Variant, std::vector<Variant>>;
-
-struct MethodRow {
-    std::string_view name;
-    std::vector<Variant>::size_type argumentCount = 0;
-    MethodResult (*call)(Control&, std::span<const Variant>) = nullptr;
-    /// Names of the arguments, for people.
-    std::string_view signature{};
-};
-
 /// One of the states a control explains to the operator. The first row of a class's table that applies wins.
 struct StatusRow {
     bool (*applies)(const Control&);
     /// Appends the tooltip.
     void (*toolTip)(const Control&, std::string&);
     int picture;
-    /// Appends the text of the message box that a click on the state icon opens.
-    void (*boxText)(const Control&, std::string&);
-    platform::BoxIcon boxIcon;
+    /// Appends the text of the message box that a click on the state icon opens; nullptr for a state that has
+    /// nothing to explain: the click then looks further down the table.
+    void (*boxText)(Control&, std::string&) = nullptr;
+    platform::BoxIcon boxIcon = platform::BoxIcon::Information;
     /// The click acknowledges the state: DataChanged is cleared.
     bool acknowledged = false;
 };
@@ -72,17 +63,21 @@ struct ClassInfo {
     std::string_view name;
     /// In the order in which they are stored, the properties that are not stored last.
     std::span<const PropertyRow* const> properties;
+    /// In the order in which stored properties are read; empty when that is the order of `properties`.
+    std::span<const PropertyRow* const> readOrder{};
     /// In the order in which a new instance sets them.
     std::span<const PropertyRow* const> initialOrder;
     /// Numbered from 1.
     std::span<const MessageRow> messages;
     /// Answered for a number without a message.
-    std::string_view otherMessage;
+    std::string_view otherMessage = "ERROR_RETURNED";
     std::span<const EventRow> events;
     std::span<const MethodRow> methods;
     std::span<const StatusRow> states;
-    std::span<const EffectRow> effects;
+    std::span<const EffectRow> effects{};
     std::span<const WidgetRow> widgets;
+    /// Title of the message boxes; nullptr for MessageHeader alone.
+    std::string (*boxTitle)(const Control&) = nullptr;
     ControlPtr<> (*create)(platform::Container&);
 
     [[nodiscard]] const PropertyRow* property(std::string_view property) const noexcept;

@@ -61,12 +61,16 @@ MethodResult Control::call(std::string_view method, std::span<const Variant> arg
 
 Variant Control::get(const PropertyRow& row)
 {
-    return row.get != nullptr ? row.get(*this) : valueOf(row.field.at(*this));
+    if (row.get != nullptr)
+        return row.get(*this);
+    if (row.field.at == nullptr)
+        raiseError(ErrorNumber::NoSuchMember);
+    return valueOf(row.field.at(*this));
 }
 
 void Control::put(const PropertyRow& row, const Variant& value)
 {
-    if (row.access == Access::Derived && refusesWrite(row))
+    if (refusesWrite(row))
         return;
     if (row.put != nullptr) {
         run([&] { row.put(*this, value); });
@@ -83,9 +87,9 @@ void Control::put(const PropertyRow& row, const Variant& value)
 
 bool Control::refusesWrite(const PropertyRow& row) const
 {
-    if (row.access == Access::Derived && m_container.userMode())
+    if (row.access == Access::ReadOnly || (row.access == Access::Derived && m_container.userMode()))
         raiseError(ErrorNumber::ReadOnly);
-    return true;
+    return row.access == Access::Derived;
 }
 
 void Control::stored(const PropertyRow& row)
@@ -177,13 +181,14 @@ void Control::describeForReaders()
 
 void Control::s_ExplainState()
 {
-    const auto state =
-        std::ranges::find_if(m_info.states, [this](const StatusRow& row) { return row.applies(*this); });
+    const auto state = std::ranges::find_if(
+        m_info.states, [this](const StatusRow& row) { return row.boxText != nullptr && row.applies(*this); });
     if (state == m_info.states.end())
         return;
     std::string text;
     state->boxText(*this, text);
-    m_container.showMessage(*this, {state->boxIcon, m_messages.header, text});
+    const std::string title = m_info.boxTitle != nullptr ? m_info.boxTitle(*this) : m_messages.header;
+    m_container.showMessage(*this, {state->boxIcon, title, text});
     if (state->acknowledged) {
         m_status.dataChanged = false;
         s_UpdateStatusDisplay();
@@ -295,7 +300,7 @@ void Control::load(const PropertyRow& row, const Variant& value)
 void Control::readProperties(const platform::PropertyBag& bag)
 {
     run([&] {
-        for (const PropertyRow* row : m_info.properties) {
+        for (const PropertyRow* row : m_info.readOrder.empty() ? m_info.properties : m_info.readOrder) {
             if (!row->key.empty())
                 load(*row, bag.ReadProperty(row->key, toVariant(row->bagDefault)));
         }

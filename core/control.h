@@ -286,7 +286,7 @@ void Control::run(Action&& action)
 template <class T>
 void Control::write(const PropertyRow& row, T value)
 {
-    if (row.access == Access::Derived && refusesWrite(row))
+    if (refusesWrite(row))
         return;
     run([&] {
         T& field = *std::get<T*>(row.field.at(*this));

@@ -26,6 +26,8 @@ struct EventRow {
     int widget = -1;
     platform::Notice notice = platform::Notice::None;
     std::array<std::string_view, kMaxArguments> arguments{};
+    /// Their types; the position of a type is that of its pointer in platform::ArgRef.
+    std::array<std::uint8_t, kMaxArguments> types{};
     std::size_t argumentCount = 0;
     void (*call)(void* sink, platform::EventArgs args) = nullptr;
 };
@@ -88,6 +90,8 @@ template <class S, class... A>
 struct SinkMember<void (S::*)(A...)> {
     using Sink = S;
     static constexpr std::size_t kCount = sizeof...(A);
+    static constexpr std::array<std::uint8_t, EventRow::kMaxArguments> kTypes{
+        static_cast<std::uint8_t>(platform::ArgRef(static_cast<std::remove_reference_t<A>*>(nullptr)).index())...};
 
     template <auto Function, std::size_t... I>
     static void call(Sink& sink, [[maybe_unused]] platform::EventArgs args, std::index_sequence<I...>)
@@ -108,6 +112,7 @@ constexpr EventRow event(std::string_view name, int widget, platform::Notice not
                     widget,
                     notice,
                     {std::string_view(arguments)...},
+                    Member::kTypes,
                     Member::kCount,
                     [](void* sink, platform::EventArgs args) {
                         Member::template call<Function>(*static_cast<typename Member::Sink*>(sink), args,

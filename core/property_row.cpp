@@ -1,26 +1,6 @@
 #include "core/property_row.h"
 
 namespace zor::core {
-namespace {
-
-template <class T>
-T convertTo(const Variant& value)
-{
-    if constexpr (std::is_same_v<T, bool>)
-        return value.toBoolean();
-    else if constexpr (std::is_same_v<T, std::int16_t>)
-        return value.toInt16();
-    else if constexpr (std::is_same_v<T, double>)
-        return value.toDouble();
-    else if constexpr (std::is_same_v<T, std::string>)
-        return value.toText();
-    else if constexpr (std::is_same_v<T, Variant>)
-        return value;
-    else
-        return static_cast<T>(value.toInt32());
-}
-
-} // namespace
 
 std::string_view kindName(ValueKind kind) noexcept
 {
@@ -35,6 +15,7 @@ std::string_view kindName(ValueKind kind) noexcept
     case ValueKind::MeasType: return "MEAS_TYPE";
     case ValueKind::RegisterType: return "REGISTER_TYPE";
     case ValueKind::EntryType: return "ENTRY_TYPE";
+    case ValueKind::Colour: return "colour";
     }
     return "?";
 }
@@ -53,19 +34,22 @@ Variant toVariant(const Literal& literal)
 
 Variant valueOf(const FieldRef& field)
 {
-    return std::visit(
-        [](const auto* at) -> Variant {
-            if constexpr (std::is_enum_v<std::decay_t<decltype(*at)>>)
-                return static_cast<std::int32_t>(*at);
-            else
-                return *at;
-        },
-        field);
+    return std::visit([](const auto* at) { return detail::toVariant(*at); }, field);
 }
 
 void storeInto(const FieldRef& field, const Variant& value)
 {
-    std::visit([&](auto* at) { *at = convertTo<std::decay_t<decltype(*at)>>(value); }, field);
+    std::visit([&](auto* at) { *at = detail::convertTo<std::decay_t<decltype(*at)>>(value); }, field);
+}
+
+std::uint32_t detail::toColour(const Variant& value)
+{
+    constexpr double kLargestSigned = 2147483647.0;
+    constexpr double kLargest = 4294967295.0;
+    const double number = value.toDouble();
+    if (number > kLargestSigned && number <= kLargest)
+        return static_cast<std::uint32_t>(number);
+    return static_cast<std::uint32_t>(value.toInt32());
 }
 
 } // namespace zor::core

@@ -17,7 +17,7 @@ namespace zor::core {
 
 class Control;
 
-/// What a property holds. The enumerations accept any 32-bit integer.
+/// What a property, an argument or a result holds. The enumerations accept any 32-bit integer.
 enum class ValueKind : std::uint8_t {
     Boolean,
     Int16,
@@ -29,6 +29,7 @@ enum class ValueKind : std::uint8_t {
     MeasType,
     RegisterType,
     EntryType,
+    Colour, ///< a 32-bit colour, written as a signed or an unsigned integer
 };
 
 /// The name of a kind, for people ("16-bit integer").
@@ -78,10 +79,15 @@ private:
 /// How a property answers a write.
 enum class Access : std::uint8_t {
     ReadWrite,
-    Silent,  ///< read and write; a write does not notify the container
-    Derived, ///< a write raises ReadOnly in user mode and is ignored at design time
+    Silent,   ///< read and write; a write does not notify the container
+    Derived,  ///< a write raises ReadOnly in user mode and is ignored at design time
+    ReadOnly, ///< a write raises ReadOnly always: the value is a widget's own
 };
 
+/// One property. A row is built from property<>() or computedRow<>() by the steps below, each of which gives a
+/// row with one thing more said:
+///
+///     fieldRow<&This::m_minValue>("MinValue").stored(0.0).then<&This::s_UpdateMinParamValue>()
 struct PropertyRow {
     std::string_view name;
     FieldSpec field{};
@@ -94,9 +100,45 @@ struct PropertyRow {
     Refreshes refreshes{};
     /// Runs after the refreshes.
     void (*after)(Control&) = nullptr;
-    /// For a property that is not simply a field.
+    /// For a property that is not simply a field, or whose write is not a plain write. A row with neither a
+    /// field nor the function has no such accessor.
     Variant (*get)(Control&) = nullptr;
     void (*put)(Control&, const Variant&) = nullptr;
+
+    /// Stored under the property's own name.
+    [[nodiscard]] constexpr PropertyRow stored(Literal defaultValue) const { return storedAs(name, defaultValue); }
+    [[nodiscard]] constexpr PropertyRow storedAs(std::string_view bagKey, Literal defaultValue) const
+    {
+        PropertyRow row = *this;
+        row.key = bagKey;
+        row.bagDefault = defaultValue;
+        return row;
+    }
+    /// The value of a new instance: where it differs from the bag's default, or where nothing is stored.
+    [[nodiscard]] constexpr PropertyRow initially(Literal value) const
+    {
+        PropertyRow row = *this;
+        row.initial = value;
+        return row;
+    }
+    [[nodiscard]] constexpr PropertyRow with(Access answer) const
+    {
+        PropertyRow row = *this;
+        row.access = answer;
+        return row;
+    }
+    [[nodiscard]] constexpr PropertyRow refreshing(std::initializer_list<Refresh> list) const
+    {
+        PropertyRow row = *this;
+        row.refreshes = list;
+        return row;
+    }
+    /// Runs a member function `void f()` of the control, or a lambda `void (Class&)`, after the refreshes.
+    template <auto Function>
+    [[nodiscard]] constexpr PropertyRow then() const;
+    /// Writes through `Put(Class&, T)` instead of straight into the field.
+    template <auto Put>
+    [[nodiscard]] constexpr PropertyRow written() const;
 };
 
 namespace detail {
@@ -112,7 +154,7 @@ consteval ValueKind kindOf()
         return ValueKind::Int32;
     else if constexpr (std::is_same_v<T, double>)
         return ValueKind::Double;
-    else if constexpr (std::is_same_v<T, std::string>)
+    else if constexpr (std::is_same_v<T, std::string> || std::is_same_v<T, std::string_view>)
         return ValueKind::Text;
     else if constexpr (std::is_same_v<T, UNIT_TYPE>)
         return ValueKind::UnitType;
@@ -122,10 +164,44 @@ consteval ValueKind kindOf()
         return ValueKind::RegisterType;
     else if constexpr (std::is_same_v<T, ENTRY_TYPE>)
         return ValueKind::EntryType;
+    else if constexpr (std::is_same_v<T, std::uint32_t>)
+        return ValueKind::Colour;
     else {
         static_assert(std::is_same_v<T, Variant>);
         return ValueKind::Any;
     }
+}
+
+/// A colour out of a number: a system colour has the highest bit set, so it may come as a negative number.
+[[nodiscard]] std::uint32_t toColour(const Variant& value);
+
+/// The value as a T. TypeMismatch and Overflow as the variant's own conversions.
+template <class T>
+[[nodiscard]] T convertTo(const Variant& value)
+{
+    if constexpr (std::is_same_v<T, bool>)
+        return value.toBoolean();
+    else if constexpr (std::is_same_v<T, std::int16_t>)
+        return value.toInt16();
+    else if constexpr (std::is_same_v<T, double>)
+        return value.toDouble();
+    else if constexpr (std::is_same_v<T, std::string>)
+        return value.toText();
+    else if constexpr (std::is_same_v<T, Variant>)
+        return value;
+    else if constexpr (std::is_same_v<T, std::uint32_t>)
+        return toColour(value);
+    else
+        return static_cast<T>(value.toInt32());
+}
+
+template <class T>
+[[nodiscard]] Variant toVariant(const T& value)
+{
+    if constexpr (std::is_enum_v<T>)
+        return static_cast<std::int32_t>(value);
+    else
+        return Variant(value);
 }
 
 template <class M>
@@ -141,6 +217,24 @@ struct Last : Last<Rest...> {};
 template <auto Only>
 struct Last<Only> : Member<decltype(Only)> {};
 
+/// Class and value of a getter lambda `R (Class&)` or a setter lambda `void (Class&, T)`.
+template <class F>
+struct Accessor : Accessor<decltype(&F::operator())> {};
+template <class L, class R, class C>
+struct Accessor<R (L::*)(C&) const> {
+    using Class = C;
+    using Value = std::remove_cvref_t<R>;
+};
+template <class L, class C>
+struct Accessor<void (L::*)(C&) const> {
+    using Class = C;
+};
+template <class L, class C, class T>
+struct Accessor<void (L::*)(C&, T) const> {
+    using Class = C;
+    using Value = std::remove_cvref_t<T>;
+};
+
 } // namespace detail
 
 /// The field reached from a control by a path of member pointers: field<&T::m_value>, or
@@ -151,5 +245,61 @@ inline constexpr FieldSpec field{
         auto& owner = static_cast<typename detail::Member<decltype(First)>::Class&>(control);
         return &((owner.*First).*....*Rest);
     }};
+
+/// A row for a property that is a field of the control.
+template <auto First, auto... Rest>
+[[nodiscard]] constexpr PropertyRow fieldRow(std::string_view name)
+{
+    return {name, field<First, Rest...>};
+}
+
+/// A row for a property that a function answers: `Get(Class&)`. It cannot be written unless `written` says how.
+template <auto Get>
+[[nodiscard]] constexpr PropertyRow computedRow(std::string_view name)
+{
+    using Traits = detail::Accessor<decltype(Get)>;
+    PropertyRow row{name, {detail::kindOf<typename Traits::Value>()}};
+    row.access = Access::ReadOnly;
+    row.get = [](Control& control) {
+        return detail::toVariant(Get(static_cast<typename Traits::Class&>(control)));
+    };
+    return row;
+}
+
+/// A row for a property that can only be written.
+template <auto Put>
+[[nodiscard]] constexpr PropertyRow writeOnlyRow(std::string_view name)
+{
+    PropertyRow row{name, {detail::kindOf<typename detail::Accessor<decltype(Put)>::Value>()}};
+    return row.written<Put>();
+}
+
+template <auto Function>
+constexpr PropertyRow PropertyRow::then() const
+{
+    PropertyRow row = *this;
+    if constexpr (std::is_member_pointer_v<decltype(Function)>)
+        row.after = [](Control& control) {
+            (static_cast<typename detail::Member<decltype(Function)>::Class&>(control).*Function)();
+        };
+    else
+        row.after = [](Control& control) {
+            Function(static_cast<typename detail::Accessor<decltype(Function)>::Class&>(control));
+        };
+    return row;
+}
+
+template <auto Put>
+constexpr PropertyRow PropertyRow::written() const
+{
+    using Traits = detail::Accessor<decltype(Put)>;
+    PropertyRow row = *this;
+    if (row.access == Access::ReadOnly)
+        row.access = Access::Silent;
+    row.put = [](Control& control, const Variant& value) {
+        Put(static_cast<typename Traits::Class&>(control), detail::convertTo<typename Traits::Value>(value));
+    };
+    return row;
+}
 
 } // namespace zor::core

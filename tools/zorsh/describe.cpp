@@ -32,6 +32,14 @@ std::string eventLine(std::size_t number, const core::EventRow& row)
     return line;
 }
 
+std::string methodLine(const core::MethodRow& row)
+{
+    std::string line = "method " + std::string(row.name);
+    for (std::size_t i = 0; i < row.argumentCount; ++i)
+        line.append(" ").append(row.arguments[i].name);
+    return line;
+}
+
 } // namespace
 
 void describe(Session& session, const core::ClassInfo& info)
@@ -40,8 +48,7 @@ void describe(Session& session, const core::ClassInfo& info)
     for (const core::PropertyRow* row : info.properties)
         session.print(propertyLine(*row));
     for (const core::MethodRow& row : info.methods)
-        session.print("method " + std::string(row.name) + (row.signature.empty() ? "" : " ") +
-                      std::string(row.signature));
+        session.print(methodLine(row));
     for (std::size_t i = 0; i < info.events.size(); ++i)
         session.print(eventLine(i + 1, info.events[i]));
     for (std::size_t i = 0; i < info.messages.size(); ++i)

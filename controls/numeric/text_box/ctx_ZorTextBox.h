@@ -185,6 +185,7 @@ private:
     void s_UpdateDeviceSupportDisplay() override;
     void s_UpdateUnitLabelVisibility();
     void s_PlaceIcon();
+    void s_AlignText();
     void s_Layout() override;
     void s_AfterLoading() override;
     [[nodiscard]] std::span<platform::Widget* const> body() noexcept override { return m_body; }

@@ -44,7 +44,7 @@ ctx_ZorTextBox::ctx_ZorTextBox(platform::Container& container)
     m_icon->setGeometry(
         {kDesignedTextWidth + kGap, centredOn(m_text->geometry(), kIconSize), kIconSize, kIconSize});
     m_heightMargin = surface().height() - m_text->height();
-    m_text->setAlignment(platform::Alignment::Right);
+    s_AlignText();
     s_UpdateColors();
     s_Layout();
 }
@@ -119,6 +119,11 @@ void ctx_ZorTextBox::s_UpdateUnitLabelVisibility()
 }
 
 // --- Placement
+
+void ctx_ZorTextBox::s_AlignText()
+{
+    m_text->setAlignment(isNumeric() ? platform::Alignment::Right : platform::Alignment::Left);
+}
 
 void ctx_ZorTextBox::s_PlaceIcon()
 {

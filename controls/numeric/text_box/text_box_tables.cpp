@@ -10,10 +10,10 @@
 namespace zor {
 
 using core::Access;
+using core::computedRow;
 using core::event;
-using core::field;
-using core::MethodResult;
-using core::MethodRow;
+using core::fieldRow;
+using core::method;
 using core::ownEvent;
 using core::PropertyRow;
 using core::Refresh;
@@ -22,186 +22,100 @@ using platform::Notice;
 using std::string_view;
 using namespace text_box;
 
-namespace {
-
-ctx_ZorTextBox& self(core::Control& control) { return static_cast<ctx_ZorTextBox&>(control); }
-
-} // namespace
-
 // --- Properties
 
 struct ctx_ZorTextBox::Rows {
     using This = ctx_ZorTextBox;
     using Units = controls::UnitBinding;
 
-    static constexpr PropertyRow DeviceValue{
-        "DeviceValue", field<&This::m_deviceValue>, "DeviceValue", 0, {}, {}, {}, [](core::Control& c) {
-            self(c).s_ApplyDeviceValue();
-        }};
-    static constexpr PropertyRow OutputValue{"OutputValue",  field<&This::m_outputValue>, "OutputValue", 0, {},
-                                             Access::Derived};
-    static constexpr PropertyRow ModifiedValue{
-        "ModifiedValue",
-        {core::ValueKind::Any},
-        {},
-        {},
-        {},
-        Access::Silent,
-        {},
-        {},
-        [](core::Control& c) { return self(c).ModifiedValue(); },
-        [](core::Control& c, const Variant& value) { self(c).ModifiedValue(value); }};
+    static constexpr PropertyRow DeviceValue =
+        fieldRow<&This::m_deviceValue>("DeviceValue").stored(0).then<&This::s_ApplyDeviceValue>();
+    static constexpr PropertyRow OutputValue =
+        fieldRow<&This::m_outputValue>("OutputValue").stored(0).with(Access::Derived);
+    static constexpr PropertyRow ModifiedValue =
+        computedRow<[](This& box) { return box.ModifiedValue(); }>("ModifiedValue")
+            .written<[](This& box, const Variant& value) { box.ModifiedValue(value); }>();
 
-    static constexpr PropertyRow UnitType{"UnitType", field<&This::m_units, &Units::unitType>, "UnitType", 0};
-    // A new text box expects tenths of a millimetre; a form without the key was saved with millimetres.
-    static constexpr PropertyRow DeviceUnit{"DeviceUnit",
-                                            field<&This::m_units, &Units::deviceUnit>,
-                                            "DeviceUnit",
-                                            static_cast<std::int32_t>(LgthU_MM),
-                                            static_cast<std::int32_t>(LgthU_1By10_MM),
-                                            {},
-                                            {},
-                                            [](core::Control& c) { self(c).s_DeviceUnitChanged(); }};
-    static constexpr PropertyRow OutputUnit{"OutputUnit",
-                                            field<&This::m_units, &Units::outputUnit>,
-                                            "OutputUnit",
-                                            0,
-                                            {},
-                                            {},
-                                            {},
-                                            [](core::Control& c) { self(c).afterOutputUnit(); },
-                                            {},
-                                            [](core::Control& c, const Variant& value) { self(c).OutputUnit(MEAS_TYPE{value.toInt32()}); }};
-    static constexpr PropertyRow DefaultUnit{"DefaultUnit",
-                                             field<&This::m_units, &Units::defaultUnit>,
-                                             "DefaultUnit",
-                                             0,
-                                             {},
-                                             {},
-                                             {},
-                                             [](core::Control& c) { self(c).m_units.updateLimits(); }};
-    static constexpr PropertyRow MinValue{"MinValue", field<&This::m_units, &Units::minValue>,
-                                          "MinValue", 0.0,
-                                          {},         {},
-                                          {},         [](core::Control& c) { self(c).m_units.updateMinParam(); }};
-    static constexpr PropertyRow MaxValue{"MaxValue", field<&This::m_units, &Units::maxValue>,
-                                          "MaxValue", 0.0,
-                                          {},         {},
-                                          {},         [](core::Control& c) { self(c).m_units.updateMaxParam(); }};
-    static constexpr PropertyRow MinParamValue{
-        "MinParamValue", field<&This::m_units, &Units::minParam>, "MinParamValue", 0.0, {}, Access::Derived};
-    static constexpr PropertyRow MaxParamValue{
-        "MaxParamValue", field<&This::m_units, &Units::maxParam>, "MaxParamValue", 0.0, {}, Access::Derived};
-    static constexpr PropertyRow InvalidEntry{
-        "InvalidEntry", field<&This::m_invalidEntry>, "InvalidEntry", false, {}, Access::Derived};
-    static constexpr PropertyRow InvalidEntryEnable{"InvalidEntryEnable", field<&This::m_invalidEntryEnable>,
-                                                    "InvalidEntryEnable", true};
+    static constexpr PropertyRow UnitType = fieldRow<&This::m_units, &Units::unitType>("UnitType").stored(0);
+    // A new text box expects tenths of a millimetre; a form that says nothing means millimetres.
+    static constexpr PropertyRow DeviceUnit = fieldRow<&This::m_units, &Units::deviceUnit>("DeviceUnit")
+                                                  .stored(0)
+                                                  .initially(static_cast<std::int32_t>(LgthU_1By10_MM))
+                                                  .then<&This::s_DeviceUnitChanged>();
+    static constexpr PropertyRow OutputUnit =
+        fieldRow<&This::m_units, &Units::outputUnit>("OutputUnit")
+            .stored(0)
+            .then<&This::afterOutputUnit>()
+            .written<[](This& box, MEAS_TYPE unit) { box.OutputUnit(unit); }>();
+    static constexpr PropertyRow DefaultUnit = fieldRow<&This::m_units, &Units::defaultUnit>("DefaultUnit")
+                                                   .stored(0)
+                                                   .then<[](This& box) { box.m_units.updateLimits(); }>();
+    static constexpr PropertyRow MinValue = fieldRow<&This::m_units, &Units::minValue>("MinValue")
+                                                .stored(0.0)
+                                                .then<[](This& box) { box.m_units.updateMinParam(); }>();
+    static constexpr PropertyRow MaxValue = fieldRow<&This::m_units, &Units::maxValue>("MaxValue")
+                                                .stored(0.0)
+                                                .then<[](This& box) { box.m_units.updateMaxParam(); }>();
+    static constexpr PropertyRow MinParamValue =
+        fieldRow<&This::m_units, &Units::minParam>("MinParamValue").stored(0.0).with(Access::Derived);
+    static constexpr PropertyRow MaxParamValue =
+        fieldRow<&This::m_units, &Units::maxParam>("MaxParamValue").stored(0.0).with(Access::Derived);
+    static constexpr PropertyRow InvalidEntry =
+        fieldRow<&This::m_invalidEntry>("InvalidEntry").stored(false).with(Access::Derived);
+    static constexpr PropertyRow InvalidEntryEnable =
+        fieldRow<&This::m_invalidEntryEnable>("InvalidEntryEnable").stored(true);
 
-    static constexpr PropertyRow EntryType{"EntryType",
-                                           field<&This::m_entryType>,
-                                           "EntryType",
-                                           static_cast<std::int32_t>(Numeric),
-                                           {},
-                                           {},
-                                           {},
-                                           [](core::Control& c) {
-                                               self(c).m_text->setAlignment(self(c).isNumeric()
-                                                                                ? platform::Alignment::Right
-                                                                                : platform::Alignment::Left);
-                                           }};
+    static constexpr PropertyRow EntryType = fieldRow<&This::m_entryType>("EntryType")
+                                                 .stored(static_cast<std::int32_t>(Numeric))
+                                                 .then<&This::s_AlignText>();
     // The key's small "o" is in every form ever saved.
-    static constexpr PropertyRow NumberOfDigits{"NumberOfDigits", field<&This::m_numberOfDigits>, "NumberofDigits",
-                                                3};
-    static constexpr PropertyRow NumberOfDecimals{"NumberOfDecimals",
-                                                  field<&This::m_numberOfDecimals>,
-                                                  "NumberOfDecimals",
-                                                  3,
-                                                  {},
-                                                  {},
-                                                  {},
-                                                  [](core::Control& c) { self(c).show(self(c).m_text->text()); }};
-    static constexpr PropertyRow MaxLength{"MaxLength", field<&This::m_maxLength>, "MaxLength", 10};
+    static constexpr PropertyRow NumberOfDigits =
+        fieldRow<&This::m_numberOfDigits>("NumberOfDigits").storedAs("NumberofDigits", 3);
+    static constexpr PropertyRow NumberOfDecimals = fieldRow<&This::m_numberOfDecimals>("NumberOfDecimals")
+                                                        .stored(3)
+                                                        .then<[](This& box) { box.show(box.m_text->text()); }>();
+    static constexpr PropertyRow MaxLength = fieldRow<&This::m_maxLength>("MaxLength").stored(10);
 
-    static constexpr PropertyRow UnitEnable{
-        "UnitEnable", field<&This::m_unitEnable>, "UnitEnable", true, {}, {}, {}, [](core::Control& c) {
-            self(c).s_UpdateUnitLabelVisibility();
-            self(c).s_Layout();
-        }};
-    static constexpr PropertyRow UnitLabelCaption{"UnitLabelCaption",
-                                                  field<&This::m_unitLabelCaption>,
-                                                  "UnitLabelCaption",
-                                                  string_view(""),
-                                                  {},
-                                                  {},
-                                                  {},
-                                                  [](core::Control& c) {
-                                                      self(c).m_unitLabel->setCaption(self(c).m_unitLabelCaption);
-                                                      self(c).s_PlaceIcon();
-                                                  }};
-    static constexpr PropertyRow WidthDifference{"WidthDifference",
-                                                 field<&This::m_widthDifference>,
-                                                 "WidthDifference",
-                                                 1305,
-                                                 {},
-                                                 {},
-                                                 {},
-                                                 [](core::Control& c) { self(c).s_Layout(); }};
-    static constexpr PropertyRow TextFontBold{
-        "TextFontBold", field<&This::m_textFontBold>, {}, false, {}, {}, {}, [](core::Control& c) {
-            self(c).m_text->setBold(self(c).m_textFontBold);
-            self(c).s_UpdateColors();
-        }};
-    static constexpr PropertyRow UnitsFontBold{
-        "UnitsFontBold",
-        {core::ValueKind::Boolean},
-        {},
-        {},
-        {},
-        Access::Silent,
-        {},
-        {},
-        [](core::Control& c) -> Variant { return self(c).UnitsFontBold(); },
-        [](core::Control& c, const Variant& value) { self(c).UnitsFontBold(value.toBoolean()); }};
-    static constexpr PropertyRow SelectedText{
-        "SelectedText",
-        {core::ValueKind::Text},
-        {},
-        {},
-        {},
-        Access::Silent,
-        {},
-        {},
-        [](core::Control& c) -> Variant { return self(c).SelectedText(); },
-        [](core::Control& c, const Variant& value) { self(c).SelectedText(value.toText()); }};
+    static constexpr PropertyRow UnitEnable =
+        fieldRow<&This::m_unitEnable>("UnitEnable").stored(true).then<[](This& box) {
+            box.s_UpdateUnitLabelVisibility();
+            box.s_Layout();
+        }>();
+    static constexpr PropertyRow UnitLabelCaption =
+        fieldRow<&This::m_unitLabelCaption>("UnitLabelCaption").stored("").then<[](This& box) {
+            box.m_unitLabel->setCaption(box.m_unitLabelCaption);
+            box.s_PlaceIcon();
+        }>();
+    static constexpr PropertyRow WidthDifference =
+        fieldRow<&This::m_widthDifference>("WidthDifference").stored(1305).then<&This::s_Layout>();
+    static constexpr PropertyRow TextFontBold =
+        fieldRow<&This::m_textFontBold>("TextFontBold").initially(false).then<[](This& box) {
+            box.m_text->setBold(box.m_textFontBold);
+            box.s_UpdateColors();
+        }>();
+    static constexpr PropertyRow UnitsFontBold =
+        computedRow<[](This& box) { return box.UnitsFontBold(); }>("UnitsFontBold")
+            .written<[](This& box, bool bold) { box.UnitsFontBold(bold); }>();
+    static constexpr PropertyRow SelectedText =
+        computedRow<[](This& box) { return box.SelectedText(); }>("SelectedText")
+            .written<[](This& box, const std::string& text) { box.SelectedText(text); }>();
 
-    static constexpr PropertyRow MsgInvalidEntry{"MsgInvalidEntry",
-                                                 field<&This::m_entryMessages, &EntryMessages::invalid>,
-                                                 "MsgInvalidEntry",
-                                                 string_view("Invalid Entry"),
-                                                 {},
-                                                 {},
-                                                 {Refresh::Status}};
-    static constexpr PropertyRow MsgInvalidEntryForText{
-        "MsgInvalidEntryForText",
-        field<&This::m_entryMessages, &EntryMessages::tooLong>,
-        "MsgInvalidEntryForText",
-        string_view("Text is too long. Please enter a shorter text."),
-        {},
-        {},
-        {Refresh::Status}};
-    static constexpr PropertyRow MsgInvalidEntryTo{"MsgInvalidEntryTo",
-                                                   field<&This::m_entryMessages, &EntryMessages::to>,
-                                                   "MsgInvalidEntryTo",
-                                                   string_view("To"),
-                                                   {},
-                                                   Access::Silent};
-    static constexpr PropertyRow MsgInvalidEntryNAN{"MsgInvalidEntryNAN",
-                                                    field<&This::m_entryMessages, &EntryMessages::notANumber>,
-                                                    "MsgInvalidEntryNAN",
-                                                    string_view("Invalid Entry"),
-                                                    {},
-                                                    {},
-                                                    {Refresh::Status}};
+    static constexpr PropertyRow MsgInvalidEntry =
+        fieldRow<&This::m_entryMessages, &EntryMessages::invalid>("MsgInvalidEntry")
+            .stored("Invalid Entry")
+            .refreshing({Refresh::Status});
+    static constexpr PropertyRow MsgInvalidEntryForText =
+        fieldRow<&This::m_entryMessages, &EntryMessages::tooLong>("MsgInvalidEntryForText")
+            .stored("Text is too long. Please enter a shorter text.")
+            .refreshing({Refresh::Status});
+    static constexpr PropertyRow MsgInvalidEntryTo =
+        fieldRow<&This::m_entryMessages, &EntryMessages::to>("MsgInvalidEntryTo")
+            .stored("To")
+            .with(Access::Silent);
+    static constexpr PropertyRow MsgInvalidEntryNAN =
+        fieldRow<&This::m_entryMessages, &EntryMessages::notANumber>("MsgInvalidEntryNAN")
+            .stored("Invalid Entry")
+            .refreshing({Refresh::Status});
 };
 
 // --- States
@@ -220,21 +134,23 @@ struct ctx_ZorTextBox::States {
             text += box.m_entryMessages.notANumber;
     }
 
-    static constexpr core::StatusRow DataChanged{SharedRows::isDataChanged,
-                                                 [](const core::Control& c, std::string& text) {
-                                                     text.append(self(c).MsgDataChanged()).append(" :  , ");
-                                                     self(c).appendDisplayValue(text);
-                                                 },
-                                                 frm_Container::Warning,
-                                                 [](const core::Control& c, std::string& text) {
-                                                     text.append(self(c).MsgDataChanged()).append(", :  , ");
-                                                     self(c).appendDisplayValue(text);
-                                                 },
-                                                 platform::BoxIcon::Exclamation,
-                                                 true};
-    static constexpr core::StatusRow InvalidEntry{[](const core::Control& c) { return self(c).m_invalidEntry; },
-                                                  invalidEntryText, frm_Container::Warning, invalidEntryText,
-                                                  platform::BoxIcon::Exclamation};
+    template <class C>
+    static void dataChangedText(C& control, std::string& text, string_view separators)
+    {
+        text.append(control.MsgDataChanged()).append(separators);
+        control.appendDisplayValue(text);
+    }
+
+    static constexpr core::StatusRow DataChanged{
+        SharedRows::isDataChanged,
+        [](const core::Control& c, std::string& text) { dataChangedText(self(c), text, " :  , "); },
+        frm_Container::Warning,
+        [](core::Control& c, std::string& text) { dataChangedText(self(c), text, ", :  , "); },
+        platform::BoxIcon::Exclamation,
+        true};
+    static constexpr core::StatusRow InvalidEntry{
+        [](const core::Control& c) { return self(c).m_invalidEntry; }, invalidEntryText, frm_Container::Warning,
+        [](core::Control& c, std::string& text) { invalidEntryText(c, text); }, platform::BoxIcon::Exclamation};
 };
 
 // --- The class
@@ -244,6 +160,7 @@ struct ctx_ZorTextBox::Tables {
     using R = Rows;
     using E = __ctx_ZorTextBox;
 
+    // clang-format off
     static constexpr std::array kProperties{
         &S::CFail, &R::MinParamValue, &R::MaxParamValue, &R::InvalidEntry, &R::InvalidEntryEnable,
         &S::DataModified, &S::WaitingForData, &R::UnitType, &R::DeviceValue, &R::OutputValue, &R::DeviceUnit,
@@ -258,50 +175,18 @@ struct ctx_ZorTextBox::Tables {
         // not stored
         &S::MessageHeader, &R::ModifiedValue, &R::SelectedText, &R::TextFontBold, &R::UnitsFontBold};
 
-    static constexpr std::array kInitialOrder{&S::CFail,
-                                              &R::MinParamValue,
-                                              &R::MaxParamValue,
-                                              &R::InvalidEntry,
-                                              &R::InvalidEntryEnable,
-                                              &S::DataModified,
-                                              &S::WaitingForData,
-                                              &R::UnitType,
-                                              &R::DeviceValue,
-                                              &R::OutputValue,
-                                              &R::DeviceUnit,
-                                              &R::OutputUnit,
-                                              &R::DefaultUnit,
-                                              &S::DataChanged,
-                                              &S::DataNotAvailable,
-                                              &S::DeviceTypeSupported,
-                                              &S::DeviceMinVersionSupported,
-                                              &S::DeviceMaxVersionSupported,
-                                              &S::DeviceTag,
-                                              &S::DeviceTagNotFound,
-                                              &S::DeviceVerNotSupported,
-                                              &S::DeviceTypeNotSupported,
-                                              &S::MsgCfail,
-                                              &S::MsgDataChanged,
-                                              &S::MsgDataNotAvailable,
-                                              &R::MsgInvalidEntry,
-                                              &R::MsgInvalidEntryTo,
-                                              &R::MsgInvalidEntryNAN,
-                                              &R::MsgInvalidEntryForText,
-                                              &S::MsgDeviceTagNotFound,
-                                              &S::MsgDefault,
-                                              &R::EntryType,
-                                              &R::NumberOfDigits,
-                                              &R::MaxLength,
-                                              &S::IconEnable,
-                                              &R::UnitEnable,
-                                              &S::ReadOnly,
-                                              &R::UnitLabelCaption,
-                                              &S::DeviceType,
-                                              &S::DeviceVersion,
-                                              &S::RegisterType,
-                                              &S::EnableControl,
-                                              &R::NumberOfDecimals,
-                                              &R::WidthDifference};
+    static constexpr std::array kInitialOrder{
+        &S::CFail, &R::MinParamValue, &R::MaxParamValue, &R::InvalidEntry, &R::InvalidEntryEnable,
+        &S::DataModified, &S::WaitingForData, &R::UnitType, &R::DeviceValue, &R::OutputValue, &R::DeviceUnit,
+        &R::OutputUnit, &R::DefaultUnit, &S::DataChanged, &S::DataNotAvailable, &S::DeviceTypeSupported,
+        &S::DeviceMinVersionSupported, &S::DeviceMaxVersionSupported, &S::DeviceTag, &S::DeviceTagNotFound,
+        &S::DeviceVerNotSupported, &S::DeviceTypeNotSupported, &S::MsgCfail, &S::MsgDataChanged,
+        &S::MsgDataNotAvailable, &R::MsgInvalidEntry, &R::MsgInvalidEntryTo, &R::MsgInvalidEntryNAN,
+        &R::MsgInvalidEntryForText, &S::MsgDeviceTagNotFound, &S::MsgDefault, &R::EntryType,
+        &R::NumberOfDigits, &R::MaxLength, &S::IconEnable, &R::UnitEnable, &S::ReadOnly, &R::UnitLabelCaption,
+        &S::DeviceType, &S::DeviceVersion, &S::RegisterType, &S::EnableControl, &R::NumberOfDecimals,
+        &R::WidthDifference};
+    // clang-format on
 
     static constexpr std::array kMessages{
         core::MessageRow{"MSG_CFAIL", &S::MsgCfail},
@@ -360,26 +245,11 @@ struct ctx_ZorTextBox::Tables {
         core::kGetMessageID,
         core::kSetMessage,
         core::kChangeBackColor,
-        MethodRow{"fc_GetCaptionID", 0,
-                  [](core::Control& c, std::span<const Variant>) -> MethodResult {
-                      return Variant(self(c).fc_GetCaptionID());
-                  }},
-        MethodRow{"fd_GetConversionFactor", 3,
-                  [](core::Control& c, std::span<const Variant> a) -> MethodResult {
-                      return Variant(self(c).fd_GetConversionFactor(
-                          UNIT_TYPE{a[0].toInt32()}, MEAS_TYPE{a[1].toInt32()}, MEAS_TYPE{a[2].toInt32()}));
-                  },
-                  "i_UnitType i_FromUnit i_ToUnit"},
-        MethodRow{"fd_GetOffset", 2,
-                  [](core::Control& c, std::span<const Variant> a) -> MethodResult {
-                      return Variant(self(c).fd_GetOffset(MEAS_TYPE{a[0].toInt32()}, MEAS_TYPE{a[1].toInt32()}));
-                  },
-                  "i_FromUnit i_ToUnit"},
-        MethodRow{"s_ForceOutputValueUpdate", 0,
-                  [](core::Control& c, std::span<const Variant>) -> MethodResult {
-                      self(c).s_ForceOutputValueUpdate();
-                      return {};
-                  }},
+        method<&ctx_ZorTextBox::fc_GetCaptionID>("fc_GetCaptionID"),
+        method<&ctx_ZorTextBox::fd_GetConversionFactor>("fd_GetConversionFactor", "i_UnitType", "i_FromUnit",
+                                                        "i_ToUnit"),
+        method<&ctx_ZorTextBox::fd_GetOffset>("fd_GetOffset", "i_FromUnit", "i_ToUnit"),
+        method<&ctx_ZorTextBox::s_ForceOutputValueUpdate>("s_ForceOutputValueUpdate"),
     };
 
     static constexpr std::array kWidgets{
@@ -391,17 +261,16 @@ const core::ClassInfo& ctx_ZorTextBox::classInfo() noexcept
 {
     using T = Tables;
     static constexpr core::ClassInfo info{
-        "ctx_ZorTextBox",
-        T::kProperties,
-        T::kInitialOrder,
-        T::kMessages,
-        "MSG_INVALIDENTRYTO",
-        T::kEvents,
-        T::kMethods,
-        T::kStates,
-        {},
-        T::kWidgets,
-        [](platform::Container& container) -> core::ControlPtr<> { return create(container); }};
+        .name = "ctx_ZorTextBox",
+        .properties = T::kProperties,
+        .initialOrder = T::kInitialOrder,
+        .messages = T::kMessages,
+        .otherMessage = "MSG_INVALIDENTRYTO",
+        .events = T::kEvents,
+        .methods = T::kMethods,
+        .states = T::kStates,
+        .widgets = T::kWidgets,
+        .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }};
     return info;
 }
 
