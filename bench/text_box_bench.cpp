@@ -111,5 +111,3 @@ BENCHMARK(storeMany)->Name("store 10,000 text boxes/zor")->Unit(benchmark::kMill
 BENCHMARK(restoreMany)->Name("restore 10,000 text boxes/zor")->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-BENCHMARK_MAIN();

@@ -4,6 +4,7 @@
 #include "platform/regional.h"
 #include "platform/text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -68,10 +69,15 @@ void roundTo(Decimal& decimal, int keep)
     decimal.count = at + 1;
 }
 
+/// The digits from position `from` to `to`, counted from the first one that is not zero; zeros where there are
+/// none.
 void appendDigits(std::string& text, const Decimal& decimal, int from, int to)
 {
-    for (int i = from; i < to; ++i)
-        text.push_back(i >= 0 && i < decimal.count ? decimal.digits[static_cast<std::size_t>(i)] : '0');
+    const int first = std::clamp(0, from, to);
+    const int last = std::clamp(decimal.count, first, to);
+    text.append(static_cast<std::size_t>(first - from), '0');
+    text.append(decimal.digits.data() + first, static_cast<std::size_t>(last - first));
+    text.append(static_cast<std::size_t>(to - last), '0');
 }
 
 void dropTrailingZeros(Decimal& decimal)

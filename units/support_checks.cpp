@@ -79,9 +79,9 @@ void s_PadVersion(std::string& c_Version)
     const std::size_t right = at + platform::byteOffset(std::string_view(c_Version).substr(at), 1);
     const bool padRight = platform::characterCount(std::string_view(c_Version).substr(right)) < 2;
     if (padRight)
-        c_Version.insert(right, "0");
+        c_Version.insert(right, 1, '0');
     if (at < 2)
-        c_Version.insert(0, "0");
+        c_Version.insert(0, 1, '0');
 }
 
 } // namespace zor

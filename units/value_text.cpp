@@ -1,4 +1,5 @@
 #include "platform/number_text.h"
+#include "platform/regional.h"
 #include "units/mod_Common.h"
 #include "units/unit_catalogue.h"
 
@@ -49,7 +50,11 @@ std::optional<double> validNumber(std::string_view text) noexcept
         if (!platform::tryTextToDouble(mantissa, read))
             return std::nullopt;
     }
-    // A separator that changes the magnitude for one reader but not for the other makes the text ambiguous.
+    // A separator that changes the magnitude for one reader but not for the other makes the text ambiguous. Where
+    // the user's decimal separator is the point and nothing is grouped, there is but one reading.
+    const platform::RegionalSettings& regional = platform::regionalSettings();
+    if (regional.decimal == "." && (regional.group.empty() || mantissa.find(regional.group) == text.npos))
+        return number;
     if (!(std::fabs(platform::leadingNumber(mantissa) - read) <= 1.0))
         return std::nullopt;
     return number;

@@ -14,9 +14,15 @@ void ctx_ZorTextBox::s_ApplyDeviceValue()
     const std::optional<double> number = isNumeric() ? validNumber(m_deviceValue) : std::nullopt;
     if (number) {
         m_displayValue = fc_FormatValue(m_units.toOutput(*number), m_units.outputUnit, m_numberOfDigits);
-        show(m_displayValue);
+        if (m_displayValue.isText()) {
+            // What has been formatted formats to itself: ten thousand fields are refreshed many times a second.
+            m_text->setAlignment(Alignment::Right);
+            m_text->setText(m_displayValue.text());
+        } else {
+            show(m_displayValue);
+        }
         // A unit without a display pattern shows nothing: then there is nothing to hand back either.
-        if (textNumber())
+        if (showsDisplayValue() || textNumber())
             assignOutput(m_deviceValue);
     } else {
         m_displayValue = m_deviceValue;
@@ -49,6 +55,11 @@ void ctx_ZorTextBox::assignOutput(Variant value)
 {
     m_outputValue = std::move(value);
     raise(kOutputValueChange);
+}
+
+bool ctx_ZorTextBox::showsDisplayValue() const
+{
+    return m_displayValue.isText() && m_displayValue.text() == m_text->text();
 }
 
 std::optional<double> ctx_ZorTextBox::textNumber() const { return validNumber(std::string_view(m_text->text())); }

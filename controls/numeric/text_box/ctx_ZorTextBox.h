@@ -166,6 +166,8 @@ private:
     void show(const Variant& value);
     void assignOutput(Variant value);
     [[nodiscard]] std::optional<double> textNumber() const;
+    /// Whether the text is, letter for letter, what was last shown from the device.
+    [[nodiscard]] bool showsDisplayValue() const;
     [[nodiscard]] bool isNumeric() const noexcept { return m_entryType == Numeric; }
 
     // Editing

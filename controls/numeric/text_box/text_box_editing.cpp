@@ -40,8 +40,10 @@ void ctx_ZorTextBox::onTextChanged()
     bool same = false;
     if (isNumeric()) {
         const std::optional<double> text = textNumber();
-        const std::optional<double> display = text ? validNumber(m_displayValue) : std::nullopt;
-        same = text && display && *text == *display;
+        const std::optional<double> display = !text                 ? std::nullopt
+                                              : showsDisplayValue() ? text
+                                                                    : validNumber(m_displayValue);
+        same = display && *text == *display;
     } else {
         same = m_displayValue.isText() ? m_displayValue.text() == m_text->text()
                                        : m_displayValue.toText() == m_text->text();
