@@ -96,7 +96,12 @@ bool operator==(const Variant& left, const Variant& right) noexcept
 {
     if (left.isNumber() && right.isNumber())
         return left.number() == right.number();
-    return left.m_value == right.m_value;
+    if (left.m_value.index() != right.m_value.index())
+        return false;
+    if (left.isText())
+        return left.text() == right.text();
+    const auto* flag = std::get_if<bool>(&left.m_value);
+    return flag == nullptr || *flag == *std::get_if<bool>(&right.m_value);
 }
 
 } // namespace zor

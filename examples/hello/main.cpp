@@ -3,6 +3,7 @@
 #include "platform/qt/container.h"
 
 #include <QApplication>
+#include <QWidget>
 
 int main(int argc, char** argv)
 {

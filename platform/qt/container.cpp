@@ -209,7 +209,7 @@ void QtContainer::showMessage(Component& component, const MessageBox& box)
     message.exec();
 }
 
-void QtContainer::failed(std::exception_ptr error)
+void QtContainer::failed(const std::exception_ptr& error)
 {
     if (onError)
         return onError(error);

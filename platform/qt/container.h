@@ -50,7 +50,7 @@ public:
     [[nodiscard]] QWidget& parent() const noexcept { return m_parent; }
     [[nodiscard]] std::string_view picture(int index) const noexcept;
     void setOpenMenu(PopupMenu* menu) noexcept { m_openMenu = menu; }
-    void failed(std::exception_ptr error);
+    void failed(const std::exception_ptr& error);
     /// Takes a Qt widget away; inside one of its events it is deleted when the event has ended.
     void discard(QWidget& widget);
     /// Counts the events under way.

@@ -42,7 +42,7 @@ QString shownText(std::string_view text, int limit)
 
 QString plainToolTip(std::string_view text)
 {
-    const QString shown = shownText(text, kToolTipLimit);
+    QString shown = shownText(text, kToolTipLimit);
     if (!Qt::mightBeRichText(shown))
         return shown;
     return "<span style=\"white-space: pre-wrap\">" + shown.toHtmlEscaped() + "</span>";
