@@ -146,8 +146,38 @@ bool scanNumber(std::string_view text, Out&& out) noexcept
     return true;
 }
 
+constexpr std::array kPowersOfTen{1.0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
+
+/// A number of few digits without an exponent, as the form shows it: digits and power of ten are exact, so is the
+/// rounding of their quotient. False for all others.
+bool parseShort(const char* begin, const char* end, double& value) noexcept
+{
+    constexpr std::ptrdiff_t kMost = 17; // sign, point and 15 digits
+    if (end - begin > kMost)
+        return false;
+    const bool negative = *begin == '-';
+    std::uint64_t digits = 0;
+    const char* point = end;
+    for (const char* at = begin + (negative ? 1 : 0); at != end; ++at) {
+        if (*at == '.')
+            point = at + 1;
+        else if (isDigit(*at))
+            digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
+        else
+            return false;
+    }
+    const auto decimals = static_cast<std::size_t>(end - point);
+    if (digits > 999'999'999'999'999 || decimals >= kPowersOfTen.size())
+        return false;
+    const double magnitude = static_cast<double>(digits) / kPowersOfTen[decimals];
+    value = negative ? -magnitude : magnitude;
+    return true;
+}
+
 bool parse(const char* begin, const char* end, double& value) noexcept
 {
+    if (parseShort(begin, end, value))
+        return true;
     double result = 0;
     const auto [at, error] = std::from_chars(begin, end, result);
     if (error == std::errc::result_out_of_range) {
@@ -173,13 +203,45 @@ bool parse(const char* begin, const char* end, double& value) noexcept
     return true;
 }
 
+/// Most values by far are small and not close to a half: then the value and its shortest decimal round alike, and
+/// whole numbers do. False for all others, and `text` is as it was.
+bool formatSmall(double value, int decimals, std::string& text)
+{
+    constexpr int kMostDecimals = 3;
+    constexpr double kLimit = 1e9;
+    constexpr double kCloseToHalf = 1e-6; // scaling errs by less than 1e9 x 2^-52
+    if (decimals < 0 || decimals > kMostDecimals)
+        return false;
+    const double scaled = std::fabs(value) * kPowersOfTen[static_cast<std::size_t>(decimals)];
+    if (!(scaled < kLimit))
+        return false;
+    auto number = static_cast<std::uint32_t>(scaled);
+    const double fraction = scaled - number;
+    if (std::fabs(fraction - 0.5) <= kCloseToHalf)
+        return false;
+    number += fraction > 0.5 ? 1 : 0;
+    std::array<char, 16> digits{};
+    char* const end = digits.data() + digits.size();
+    char* at = end;
+    for (; number != 0 || end - at <= decimals; number /= 10)
+        *--at = static_cast<char>('0' + number % 10);
+    if (std::signbit(value))
+        text.push_back('-');
+    text.append(at, end - decimals);
+    if (decimals > 0)
+        text.append(regionalSettings().decimal).append(end - decimals, end);
+    return true;
+}
+
 } // namespace
 
 std::string formatFixed(double value, int decimals)
 {
+    std::string text;
+    if (formatSmall(value, decimals, text))
+        return text;
     Decimal decimal = shortest(value);
     roundTo(decimal, decimal.point + decimals);
-    std::string text;
     if (decimal.negative)
         text.push_back('-');
     if (decimal.point > 0 && decimal.count > 0)

@@ -5,8 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <bit>
 #include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
 #include <random>
 
@@ -37,6 +42,26 @@ TEST_F(ValueText, RoundsHalfAwayFromZeroOnTheShortestDecimal)
     EXPECT_EQ(formatFixed(1e308, 3), "1" + std::string(308, '0') + ".000");
     EXPECT_EQ(formatFixed(5e-324, 2), "0.00");
     EXPECT_THROW(static_cast<void>(formatFixed(std::numeric_limits<double>::infinity(), 1)), RunTimeError);
+}
+
+TEST_F(ValueText, AgreesWithThePrinterOfTheStandardLibraryAwayFromHalves)
+{
+    const unsigned seed = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937_64 random(seed);
+    std::uniform_real_distribution<double> exponent(-4, 12);
+    std::array<char, 64> printed{};
+    for (int i = 0; i < 200'000; ++i) {
+        const double value = std::pow(10, exponent(random)) * (i % 2 == 0 ? 1 : -1);
+        const int decimals = i % 5;
+        const double scaled = std::fabs(value) * std::pow(10, decimals);
+        // At a half the printer rounds the binary value, and texts of numbers round the decimal.
+        if (std::fabs(scaled - std::floor(scaled) - 0.5) < std::max(1e-4, scaled * 1e-14))
+            continue;
+        std::snprintf(printed.data(), printed.size(), "%.*f", decimals, value);
+        ASSERT_EQ(formatFixed(value, decimals), printed.data()) << value;
+        ASSERT_EQ(platform::textToDouble(printed.data()), std::strtod(printed.data(), nullptr)) << printed.data();
+    }
 }
 
 TEST_F(ValueText, FollowsTheUnitAndForNumbersWithoutOneTheCaller)
