@@ -1,9 +1,16 @@
 #include "controls/registration.h"
 
+#include "controls/display/image/ctx_ZorImage.h"
+#include "controls/display/label/ctx_ZorLabel.h"
 #include "controls/numeric/text_box/ctx_ZorTextBox.h"
 
 namespace zor {
 
-void registerControls(core::ClassRegistry& registry) { registry.add(ctx_ZorTextBox::classInfo()); }
+void registerControls(core::ClassRegistry& registry)
+{
+    registry.add(ctx_ZorTextBox::classInfo());
+    registry.add(ctx_ZorLabel::classInfo());
+    registry.add(ctx_ZorImage::classInfo());
+}
 
 } // namespace zor

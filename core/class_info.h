@@ -37,7 +37,7 @@ struct MessageRow {
 /// One of the states a control explains to the operator. The first row of a class's table that applies wins.
 struct StatusRow {
     bool (*applies)(const Control&);
-    /// Appends the tooltip.
+    /// Appends the state in words: the tooltip, where the class has none of its own.
     void (*toolTip)(const Control&, std::string&);
     int picture;
     /// Appends the text of the message box that a click on the state icon opens; nullptr for a state that has
@@ -76,6 +76,9 @@ struct ClassInfo {
     std::span<const StatusRow> states;
     std::span<const EffectRow> effects{};
     std::span<const WidgetRow> widgets;
+    /// What a control that is nothing but its picture stands for: its tooltip in every state, and its name for a
+    /// screen reader. nullptr: the tooltip is the state in words, and the name is DeviceTag.
+    std::string_view (*subject)(const Control&) = nullptr;
     /// Title of the message boxes; nullptr for MessageHeader alone.
     std::string (*boxTitle)(const Control&) = nullptr;
     ControlPtr<> (*create)(platform::Container&);

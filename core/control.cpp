@@ -157,8 +157,9 @@ void Control::s_UpdateStatusDisplay()
         icon().setVisible(false);
     } else {
         std::string tip;
-        state->toolTip(*this, tip);
-        carrier.setToolTip(tip);
+        if (m_info.subject == nullptr)
+            state->toolTip(*this, tip);
+        carrier.setToolTip(m_info.subject == nullptr ? tip : m_info.subject(*this));
         icon().setPicture(state->picture);
         if (m_status.iconEnable)
             icon().setVisible(true);
@@ -175,8 +176,9 @@ void Control::describeForReaders()
             description += ", ";
         m_shownState->toolTip(*this, description);
     }
-    body().front()->setAccessible(m_binding.deviceTag, description);
-    icon().setAccessible(m_binding.deviceTag, description);
+    const std::string_view name = m_info.subject == nullptr ? m_binding.deviceTag : m_info.subject(*this);
+    body().front()->setAccessible(name, description);
+    icon().setAccessible(name, description);
 }
 
 void Control::s_ExplainState()

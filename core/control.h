@@ -203,6 +203,8 @@ protected:
     [[nodiscard]] virtual std::string accessibleDetail() const { return {}; }
     /// @}
 
+    /// Tells a screen reader which parameter this is, and its state in words.
+    void describeForReaders();
     /// Shows the message of the state that the icon stands for, and acknowledges it where the state says so.
     /// The caller raises imgClick afterwards.
     void s_ExplainState();
@@ -243,7 +245,6 @@ private:
     friend struct SharedRows;
     friend struct ControlDeleter;
 
-    void describeForReaders();
     [[nodiscard]] bool refusesWrite(const PropertyRow& row) const;
     void stored(const PropertyRow& row);
     void refresh(Refresh refresh);

@@ -139,6 +139,9 @@ struct PropertyRow {
     /// Writes through `Put(Class&, T)` instead of straight into the field.
     template <auto Put>
     [[nodiscard]] constexpr PropertyRow written() const;
+    /// Reads through `Get(Class&)`: the field only carries what is written or loaded to the place that keeps it.
+    template <auto Get>
+    [[nodiscard]] constexpr PropertyRow reading() const;
 };
 
 namespace detail {
@@ -260,10 +263,7 @@ template <auto Get>
     using Traits = detail::Accessor<decltype(Get)>;
     PropertyRow row{name, {detail::kindOf<typename Traits::Value>()}};
     row.access = Access::ReadOnly;
-    row.get = [](Control& control) {
-        return detail::toVariant(Get(static_cast<typename Traits::Class&>(control)));
-    };
-    return row;
+    return row.reading<Get>();
 }
 
 /// A row for a property that can only be written.
@@ -286,6 +286,16 @@ constexpr PropertyRow PropertyRow::then() const
         row.after = [](Control& control) {
             Function(static_cast<typename detail::Accessor<decltype(Function)>::Class&>(control));
         };
+    return row;
+}
+
+template <auto Get>
+constexpr PropertyRow PropertyRow::reading() const
+{
+    PropertyRow row = *this;
+    row.get = [](Control& control) {
+        return detail::toVariant(Get(static_cast<typename detail::Accessor<decltype(Get)>::Class&>(control)));
+    };
     return row;
 }
 

@@ -95,6 +95,9 @@ public:
     [[nodiscard]] virtual std::string caption() const = 0;
     /// Reports Change when the caption differs from the old one.
     virtual void setCaption(std::string_view caption) = 0;
+    /// Whether the operator can mark the text and copy it, where the platform has a way that takes no report and
+    /// no focus from anyone. At first not.
+    virtual void setSelectable(bool selectable) = 0;
 };
 
 /// A picture out of the shared image list.

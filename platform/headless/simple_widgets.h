@@ -34,6 +34,8 @@ public:
         fit();
         report(Notice::Change);
     }
+    // There is no clipboard to copy to.
+    void setSelectable(bool /*selectable*/) override {}
 
 private:
     void fit() { m_geometry.width = textWidth(m_caption, isBold()); }

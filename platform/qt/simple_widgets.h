@@ -5,7 +5,9 @@
 #include "platform/qt/qt_widget.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QLabel>
+#include <QMenu>
 #include <QPainter>
 #include <QRadioButton>
 #include <QStyleOptionFocusRect>
@@ -15,7 +17,58 @@
 
 namespace zor::platform::qt {
 
-class QtLabel final : public QtFontBase<Label, QLabel> {
+/// A label whose text can be marked with the mouse and copied from a menu. It never takes the focus, and the menu
+/// opens when the button is released: a menu that opens on the press would keep the release from the control.
+/// The text document that marking needs is made when somebody begins to mark.
+class SelectableLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+    void setSelectable(bool selectable)
+    {
+        m_selectable = selectable;
+        unmark();
+        if (selectable)
+            setCursor(Qt::IBeamCursor);
+        else
+            unsetCursor();
+    }
+    void unmark()
+    {
+        if (textInteractionFlags() != Qt::NoTextInteraction)
+            setTextInteractionFlags(Qt::NoTextInteraction);
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        if (m_selectable && event->button() == Qt::LeftButton) {
+            setTextInteractionFlags(Qt::TextSelectableByMouse);
+            setFocusPolicy(Qt::NoFocus);
+            // A press on marked text would begin to drag it away, and the release would never come.
+            if (event->type() == QEvent::MouseButtonPress && hasSelectedText())
+                setSelection(0, 0);
+        }
+        QLabel::mousePressEvent(event);
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        QLabel::mouseReleaseEvent(event);
+        if (event->button() != Qt::RightButton || !hasSelectedText())
+            return;
+        auto* menu = new QMenu(this);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        connect(menu->addAction(QCoreApplication::translate("QWidgetTextControl", "&Copy")), &QAction::triggered,
+                this, [text = selectedText()] { QGuiApplication::clipboard()->setText(text); });
+        menu->popup(event->globalPosition().toPoint());
+    }
+    void contextMenuEvent(QContextMenuEvent* event) override { event->ignore(); }
+
+private:
+    bool m_selectable = false;
+};
+
+class QtLabel final : public QtFontBase<Label, SelectableLabel> {
 public:
     QtLabel(const Context& context, int number) : QtFontBase(context, number, ButtonFace)
     {
@@ -36,10 +89,12 @@ public:
             return;
         m_caption = caption;
         constexpr int kLimit = 4096;
+        widget().unmark();
         widget().setText(shownText(m_caption, kLimit));
         fit();
         report(Notice::Change);
     }
+    void setSelectable(bool selectable) override { widget().setSelectable(selectable); }
 
 private:
     void fontChanged() override { fit(); }
@@ -62,6 +117,7 @@ public:
     void setPicture(std::string_view svg)
     {
         m_renderer.load(QByteArray(svg.data(), static_cast<qsizetype>(svg.size())));
+        m_renderer.setAspectRatioMode(Qt::KeepAspectRatio);
         update();
     }
 
@@ -77,6 +133,9 @@ protected:
         if (hasFocus()) {
             QStyleOptionFocusRect option;
             option.initFrom(this);
+            // A picture gets the focus from the keyboard or from the host, never from a click: it always shows.
+            option.state |= QStyle::State_KeyboardFocusChange;
+            option.backgroundColor = palette().color(QPalette::Window);
             style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
         }
     }
@@ -109,9 +168,13 @@ private:
         {
             if (event->type() != QEvent::KeyPress)
                 return QObject::eventFilter(object, event);
-            const int key = static_cast<QKeyEvent*>(event)->key();
+            const auto& press = *static_cast<QKeyEvent*>(event);
+            const int key = press.key();
             if (key != Qt::Key_Space && key != Qt::Key_Return && key != Qt::Key_Enter)
                 return false;
+            // A key that is held down is one click.
+            if (press.isAutoRepeat())
+                return true;
             const EventScope scope(m_image.context());
             m_image.report(Notice::Click);
             return true;

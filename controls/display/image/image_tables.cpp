@@ -1,0 +1,194 @@
+// The status image as data: properties, messages, events, states, methods.
+
+#include "controls/display/image/ctx_ZorImage.h"
+#include "core/shared_methods.h"
+#include "core/shared_rows.h"
+
+#include <array>
+
+namespace zor {
+
+using core::Access;
+using core::event;
+using core::fieldRow;
+using core::method;
+using core::ownEvent;
+using core::PropertyRow;
+using core::Refresh;
+using core::SharedRows;
+using platform::Notice;
+
+// --- Properties
+
+struct ctx_ZorImage::Rows {
+    using This = ctx_ZorImage;
+    using S = SharedRows;
+
+    static constexpr PropertyRow DeviceValue =
+        fieldRow<&This::m_deviceValue>("DeviceValue").stored(0).refreshing({Refresh::Status});
+    static constexpr PropertyRow UseAuxIcon = fieldRow<&This::m_useAuxIcon>("UseAuxIcon").stored(false);
+    static constexpr PropertyRow ReadOnly = S::ReadOnly.with(Access::Silent).refreshing({});
+    static constexpr PropertyRow MessageHeader =
+        S::MessageHeader.initially("Qex").then<&This::describeForReaders>();
+
+    // Three texts of a new image are not those of a form that says nothing; forms in the field rely on both.
+    static constexpr PropertyRow MsgDefault =
+        S::MsgDefault.stored("Detailed Information about ").initially("Status OK");
+    static constexpr PropertyRow StatusText =
+        fieldRow<&This::m_texts, &Texts::status>("StatusText").stored("Status").initially("");
+    static constexpr PropertyRow MsgStatusOK = fieldRow<&This::m_texts, &Texts::ok>("MsgStatusOK")
+                                                   .stored("- No Information. Status OK.")
+                                                   .initially("- No Information. Status OK")
+                                                   .with(Access::Silent)
+                                                   .refreshing({Refresh::Status});
+    static constexpr PropertyRow MsgStatusNotOK = fieldRow<&This::m_texts, &Texts::notOk>("MsgStatusNotOK")
+                                                      .stored("Status Not OK")
+                                                      .with(Access::Silent)
+                                                      .refreshing({Refresh::Status});
+    static constexpr PropertyRow MsgUndefined =
+        fieldRow<&This::m_texts, &Texts::undefined>("MsgUndefined").with(Access::Silent);
+    static constexpr PropertyRow MsgBit = fieldRow<&This::m_texts, &Texts::bit>("MsgBit").with(Access::Silent);
+};
+
+// --- States
+
+struct ctx_ZorImage::States {
+    static const ctx_ZorImage& self(const core::Control& c) { return static_cast<const ctx_ZorImage&>(c); }
+
+    static constexpr core::StatusRow Waiting{
+        [](const core::Control& c) { return c.WaitingForData(); },
+        [](const core::Control&, std::string& text) { text += "Waiting for data"; }, frm_Container::Waiting};
+
+    /// No bit is set, shown by the pictures of one pair.
+    template <bool Aux>
+    static constexpr core::StatusRow Ok{
+        [](const core::Control& c) { return self(c).m_deviceValue == 0 && self(c).m_useAuxIcon == Aux; },
+        [](const core::Control& c, std::string& text) { text += self(c).MsgStatusOK(); },
+        Aux ? frm_Container::StatusOkAlt : frm_Container::StatusOk,
+        [](core::Control& c, std::string& text) {
+            self(c).appendIntroduction(text);
+            text.append("\r\n").append(self(c).MsgStatusOK());
+        },
+        platform::BoxIcon::Information};
+
+    /// A bit is set.
+    template <bool Aux>
+    static constexpr core::StatusRow NotOk{
+        [](const core::Control& c) { return self(c).m_deviceValue != 0 && self(c).m_useAuxIcon == Aux; },
+        [](const core::Control& c, std::string& text) { text += self(c).notOkInWords(); },
+        Aux ? frm_Container::StatusNotOkAlt : frm_Container::StatusNotOk,
+        [](core::Control& c, std::string& text) {
+            static_cast<ctx_ZorImage&>(c).composeConditions();
+            text.append(self(c).MsgStatusNotOK()).append("\r\n");
+        },
+        platform::BoxIcon::Exclamation};
+};
+
+// --- The class
+
+struct ctx_ZorImage::Tables {
+    using S = SharedRows;
+    using R = Rows;
+    using E = __ctx_ZorImage;
+
+    // clang-format off
+    static constexpr std::array kProperties{
+        &S::CFail, &S::WaitingForData, &R::DeviceValue, &S::DataNotAvailable, &S::DeviceTypeSupported,
+        &S::DeviceMinVersionSupported, &S::DeviceMaxVersionSupported, &S::DeviceTag, &S::DeviceTagNotFound,
+        &S::DeviceVerNotSupported, &S::DeviceTypeNotSupported, &S::MsgCfail, &S::MsgDataNotAvailable,
+        &S::MsgDeviceTagNotFound, &R::MsgDefault, &R::StatusText, &R::MsgStatusNotOK, &R::MsgStatusOK,
+        &S::DeviceType, &S::DeviceVersion, &S::RegisterType, &S::EnableControl, &R::ReadOnly, &R::UseAuxIcon,
+        // not stored
+        &R::MessageHeader, &R::MsgUndefined, &R::MsgBit};
+
+    static constexpr std::array kInitialOrder{
+        &S::CFail, &R::DeviceValue, &S::WaitingForData, &S::DataNotAvailable, &S::DeviceTypeSupported,
+        &S::DeviceMinVersionSupported, &S::DeviceMaxVersionSupported, &S::DeviceTag, &S::DeviceTagNotFound,
+        &S::DeviceVerNotSupported, &S::DeviceTypeNotSupported, &S::MsgCfail, &S::MsgDataNotAvailable,
+        &S::MsgDeviceTagNotFound, &R::MsgDefault, &R::MsgStatusNotOK, &R::MsgStatusOK, &S::DeviceType,
+        &S::DeviceVersion, &S::RegisterType, &S::EnableControl, &R::StatusText, &R::ReadOnly, &R::UseAuxIcon};
+    // clang-format on
+
+    // Waiting has a picture of its own; there are no colours, and a failure disables nothing.
+    static constexpr std::array kEffects{
+        core::EffectRow{&S::CFail, {Refresh::Status}},
+        core::EffectRow{&S::WaitingForData, {Refresh::Status, Refresh::Enabled}},
+        core::EffectRow{&S::RegisterType, {}},
+    };
+
+    static constexpr std::array kMessages{
+        core::MessageRow{"MSG_CFAIL", &S::MsgCfail},
+        core::MessageRow{"MSG_STATUSNOTOK", &R::MsgStatusNotOK},
+        core::MessageRow{"MSG_DATANOTAVAILABLE", &S::MsgDataNotAvailable},
+        core::MessageRow{"MSG_DEFAULT", &R::MsgDefault},
+        core::MessageRow{"MSG_DEVICETAGNOTFOUND", &S::MsgDeviceTagNotFound},
+    };
+
+    static constexpr std::array kEvents{
+        ownEvent<&E::DeviceVerNotSupportedSetTrue>("DeviceVerNotSupportedSetTrue"),
+        ownEvent<&E::DeviceTypeNotSupportedSetTrue>("DeviceTypeNotSupportedSetTrue"),
+        event<&E::imageClick>("imageClick", kState, Notice::Click),
+        event<&E::imageDblClick>("imageDblClick", kState, Notice::DblClick),
+        event<&E::imageMouseDown>("imageMouseDown", kState, Notice::MouseDown, "Button", "Shift", "X", "Y"),
+        event<&E::imageMouseMove>("imageMouseMove", kState, Notice::MouseMove, "Button", "Shift", "X", "Y"),
+        event<&E::imageMouseUp>("imageMouseUp", kState, Notice::MouseUp, "Button", "Shift", "X", "Y"),
+        event<&E::imageOLECompleteDrag>("imageOLECompleteDrag", kState, Notice::OLECompleteDrag, "Effect"),
+        ownEvent<&E::imageOLEDragDrop>("imageOLEDragDrop", "Data", "Effect", "Button", "Shift", "X", "Y"),
+        ownEvent<&E::imageOLEDragOver>("imageOLEDragOver", "Data", "Effect", "Button", "Shift", "X", "Y", "State"),
+        event<&E::imageOLEGiveFeedback>("imageOLEGiveFeedback", kState, Notice::OLEGiveFeedback, "Effect",
+                                        "DefaultCursors"),
+        ownEvent<&E::imageOLESetData>("imageOLESetData", "Data", "DataFormat"),
+        ownEvent<&E::imageOLEStartDrag>("imageOLEStartDrag", "Data", "AllowedEffects"),
+    };
+
+    // One of the rows always applies: the picture is the control, and is never without a state.
+    static constexpr std::array kStates{S::CommunicationFailure, S::TagNotFound,     S::NoData,
+                                        States::Waiting,         States::Ok<false>,  States::Ok<true>,
+                                        States::NotOk<false>,    States::NotOk<true>};
+
+    static constexpr std::array kMethods{
+        core::kGetMaxMessage,
+        core::kGetMessageID,
+        core::kSetMessage,
+        core::kChangeBackColor,
+        method<&ctx_ZorImage::MaxEntries>("MaxEntries", "MaxCount"),
+        method<&ctx_ZorImage::AddBitFieldEntry>("AddBitFieldEntry", "Identifier", "BitFieldEntryValue", "Index"),
+    };
+
+    static constexpr std::array kWidgets{core::WidgetRow{platform::kSurfaceWidget, "Surface"},
+                                         core::WidgetRow{kState, "img_State"}};
+};
+
+const core::ClassInfo& ctx_ZorImage::classInfo() noexcept
+{
+    using T = Tables;
+    static constexpr core::ClassInfo info{
+        .name = "ctx_ZorImage",
+        .properties = T::kProperties,
+        .initialOrder = T::kInitialOrder,
+        .messages = T::kMessages,
+        .events = T::kEvents,
+        .methods = T::kMethods,
+        .states = T::kStates,
+        .effects = T::kEffects,
+        .widgets = T::kWidgets,
+        .subject = [](const core::Control& c) -> std::string_view { return c.MessageHeader(); },
+        .boxTitle =
+            [](const core::Control& c) { return States::self(c).StatusText() + " - " + c.MessageHeader(); },
+        .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }};
+    return info;
+}
+
+// --- Accessors
+
+void ctx_ZorImage::DeviceValue(std::int32_t value) { write(Rows::DeviceValue, value); }
+void ctx_ZorImage::UseAuxIcon(bool value) { write(Rows::UseAuxIcon, value); }
+void ctx_ZorImage::ReadOnly(bool value) { write(Rows::ReadOnly, value); }
+void ctx_ZorImage::MessageHeader(std::string_view value) { write(Rows::MessageHeader, std::string(value)); }
+void ctx_ZorImage::StatusText(std::string_view value) { write(Rows::StatusText, std::string(value)); }
+void ctx_ZorImage::MsgStatusNotOK(std::string_view value) { write(Rows::MsgStatusNotOK, std::string(value)); }
+void ctx_ZorImage::MsgStatusOK(std::string_view value) { write(Rows::MsgStatusOK, std::string(value)); }
+void ctx_ZorImage::MsgUndefined(std::string_view value) { write(Rows::MsgUndefined, std::string(value)); }
+void ctx_ZorImage::MsgBit(std::string_view value) { write(Rows::MsgBit, std::string(value)); }
+
+} // namespace zor
