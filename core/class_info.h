@@ -79,6 +79,8 @@ struct ClassInfo {
     /// What a control that is nothing but its picture stands for: its tooltip in every state, and its name for a
     /// screen reader. nullptr: the tooltip is the state in words, and the name is DeviceTag.
     std::string_view (*subject)(const Control&) = nullptr;
+    /// A write that fails on the way stays, with all that was done before the failing step; else it is undone.
+    bool keepsFailedWrites = false;
     /// Title of the message boxes; nullptr for MessageHeader alone.
     std::string (*boxTitle)(const Control&) = nullptr;
     ControlPtr<> (*create)(platform::Container&);

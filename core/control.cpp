@@ -250,12 +250,23 @@ void Control::deliver(const SinkList::Entry& entry, const EventRow& row, platfor
     }
 }
 
+void Control::passOnReportError() { std::rethrow_exception(std::exchange(m_reportError, nullptr)); }
+
 void Control::passOnHandlerError() { std::rethrow_exception(std::exchange(m_handlerError, nullptr)); }
 
 void Control::notice(int widget, platform::Notice notice, platform::EventArgs args)
 {
-    if (!m_ended)
-        run([&] { onNotice(widget, notice, args); });
+    if (m_ended)
+        return;
+    const auto answer = [&] { run([&] { onNotice(widget, notice, args); }); };
+    if (m_settings == 0)
+        return answer();
+    try {
+        answer();
+    } catch (...) {
+        if (!m_reportError)
+            m_reportError = std::current_exception();
+    }
 }
 
 void Control::onNotice(int widget, platform::Notice notice, platform::EventArgs args)
@@ -315,7 +326,8 @@ void Control::writeProperties(platform::PropertyBag& bag)
 {
     for (const PropertyRow* row : m_info.properties) {
         if (!row->key.empty())
-            bag.WriteProperty(row->key, get(*row), toVariant(row->bagDefault));
+            bag.WriteProperty(row->key, row->storesField ? valueOf(row->field.at(*this)) : get(*row),
+                              toVariant(row->bagDefault));
     }
 }
 

@@ -56,8 +56,9 @@ struct Messages {
 ///
 /// Properties are published as pairs of overloads, `bool CFail() const` and `void CFail(bool)`. A write
 /// stores the value, notifies the container under the property's own name and runs the refreshes that depend
-/// on it. When an exception leaves a write, the property has its old value again. An exception thrown by an
-/// event handler is passed on to the caller after the control has finished its work.
+/// on it. When an exception leaves a write, the property has its old value again, unless the class keeps what
+/// was done before the failing step. An exception thrown by an event handler is passed on to the caller after
+/// the control has finished its work.
 class Control : public platform::Component, public platform::WidgetListener {
 public:
     Control(const Control&) = delete;
@@ -229,6 +230,11 @@ protected:
     template <class Action>
     void run(Action&& action);
 
+    /// Sets something of a widget. What fails in answering the widget's report fails here, also on a platform
+    /// that lets no exception through its event loop.
+    template <class Set>
+    void settle(Set&& set);
+
     /// Raises the event of a published number.
     void raise(std::size_t number, platform::EventArgs args = {});
     /// Re-raises a widget's report as the event that the class's table names, if it names one.
@@ -250,6 +256,7 @@ private:
     void refresh(Refresh refresh);
     void deliver(const SinkList::Entry& entry, const EventRow& row, platform::EventArgs args);
     void passOnHandlerError();
+    void passOnReportError();
     void load(const PropertyRow& row, const Variant& value);
 
     const ClassInfo& m_info;
@@ -257,9 +264,11 @@ private:
     std::unique_ptr<platform::Surface> m_surface;
     SinkList m_sinks;
     std::exception_ptr m_handlerError;
+    std::exception_ptr m_reportError;
     const StatusRow* m_shownState = nullptr;
     std::uint32_t m_holds = 0;
     std::uint32_t m_runs = 0;
+    std::uint32_t m_settings = 0;
     bool m_ended = false;
 };
 
@@ -284,6 +293,25 @@ void Control::run(Action&& action)
         passOnHandlerError();
 }
 
+template <class Set>
+void Control::settle(Set&& set)
+{
+    struct Depth {
+        explicit Depth(std::uint32_t& count) noexcept : count(count) { ++count; }
+        ~Depth() { --count; }
+        Depth(const Depth&) = delete;
+        Depth& operator=(const Depth&) = delete;
+        std::uint32_t& count;
+    };
+    const platform::Hold hold(*this);
+    {
+        const Depth depth(m_settings);
+        std::forward<Set>(set)();
+    }
+    if (m_reportError)
+        passOnReportError();
+}
+
 template <class T>
 void Control::write(const PropertyRow& row, T value)
 {
@@ -291,6 +319,11 @@ void Control::write(const PropertyRow& row, T value)
         return;
     run([&] {
         T& field = *std::get<T*>(row.field.at(*this));
+        if (m_info.keepsFailedWrites) {
+            field = std::move(value);
+            stored(row);
+            return;
+        }
         T old = std::exchange(field, std::move(value));
         try {
             stored(row);

@@ -4,6 +4,7 @@
 
 #include "platform/notice.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -93,8 +94,8 @@ struct SinkMember<void (S::*)(A...)> {
     static constexpr std::array<std::uint8_t, EventRow::kMaxArguments> kTypes{
         static_cast<std::uint8_t>(platform::ArgRef(static_cast<std::remove_reference_t<A>*>(nullptr)).index())...};
 
-    template <auto Function, std::size_t... I>
-    static void call(Sink& sink, [[maybe_unused]] platform::EventArgs args, std::index_sequence<I...>)
+    template <auto Function, class Interface, std::size_t... I>
+    static void call(Interface& sink, [[maybe_unused]] platform::EventArgs args, std::index_sequence<I...>)
     {
         (sink.*Function)(*std::get<std::remove_reference_t<A>*>(args[I])...);
     }
@@ -102,8 +103,9 @@ struct SinkMember<void (S::*)(A...)> {
 
 } // namespace detail
 
-/// A row for a member of a sink interface. The arguments' names must be as many as the member takes.
-template <auto Function, class... Names>
+/// A row for a member of a sink interface. The arguments' names must be as many as the member takes. `Interface`
+/// is what subscribes: it must be named where the member is inherited.
+template <auto Function, class Interface = typename detail::SinkMember<decltype(Function)>::Sink, class... Names>
 constexpr EventRow event(std::string_view name, int widget, platform::Notice notice, Names... arguments)
 {
     using Member = detail::SinkMember<decltype(Function)>;
@@ -115,16 +117,26 @@ constexpr EventRow event(std::string_view name, int widget, platform::Notice not
                     Member::kTypes,
                     Member::kCount,
                     [](void* sink, platform::EventArgs args) {
-                        Member::template call<Function>(*static_cast<typename Member::Sink*>(sink), args,
+                        Member::template call<Function>(*static_cast<Interface*>(sink), args,
                                                         std::make_index_sequence<Member::kCount>{});
                     }};
 }
 
 /// A row for an event that no widget's report raises by itself.
-template <auto Function, class... Names>
+template <auto Function, class Interface = typename detail::SinkMember<decltype(Function)>::Sink, class... Names>
 constexpr EventRow ownEvent(std::string_view name, Names... arguments)
 {
-    return event<Function>(name, -1, platform::Notice::None, arguments...);
+    return event<Function, Interface>(name, -1, platform::Notice::None, arguments...);
+}
+
+/// One table of events out of several parts, in their order.
+template <std::size_t... N>
+constexpr auto joinedEvents(const std::array<EventRow, N>&... parts)
+{
+    std::array<EventRow, (N + ...)> all{};
+    auto at = all.begin();
+    ((at = std::copy(parts.begin(), parts.end(), at)), ...);
+    return all;
 }
 
 } // namespace zor::core

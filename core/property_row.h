@@ -97,6 +97,7 @@ struct PropertyRow {
     Literal bagDefault{};
     Literal initial{};
     Access access = Access::ReadWrite;
+    bool storesField = false;
     Refreshes refreshes{};
     /// Runs after the refreshes.
     void (*after)(Control&) = nullptr;
@@ -142,6 +143,13 @@ struct PropertyRow {
     /// Reads through `Get(Class&)`: the field only carries what is written or loaded to the place that keeps it.
     template <auto Get>
     [[nodiscard]] constexpr PropertyRow reading() const;
+    /// Stores the field as it stands, whatever reading makes of it.
+    [[nodiscard]] constexpr PropertyRow storingField() const
+    {
+        PropertyRow row = *this;
+        row.storesField = true;
+        return row;
+    }
 };
 
 namespace detail {
@@ -260,8 +268,7 @@ template <auto First, auto... Rest>
 template <auto Get>
 [[nodiscard]] constexpr PropertyRow computedRow(std::string_view name)
 {
-    using Traits = detail::Accessor<decltype(Get)>;
-    PropertyRow row{name, {detail::kindOf<typename Traits::Value>()}};
+    PropertyRow row{name, {detail::kindOf<typename detail::Accessor<decltype(Get)>::Value>()}};
     row.access = Access::ReadOnly;
     return row.reading<Get>();
 }

@@ -33,10 +33,16 @@ enum class Notice : std::uint8_t {
     Scroll,          ///< a track is being dragged, a list was scrolled
     SpinDown,        ///< the spin button went one step down
     SpinUp,          ///< the spin button went one step up
+    LinkClose,       ///<
+    LinkError,       ///< LinkErr (16-bit)
     LinkNotify,      ///<
     LinkOpen,        ///< Cancel (16-bit)
     OLECompleteDrag, ///< Effect (32-bit)
+    OLEDragDrop,     ///< Data (text), Effect (32-bit), Button, Shift (16-bit), X, Y (single, twips)
+    OLEDragOver,     ///< as OLEDragDrop, then State (16-bit)
     OLEGiveFeedback, ///< Effect (32-bit), DefaultCursors (boolean)
+    OLESetData,      ///< Data (text), DataFormat (16-bit)
+    OLEStartDrag,    ///< Data (text), AllowedEffects (32-bit)
 };
 
 /// Mouse buttons as they stand in Button (a bit each).

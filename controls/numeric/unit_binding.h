@@ -4,13 +4,15 @@
 
 #include "units/mod_Common.h"
 
+#include <cmath>
+
 namespace zor::controls {
 
 /// In which units a numeric control receives, shows and limits its value. `minParam` and `maxParam` are the
 /// limits `minValue` and `maxValue` expressed in the output unit.
 struct UnitBinding {
     UNIT_TYPE unitType = Length;
-    MEAS_TYPE deviceUnit = LgthU_1By10_MM;
+    MEAS_TYPE deviceUnit = LgthU_MM;
     MEAS_TYPE outputUnit = LgthU_MM;
     MEAS_TYPE defaultUnit = LgthU_MM;
     /// The output unit before its last change; what is shown is re-expressed from it.
@@ -35,12 +37,19 @@ struct UnitBinding {
 
     void updateMinParam() { minParam = limitToOutput(minValue); }
     void updateMaxParam() { maxParam = limitToOutput(maxValue); }
-    /// Both or neither.
-    void updateLimits()
+
+    /// Whether a value in the device unit lies outside the limits taken back to that unit. What differs from a
+    /// limit by rounding alone lies on it.
+    [[nodiscard]] bool isOutside(double deviceValue) const noexcept
     {
-        const double lower = limitToOutput(minValue);
-        updateMaxParam();
-        minParam = lower;
+        constexpr double kRounding = 1e-9;
+        const double factor = fd_GetConversionFactor(unitType, outputUnit, deviceUnit);
+        const double offset = fd_GetOffset(outputUnit, deviceUnit);
+        // A limit beyond every number of the device unit becomes infinite, and limits nothing.
+        const double lower = minParam * factor + offset;
+        const double upper = maxParam * factor + offset;
+        return (deviceValue < lower && lower - deviceValue > kRounding * std::fabs(lower)) ||
+               (deviceValue > upper && deviceValue - upper > kRounding * std::fabs(upper));
     }
 };
 

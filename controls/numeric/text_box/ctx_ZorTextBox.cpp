@@ -1,11 +1,8 @@
 #include "controls/numeric/text_box/ctx_ZorTextBox.h"
 
-#include "controls/numeric/text_box/text_box_numbers.h"
-
 namespace zor {
 
 using platform::Alignment;
-using namespace text_box;
 
 // --- From the device to the operator
 
@@ -16,13 +13,13 @@ void ctx_ZorTextBox::s_ApplyDeviceValue()
         m_displayValue = fc_FormatValue(m_units.toOutput(*number), m_units.outputUnit, m_numberOfDigits);
         if (m_displayValue.isText()) {
             // What has been formatted formats to itself: ten thousand fields are refreshed many times a second.
-            m_text->setAlignment(Alignment::Right);
-            m_text->setText(m_displayValue.text());
+            m_field.text().setAlignment(Alignment::Right);
+            m_field.text().setText(m_displayValue.text());
         } else {
             show(m_displayValue);
         }
         // A unit without a display pattern shows nothing: then there is nothing to hand back either.
-        if (showsDisplayValue() || textNumber())
+        if (showsDisplayValue() || m_field.number())
             assignOutput(m_deviceValue);
     } else {
         m_displayValue = m_deviceValue;
@@ -38,7 +35,7 @@ void ctx_ZorTextBox::s_ApplyDeviceValue()
 Variant ctx_ZorTextBox::fv_FormatDisplayValue(const Variant& value, MEAS_TYPE unit)
 {
     const std::optional<double> number = isNumeric() ? validNumber(value) : std::nullopt;
-    m_text->setAlignment(number ? Alignment::Right : Alignment::Left);
+    m_field.text().setAlignment(number ? Alignment::Right : Alignment::Left);
     return number ? fc_FormatValue(*number, unit, m_numberOfDigits) : value;
 }
 
@@ -46,9 +43,9 @@ void ctx_ZorTextBox::show(const Variant& value)
 {
     const Variant shown = fv_FormatDisplayValue(value, m_units.outputUnit);
     if (shown.isText())
-        m_text->setText(shown.text());
+        m_field.text().setText(shown.text());
     else
-        m_text->setText(shown.toText());
+        m_field.text().setText(shown.toText());
 }
 
 void ctx_ZorTextBox::assignOutput(Variant value)
@@ -59,17 +56,15 @@ void ctx_ZorTextBox::assignOutput(Variant value)
 
 bool ctx_ZorTextBox::showsDisplayValue() const
 {
-    return m_displayValue.isText() && m_displayValue.text() == m_text->text();
+    return m_displayValue.isText() && m_displayValue.text() == m_field.text().text();
 }
-
-std::optional<double> ctx_ZorTextBox::textNumber() const { return validNumber(std::string_view(m_text->text())); }
 
 void ctx_ZorTextBox::ModifiedValue(const Variant& value)
 {
     run([&] {
         if (const std::optional<double> number = validNumber(value)) {
             show(m_units.toOutput(*number));
-            if (textNumber())
+            if (m_field.number())
                 assignOutput(value);
         } else {
             show(value);
@@ -84,13 +79,13 @@ void ctx_ZorTextBox::ModifiedValue(const Variant& value)
 
 void ctx_ZorTextBox::s_DeviceUnitChanged()
 {
-    if (const std::optional<double> number = textNumber())
+    if (const std::optional<double> number = m_field.number())
         assignOutput(m_units.toDevice(*number));
 }
 
 void ctx_ZorTextBox::s_OutputUnitChanged()
 {
-    const std::optional<double> text = textNumber();
+    const std::optional<double> text = m_field.number();
     const std::optional<double> display = validNumber(m_displayValue);
     if (!text || !display)
         return;
@@ -109,27 +104,19 @@ void ctx_ZorTextBox::s_OutputUnitChanged()
     m_units.previousOutputUnit = m_units.outputUnit;
 }
 
-void ctx_ZorTextBox::afterOutputUnit()
+void ctx_ZorTextBox::s_AfterOutputUnit()
 {
-    s_OutputUnitChanged();
-    m_unitLabelCaption = fc_GetUnitLabel(m_units.outputUnit);
-    m_unitLabel->setCaption(m_unitLabelCaption);
-    s_PlaceIcon();
+    UnitControl::s_AfterOutputUnit();
     // For the alignment only.
-    static_cast<void>(fv_FormatDisplayValue(m_text->text(), m_units.outputUnit));
+    static_cast<void>(fv_FormatDisplayValue(m_field.text().text(), m_units.outputUnit));
 }
 
-std::string ctx_ZorTextBox::fc_GetCaptionID() const { return std::string(fc_GetUnitID(m_units.outputUnit)); }
-
-double ctx_ZorTextBox::fd_GetConversionFactor(const UNIT_TYPE& i_UnitType, MEAS_TYPE i_FromUnit,
-                                              const MEAS_TYPE& i_ToUnit) const noexcept
+void ctx_ZorTextBox::s_UpdateLimits()
 {
-    return zor::fd_GetConversionFactor(i_UnitType, i_FromUnit, i_ToUnit);
-}
-
-double ctx_ZorTextBox::fd_GetOffset(MEAS_TYPE i_FromUnit, const MEAS_TYPE& i_ToUnit) const noexcept
-{
-    return zor::fd_GetOffset(i_FromUnit, i_ToUnit);
+    // Both or neither.
+    const double lower = m_units.limitToOutput(m_units.minValue);
+    m_units.updateMaxParam();
+    m_units.minParam = lower;
 }
 
 // --- Texts of the states

@@ -2,9 +2,9 @@
 
 /// The text box: one device parameter as a number in a unit, or as free text.
 
+#include "controls/numeric/entry_field.h"
 #include "controls/numeric/text_box/text_box_events.h"
-#include "controls/numeric/unit_binding.h"
-#include "core/control.h"
+#include "controls/numeric/unit_control.h"
 
 #include <cstdint>
 #include <memory>
@@ -18,18 +18,12 @@ namespace zor {
 ///
 /// The host writes DeviceValue in DeviceUnit; the operator sees and types it in OutputUnit; OutputValue hands
 /// the entry back in DeviceUnit. A new DeviceValue always ends an edit.
-class ctx_ZorTextBox final : public core::Control {
+class ctx_ZorTextBox final : public controls::UnitControl {
 public:
     /// A control in the container, not yet initialised: call initialiseProperties() or readProperties() next.
     [[nodiscard]] static core::ControlPtr<ctx_ZorTextBox> create(platform::Container& container);
     /// The tables of the class.
     [[nodiscard]] static const core::ClassInfo& classInfo() noexcept;
-
-    using Control::DataChanged;
-    using Control::DataModified;
-    using Control::IconEnable;
-    using Control::MsgDataChanged;
-    using Control::ReadOnly;
 
     /// @name Value
     /// @{
@@ -55,43 +49,11 @@ public:
     void NumberOfDecimals(std::int16_t value);
     /// @}
 
-    /// @name Units
-    /// @{
-    [[nodiscard]] UNIT_TYPE UnitType() const noexcept { return m_units.unitType; }
-    void UnitType(UNIT_TYPE value);
-    [[nodiscard]] MEAS_TYPE DeviceUnit() const noexcept { return m_units.deviceUnit; }
-    void DeviceUnit(MEAS_TYPE value);
-    [[nodiscard]] MEAS_TYPE OutputUnit() const noexcept { return m_units.outputUnit; }
-    void OutputUnit(MEAS_TYPE value);
-    /// The unit of MinValue and MaxValue.
-    [[nodiscard]] MEAS_TYPE DefaultUnit() const noexcept { return m_units.defaultUnit; }
-    void DefaultUnit(MEAS_TYPE value);
-    /// Whether the unit label is shown.
-    [[nodiscard]] bool UnitEnable() const noexcept { return m_unitEnable; }
-    void UnitEnable(bool value);
-    /// Text of the unit label; follows OutputUnit until it is overwritten.
-    [[nodiscard]] const std::string& UnitLabelCaption() const noexcept { return m_unitLabelCaption; }
-    void UnitLabelCaption(std::string_view value);
-    /// The identifier under which a host looks up a translated unit label.
-    [[nodiscard]] std::string fc_GetCaptionID() const;
-    /// The unit module's functions, for hosts that reach it through a control only.
-    [[nodiscard]] double fd_GetConversionFactor(const UNIT_TYPE& i_UnitType, MEAS_TYPE i_FromUnit,
-                                                const MEAS_TYPE& i_ToUnit) const noexcept;
-    [[nodiscard]] double fd_GetOffset(MEAS_TYPE i_FromUnit, const MEAS_TYPE& i_ToUnit) const noexcept;
-    /// @}
+    using UnitControl::fd_GetConversionFactor;
+    using UnitControl::fd_GetOffset;
 
-    /// @name Valid range
+    /// @name Valid entries
     /// @{
-    /// Limits of an entry, in DefaultUnit, both included.
-    [[nodiscard]] double MinValue() const noexcept { return m_units.minValue; }
-    void MinValue(double value);
-    [[nodiscard]] double MaxValue() const noexcept { return m_units.maxValue; }
-    void MaxValue(double value);
-    /// The same limits in OutputUnit. Writing as OutputValue.
-    [[nodiscard]] double MinParamValue() const noexcept { return m_units.minParam; }
-    void MinParamValue(double value);
-    [[nodiscard]] double MaxParamValue() const noexcept { return m_units.maxParam; }
-    void MaxParamValue(double value);
     /// Whether numbers are checked against the limits when the operator leaves the field.
     [[nodiscard]] bool InvalidEntryEnable() const noexcept { return m_invalidEntryEnable; }
     void InvalidEntryEnable(bool value);
@@ -113,7 +75,7 @@ public:
     [[nodiscard]] bool UnitsFontBold() const;
     void UnitsFontBold(bool value);
     /// Room right of the text field for unit label and state icon, in twips.
-    [[nodiscard]] std::int16_t WidthDifference() const noexcept { return m_widthDifference; }
+    [[nodiscard]] std::int16_t WidthDifference() const noexcept { return m_field.widthDifference; }
     void WidthDifference(std::int16_t value);
     /// Takes the entry over as it stands, without showing it anew, while the field still has the focus.
     void s_ForceOutputValueUpdate();
@@ -140,7 +102,6 @@ public:
     void unsubscribe(__ctx_ZorTextBox& sink) noexcept { removeTypedSink(&sink); }
 
     [[nodiscard]] platform::Widget* widget(int number) noexcept override;
-    [[nodiscard]] platform::PopupMenu* menu() noexcept override { return &m_undo.menu(); }
 
 private:
     struct Rows;
@@ -159,69 +120,57 @@ private:
 
     // Value pipeline
     void s_ApplyDeviceValue();
-    void s_DeviceUnitChanged();
-    void s_OutputUnitChanged();
-    void afterOutputUnit();
+    void s_DeviceUnitChanged() override;
+    void s_OutputUnitChanged() override;
+    void s_AfterOutputUnit() override;
+    void s_UpdateLimits() override;
     [[nodiscard]] Variant fv_FormatDisplayValue(const Variant& value, MEAS_TYPE unit);
     void show(const Variant& value);
     void assignOutput(Variant value);
-    [[nodiscard]] std::optional<double> textNumber() const;
     /// Whether the text is, letter for letter, what was last shown from the device.
     [[nodiscard]] bool showsDisplayValue() const;
     [[nodiscard]] bool isNumeric() const noexcept { return m_entryType == Numeric; }
 
     // Editing
     void onTextChanged();
-    void selectAll();
     void s_CommitEntry(bool reformat);
     void validateEntry(bool reformat);
     void assignEntry();
     void setInvalidEntry();
     void undoEdit();
-    void offerUndo(const platform::Widget& widget, platform::EventArgs mouse);
     [[nodiscard]] std::string rangeText() const;
     void appendDisplayValue(std::string& text) const;
 
     // Display
     void s_UpdateColors() override;
     void s_UpdateDeviceSupportDisplay() override;
-    void s_UpdateUnitLabelVisibility();
-    void s_PlaceIcon();
+    void s_UpdateUnitLabelVisibility() override;
+    void s_ShowUnit(std::string_view caption) override;
     void s_AlignText();
     void s_Layout() override;
     void s_AfterLoading() override;
     [[nodiscard]] std::span<platform::Widget* const> body() noexcept override { return m_body; }
-    [[nodiscard]] platform::Image& icon() noexcept override { return *m_icon; }
-    [[nodiscard]] std::string accessibleDetail() const override { return m_unitLabelCaption; }
+    [[nodiscard]] platform::Image& icon() noexcept override { return m_field.icon(); }
     void onNotice(int widget, platform::Notice notice, platform::EventArgs args) override;
 
-    std::unique_ptr<platform::TextField> m_text;
-    std::unique_ptr<platform::Label> m_unitLabel;
-    std::unique_ptr<platform::Image> m_icon;
-    core::UndoMenu m_undo;
+    controls::EntryField m_field;
     std::array<platform::Widget*, 2> m_body;
 
-    controls::UnitBinding m_units;
     Variant m_deviceValue = 0;
     Variant m_outputValue = 0;
     /// What was last shown from the device, in OutputUnit: the edit is judged against it and undo returns to it.
     Variant m_displayValue = 0.0;
     EntryMessages m_entryMessages;
-    std::string m_unitLabelCaption;
-    double m_heightMargin = 0;
-    Colour m_customBackColour = 0;
+    /// What s_ChangeBackColor gave the field.
+    std::optional<Colour> m_customBackColour;
     ENTRY_TYPE m_entryType = Numeric;
     std::int16_t m_numberOfDigits = 3;
     std::int16_t m_numberOfDecimals = 3;
     std::int16_t m_maxLength = 10;
-    std::int16_t m_widthDifference = 1305;
-    bool m_unitEnable = true;
     bool m_invalidEntryEnable = true;
     bool m_invalidEntry = false;
     bool m_textFontBold = false;
-    bool m_hasCustomBackColour = false;
     bool m_editPending = false;
-    bool m_selectAllPending = false;
 };
 
 } // namespace zor

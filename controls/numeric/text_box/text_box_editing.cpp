@@ -1,36 +1,29 @@
 // What happens while the operator works in the field: selection, typing, commit, undo.
 
 #include "controls/numeric/text_box/ctx_ZorTextBox.h"
-#include "controls/numeric/text_box/text_box_numbers.h"
 #include "platform/error.h"
 #include "platform/text.h"
 
 namespace zor {
 
+using controls::EntryField;
 using platform::Notice;
-using namespace text_box;
 
 void ctx_ZorTextBox::onNotice(int widget, Notice notice, platform::EventArgs args)
 {
-    if (widget == kText && notice == Notice::Change)
+    if (widget == EntryField::kText && notice == Notice::Change)
         return onTextChanged();
-    if (widget == kText && notice == Notice::GotFocus) {
-        m_selectAllPending = true;
-        selectAll();
-    } else if (widget == kText && notice == Notice::MouseUp && std::exchange(m_selectAllPending, false)) {
-        // The click that brought the focus must not leave a caret in place of the selection.
-        selectAll();
-    } else if (widget == kText && notice == Notice::LostFocus) {
+    m_field.followFocus(widget, notice);
+    if (widget == EntryField::kText && notice == Notice::LostFocus)
         s_CommitEntry(true);
-    } else if (widget == kState && notice == Notice::Click) {
+    else if (widget == EntryField::kState && notice == Notice::Click)
         s_ExplainState();
-    } else if (widget == core::kUndoEdit) {
+    else if (widget == core::kUndoEdit)
         undoEdit();
-    } else if (notice == Notice::MouseUp && widget == platform::kSurfaceWidget) {
+    else if (notice == Notice::MouseUp && widget == platform::kSurfaceWidget)
         offerUndo(surface(), args);
-    } else if (notice == Notice::MouseUp && widget == kUnits) {
-        offerUndo(*m_unitLabel, args);
-    }
+    else if (notice == Notice::MouseUp && widget == EntryField::kUnits)
+        offerUndo(m_field.units(), args);
     forward(widget, notice, args);
 }
 
@@ -39,23 +32,19 @@ void ctx_ZorTextBox::onTextChanged()
     m_editPending = true;
     bool same = false;
     if (isNumeric()) {
-        const std::optional<double> text = textNumber();
+        const std::optional<double> text = m_field.number();
         const std::optional<double> display = !text                 ? std::nullopt
                                               : showsDisplayValue() ? text
                                                                     : validNumber(m_displayValue);
         same = display && *text == *display;
     } else {
-        same = m_displayValue.isText() ? m_displayValue.text() == m_text->text()
-                                       : m_displayValue.toText() == m_text->text();
+        same = m_displayValue.isText() ? m_displayValue.text() == m_field.text().text()
+                                       : m_displayValue.toText() == m_field.text().text();
     }
-    m_status.dataModified = !same;
-    if (!same)
-        raise(kDataModifiedSetTrue);
+    judge(!same);
     s_UpdateColors();
-    raise(kTextChange);
+    raise(kShownChange);
 }
-
-void ctx_ZorTextBox::selectAll() { m_text->select(0, platform::characterCount(m_text->text())); }
 
 // --- Commit
 
@@ -73,14 +62,14 @@ void ctx_ZorTextBox::validateEntry(bool reformat)
 {
     const bool holding = m_binding.registerType == HoldingRegister;
     if (!isNumeric()) {
-        const bool tooLong =
-            m_status.dataModified && std::cmp_greater(platform::characterCount(m_text->text()), m_maxLength);
+        const bool tooLong = m_status.dataModified &&
+                             std::cmp_greater(platform::characterCount(m_field.text().text()), m_maxLength);
         m_invalidEntry = false;
         if (tooLong)
             setInvalidEntry();
         return;
     }
-    const std::optional<double> number = textNumber();
+    const std::optional<double> number = m_field.number();
     if (!number) {
         if (holding)
             setInvalidEntry();
@@ -94,22 +83,22 @@ void ctx_ZorTextBox::validateEntry(bool reformat)
             setInvalidEntry();
     }
     if (reformat)
-        show(m_text->text());
+        show(m_field.text().text());
 }
 
 void ctx_ZorTextBox::setInvalidEntry()
 {
     m_invalidEntry = true;
-    raise(kInvalidEntrySetTrue);
+    raise(kInvalidSetTrue);
 }
 
 void ctx_ZorTextBox::assignEntry()
 {
     if (m_invalidEntry)
         return;
-    const std::optional<double> number = isNumeric() ? textNumber() : std::nullopt;
+    const std::optional<double> number = isNumeric() ? m_field.number() : std::nullopt;
     if (!number)
-        return assignOutput(m_text->text());
+        return assignOutput(m_field.text().text());
     double output = 0;
     try {
         output = m_units.toDevice(*number);
@@ -128,12 +117,6 @@ void ctx_ZorTextBox::s_ForceOutputValueUpdate()
 }
 
 // --- Undo
-
-void ctx_ZorTextBox::offerUndo(const platform::Widget& widget, platform::EventArgs mouse)
-{
-    if (!m_text->isLocked() && m_status.enableControl)
-        m_undo.offer(surface(), widget, mouse);
-}
 
 void ctx_ZorTextBox::undoEdit()
 {
