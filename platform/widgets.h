@@ -148,7 +148,7 @@ public:
     virtual void append(std::string_view text, std::int32_t datum) = 0;
     virtual void remove(std::int32_t index) = 0;
     virtual void clear() = 0;
-    [[nodiscard]] virtual std::string entryText(std::int32_t index) const = 0;
+    [[nodiscard]] virtual const std::string& entryText(std::int32_t index) const = 0;
     [[nodiscard]] virtual std::int32_t datum(std::int32_t index) const = 0;
     /// The current position, -1 for none. Setting it reports Click when it differs from the old one.
     [[nodiscard]] virtual std::int32_t current() const = 0;
@@ -162,7 +162,8 @@ public:
     /// Takes the operator's means of choosing away; look and tooltip stay.
     [[nodiscard]] virtual bool isLocked() const = 0;
     virtual void setLocked(bool locked) = 0;
-    [[nodiscard]] virtual std::string selectedText() const = 0;
+    /// The text of the current entry, which is what the closed list shows.
+    [[nodiscard]] std::string selectedText() const { return current() < 0 ? std::string() : entryText(current()); }
 };
 
 /// A list with a check mark per entry.

@@ -5,7 +5,6 @@
 #include "platform/error.h"
 #include "platform/headless/widget_base.h"
 
-#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -37,7 +36,7 @@ public:
         m_entries.clear();
         m_current = -1;
     }
-    [[nodiscard]] std::string entryText(std::int32_t index) const override { return at(index).text; }
+    [[nodiscard]] const std::string& entryText(std::int32_t index) const override { return at(index).text; }
     [[nodiscard]] std::int32_t datum(std::int32_t index) const override { return at(index).datum; }
     [[nodiscard]] std::int32_t current() const override { return m_current; }
     void setCurrent(std::int32_t index) override
@@ -73,8 +72,6 @@ public:
 
     [[nodiscard]] bool isLocked() const override { return m_locked; }
     void setLocked(bool locked) override { m_locked = locked; }
-    // A list without typed text has no text to select.
-    [[nodiscard]] std::string selectedText() const override { return {}; }
 
 private:
     bool m_locked = false;
@@ -84,19 +81,30 @@ class HeadlessListBox final : public EntryList<ListBox> {
 public:
     HeadlessListBox(Host& host, int number) : EntryList(host, number, WindowBackground) {}
 
+    void remove(std::int32_t index) override
+    {
+        m_selectedCount -= at(index).selected ? 1 : 0;
+        EntryList::remove(index);
+    }
+    void clear() override
+    {
+        m_selectedCount = 0;
+        EntryList::clear();
+    }
     [[nodiscard]] bool isSelected(std::int32_t index) const override { return at(index).selected; }
     void setSelected(std::int32_t index, bool selected) override
     {
         if (at(index).selected == selected)
             return;
         m_entries[static_cast<std::size_t>(index)].selected = selected;
+        m_selectedCount += selected ? 1 : -1;
         m_current = index;
         report(Notice::Click);
     }
-    [[nodiscard]] std::int32_t selectedCount() const override
-    {
-        return static_cast<std::int32_t>(std::ranges::count(m_entries, true, &Entry::selected));
-    }
+    [[nodiscard]] std::int32_t selectedCount() const override { return m_selectedCount; }
+
+private:
+    std::int32_t m_selectedCount = 0;
 };
 
 } // namespace zor::platform::headless

@@ -27,13 +27,41 @@ void reportMouse(Widget& widget, Notice notice, std::int16_t button)
     base(widget).report(notice, args);
 }
 
-void click(Widget& widget)
+/// Choosing the entry that is chosen already is a click all the same.
+void clickEntry(EntryWidget& list, std::int32_t index)
+{
+    if (list.current() == index)
+        base(list).report(Notice::Click);
+    else
+        list.setCurrent(index);
+}
+
+/// A press and release: what it does to the widget follows.
+void pressAndRelease(Widget& widget)
 {
     reportMouse(widget, Notice::MouseDown, kLeftButton);
     if (auto* field = dynamic_cast<TextField*>(&widget))
         field->select(characterCount(field->text()), 0);
     reportMouse(widget, Notice::MouseUp, kLeftButton);
-    base(widget).report(Notice::Click);
+}
+
+void pushToggle(ToggleButton& button)
+{
+    button.setOn(dynamic_cast<OptionButton*>(&button) != nullptr || !button.isOn());
+}
+
+void click(Widget& widget)
+{
+    pressAndRelease(widget);
+    if (auto* button = dynamic_cast<ToggleButton*>(&widget)) {
+        pushToggle(*button);
+    } else if (auto* list = dynamic_cast<EntryWidget*>(&widget)) {
+        // On the text of the current entry; an empty list has nothing to click on.
+        if (list->count() > 0)
+            clickEntry(*list, std::max(list->current(), 0));
+    } else {
+        base(widget).report(Notice::Click);
+    }
 }
 
 /// Key down and key up around `action`, which gets the key press's code.
@@ -75,7 +103,16 @@ std::int16_t codeOf(std::string_view character)
     return '?';
 }
 
-enum KeyCode : std::int16_t { kBack = 8, kEnd = 35, kHome = 36, kLeft = 37, kRight = 39, kDelete = 46 };
+enum KeyCode : std::int16_t {
+    kBack = 8,
+    kEnd = 35,
+    kHome = 36,
+    kLeft = 37,
+    kUp = 38,
+    kRight = 39,
+    kDown = 40,
+    kDelete = 46
+};
 
 void moveCaret(TextField& field, std::int16_t code)
 {
@@ -101,20 +138,56 @@ void erase(TextField& field, bool before)
     field.replaceSelection({});
 }
 
+void keyInField(TextField& field, std::int16_t code, std::int16_t press)
+{
+    if (code == kBack || code == kDelete) {
+        if (!field.isLocked() && (code == kDelete || press != 0))
+            erase(field, code == kBack);
+    } else if (press >= ' ') {
+        if (!field.isLocked())
+            field.replaceSelection(latin1(press));
+    } else {
+        moveCaret(field, code);
+    }
+}
+
+/// Home, End and the vertical arrows, from one entry to another.
+void moveInList(EntryWidget& list, std::int16_t code)
+{
+    const std::int32_t last = list.count() - 1;
+    const std::int32_t old = list.current();
+    std::int32_t index = old;
+    switch (code) {
+    case kHome: index = 0; break;
+    case kEnd: index = last; break;
+    case kUp: index = old > 0 ? old - 1 : old; break;
+    case kDown: index = std::min(old + 1, last); break;
+    default: return;
+    }
+    // An open list shows where the keys are: the first of them only brings the operator into the list.
+    if (old < 0 && dynamic_cast<ListBox*>(&list) != nullptr)
+        index = 0;
+    if (last >= 0)
+        list.setCurrent(index);
+}
+
 void applyKey(Widget& widget, std::int16_t code, std::int16_t press)
 {
     if (auto* field = dynamic_cast<TextField*>(&widget)) {
-        if (code == kBack || code == kDelete) {
-            if (!field->isLocked() && (code == kDelete || press != 0))
-                erase(*field, code == kBack);
-        } else if (press >= ' ') {
-            if (!field->isLocked())
-                field->replaceSelection(latin1(press));
-        } else {
-            moveCaret(*field, code);
-        }
-    } else if (auto* button = dynamic_cast<ToggleButton*>(&widget); button != nullptr && code == ' ') {
-        button->setOn(dynamic_cast<OptionButton*>(button) != nullptr || !button->isOn());
+        keyInField(*field, code, press);
+    } else if (auto* button = dynamic_cast<ToggleButton*>(&widget)) {
+        if (press == ' ')
+            pushToggle(*button);
+    } else if (auto* combo = dynamic_cast<ComboBox*>(&widget)) {
+        if (combo->isLocked())
+            return;
+        if (press == ' ')
+            base(widget).report(Notice::DropDown);
+        moveInList(*combo, code);
+    } else if (auto* list = dynamic_cast<ListBox*>(&widget)) {
+        if (press == ' ' && list->current() >= 0)
+            list->setSelected(list->current(), !list->isSelected(list->current()));
+        moveInList(*list, code);
     }
 }
 
@@ -189,12 +262,13 @@ Refusal HeadlessOperator::pointer(Widget& widget, Pointer action)
         reportMouse(widget, Notice::MouseUp, kRightButton);
         return refusal;
     }
-    if (auto* button = dynamic_cast<ToggleButton*>(&widget))
-        return press(*button);
     click(widget);
     if (action == Pointer::DoubleClick) {
         base(widget).report(Notice::DblClick);
         reportMouse(widget, Notice::MouseUp, kLeftButton);
+        // The second press is one more for a button, and no click of its own for anything else.
+        if (auto* button = dynamic_cast<ToggleButton*>(&widget))
+            pushToggle(*button);
     }
     return refusal;
 }
@@ -301,13 +375,8 @@ Refusal HeadlessOperator::choose(ComboBox& box, std::int32_t index)
     const Hold hold(base(box).host().listener());
     static_cast<void>(box.entryText(index));
     const Refusal refusal = dropDown(box);
-    if (refusal == Refusal::None && m_container.focused() == &box) {
-        // Choosing the entry that is chosen already is a click all the same.
-        if (box.current() == index)
-            base(box).report(Notice::Click);
-        else
-            box.setCurrent(index);
-    }
+    if (refusal == Refusal::None && m_container.focused() == &box && !box.isLocked() && index < box.count())
+        clickEntry(box, index);
     return refusal;
 }
 
@@ -317,7 +386,10 @@ Refusal HeadlessOperator::toggle(ListBox& box, std::int32_t index)
     static_cast<void>(box.entryText(index));
     bool moved = false;
     const Refusal refusal = approach(box, moved);
-    if (moved)
+    if (!moved)
+        return refusal;
+    pressAndRelease(box);
+    if (index < box.count())
         box.setSelected(index, !box.isSelected(index));
     return refusal;
 }
@@ -329,9 +401,7 @@ Refusal HeadlessOperator::press(ToggleButton& button)
     const Refusal refusal = approach(button, moved);
     if (!moved)
         return refusal;
-    reportMouse(button, Notice::MouseDown, kLeftButton);
-    reportMouse(button, Notice::MouseUp, kLeftButton);
-    button.setOn(dynamic_cast<OptionButton*>(&button) != nullptr || !button.isOn());
+    click(button);
     return refusal;
 }
 

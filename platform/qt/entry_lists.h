@@ -2,221 +2,193 @@
 
 /// Combo box and list box.
 
-#include "platform/error.h"
+#include "platform/qt/entry_model.h"
 #include "platform/qt/qt_widget.h"
 
 #include <QComboBox>
-#include <QListWidget>
-#include <QWheelEvent>
+#include <QListView>
+
+#include <functional>
 
 namespace zor::platform::qt {
 
-/// Entry texts are cut for showing only where no screen could hold them.
-inline constexpr int kEntryLimit = 4096;
-
 /// A combo box that opens for nobody while it is locked, and that the wheel turns only where it has the focus.
-class LockableComboBox : public QComboBox {
+class DropDownList : public QComboBox {
 public:
-    explicit LockableComboBox(QWidget* parent) : QComboBox(parent) { setFocusPolicy(Qt::StrongFocus); }
-    bool locked = false;
-    std::function<void()> onDropDown;
+    explicit DropDownList(QWidget* parent);
 
-    void showPopup() override
-    {
-        if (locked)
-            return;
-        if (onDropDown)
-            onDropDown();
-        QComboBox::showPopup();
-    }
+    [[nodiscard]] bool isLocked() const noexcept { return m_locked; }
+    /// An open list closes.
+    void setLocked(bool locked);
+    [[nodiscard]] bool isOpen() const { return m_isOpening || (m_hasOpened && view()->isVisible()); }
+    std::function<void()> onDropDown;
+    std::function<void()> onScroll;
+
+    void showPopup() override;
 
 protected:
-    void wheelEvent(QWheelEvent* event) override
-    {
-        if (hasFocus() && !locked)
-            QComboBox::wheelEvent(event);
-        else
-            event->ignore();
-    }
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        if (locked)
-            event->ignore();
-        else
-            QComboBox::keyPressEvent(event);
-    }
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    bool m_locked = false;
+    bool m_hasOpened = false;
+    bool m_isOpening = false;
 };
 
-class QtComboBox final : public QtFontBase<ComboBox, LockableComboBox> {
+/// A list with a check mark per entry. What one press and release of the mouse changes (the current entry, its
+/// mark) is one change.
+class CheckList : public QListView {
 public:
-    QtComboBox(const Context& context, int number) : QtFontBase(context, number, WindowBackground)
+    explicit CheckList(QWidget* parent);
+
+    /// Receives the mouse events, which Qt sends to the list's viewport.
+    QtWidget* reporter = nullptr;
+
+    /// Makes an entry, or none, the current one. Scrolling there is for the one entry the list ends up with,
+    /// not for each that it passes.
+    void makeCurrent(const QModelIndex& index, bool scroll);
+    [[nodiscard]] bool isMouseAtWork() const noexcept { return m_isMouseAtWork; }
+    /// Points of the viewport to click on; the entry is scrolled to.
+    [[nodiscard]] QPoint markOf(const QModelIndex& index);
+    [[nodiscard]] QPoint textOf(const QModelIndex& index);
+
+protected:
+    bool viewportEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+
+private:
+    template <class Handle>
+    void withMouse(Handle&& handle);
+
+    bool m_isMouseAtWork = false;
+};
+
+/// The entries of either: both keep them in an EntryModel and report what changes as clicks, but for what
+/// they do quietly.
+template <class Interface, class Q>
+class QtEntryBase : public QtFontBase<Interface, Q> {
+public:
+    QtEntryBase(const Context& context, int number, bool hasMarks)
+        : QtFontBase<Interface, Q>(context, number, WindowBackground),
+          m_model(new EntryModel(&this->widget(), hasMarks))
     {
-        paintColours();
-        widget().onDropDown = [this] { report(Notice::DropDown); };
-        QObject::connect(&widget(), &QComboBox::currentIndexChanged, &widget(), [this] {
-            if (!m_changing)
-                report(Notice::Click);
-        });
+        this->widget().setModel(m_model);
+        this->paintColours();
     }
 
-    [[nodiscard]] std::int32_t count() const override { return widget().count(); }
+    [[nodiscard]] std::int32_t count() const override { return m_model->count(); }
+    [[nodiscard]] const std::string& entryText(std::int32_t index) const override { return m_model->text(index); }
+    [[nodiscard]] std::int32_t datum(std::int32_t index) const override { return m_model->datum(index); }
     void append(std::string_view text, std::int32_t datum) override
     {
-        // Qt selects the first entry by itself; the control decides what is selected.
-        m_changing = true;
-        const int before = widget().currentIndex();
-        widget().addItem(shownText(text, kEntryLimit), datum);
-        widget().setCurrentIndex(before);
-        m_changing = false;
-        m_texts.emplace_back(text);
+        const Quiet quiet(*this);
+        m_model->append(text, datum);
+        keepCurrent(quiet.current);
     }
     void remove(std::int32_t index) override
     {
-        const std::int32_t old = current();
-        check(index);
-        m_changing = true;
-        widget().removeItem(index);
-        if (index == old)
-            widget().setCurrentIndex(-1);
-        m_changing = false;
-        m_texts.erase(m_texts.begin() + index);
+        const Quiet quiet(*this);
+        m_model->remove(index);
+        // Qt goes on to a neighbour of the current entry; the control decides what is selected.
+        keepCurrent(index == quiet.current ? -1 : quiet.current - (index < quiet.current ? 1 : 0));
     }
     void clear() override
     {
-        m_changing = true;
-        widget().clear();
-        m_changing = false;
-        m_texts.clear();
+        const Quiet quiet(*this);
+        m_model->clear();
+        keepCurrent(-1);
     }
-    [[nodiscard]] std::string entryText(std::int32_t index) const override
+    void setCurrent(std::int32_t index) override
     {
-        check(index);
-        return m_texts[static_cast<std::size_t>(index)];
+        if (index != -1)
+            static_cast<void>(m_model->datum(index));
+        if (this->current() == index)
+            return;
+        {
+            const Quiet quiet(*this);
+            select(index);
+        }
+        this->report(Notice::Click);
     }
-    [[nodiscard]] std::int32_t datum(std::int32_t index) const override
+    [[nodiscard]] bool hasFocus() const override { return this->focusReported; }
+
+protected:
+    /// A scope in which changes are the control's own and reported by whoever makes them.
+    struct Quiet {
+        explicit Quiet(QtEntryBase& base) noexcept : base(base), current(base.current()) { ++base.m_quiet; }
+        ~Quiet() { --base.m_quiet; }
+        Quiet(const Quiet&) = delete;
+        Quiet& operator=(const Quiet&) = delete;
+        QtEntryBase& base;
+        std::int32_t current;
+    };
+
+    [[nodiscard]] bool isQuiet() const noexcept { return m_quiet != 0; }
+    [[nodiscard]] EntryModel& model() const noexcept { return *m_model; }
+    /// Makes an entry, or none, the current one of the Qt widget.
+    virtual void select(std::int32_t index) = 0;
+
+private:
+    void keepCurrent(std::int32_t index)
     {
-        check(index);
-        return widget().itemData(index).toInt();
+        if (this->current() != index)
+            select(index);
     }
+
+    EntryModel* m_model;
+    int m_quiet = 0;
+};
+
+class QtComboBox final : public QtEntryBase<ComboBox, DropDownList> {
+public:
+    QtComboBox(const Context& context, int number);
+
     [[nodiscard]] std::int32_t current() const override { return widget().currentIndex(); }
-    void setCurrent(std::int32_t index) override
-    {
-        if (index != -1)
-            check(index);
-        widget().setCurrentIndex(index);
-    }
-    [[nodiscard]] bool hasFocus() const override { return focusReported; }
-    [[nodiscard]] bool isLocked() const override { return widget().locked; }
-    void setLocked(bool locked) override { widget().locked = locked; }
-    // A list without typed text has no text to select.
-    [[nodiscard]] std::string selectedText() const override { return {}; }
-    [[nodiscard]] bool reportsClicks() const override { return false; }
+    [[nodiscard]] bool isLocked() const override { return widget().isLocked(); }
+    void setLocked(bool locked) override { widget().setLocked(locked); }
+    [[nodiscard]] bool isClick(const QMouseEvent& /*release*/, bool /*second*/) override { return false; }
+    [[nodiscard]] bool isFocusNear() const override { return widget().isOpen(); }
 
 private:
-    void check(std::int32_t index) const
-    {
-        if (index < 0 || index >= count())
-            raiseError(ErrorNumber::SubscriptOutOfRange);
-    }
+    void select(std::int32_t index) override { widget().setCurrentIndex(index); }
+    void paintColours() override;
 
-    std::vector<std::string> m_texts;
-    bool m_changing = false;
+    /// The operator's choice was another entry than before, and is reported.
+    bool m_isChoiceReported = false;
 };
 
-class QtListBox final : public QtFontBase<ListBox, QListWidget> {
+class QtListBox final : public QtEntryBase<ListBox, CheckList> {
 public:
-    QtListBox(const Context& context, int number) : QtFontBase(context, number, WindowBackground)
-    {
-        paintColours();
-        widget().setUniformItemSizes(true);
-        QObject::connect(&widget(), &QListWidget::currentRowChanged, &widget(), [this] {
-            if (!m_changing)
-                report(Notice::Click);
-        });
-        QObject::connect(&widget(), &QListWidget::itemChanged, &widget(), [this](QListWidgetItem* item) {
-            if (m_changing)
-                return;
-            m_changing = true;
-            widget().setCurrentItem(item);
-            m_changing = false;
-            report(Notice::Click);
-        });
-    }
+    QtListBox(const Context& context, int number);
+    ~QtListBox() override { widget().reporter = nullptr; }
+    QtListBox(const QtListBox&) = delete;
+    QtListBox& operator=(const QtListBox&) = delete;
 
-    [[nodiscard]] std::int32_t count() const override { return widget().count(); }
-    void append(std::string_view text, std::int32_t datum) override
-    {
-        m_changing = true;
-        auto* item = new QListWidgetItem(shownText(text, kEntryLimit));
-        item->setData(Qt::UserRole, datum);
-        item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
-        item->setCheckState(Qt::Unchecked);
-        widget().addItem(item);
-        m_changing = false;
-        m_texts.emplace_back(text);
-    }
-    void remove(std::int32_t index) override
-    {
-        const std::int32_t old = current();
-        static_cast<void>(at(index));
-        m_changing = true;
-        delete widget().takeItem(index);
-        if (index == old)
-            widget().setCurrentRow(-1);
-        m_changing = false;
-        m_texts.erase(m_texts.begin() + index);
-    }
-    void clear() override
-    {
-        m_changing = true;
-        widget().clear();
-        m_changing = false;
-        m_texts.clear();
-    }
-    [[nodiscard]] std::string entryText(std::int32_t index) const override
-    {
-        static_cast<void>(at(index));
-        return m_texts[static_cast<std::size_t>(index)];
-    }
-    [[nodiscard]] std::int32_t datum(std::int32_t index) const override
-    {
-        return at(index).data(Qt::UserRole).toInt();
-    }
-    [[nodiscard]] std::int32_t current() const override { return widget().currentRow(); }
-    void setCurrent(std::int32_t index) override
-    {
-        if (index != -1)
-            static_cast<void>(at(index));
-        widget().setCurrentRow(index);
-    }
-    [[nodiscard]] bool hasFocus() const override { return focusReported; }
-    [[nodiscard]] bool isSelected(std::int32_t index) const override
-    {
-        return at(index).checkState() == Qt::Checked;
-    }
-    void setSelected(std::int32_t index, bool selected) override
-    {
-        at(index).setCheckState(selected ? Qt::Checked : Qt::Unchecked);
-    }
-    [[nodiscard]] std::int32_t selectedCount() const override
-    {
-        std::int32_t selected = 0;
-        for (std::int32_t i = 0; i < count(); ++i)
-            selected += isSelected(i) ? 1 : 0;
-        return selected;
-    }
-    [[nodiscard]] bool reportsClicks() const override { return false; }
+    [[nodiscard]] std::int32_t current() const override { return widget().currentIndex().row(); }
+    [[nodiscard]] bool isSelected(std::int32_t index) const override { return model().isMarked(index); }
+    void setSelected(std::int32_t index, bool selected) override;
+    [[nodiscard]] std::int32_t selectedCount() const override { return model().markedCount(); }
+    [[nodiscard]] bool isClick(const QMouseEvent& release, bool second) override;
+
+    /// @name For the operator's hands
+    /// An index outside the list is nobody's.
+    /// @{
+    [[nodiscard]] QWidget& viewport() const { return *widget().viewport(); }
+    [[nodiscard]] QPoint markOf(std::int32_t index) const { return widget().markOf(model().index(index)); }
+    [[nodiscard]] QPoint textOf(std::int32_t index) const { return widget().textOf(model().index(index)); }
+    /// @}
 
 private:
-    [[nodiscard]] QListWidgetItem& at(std::int32_t index) const
-    {
-        if (index < 0 || index >= count())
-            raiseError(ErrorNumber::SubscriptOutOfRange);
-        return *widget().item(index);
-    }
+    void select(std::int32_t index) override { widget().makeCurrent(model().index(index), true); }
+    void changed();
 
-    std::vector<std::string> m_texts;
-    bool m_changing = false;
+    /// The mouse changed something and is not released yet.
+    bool m_isChangePending = false;
 };
 
 } // namespace zor::platform::qt

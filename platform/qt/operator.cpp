@@ -10,7 +10,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QTest>
 
 #include <limits>
 
@@ -43,6 +42,25 @@ void click(QWidget& widget, Qt::MouseButton button, QPointF at)
 
 QPointF centre(const QWidget& widget) { return QRectF(widget.rect()).center(); }
 
+/// Where a person points who means the widget.
+struct Aim {
+    QWidget& target;
+    QPointF at;
+};
+
+Aim aimAt(Widget& widget)
+{
+    QWidget& target = base(widget).qwidget();
+    // The indicator at the left edge is what a person aims at, however wide the caption is.
+    if (dynamic_cast<ToggleButton*>(&widget) != nullptr)
+        return {target, QPointF(8, centre(target).y())};
+    if (auto* list = dynamic_cast<QtListBox*>(&widget)) {
+        const bool hasEntries = list->count() > 0;
+        return {list->viewport(), hasEntries ? list->textOf(std::max(list->current(), 0)) : QPoint(0, 0)};
+    }
+    return {target, centre(target)};
+}
+
 void sendKey(QWidget& widget, Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     const QPointer<QWidget> alive = &widget;
@@ -63,10 +81,18 @@ QString characterOf(std::int16_t code)
 
 } // namespace
 
-Refusal QtOperator::reach(Widget& widget)
+/// An open menu or drop-down list closes when the operator goes on with something else.
+void QtOperator::leavePopUps()
 {
     if (PopupMenu* menu = m_container.openMenu())
         menu->close();
+    if (QWidget* popup = QApplication::activePopupWidget())
+        popup->close();
+}
+
+Refusal QtOperator::reach(Widget& widget)
+{
+    leavePopUps();
     if (!widget.isVisible())
         return Refusal::Hidden;
     return widget.isEnabled() ? Refusal::None : Refusal::Disabled;
@@ -104,8 +130,7 @@ Refusal QtOperator::blur(Widget& widget)
     if (!takesFocus(widget))
         raiseError(ErrorNumber::NoSuchMember);
     const EventScope scope(base(widget).context());
-    if (PopupMenu* menu = m_container.openMenu())
-        menu->close();
+    leavePopUps();
     if (base(widget).focusReported)
         base(widget).qwidget().clearFocus();
     return Refusal::None;
@@ -118,16 +143,14 @@ Refusal QtOperator::pointer(Widget& widget, Pointer action)
     const Refusal refusal = approach(widget, there);
     if (!there)
         return refusal;
-    if (auto* button = dynamic_cast<ToggleButton*>(&widget); button != nullptr && action != Pointer::RightClick)
-        return press(*button);
-    QWidget& target = base(widget).qwidget();
+    const auto [target, at] = aimAt(widget);
     const QPointer<QWidget> alive = &target;
     const Qt::MouseButton button = action == Pointer::RightClick ? Qt::RightButton : Qt::LeftButton;
-    click(target, button, centre(target));
+    click(target, button, at);
     if (action == Pointer::DoubleClick && alive) {
-        sendMouse(target, QEvent::MouseButtonDblClick, button, centre(target));
+        sendMouse(target, QEvent::MouseButtonDblClick, button, at);
         if (alive)
-            sendMouse(target, QEvent::MouseButtonRelease, button, centre(target));
+            sendMouse(target, QEvent::MouseButtonRelease, button, at);
     }
     return refusal;
 }
@@ -236,14 +259,12 @@ Refusal QtOperator::choose(ComboBox& box, std::int32_t index)
     const EventScope scope(base(box).context());
     static_cast<void>(box.entryText(index));
     const Refusal refusal = dropDown(box);
-    if (refusal == Refusal::None && base(box).focusReported) {
-        auto& combo = dynamic_cast<QComboBox&>(base(box).qwidget());
-        combo.hidePopup();
-        // Choosing the entry that is chosen already is a click all the same.
-        if (combo.currentIndex() == index)
-            base(box).report(Notice::Click);
-        else
-            combo.setCurrentIndex(index);
+    const QPointer<QComboBox> combo = dynamic_cast<QComboBox*>(&base(box).qwidget());
+    // A handler may have emptied or locked the list when it opened.
+    if (refusal == Refusal::None && combo && combo->view()->isVisible() && index < box.count()) {
+        combo->view()->setCurrentIndex(combo->model()->index(index, 0));
+        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(combo->view(), &enter);
     }
     return refusal;
 }
@@ -254,8 +275,10 @@ Refusal QtOperator::toggle(ListBox& box, std::int32_t index)
     static_cast<void>(box.entryText(index));
     bool there = false;
     const Refusal refusal = approach(box, there);
-    if (there)
-        box.setSelected(index, !box.isSelected(index));
+    if (there && index < box.count()) {
+        auto& list = dynamic_cast<QtListBox&>(box);
+        click(list.viewport(), Qt::LeftButton, list.markOf(index));
+    }
     return refusal;
 }
 
@@ -265,9 +288,8 @@ Refusal QtOperator::press(ToggleButton& button)
     bool there = false;
     const Refusal refusal = approach(button, there);
     if (there) {
-        // The indicator at the left edge is what a person aims at, however wide the caption is.
-        QWidget& target = base(button).qwidget();
-        click(target, Qt::LeftButton, QPointF(8, centre(target).y()));
+        const auto [target, at] = aimAt(button);
+        click(target, Qt::LeftButton, at);
     }
     return refusal;
 }

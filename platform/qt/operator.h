@@ -30,6 +30,7 @@ public:
     Refusal chooseItem(PopupMenu& menu, std::size_t item) override;
 
 private:
+    void leavePopUps();
     [[nodiscard]] Refusal reach(Widget& widget);
     /// Reaches the widget and gives it the focus, if it takes one; `there` is false when a handler kept the
     /// focus elsewhere.

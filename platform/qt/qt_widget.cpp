@@ -20,6 +20,8 @@ bool EventReports::before()
 {
     if (m_event.type() == QEvent::KeyPress)
         return keyPressed(static_cast<QKeyEvent&>(m_event));
+    if (m_event.type() == QEvent::MouseButtonRelease && m_widget.changesOnRelease())
+        mouse(Notice::MouseUp);
     return false;
 }
 
@@ -68,10 +70,10 @@ void EventReports::after()
         break;
     case QEvent::MouseButtonRelease: {
         const auto& release = static_cast<QMouseEvent&>(m_event);
-        const bool inside = m_widget.qwidget().rect().contains(release.position().toPoint());
         const bool second = std::exchange(m_widget.doubleClicked, false);
-        mouse(Notice::MouseUp);
-        if (release.button() == Qt::LeftButton && inside && !second && m_widget.reportsClicks())
+        if (!m_widget.changesOnRelease())
+            mouse(Notice::MouseUp);
+        if (m_widget.isClick(release, second))
             m_widget.report(Notice::Click);
         break;
     }
@@ -84,7 +86,8 @@ void EventReports::focusLost(const QFocusEvent& focus)
 {
     // A menu or another program over the window does not end the operator's work in the field.
     const Qt::FocusReason reason = focus.reason();
-    if (reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason || !m_widget.focusReported)
+    if (reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason || m_widget.isFocusNear() ||
+        !m_widget.focusReported)
         return;
     bool cancel = false;
     const QPointer<QWidget> widget = &m_widget.qwidget();

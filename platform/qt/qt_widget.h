@@ -61,8 +61,17 @@ public:
     [[nodiscard]] const Context& context() const noexcept { return m_context; }
     /// Reports; what a handler throws goes to the container, never through Qt's event loop.
     void report(Notice notice, EventArgs args = {}) const;
-    /// Whether a press and release is a Click; a widget that reports its changes as clicks says no.
-    [[nodiscard]] virtual bool reportsClicks() const { return true; }
+    /// Whether a release of the mouse (`second`: after a double click) is a Click. A widget that reports its
+    /// changes as clicks says no.
+    [[nodiscard]] virtual bool isClick(const QMouseEvent& release, bool second)
+    {
+        return release.button() == Qt::LeftButton && !second &&
+               qwidget().rect().contains(release.position().toPoint());
+    }
+    /// A widget that changes on the release hears of the mouse first: MouseUp comes before the Click.
+    [[nodiscard]] virtual bool changesOnRelease() const { return false; }
+    /// Whether the focus is in a window of the widget's own: it has not left.
+    [[nodiscard]] virtual bool isFocusNear() const { return false; }
     /// The theme changed: colours that follow it are set anew.
     virtual void themeChanged() = 0;
 
@@ -99,7 +108,24 @@ private:
     std::unique_ptr<QKeyEvent> m_replacement;
 };
 
-/// A Qt widget whose events are reported. `owner` is cleared when the interface object ends first.
+/// Handles an event and reports it. `owner` is cleared when the interface object ends first.
+template <class Handle>
+bool reported(QtWidget* const& owner, QEvent* event, Handle&& handle)
+{
+    if (owner == nullptr)
+        return handle(event);
+    const EventScope scope(owner->context());
+    EventReports reports(*owner, *event);
+    if (reports.before())
+        return true;
+    const bool handled = handle(reports.replacement() != nullptr ? reports.replacement() : event);
+    if (owner != nullptr)
+        reports.after();
+    // A press that nobody takes would go to the widget beneath, and its release with it.
+    return handled || dynamic_cast<QMouseEvent*>(event) != nullptr;
+}
+
+/// A Qt widget whose events are reported.
 template <class Base>
 class Reporting : public Base {
 public:
@@ -108,17 +134,9 @@ public:
 
     bool event(QEvent* event) override
     {
-        if (owner == nullptr || !isOfInterest(event->type()))
+        if (!isOfInterest(event->type()))
             return Base::event(event);
-        const EventScope scope(owner->context());
-        EventReports reports(*owner, *event);
-        if (reports.before())
-            return true;
-        const bool handled = Base::event(reports.replacement() != nullptr ? reports.replacement() : event);
-        if (owner != nullptr)
-            reports.after();
-        // A press that nobody takes would go to the widget beneath, and its release with it.
-        return handled || dynamic_cast<QMouseEvent*>(event) != nullptr;
+        return reported(owner, event, [this](QEvent* shown) { return Base::event(shown); });
     }
 
 private:

@@ -210,7 +210,8 @@ public:
     [[nodiscard]] bool isOn() const override { return this->widget().isChecked(); }
     void setOn(bool on) override { this->widget().setChecked(on); }
     [[nodiscard]] bool hasFocus() const override { return this->focusReported; }
-    [[nodiscard]] bool reportsClicks() const override { return false; }
+    [[nodiscard]] bool isClick(const QMouseEvent& /*release*/, bool /*second*/) override { return false; }
+    [[nodiscard]] bool changesOnRelease() const override { return true; }
 
 private:
     std::string m_caption;

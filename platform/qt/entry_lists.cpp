@@ -1,0 +1,240 @@
+#include "platform/qt/entry_lists.h"
+
+#include <QScrollBar>
+#include <QWheelEvent>
+
+namespace zor::platform::qt {
+namespace {
+
+/// Calls when the operator moves the bar, not when the list moves it.
+template <class Moved>
+void onMovedByOperator(QScrollBar& bar, Moved&& moved)
+{
+    QObject::connect(&bar, &QScrollBar::actionTriggered, &bar, [&bar, moved] {
+        if (bar.sliderPosition() != bar.value())
+            moved();
+    });
+}
+
+} // namespace
+
+// --- Drop-down list
+
+DropDownList::DropDownList(QWidget* parent) : QComboBox(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    // The control gives the width; measuring every entry for a size nobody asks for takes a list's length.
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+}
+
+void DropDownList::setLocked(bool locked)
+{
+    m_locked = locked;
+    if (locked && isOpen())
+        hidePopup();
+}
+
+void DropDownList::showPopup()
+{
+    if (m_locked)
+        return;
+    if (onDropDown)
+        onDropDown();
+    // A handler may have locked it just now.
+    if (m_locked)
+        return;
+    if (!std::exchange(m_hasOpened, true)) {
+        dynamic_cast<QListView&>(*view()).setUniformItemSizes(true);
+        onMovedByOperator(*view()->verticalScrollBar(), [this] {
+            if (onScroll)
+                onScroll();
+        });
+    }
+    m_isOpening = true;
+    QComboBox::showPopup();
+    m_isOpening = false;
+}
+
+void DropDownList::wheelEvent(QWheelEvent* event)
+{
+    if (hasFocus() && !m_locked)
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
+}
+
+void DropDownList::keyPressEvent(QKeyEvent* event)
+{
+    if (m_locked)
+        event->ignore();
+    else
+        QComboBox::keyPressEvent(event);
+}
+
+// --- Combo box
+
+QtComboBox::QtComboBox(const Context& context, int number) : QtEntryBase(context, number, false)
+{
+    paintColours();
+    widget().onDropDown = [this] { report(Notice::DropDown); };
+    widget().onScroll = [this] { report(Notice::Scroll); };
+    QObject::connect(&widget(), &QComboBox::currentIndexChanged, &widget(), [this] {
+        if (isQuiet())
+            return;
+        m_isChoiceReported = true;
+        report(Notice::Click);
+    });
+    // Choosing the entry that is chosen already is a click all the same.
+    QObject::connect(&widget(), &QComboBox::activated, &widget(), [this] {
+        if (!std::exchange(m_isChoiceReported, false))
+            report(Notice::Click);
+    });
+}
+
+void QtComboBox::paintColours()
+{
+    QtEntryBase::paintColours();
+    // Some styles paint a list without typed text like a button.
+    QPalette palette = widget().palette();
+    palette.setColor(QPalette::Button, toQColor(backColour()));
+    widget().setPalette(palette);
+}
+
+// --- List of check marks
+
+CheckList::CheckList(QWidget* parent) : QListView(parent)
+{
+    // Marks alone say what is selected; the current entry is only where the keys are.
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setUniformItemSizes(true);
+}
+
+void CheckList::makeCurrent(const QModelIndex& index, bool scroll)
+{
+    setAutoScroll(scroll);
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    setAutoScroll(true);
+}
+
+QPoint CheckList::markOf(const QModelIndex& index)
+{
+    scrollTo(index);
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    option.rect = visualRect(index);
+    option.index = index;
+    option.features |= QStyleOptionViewItem::HasCheckIndicator | QStyleOptionViewItem::HasDisplay;
+    option.text = index.data(Qt::DisplayRole).toString();
+    return style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, this).center();
+}
+
+QPoint CheckList::textOf(const QModelIndex& index)
+{
+    scrollTo(index);
+    const QRect place = visualRect(index);
+    return {place.right() - 1, place.center().y()};
+}
+
+bool CheckList::viewportEvent(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+        return reported(reporter, event, [this](QEvent* mouse) { return QListView::viewportEvent(mouse); });
+    default: return QListView::viewportEvent(event);
+    }
+}
+
+template <class Handle>
+void CheckList::withMouse(Handle&& handle)
+{
+    m_isMouseAtWork = true;
+    handle();
+    m_isMouseAtWork = false;
+}
+
+// Other buttons than the left one change nothing.
+void CheckList::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        withMouse([&] { QListView::mousePressEvent(event); });
+}
+
+void CheckList::mouseMoveEvent(QMouseEvent* event)
+{
+    withMouse([&] { QListView::mouseMoveEvent(event); });
+}
+
+void CheckList::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        withMouse([&] { QListView::mouseReleaseEvent(event); });
+}
+
+void CheckList::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        withMouse([&] { QListView::mouseDoubleClickEvent(event); });
+}
+
+void CheckList::focusInEvent(QFocusEvent* event)
+{
+    // Qt makes the first entry the current one of a list that has none. Nobody has chosen it.
+    const bool hadCurrent = currentIndex().isValid();
+    const bool wasAtWork = std::exchange(m_isMouseAtWork, true);
+    QListView::focusInEvent(event);
+    if (!hadCurrent)
+        makeCurrent({}, false);
+    m_isMouseAtWork = wasAtWork;
+}
+
+// --- List box
+
+QtListBox::QtListBox(const Context& context, int number) : QtEntryBase(context, number, true)
+{
+    widget().reporter = this;
+    model().onMarked = [this](std::int32_t row) {
+        {
+            const Quiet quiet(*this);
+            widget().makeCurrent(model().index(row), true);
+        }
+        changed();
+    };
+    QObject::connect(widget().selectionModel(), &QItemSelectionModel::currentChanged, &widget(),
+                     [this] { changed(); });
+    onMovedByOperator(*widget().verticalScrollBar(), [this] { report(Notice::Scroll); });
+}
+
+void QtListBox::setSelected(std::int32_t index, bool selected)
+{
+    if (!model().setMarked(index, selected))
+        return;
+    {
+        const Quiet quiet(*this);
+        widget().makeCurrent(model().index(index), false);
+    }
+    report(Notice::Click);
+}
+
+void QtListBox::changed()
+{
+    if (isQuiet())
+        return;
+    if (widget().isMouseAtWork())
+        m_isChangePending = true;
+    else
+        report(Notice::Click);
+}
+
+bool QtListBox::isClick(const QMouseEvent& release, bool second)
+{
+    if (release.button() != Qt::LeftButton)
+        return false;
+    const bool isOnEntry = widget().indexAt(release.position().toPoint()).isValid();
+    return std::exchange(m_isChangePending, false) || (isOnEntry && !second);
+}
+
+} // namespace zor::platform::qt
