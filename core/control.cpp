@@ -325,9 +325,11 @@ void Control::readProperties(const platform::PropertyBag& bag)
 void Control::writeProperties(platform::PropertyBag& bag)
 {
     for (const PropertyRow* row : m_info.properties) {
-        if (!row->key.empty())
-            bag.WriteProperty(row->key, row->storesField ? valueOf(row->field.at(*this)) : get(*row),
-                              toVariant(row->bagDefault));
+        if (row->key.empty())
+            continue;
+        const Variant value = row->storesField ? valueOf(row->field.at(*this)) : get(*row);
+        // No property is Empty, so nothing equals that default.
+        bag.WriteProperty(row->key, value, row->isAlwaysStored ? Variant() : toVariant(row->bagDefault));
     }
 }
 

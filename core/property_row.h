@@ -95,6 +95,8 @@ struct PropertyRow {
     std::string_view key{};
     /// The default passed to the bag, and the initial value of a new instance unless `initial` says otherwise.
     Literal bagDefault{};
+    /// Stored whatever its value; bagDefault is what a bag without the key means.
+    bool isAlwaysStored = false;
     Literal initial{};
     Access access = Access::ReadWrite;
     bool storesField = false;
@@ -113,6 +115,13 @@ struct PropertyRow {
         PropertyRow row = *this;
         row.key = bagKey;
         row.bagDefault = defaultValue;
+        return row;
+    }
+    /// Stored under the property's own name also where it equals the default.
+    [[nodiscard]] constexpr PropertyRow alwaysStored(Literal defaultValue) const
+    {
+        PropertyRow row = stored(defaultValue);
+        row.isAlwaysStored = true;
         return row;
     }
     /// The value of a new instance: where it differs from the bag's default, or where nothing is stored.

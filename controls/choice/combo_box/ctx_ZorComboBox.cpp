@@ -1,0 +1,158 @@
+#include "controls/choice/combo_box/ctx_ZorComboBox.h"
+
+namespace zor {
+namespace {
+
+constexpr platform::Twips kHeight = 315;
+constexpr platform::Rect kDesigned{0, 0, 2415, kHeight};
+
+/// Published event numbers.
+enum Event : std::size_t {
+    kInvalidValueSetTrue = 1,
+    kDataModifiedSetTrue = 2,
+    kOutputValueChange = 3,
+    kComboClick = 8,
+};
+
+} // namespace
+
+ctx_ZorComboBox::ctx_ZorComboBox(platform::Container& container)
+    : ChoiceControl(classInfo(), container, kDesigned, UndoAt::Surface),
+      m_combo(surface().createComboBox(controls::kFace)), m_entries(*m_combo)
+{
+    m_combo->setGeometry(kDesigned);
+    adopt(*m_combo);
+}
+
+core::ControlPtr<ctx_ZorComboBox> ctx_ZorComboBox::create(platform::Container& container)
+{
+    return core::ControlPtr<ctx_ZorComboBox>(new ctx_ZorComboBox(container));
+}
+
+// --- Values
+
+void ctx_ZorComboBox::s_ApplyDeviceValue()
+{
+    const auto turn = newTurn();
+    m_reference = m_deviceValue;
+    s_SelectValue(m_reference);
+    if (isOvertaken(turn))
+        return;
+    assignOutput(m_reference);
+    if (isOvertaken(turn))
+        return;
+    m_status.dataModified = false;
+    s_UpdateColors();
+    s_UpdateStatusDisplay();
+}
+
+void ctx_ZorComboBox::s_ApplyModifiedValue(std::int32_t value)
+{
+    const auto turn = newTurn();
+    s_SelectValue(value);
+    if (isOvertaken(turn))
+        return;
+    assignOutput(value);
+    s_UpdateColors();
+    s_UpdateStatusDisplay();
+}
+
+void ctx_ZorComboBox::s_SelectValue(std::int32_t value)
+{
+    // Without entries there is nothing to judge a value by.
+    if (m_entries.isEmpty())
+        return;
+    const auto index = m_entries.find(value);
+    m_invalid.isSet = !index;
+    if (index)
+        m_combo->setCurrent(*index);
+    else
+        raise(kInvalidValueSetTrue);
+}
+
+void ctx_ZorComboBox::assignOutput(std::int32_t value)
+{
+    m_outputValue = value;
+    raise(kOutputValueChange);
+}
+
+// --- The operator
+
+void ctx_ZorComboBox::s_HandleClick()
+{
+    const auto value = m_entries.currentValue();
+    if (!value)
+        return;
+    if (m_isAdding) {
+        m_outputValue = *value;
+        return;
+    }
+    const auto before = turn();
+    m_status.dataModified = *value != m_reference;
+    if (m_status.dataModified)
+        raise(kDataModifiedSetTrue);
+    if (!isOvertaken(before))
+        assignOutput(*value);
+    s_UpdateColors();
+    raise(kComboClick);
+}
+
+void ctx_ZorComboBox::s_UndoEdit()
+{
+    if (!m_status.dataModified)
+        return;
+    const auto turn = newTurn();
+    const std::int32_t before = m_combo->current();
+    s_SelectValue(m_reference);
+    // A list that shows the device's value already does not report: the flag came from elsewhere.
+    if (m_entries.currentValue() == m_reference && m_combo->current() == before)
+        s_HandleClick();
+    if (isOvertaken(turn))
+        return;
+    assignOutput(m_reference);
+    s_UpdateStatusDisplay();
+}
+
+// --- Display
+
+void ctx_ZorComboBox::s_UpdateColors()
+{
+    ChoiceControl::s_UpdateColors();
+    m_combo->setBackColour(controls::listBackColour(isReadOnlyForOperator(), m_status.dataModified));
+    m_combo->setLocked(isInputLocked());
+}
+
+void ctx_ZorComboBox::s_Layout()
+{
+    platform::Rect area = surface().geometry();
+    controls::layOutListWidth(area.width, *m_combo, icon());
+    // A drop-down list has one height, whatever the container asks for.
+    area.height = kHeight;
+    surface().setGeometry(area);
+}
+
+// --- Entries
+
+void ctx_ZorComboBox::AddEnumEntry(std::string_view Identifier, std::int32_t EnumEntryValue)
+{
+    m_entries.append(Identifier, EnumEntryValue);
+    m_isAdding = true;
+    m_combo->setCurrent(m_combo->count() - 1);
+    m_isAdding = false;
+}
+
+void ctx_ZorComboBox::ClearEnumList() { m_entries.clear(); }
+void ctx_ZorComboBox::RemoveEnumEntry(std::int32_t EnumEntryValue) { m_entries.remove(EnumEntryValue); }
+std::string ctx_ZorComboBox::GetEnumEntryText(const std::int32_t& EnumEntryValue) const
+{
+    return m_entries.textOf(EnumEntryValue);
+}
+std::vector<std::string> ctx_ZorComboBox::GetEnumEntries() const { return m_entries.texts(); }
+Variant ctx_ZorComboBox::GetEnumEntryValue(const std::string& EnumText) const
+{
+    return m_entries.valueOf(EnumText);
+}
+std::vector<Variant> ctx_ZorComboBox::GetEnumEntryValueArray() const { return m_entries.values(); }
+Variant ctx_ZorComboBox::GetEnumEntryCount() const { return m_entries.count(); }
+
+} // namespace zor
