@@ -1,6 +1,7 @@
 #include "controls/registration.h"
 
 #include "controls/choice/combo_box/ctx_ZorComboBox.h"
+#include "controls/choice/list_box/ctx_ZorListBox.h"
 #include "controls/display/image/ctx_ZorImage.h"
 #include "controls/display/label/ctx_ZorLabel.h"
 #include "controls/numeric/text_box/ctx_ZorTextBox.h"
@@ -11,6 +12,7 @@ void registerControls(core::ClassRegistry& registry)
 {
     registry.add(ctx_ZorTextBox::classInfo());
     registry.add(ctx_ZorComboBox::classInfo());
+    registry.add(ctx_ZorListBox::classInfo());
     registry.add(ctx_ZorLabel::classInfo());
     registry.add(ctx_ZorImage::classInfo());
 }

@@ -1,0 +1,164 @@
+#include "controls/choice/list_box/ctx_ZorListBox.h"
+
+#include "controls/choice/bit_mask.h"
+
+namespace zor {
+namespace {
+
+using platform::Twips;
+
+constexpr Twips kOneLine = 315; ///< lowest control that its list fills
+constexpr Twips kLowest = 285;  ///< a list is no lower
+constexpr Twips kIconTop = 25;  ///< of a control of one line
+constexpr platform::Rect kDesigned{0, 0, 2415, 1215};
+
+/// Published event numbers.
+enum Event : std::size_t {
+    kDataModifiedSetTrue = 2,
+    kOutputValueChange = 3,
+    kListClick = 7,
+};
+
+} // namespace
+
+ctx_ZorListBox::ctx_ZorListBox(platform::Container& container)
+    : ChoiceControl(classInfo(), container, kDesigned, UndoAt::Surface),
+      m_list(surface().createListBox(controls::kFace)), m_entries(*m_list)
+{
+    adopt(*m_list);
+}
+
+core::ControlPtr<ctx_ZorListBox> ctx_ZorListBox::create(platform::Container& container)
+{
+    return core::ControlPtr<ctx_ZorListBox>(new ctx_ZorListBox(container));
+}
+
+// --- Values
+
+void ctx_ZorListBox::s_ApplyDeviceValue()
+{
+    const auto turn = newTurn();
+    m_reference = m_deviceValue;
+    m_outputValue = m_deviceValue;
+    if (!s_MarkList(m_reference))
+        return;
+    raise(kOutputValueChange);
+    if (isOvertaken(turn))
+        return;
+    m_status.dataModified = false;
+    s_UpdateColors();
+    s_UpdateStatusDisplay();
+}
+
+void ctx_ZorListBox::s_ApplyModifiedValue(std::int32_t value)
+{
+    const auto turn = newTurn();
+    if (!s_MarkList(value))
+        return;
+    assignOutput(value);
+    if (isOvertaken(turn))
+        return;
+    judge();
+    s_UpdateColors();
+    s_UpdateStatusDisplay();
+}
+
+bool ctx_ZorListBox::s_MarkList(std::int32_t value)
+{
+    const auto turn = this->turn();
+    ++m_markings;
+    for (std::int32_t i = 0; i < m_list->count() && !isOvertaken(turn); ++i)
+        m_list->setSelected(i, (value & controls::bitMask(m_list->datum(i))) != 0);
+    if (!m_entries.isEmpty() && !isOvertaken(turn))
+        m_list->setCurrent(0);
+    --m_markings;
+    return !isOvertaken(turn);
+}
+
+void ctx_ZorListBox::assignOutput(std::int32_t value)
+{
+    m_outputValue = value;
+    raise(kOutputValueChange);
+}
+
+/// The clicks of a marking judge what there is at the time: bits without an entry come last.
+void ctx_ZorListBox::judge() { m_status.dataModified = m_outputValue != m_reference; }
+
+// --- The operator
+
+void ctx_ZorListBox::s_HandleClick()
+{
+    if (isInputLocked()) {
+        // The operator's change is undone, the control's own is not.
+        if (m_markings == 0)
+            s_MarkList(m_outputValue);
+        return;
+    }
+    const std::int32_t entry = m_list->current();
+    if (entry < 0)
+        return;
+    const std::int32_t mask = controls::bitMask(m_list->datum(entry));
+    assignOutput(controls::withBits(m_outputValue, mask, m_list->isSelected(entry)));
+    judge();
+    if (m_status.dataModified)
+        raise(kDataModifiedSetTrue);
+    s_UpdateColors();
+    raise(kListClick);
+}
+
+void ctx_ZorListBox::s_UndoEdit()
+{
+    if (!m_status.dataModified)
+        return;
+    const auto turn = newTurn();
+    if (!s_MarkList(m_reference))
+        return;
+    assignOutput(m_reference);
+    if (isOvertaken(turn))
+        return;
+    judge();
+    s_UpdateColors();
+}
+
+// --- Display
+
+void ctx_ZorListBox::s_UpdateColors()
+{
+    ChoiceControl::s_UpdateColors();
+    m_list->setBackColour(controls::listBackColour(isReadOnlyForOperator(), m_status.dataModified));
+}
+
+void ctx_ZorListBox::s_Layout()
+{
+    const platform::Rect area = surface().geometry();
+    const bool isLow = area.height < kOneLine;
+    platform::Rect place = m_list->geometry();
+    place.height = isLow ? kLowest : area.height;
+    m_list->setGeometry(place);
+    controls::layOutListWidth(area.width, *m_list, icon());
+    platform::Rect iconPlace = icon().geometry();
+    iconPlace.top = (isLow ? 0 : roundToInt32((area.height - kOneLine) / 2)) + kIconTop;
+    icon().setGeometry(iconPlace);
+}
+
+// --- Entries
+
+void ctx_ZorListBox::AddBitFieldEntry(std::string_view Identifier, std::int16_t BitFieldEntryValue)
+{
+    m_entries.append(Identifier, BitFieldEntryValue);
+}
+void ctx_ZorListBox::ClearBitFieldList() { m_entries.clear(); }
+void ctx_ZorListBox::RemoveBitFieldEntry(std::int16_t BitFieldEntryValue) { m_entries.remove(BitFieldEntryValue); }
+std::string ctx_ZorListBox::GetBitFieldEntryText(const std::int16_t& BitFieldEntryValue) const
+{
+    return m_entries.textOf(BitFieldEntryValue);
+}
+std::vector<std::string> ctx_ZorListBox::GetBitFieldEntries() const { return m_entries.texts(); }
+Variant ctx_ZorListBox::GetBitFieldEntryValue(const std::string& BitFieldText) const
+{
+    return m_entries.valueOf(BitFieldText);
+}
+std::vector<Variant> ctx_ZorListBox::GetBitFieldEntryValueArray() const { return m_entries.values(); }
+Variant ctx_ZorListBox::GetBitFieldEntryCount() const { return m_entries.count(); }
+
+} // namespace zor

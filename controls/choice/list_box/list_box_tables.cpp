@@ -1,0 +1,100 @@
+// The list box as data: properties, messages, events, states, methods.
+
+#include "controls/choice/list_box/ctx_ZorListBox.h"
+
+namespace zor {
+
+using controls::joined;
+using controls::kFace;
+using controls::kState;
+using core::event;
+using core::method;
+using core::ownEvent;
+using core::PropertyRow;
+using platform::Notice;
+
+struct ctx_ZorListBox::Rows : controls::EntryChoiceRows<&ctx_ZorListBox::m_invalid, &ctx_ZorListBox::m_otherUser,
+                                                        &ctx_ZorListBox::m_reference> {
+    static constexpr PropertyRow SelCount =
+        core::computedRow<[](ctx_ZorListBox& box) { return box.SelCount(); }>("SelCount");
+    static constexpr PropertyRow OtherUser = R::OtherUserValue<&ctx_ZorListBox::m_otherUser>;
+};
+
+struct ctx_ZorListBox::Tables {
+    using R = Rows;
+    using E = __ctx_ZorListBox;
+    using This = ctx_ZorListBox;
+
+    static constexpr auto kProperties = joined(R::kStored, R::kNotStored, std::array{&R::SelCount});
+
+    static constexpr std::array kEvents{
+        ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue"),
+        ownEvent<&E::DataModifiedSetTrue>("DataModifiedSetTrue"),
+        ownEvent<&E::OutputValueChange>("OutputValueChange"),
+        ownEvent<&E::DeviceVerNotSupportedSetTrue>("DeviceVerNotSupportedSetTrue"),
+        ownEvent<&E::DeviceTypeNotSupportedSetTrue>("DeviceTypeNotSupportedSetTrue"),
+        ownEvent<&E::DataChangedSetTrue>("DataChangedSetTrue"),
+        ownEvent<&E::ListClick>("ListClick"),
+        event<&E::ListDblClick>("ListDblClick", kFace, Notice::DblClick),
+        event<&E::ListGotFocus>("ListGotFocus", kFace, Notice::GotFocus),
+        ownEvent<&E::ListItemCheck>("ListItemCheck", "Item"),
+        event<&E::ListKeyDown>("ListKeyDown", kFace, Notice::KeyDown, "KeyCode", "Shift"),
+        event<&E::ListKeyPress>("ListKeyPress", kFace, Notice::KeyPress, "KeyAscii"),
+        event<&E::ListKeyUp>("ListKeyUp", kFace, Notice::KeyUp, "KeyCode", "Shift"),
+        event<&E::ListLostFocus>("ListLostFocus", kFace, Notice::LostFocus),
+        event<&E::ListMouseDown>("ListMouseDown", kFace, Notice::MouseDown, "Button", "Shift", "X", "Y"),
+        event<&E::ListMouseMove>("ListMouseMove", kFace, Notice::MouseMove, "Button", "Shift", "X", "Y"),
+        event<&E::ListMouseUp>("ListMouseUp", kFace, Notice::MouseUp, "Button", "Shift", "X", "Y"),
+        event<&E::ListOLECompleteDrag>("ListOLECompleteDrag", kFace, Notice::OLECompleteDrag, "Effect"),
+        ownEvent<&E::ListOLEDragDrop>("ListOLEDragDrop"),
+        ownEvent<&E::ListOLEDragOver>("ListOLEDragOver"),
+        event<&E::ListOLEGiveFeedback>("ListOLEGiveFeedback", kFace, Notice::OLEGiveFeedback, "Effect",
+                                       "DefaultCursors"),
+        ownEvent<&E::ListOLESetData>("ListOLESetData"),
+        ownEvent<&E::ListOLEStartDrag>("ListOLEStartDrag"),
+        event<&E::ListScroll>("ListScroll", kFace, Notice::Scroll),
+        event<&E::ListValidate>("ListValidate", kFace, Notice::Validate, "Cancel"),
+        event<&E::imgClick>("imgClick", kState, Notice::Click),
+        event<&E::imgDblClick>("imgDblClick", kState, Notice::DblClick),
+    };
+
+    static constexpr auto kMethods =
+        joined(controls::ChoiceRows::kMethods,
+               std::array{
+                   method<&This::AddBitFieldEntry>("AddBitFieldEntry", "Identifier", "BitFieldEntryValue"),
+                   method<&This::ClearBitFieldList>("ClearBitFieldList"),
+                   method<&This::RemoveBitFieldEntry>("RemoveBitFieldEntry", "BitFieldEntryValue"),
+                   method<&This::GetBitFieldEntryText>("GetBitFieldEntryText", "BitFieldEntryValue"),
+                   method<&This::GetBitFieldEntries>("GetBitFieldEntries"),
+                   method<&This::GetBitFieldEntryValue>("GetBitFieldEntryValue", "BitFieldText"),
+                   method<&This::GetBitFieldEntryValueArray>("GetBitFieldEntryValueArray"),
+                   method<&This::GetBitFieldEntryCount>("GetBitFieldEntryCount"),
+               });
+
+    static constexpr auto kWidgets = controls::ChoiceRows::widgets("lst_ListBox");
+};
+
+const core::ClassInfo& ctx_ZorListBox::classInfo() noexcept
+{
+    using T = Tables;
+    static constexpr core::ClassInfo info{
+        .name = "ctx_ZorListBox",
+        .properties = T::kProperties,
+        .initialOrder = Rows::kStored,
+        .messages = Rows::kMessages,
+        .events = T::kEvents,
+        .methods = T::kMethods,
+        .states = Rows::kStates,
+        .effects = controls::ChoiceRows::kEffects,
+        .widgets = T::kWidgets,
+        .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }};
+    return info;
+}
+
+// --- Accessors
+
+void ctx_ZorListBox::InvalidValue(bool value) { write(Rows::InvalidValue, value); }
+void ctx_ZorListBox::MsgInvalidValue(std::string_view value) { write(Rows::MsgInvalidValue, std::string(value)); }
+void ctx_ZorListBox::OtherUserValue(std::int32_t value) { write(Rows::OtherUser, value); }
+
+} // namespace zor
