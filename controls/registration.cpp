@@ -5,12 +5,14 @@
 #include "controls/display/image/ctx_ZorImage.h"
 #include "controls/display/label/ctx_ZorLabel.h"
 #include "controls/numeric/text_box/ctx_ZorTextBox.h"
+#include "controls/numeric/up_down/ctx_ZorUpDown.h"
 
 namespace zor {
 
 void registerControls(core::ClassRegistry& registry)
 {
     registry.add(ctx_ZorTextBox::classInfo());
+    registry.add(ctx_ZorUpDown::classInfo());
     registry.add(ctx_ZorComboBox::classInfo());
     registry.add(ctx_ZorListBox::classInfo());
     registry.add(ctx_ZorLabel::classInfo());

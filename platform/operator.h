@@ -51,7 +51,8 @@ public:
     virtual Refusal paste(TextField& field, std::string_view text) = 0;
     virtual Refusal select(TextField& field, std::size_t start, std::size_t length) = 0;
     /// Key down, key press where the key has a character, key up. 8 Backspace, 13 Enter, 27 Escape, 32 Space,
-    /// 35 to 40 End, Home and the arrows, 46 Delete, and the upper-case letters and digits do what they say.
+    /// 33 to 40 Page Up, Page Down, End, Home and the arrows, 46 Delete, and the upper-case letters and digits do
+    /// what they say.
     virtual Refusal key(Widget& widget, std::int16_t code) = 0;
     /// One step of a spin button.
     virtual Refusal spin(SpinButton& button, bool up) = 0;

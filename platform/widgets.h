@@ -119,9 +119,13 @@ public:
     /// A value outside the new limits is moved to the nearer one, with a report of Change.
     virtual void setMinimum(std::int32_t minimum) = 0;
     virtual void setMaximum(std::int32_t maximum) = 0;
+    /// From now on the keys Up and Down in a field beside the button step it, as a click does. The button must
+    /// live as long as the field is worked with.
+    virtual void setBuddy(TextField& field) = 0;
 };
 
-/// A track with a handle at a whole position.
+/// A track with a handle at a whole position. With the focus, the arrow keys move it by one position, Page Up and
+/// Page Down by a tenth of the track, Home and End to the ends.
 class Track : public Widget {
 public:
     [[nodiscard]] virtual std::int32_t value() const = 0;

@@ -2,6 +2,7 @@
 
 #include "platform/error.h"
 #include "platform/headless/menu.h"
+#include "platform/headless/simple_widgets.h"
 #include "platform/text.h"
 
 #include <algorithm>
@@ -105,13 +106,15 @@ std::int16_t codeOf(std::string_view character)
 
 enum KeyCode : std::int16_t {
     kBack = 8,
+    kPageUp = 33,
+    kPageDown = 34,
     kEnd = 35,
     kHome = 36,
     kLeft = 37,
     kUp = 38,
     kRight = 39,
     kDown = 40,
-    kDelete = 46
+    kDelete = 46,
 };
 
 void moveCaret(TextField& field, std::int16_t code)
@@ -123,6 +126,22 @@ void moveCaret(TextField& field, std::int16_t code)
     case kEnd: field.select(characterCount(field.text()), 0); break;
     case kLeft: field.select(start != end ? start : start - std::min<std::size_t>(start, 1), 0); break;
     case kRight: field.select(start != end ? end : end + 1, 0); break;
+    default: break;
+    }
+}
+
+void moveHandle(HeadlessTrack& track, std::int16_t code)
+{
+    const std::int64_t page = pageStep({track.value(), track.minimum(), track.maximum()});
+    switch (code) {
+    case kLeft:
+    case kDown: track.moveBy(-1); break;
+    case kRight:
+    case kUp: track.moveBy(1); break;
+    case kPageDown: track.moveBy(-page); break;
+    case kPageUp: track.moveBy(page); break;
+    case kHome: track.setValue(track.minimum()); break;
+    case kEnd: track.setValue(track.maximum()); break;
     default: break;
     }
 }
@@ -146,6 +165,9 @@ void keyInField(TextField& field, std::int16_t code, std::int16_t press)
     } else if (press >= ' ') {
         if (!field.isLocked())
             field.replaceSelection(latin1(press));
+    } else if (Stepper* stepper = dynamic_cast<HeadlessTextField&>(field).stepper();
+               stepper != nullptr && (code == kUp || code == kDown)) {
+        stepper->step(code == kUp);
     } else {
         moveCaret(field, code);
     }
@@ -175,6 +197,8 @@ void applyKey(Widget& widget, std::int16_t code, std::int16_t press)
 {
     if (auto* field = dynamic_cast<TextField*>(&widget)) {
         keyInField(*field, code, press);
+    } else if (auto* track = dynamic_cast<HeadlessTrack*>(&widget)) {
+        moveHandle(*track, code);
     } else if (auto* button = dynamic_cast<ToggleButton*>(&widget)) {
         if (press == ' ')
             pushToggle(*button);
@@ -339,10 +363,7 @@ Refusal HeadlessOperator::spin(SpinButton& button, bool up)
     const Refusal refusal = reach(button);
     if (refusal != Refusal::None)
         return refusal;
-    const std::int64_t next = std::int64_t{button.value()} + (up ? 1 : -1);
-    if (next >= button.minimum() && next <= button.maximum())
-        button.setValue(static_cast<std::int32_t>(next));
-    base(button).report(up ? Notice::SpinUp : Notice::SpinDown);
+    dynamic_cast<HeadlessSpinButton&>(button).step(up);
     return refusal;
 }
 

@@ -2,12 +2,12 @@
 
 /// Label, image, check box, option button, spin button, track and menu.
 
+#include "platform/headless/text_field.h"
 #include "platform/headless/text_metrics.h"
 #include "platform/headless/widget_base.h"
+#include "platform/whole_range.h"
 
 #include <algorithm>
-#include <limits>
-#include <utility>
 
 namespace zor::platform::headless {
 
@@ -81,43 +81,47 @@ private:
 using HeadlessCheckBox = HeadlessToggle<CheckBox, true>;
 using HeadlessOptionButton = HeadlessToggle<OptionButton, false>;
 
-/// A whole number between two ends. A range turned upside down holds its lower end.
 template <class Interface>
 class HeadlessRange : public WidgetBase<Interface> {
 public:
     using WidgetBase<Interface>::WidgetBase;
 
-    [[nodiscard]] std::int32_t value() const override { return m_value; }
+    [[nodiscard]] std::int32_t value() const override { return m_range.value; }
     void setValue(std::int32_t value) override
     {
-        const std::int32_t cut = std::max(std::min(value, m_maximum), m_minimum);
-        if (std::exchange(m_value, cut) != cut)
+        if (m_range.moveTo(value))
             this->report(Notice::Change);
     }
-    [[nodiscard]] std::int32_t minimum() const override { return m_minimum; }
-    [[nodiscard]] std::int32_t maximum() const override { return m_maximum; }
+    [[nodiscard]] std::int32_t minimum() const override { return m_range.minimum; }
+    [[nodiscard]] std::int32_t maximum() const override { return m_range.maximum; }
     void setMinimum(std::int32_t minimum) override
     {
-        m_minimum = minimum;
-        setValue(m_value);
+        m_range.minimum = minimum;
+        setValue(value());
     }
     void setMaximum(std::int32_t maximum) override
     {
-        m_maximum = maximum;
-        setValue(m_value);
+        m_range.maximum = maximum;
+        setValue(value());
     }
 
-private:
-    std::int32_t m_value = 0;
-    std::int32_t m_minimum = 0;
-    std::int32_t m_maximum = 10;
+protected:
+    WholeRange m_range;
 };
 
-class HeadlessSpinButton final : public HeadlessRange<SpinButton> {
+class HeadlessSpinButton final : public HeadlessRange<SpinButton>, public Stepper {
 public:
     HeadlessSpinButton(Host& host, int number) : HeadlessRange(host, number, ButtonFace)
     {
         m_geometry.width = 240;
+    }
+
+    void setBuddy(TextField& field) override { dynamic_cast<HeadlessTextField&>(field).setStepper(*this); }
+    void step(bool up) override
+    {
+        if (m_range.step(up))
+            report(Notice::Change);
+        report(up ? Notice::SpinUp : Notice::SpinDown);
     }
 };
 
@@ -129,13 +133,16 @@ public:
     void setTickStyle(std::int16_t style) override { m_tickStyle = style; }
     [[nodiscard]] std::int32_t tickFrequency() const override { return m_tickFrequency; }
     void setTickFrequency(std::int32_t frequency) override { m_tickFrequency = std::max(frequency, 1); }
-    [[nodiscard]] std::int32_t tickCount() const override
-    {
-        const std::int64_t length = std::int64_t{maximum()} - minimum();
-        const std::int64_t count = length <= 0 ? 1 : (length + m_tickFrequency - 1) / m_tickFrequency + 1;
-        return static_cast<std::int32_t>(std::min<std::int64_t>(count, std::numeric_limits<std::int32_t>::max()));
-    }
+    [[nodiscard]] std::int32_t tickCount() const override { return platform::tickCount(m_range, m_tickFrequency); }
     [[nodiscard]] bool hasFocus() const override { return host().focused() == this; }
+
+    /// As far as a page, or as the ends allow.
+    void moveBy(std::int64_t distance)
+    {
+        const std::int64_t target = value() + distance;
+        setValue(static_cast<std::int32_t>(
+            std::clamp<std::int64_t>(target, minimum(), std::max(minimum(), maximum()))));
+    }
 
 private:
     std::int32_t m_tickFrequency = 1;

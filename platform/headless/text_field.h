@@ -20,11 +20,15 @@ public:
     [[nodiscard]] std::string selectedText() const override;
     void replaceSelection(std::string_view text) override;
     [[nodiscard]] bool hasFocus() const override { return host().focused() == this; }
+    void setStepper(Stepper& stepper) noexcept { m_stepper = &stepper; }
+    /// What Up and Down step; nullptr for a field by itself.
+    [[nodiscard]] Stepper* stepper() const noexcept { return m_stepper; }
 
 private:
     [[nodiscard]] std::size_t bytesTo(std::size_t character) const noexcept;
 
     std::string m_text;
+    Stepper* m_stepper = nullptr;
     std::size_t m_start = 0;
     std::size_t m_length = 0;
     Alignment m_alignment = Alignment::Left;

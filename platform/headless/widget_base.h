@@ -29,6 +29,15 @@ public:
     void report(Notice notice, EventArgs args = {}) const { host().listener().notice(number(), notice, args); }
 };
 
+/// What the arrow keys of a field step.
+class Stepper {
+public:
+    virtual void step(bool up) = 0;
+
+protected:
+    ~Stepper() = default;
+};
+
 template <class Interface>
 class WidgetBase : public Interface, public HeadlessWidget {
 public:

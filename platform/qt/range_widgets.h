@@ -3,6 +3,8 @@
 /// Spin button and track.
 
 #include "platform/qt/qt_widget.h"
+#include "platform/qt/text_field.h"
+#include "platform/whole_range.h"
 
 #include <QSlider>
 #include <QSpinBox>
@@ -50,24 +52,27 @@ public:
         QObject::connect(widget().down, &QToolButton::clicked, &widget(), [this] { step(false); });
     }
 
-    [[nodiscard]] std::int32_t value() const override { return m_value; }
+    [[nodiscard]] std::int32_t value() const override { return m_range.value; }
     void setValue(std::int32_t value) override
     {
-        const std::int32_t cut = std::max(std::min(value, m_maximum), m_minimum);
-        if (std::exchange(m_value, cut) != cut)
+        if (m_range.moveTo(value))
             report(Notice::Change);
     }
-    [[nodiscard]] std::int32_t minimum() const override { return m_minimum; }
-    [[nodiscard]] std::int32_t maximum() const override { return m_maximum; }
+    [[nodiscard]] std::int32_t minimum() const override { return m_range.minimum; }
+    [[nodiscard]] std::int32_t maximum() const override { return m_range.maximum; }
     void setMinimum(std::int32_t minimum) override
     {
-        m_minimum = minimum;
-        setValue(m_value);
+        m_range.minimum = minimum;
+        setValue(value());
     }
     void setMaximum(std::int32_t maximum) override
     {
-        m_maximum = maximum;
-        setValue(m_value);
+        m_range.maximum = maximum;
+        setValue(value());
+    }
+    void setBuddy(TextField& field) override
+    {
+        dynamic_cast<QtTextField&>(field).onStep([this](bool up) { step(up); });
     }
     [[nodiscard]] QWidget& button(bool up) const { return up ? *widget().up : *widget().down; }
 
@@ -75,15 +80,12 @@ private:
     void step(bool up)
     {
         const EventScope scope(context());
-        const std::int64_t next = std::int64_t{m_value} + (up ? 1 : -1);
-        if (next >= m_minimum && next <= m_maximum)
-            setValue(static_cast<std::int32_t>(next));
+        if (m_range.step(up))
+            report(Notice::Change);
         report(up ? Notice::SpinUp : Notice::SpinDown);
     }
 
-    std::int32_t m_value = 0;
-    std::int32_t m_minimum = 0;
-    std::int32_t m_maximum = 10;
+    WholeRange m_range;
 };
 
 /// A slider that the wheel moves only where it has the focus.
@@ -105,21 +107,41 @@ class QtTrack final : public QtBase<Track, QuietSlider> {
 public:
     QtTrack(const Context& context, int number) : QtBase(context, number, ButtonFace)
     {
-        setGeometry({0, 0, 285, 510});
         widget().setFocusPolicy(Qt::StrongFocus);
-        widget().setRange(0, 10);
         widget().setTickPosition(QSlider::TicksBelow);
-        widget().setTickInterval(1);
-        QObject::connect(&widget(), &QSlider::sliderMoved, &widget(), [this] { report(Notice::Scroll); });
+        applyEnds();
+        setGeometry({0, 0, 285, 510});
+        QObject::connect(&widget(), &QSlider::sliderMoved, &widget(), [this] {
+            if (!m_setting)
+                report(Notice::Scroll);
+        });
         QObject::connect(&widget(), &QSlider::valueChanged, &widget(), [this] { report(Notice::Change); });
     }
 
+    void setGeometry(const Rect& geometry) override
+    {
+        QtBase::setGeometry(geometry);
+        applyTicks();
+    }
     [[nodiscard]] std::int32_t value() const override { return widget().value(); }
-    void setValue(std::int32_t value) override { widget().setValue(value); }
-    [[nodiscard]] std::int32_t minimum() const override { return widget().minimum(); }
-    [[nodiscard]] std::int32_t maximum() const override { return widget().maximum(); }
-    void setMinimum(std::int32_t minimum) override { widget().setMinimum(minimum); }
-    void setMaximum(std::int32_t maximum) override { widget().setMaximum(std::max(maximum, minimum())); }
+    void setValue(std::int32_t value) override
+    {
+        const bool before = std::exchange(m_setting, true);
+        widget().setValue(value);
+        m_setting = before;
+    }
+    [[nodiscard]] std::int32_t minimum() const override { return m_ends.minimum; }
+    [[nodiscard]] std::int32_t maximum() const override { return m_ends.maximum; }
+    void setMinimum(std::int32_t minimum) override
+    {
+        m_ends.minimum = minimum;
+        applyEnds();
+    }
+    void setMaximum(std::int32_t maximum) override
+    {
+        m_ends.maximum = maximum;
+        applyEnds();
+    }
     [[nodiscard]] std::int16_t tickStyle() const override { return m_tickStyle; }
     void setTickStyle(std::int16_t style) override
     {
@@ -129,18 +151,40 @@ public:
         if (style >= 0 && style < static_cast<std::int16_t>(kPositions.size()))
             widget().setTickPosition(kPositions[static_cast<std::size_t>(style)]);
     }
-    [[nodiscard]] std::int32_t tickFrequency() const override { return widget().tickInterval(); }
-    void setTickFrequency(std::int32_t frequency) override { widget().setTickInterval(std::max(frequency, 1)); }
-    [[nodiscard]] std::int32_t tickCount() const override
+    [[nodiscard]] std::int32_t tickFrequency() const override { return m_tickFrequency; }
+    void setTickFrequency(std::int32_t frequency) override
     {
-        const std::int64_t length = std::int64_t{maximum()} - minimum();
-        const std::int64_t count = length <= 0 ? 1 : (length + tickFrequency() - 1) / tickFrequency() + 1;
-        return static_cast<std::int32_t>(std::min<std::int64_t>(count, std::numeric_limits<std::int32_t>::max()));
+        m_tickFrequency = std::max(frequency, 1);
+        applyTicks();
     }
+    [[nodiscard]] std::int32_t tickCount() const override { return platform::tickCount(m_ends, m_tickFrequency); }
     [[nodiscard]] bool hasFocus() const override { return focusReported; }
 
 private:
+    void applyEnds()
+    {
+        // Qt would move the upper end along with the lower one.
+        widget().setRange(m_ends.minimum, std::max(m_ends.minimum, m_ends.maximum));
+        widget().setSingleStep(1);
+        widget().setPageStep(pageStep(m_ends));
+        applyTicks();
+    }
+    /// Ticks closer than the eye can tell apart are left out, an equal number between any two that are drawn: a
+    /// style draws them one by one, and a track may have two thousand million.
+    void applyTicks()
+    {
+        constexpr int kClosest = 3;
+        const std::int64_t room = std::max(widget().width() / kClosest, 1);
+        const std::int64_t every = (tickCount() + room - 1) / room;
+        const std::int64_t interval = std::max<std::int64_t>(every, 1) * m_tickFrequency;
+        widget().setTickInterval(
+            static_cast<int>(std::min<std::int64_t>(interval, std::numeric_limits<int>::max())));
+    }
+
+    WholeRange m_ends;
+    std::int32_t m_tickFrequency = 1;
     std::int16_t m_tickStyle = 0;
+    bool m_setting = false;
 };
 
 } // namespace zor::platform::qt

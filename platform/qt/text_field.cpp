@@ -1,5 +1,9 @@
 #include "platform/qt/text_field.h"
 
+#include <QPointer>
+#include <QWheelEvent>
+
+#include <cstdlib>
 #include <limits>
 
 namespace zor::platform::qt {
@@ -9,6 +13,30 @@ namespace {
 constexpr int kShownLimit = 32767;
 
 } // namespace
+
+void FieldEdit::keyPressEvent(QKeyEvent* event)
+{
+    const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (onStep && isArrow)
+        onStep(event->key() == Qt::Key_Up);
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+void FieldEdit::wheelEvent(QWheelEvent* event)
+{
+    if (!onStep || !hasFocus()) {
+        event->ignore();
+        return;
+    }
+    // Fine wheels turn by parts of a notch.
+    m_wheel += event->angleDelta().y();
+    const int notches = m_wheel / QWheelEvent::DefaultDeltasPerStep;
+    m_wheel -= notches * QWheelEvent::DefaultDeltasPerStep;
+    const QPointer<FieldEdit> alive = this;
+    for (int i = 0; i < std::abs(notches) && alive; ++i)
+        onStep(notches > 0);
+}
 
 QtTextField::QtTextField(const Context& context, int number) : QtFontBase(context, number, WindowBackground)
 {

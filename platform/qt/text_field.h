@@ -4,11 +4,27 @@
 
 #include <QLineEdit>
 
+#include <functional>
+
 namespace zor::platform::qt {
+
+/// A line edit whose arrow keys and, while it has the focus, wheel step what stands beside it, if anything does.
+class FieldEdit : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+    std::function<void(bool up)> onStep;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    int m_wheel = 0;
+};
 
 /// A QLineEdit. The text is kept as it was given until the operator edits it, so that a text which Qt cannot
 /// show (invalid UTF-8, embedded NULs) comes back as it was.
-class QtTextField final : public QtFontBase<TextField, QLineEdit> {
+class QtTextField final : public QtFontBase<TextField, FieldEdit> {
 public:
     QtTextField(const Context& context, int number);
 
@@ -24,6 +40,7 @@ public:
     [[nodiscard]] std::string selectedText() const override { return widget().selectedText().toStdString(); }
     void replaceSelection(std::string_view text) override;
     [[nodiscard]] bool hasFocus() const override { return focusReported; }
+    void onStep(std::function<void(bool up)> step) { widget().onStep = std::move(step); }
 
 private:
     void applyLock();

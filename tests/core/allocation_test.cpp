@@ -1,9 +1,15 @@
-// The value path of a text box allocates nothing: ten thousand controls are refreshed many times a second.
+// The value path of a numeric control allocates nothing: ten thousand controls are refreshed many times a second.
 
-#include "tests/core/text_box_fixture.h"
+#include "controls/numeric/text_box/ctx_ZorTextBox.h"
+#include "controls/numeric/up_down/ctx_ZorUpDown.h"
+#include "platform/headless/container.h"
 
+#include <gtest/gtest.h>
+
+#include <cstdint>
 #include <cstdlib>
 #include <new>
+#include <type_traits>
 
 namespace {
 
@@ -31,30 +37,57 @@ void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); 
 namespace zor::tests {
 namespace {
 
-struct Listener : __ctx_ZorTextBox {
+template <class Interface>
+struct Listener : Interface {
     void OutputValueChange() override { ++outputs; }
     int outputs = 0;
 };
 
-TEST_F(TextBoxTest, AValueIsShownAndHandedBackWithoutAllocation)
+/// A class of numeric controls, its events, and what shows that a value arrives in another unit and leaves anew.
+template <class Control, class Interface>
+void expectNoAllocation(double scale)
 {
-    Listener listener;
-    box->subscribe(listener);
-    box->OutputUnit(LgthU_Mtr);
-    box->DeviceValue(1.5);
+    platform::headless::HeadlessContainer container;
+    const auto control = Control::create(container);
+    control->initialiseProperties();
+    control->MaxValue(1e6);
+    control->OutputUnit(LgthU_Mtr);
+    Listener<Interface> listener;
+    control->subscribe(listener);
+    using Value = std::remove_cvref_t<decltype(control->DeviceValue())>;
+    const auto write = [&](double value) {
+        if constexpr (std::is_same_v<Value, std::int32_t>)
+            control->DeviceValue(static_cast<std::int32_t>(value));
+        else
+            control->DeviceValue(value);
+    };
+    write(1.0);
+    const int before = listener.outputs;
     allocations = 0;
     counting = true;
     for (int i = 0; i < 100; ++i)
-        box->DeviceValue(12345.25 * i);
+        write(scale * i);
     counting = false;
     EXPECT_EQ(allocations, 0);
-    EXPECT_EQ(listener.outputs, 101);
+    EXPECT_GE(listener.outputs, before + 100);
+    control->unsubscribe(listener);
+}
+
+TEST(ValuePath, ShowsAValueAndHandsItBackWithoutAllocation)
+{
+    {
+        SCOPED_TRACE("text box");
+        expectNoAllocation<ctx_ZorTextBox, __ctx_ZorTextBox>(12345.25);
+    }
+    {
+        SCOPED_TRACE("up-down");
+        expectNoAllocation<ctx_ZorUpDown, __ctx_ZorUpDown>(20'000'000);
+    }
     counting = true;
     auto* probe = new int(1);
     counting = false;
     delete probe;
     EXPECT_EQ(allocations, 1) << "the counter counts";
-    box->unsubscribe(listener);
 }
 
 } // namespace

@@ -1,0 +1,20 @@
+#include "controls/numeric/range_control.h"
+
+#include "controls/numeric/range_rows.h"
+
+namespace zor::controls {
+
+void RangeControl::InvalidValue(bool value) { write(RangeRows::InvalidValue, value); }
+void RangeControl::MsgInvalidValue(std::string_view value)
+{
+    write(RangeRows::MsgInvalidValue, std::string(value));
+}
+
+void RangeControl::testValue(double deviceValue)
+{
+    m_invalidValue = m_units.isOutside(deviceValue);
+    if (m_invalidValue)
+        raise(kInvalidSetTrue);
+}
+
+} // namespace zor::controls

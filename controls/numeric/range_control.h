@@ -1,0 +1,36 @@
+#pragma once
+
+/// What up-down and slider are alike in: a value that is moved between two ends, and judged when it comes.
+
+#include "controls/numeric/unit_control.h"
+
+#include <string>
+#include <string_view>
+
+namespace zor::controls {
+
+class RangeControl : public UnitControl {
+public:
+    /// Whether the last device value or modification lies outside the limits. A value that differs from a limit by
+    /// no more than rounding lies on it. Writing raises ReadOnly in user mode and is ignored at design time.
+    [[nodiscard]] bool InvalidValue() const noexcept { return m_invalidValue; }
+    void InvalidValue(bool value);
+    /// A text for a host's own use: an invalid value has no state of its own.
+    [[nodiscard]] const std::string& MsgInvalidValue() const noexcept { return m_msgInvalidValue; }
+    void MsgInvalidValue(std::string_view value);
+
+protected:
+    using UnitControl::UnitControl;
+    ~RangeControl() override = default;
+
+    /// Judges a value in DeviceUnit; raises InvalidValueSetTrue each time it is invalid.
+    void testValue(double deviceValue);
+
+private:
+    friend struct RangeRows;
+
+    std::string m_msgInvalidValue = "Invalid Entry";
+    bool m_invalidValue = false;
+};
+
+} // namespace zor::controls

@@ -1,0 +1,62 @@
+#pragma once
+
+/// The table rows that up-down and slider share.
+
+#include "controls/numeric/range_control.h"
+#include "controls/numeric/unit_rows.h"
+
+#include <algorithm>
+#include <array>
+
+namespace zor::controls {
+
+struct RangeRows : UnitRows {
+    using S = core::SharedRows;
+
+    static constexpr PropertyRow InvalidValue =
+        core::fieldRow<&RangeControl::m_invalidValue>("InvalidValue").stored(false).with(core::Access::Derived);
+    static constexpr PropertyRow MsgInvalidValue =
+        core::fieldRow<&RangeControl::m_msgInvalidValue>("MsgInvalidValue")
+            .stored("Invalid Entry")
+            .refreshing({core::Refresh::Status});
+    /// The value that another user wrote, for the text that tells of it: the host's, never the control's.
+    template <auto Field>
+    static constexpr PropertyRow OtherUser =
+        core::fieldRow<Field>("OtherUserValue").with(core::Access::Silent).refreshing({core::Refresh::Status});
+
+    static constexpr std::array kMessages{
+        core::MessageRow{"MSG_CFAIL", &S::MsgCfail},
+        core::MessageRow{"MSG_DATANOTAVAILABLE", &S::MsgDataNotAvailable},
+        core::MessageRow{"MSG_DATACHANGED", &S::MsgDataChanged},
+        core::MessageRow{"MSG_DEFAULT", &S::MsgDefault},
+        core::MessageRow{"MSG_INVALIDVALUE", &MsgInvalidValue},
+        core::MessageRow{"MSG_DEVICETAGNOTFOUND", &S::MsgDeviceTagNotFound},
+    };
+    /// An invalid value has no state: what the device holds is shown as it is.
+    template <auto Other, auto Reference>
+    static constexpr std::array kStates{S::CommunicationFailure, S::TagNotFound, S::NoData,
+                                        S::DataChangedByOther<Other, Reference>};
+};
+
+/// The stored rows of a table of properties in the order in which they are read and initialised: as they are
+/// stored, but the limits after the unit they are in.
+template <const auto& Properties>
+constexpr auto limitsAfterUnit()
+{
+    constexpr auto isStored = [](const core::PropertyRow* row) { return !row->key.empty(); };
+    constexpr auto isLimit = [](const core::PropertyRow* row) {
+        return row->key == "MinValue" || row->key == "MaxValue";
+    };
+    std::array<const core::PropertyRow*, std::ranges::count_if(Properties, isStored)> order{};
+    auto at = order.begin();
+    for (const core::PropertyRow* row : Properties) {
+        if (!isStored(row) || isLimit(row))
+            continue;
+        *at++ = row;
+        if (row->key == "DefaultUnit")
+            at = std::ranges::copy_if(Properties, at, isLimit).out;
+    }
+    return order;
+}
+
+} // namespace zor::controls

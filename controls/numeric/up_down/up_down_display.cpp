@@ -1,0 +1,77 @@
+// How the up-down looks: colours, visibility, placement.
+
+#include "controls/numeric/up_down/ctx_ZorUpDown.h"
+
+namespace zor {
+
+using controls::EntryField;
+using platform::Rect;
+using platform::Twips;
+
+namespace {
+
+constexpr Twips kSpinWidth = 240;
+constexpr Twips kMinTextHeight = 30;
+
+} // namespace
+
+ctx_ZorUpDown::ctx_ZorUpDown(platform::Container& container)
+    : RangeControl(classInfo(), container, EntryField::kDesignedWidth, EntryField::kDesignedHeight, LgthU_MM),
+      m_field(surface()),
+      m_spin(surface().createSpinButton(kSpin)), m_body{&m_field.text(), &m_field.units(), m_spin.get()}
+{
+    m_field.text().setAlignment(platform::Alignment::Right);
+    m_spin->setBuddy(m_field.text());
+    s_UpdateColors();
+    s_Layout();
+}
+
+core::ControlPtr<ctx_ZorUpDown> ctx_ZorUpDown::create(platform::Container& container)
+{
+    return core::ControlPtr<ctx_ZorUpDown>(new ctx_ZorUpDown(container));
+}
+
+platform::Widget* ctx_ZorUpDown::widget(int number) noexcept
+{
+    if (number == kSpin)
+        return m_spin.get();
+    platform::Widget* own = m_field.widget(number);
+    return own != nullptr ? own : Control::widget(number);
+}
+
+void ctx_ZorUpDown::s_UpdateColors() { m_field.paint(m_status, isReadOnlyForOperator(), std::nullopt, false); }
+
+void ctx_ZorUpDown::s_ChangeBackColor(Colour l_ColorValue)
+{
+    Control::s_ChangeBackColor(l_ColorValue);
+    m_field.units().setBackColour(l_ColorValue);
+}
+
+void ctx_ZorUpDown::s_UpdateDeviceSupportDisplay()
+{
+    m_field.showSupported(isDeviceSupported(), m_unitEnable);
+    m_spin->setVisible(isDeviceSupported());
+}
+
+void ctx_ZorUpDown::s_UpdateUnitLabelVisibility()
+{
+    m_field.units().setVisible(m_unitEnable && isDeviceSupported());
+}
+
+void ctx_ZorUpDown::s_ShowUnit(std::string_view caption) { m_field.showUnit(caption, showsUnit()); }
+
+void ctx_ZorUpDown::s_Layout()
+{
+    const Rect field = m_field.layOut(surface().geometry(), kMinTextHeight, kSpinWidth, showsUnit());
+    m_spin->setGeometry({field.left + field.width, field.top, kSpinWidth, field.height});
+}
+
+void ctx_ZorUpDown::s_AfterLoading()
+{
+    UnitControl::s_AfterLoading();
+    s_Layout();
+    // The stored limits may have been expressed in another unit than the one loaded with them.
+    s_UpdateLimits();
+}
+
+} // namespace zor

@@ -1,0 +1,106 @@
+// The up-down as data: properties, messages, events, states, methods.
+
+#include "controls/numeric/range_rows.h"
+#include "controls/numeric/up_down/ctx_ZorUpDown.h"
+
+#include <array>
+
+namespace zor {
+
+using controls::EntryField;
+using controls::RangeRows;
+using core::event;
+using core::fieldRow;
+using core::ownEvent;
+using core::PropertyRow;
+using core::SharedRows;
+using platform::Notice;
+
+struct ctx_ZorUpDown::Rows : RangeRows {
+    using This = ctx_ZorUpDown;
+
+    static constexpr PropertyRow DeviceValue =
+        fieldRow<&This::m_deviceValue>("DeviceValue").stored(0).then<&This::s_ApplyDeviceValue>();
+    static constexpr PropertyRow OutputValue =
+        fieldRow<&This::m_outputValue>("OutputValue").stored(0).with(core::Access::Derived);
+    static constexpr PropertyRow ModifiedValue =
+        core::computedRow<[](This& control) { return control.ModifiedValue(); }>("ModifiedValue")
+            .written<[](This& control, std::int32_t value) { control.ModifiedValue(value); }>();
+    static constexpr PropertyRow OtherUserValue = OtherUser<&This::m_otherUser>;
+    // The key's small "o" is in every form ever saved.
+    static constexpr PropertyRow NumberOfDigits =
+        fieldRow<&This::m_numberOfDigits>("NumberOfDigits").storedAs("NumberofDigits", 3);
+    static constexpr PropertyRow WidthDifference =
+        fieldRow<&This::m_field, &EntryField::widthDifference>("WidthDifference")
+            .stored(1305)
+            .then<&This::s_Layout>();
+};
+
+struct ctx_ZorUpDown::Tables {
+    using S = SharedRows;
+    using R = Rows;
+    using E = __ctx_ZorUpDown;
+
+    // clang-format off
+    static constexpr std::array kProperties{
+        &S::CFail, &R::MinValue, &R::MaxValue, &R::MinParamValue, &R::MaxParamValue, &R::InvalidValue,
+        &S::DataModified, &S::WaitingForData, &R::UnitType, &R::DeviceValue, &R::OutputValue, &R::DeviceUnit,
+        &R::OutputUnit, &S::DataChanged, &S::DataNotAvailable, &S::DeviceTypeSupported,
+        &S::DeviceMinVersionSupported, &S::DeviceMaxVersionSupported, &S::DeviceTag, &S::DeviceTagNotFound,
+        &S::DeviceVerNotSupported, &S::DeviceTypeNotSupported, &S::MsgCfail, &S::MsgDataChanged,
+        &S::MsgDataNotAvailable, &R::MsgInvalidValue, &S::MsgDeviceTagNotFound, &S::MsgDefault,
+        &R::NumberOfDigits, &S::IconEnable, &R::UnitEnable, &S::ReadOnly, &R::DefaultUnit, &R::UnitLabelCaption,
+        &S::DeviceType, &S::DeviceVersion, &S::RegisterType, &S::EnableControl, &R::WidthDifference,
+        // not stored
+        &S::MessageHeader, &R::ModifiedValue, &R::OtherUserValue};
+    // clang-format on
+    static constexpr auto kOrder = controls::limitsAfterUnit<kProperties>();
+
+    static constexpr auto kEvents = core::joinedEvents(
+        std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue")}, controls::conditionRows<E>(),
+        controls::entryFieldRows<E>(EntryField::kText, EntryField::kUnits,
+                                    {.close = Notice::LinkClose, .error = Notice::LinkError}),
+        std::array{event<&E::upDownChange>("upDownChange", kSpin, Notice::Change),
+                   event<&E::upDownDownClick>("upDownDownClick", kSpin, Notice::SpinDown),
+                   event<&E::upDownUpClick>("upDownUpClick", kSpin, Notice::SpinUp)},
+        controls::iconRows<E>(EntryField::kState));
+
+    static constexpr auto kStates = R::kStates<&ctx_ZorUpDown::m_otherUser, &ctx_ZorUpDown::m_reference>;
+
+    static constexpr std::array kMethods{
+        core::kGetMaxMessage, core::kGetMessageID,    core::kSetMessage, core::kChangeBackColor,
+        R::GetCaptionID,      R::GetConversionFactor, R::GetOffset};
+
+    static constexpr std::array kWidgets{
+        core::WidgetRow{platform::kSurfaceWidget, "Surface"}, core::WidgetRow{EntryField::kText, "txt_TextBox"},
+        core::WidgetRow{kSpin, "upd_UpDown"}, core::WidgetRow{EntryField::kUnits, "lbl_Units"},
+        core::WidgetRow{EntryField::kState, "img_State"}};
+};
+
+const core::ClassInfo& ctx_ZorUpDown::classInfo() noexcept
+{
+    using T = Tables;
+    static constexpr core::ClassInfo info{
+        .name = "ctx_ZorUpDown",
+        .properties = T::kProperties,
+        .readOrder = T::kOrder,
+        .initialOrder = T::kOrder,
+        .messages = Rows::kMessages,
+        .events = T::kEvents,
+        .methods = T::kMethods,
+        .states = T::kStates,
+        .widgets = T::kWidgets,
+        .keepsFailedWrites = true,
+        .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }};
+    return info;
+}
+
+// --- Accessors
+
+void ctx_ZorUpDown::DeviceValue(std::int32_t value) { write(Rows::DeviceValue, value); }
+void ctx_ZorUpDown::OutputValue(std::int32_t value) { write(Rows::OutputValue, value); }
+void ctx_ZorUpDown::OtherUserValue(std::int32_t value) { write(Rows::OtherUserValue, value); }
+void ctx_ZorUpDown::NumberOfDigits(std::int16_t value) { write(Rows::NumberOfDigits, value); }
+void ctx_ZorUpDown::WidthDifference(std::int16_t value) { write(Rows::WidthDifference, value); }
+
+} // namespace zor
