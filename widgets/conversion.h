@@ -1,0 +1,50 @@
+#pragma once
+
+/// Values between Qt and the controls.
+
+#include "platform/variant.h"
+
+#include <QString>
+#include <QVariant>
+
+#include <type_traits>
+
+namespace zor::widgets {
+
+[[nodiscard]] QVariant toQVariant(const Variant& value);
+/// Booleans, numbers and texts as they are; anything else by its text, Empty where it has none. An integer that
+/// does not fit 32 bits becomes a double.
+[[nodiscard]] Variant fromQVariant(const QVariant& value);
+
+/// What a Qt accessor hands out. A value of another kind gives the type's default.
+template <class T>
+[[nodiscard]] T as(const Variant& value)
+{
+    if constexpr (std::is_same_v<T, QVariant>) {
+        return toQVariant(value);
+    } else if constexpr (std::is_same_v<T, QString>) {
+        return value.isEmpty() ? QString() : QString::fromStdString(value.toText());
+    } else if constexpr (std::is_same_v<T, bool>) {
+        return value.isBoolean() && value.toBoolean();
+    } else if constexpr (std::is_same_v<T, double>) {
+        return value.isNumber() ? value.number() : 0;
+    } else {
+        return static_cast<T>(value.isNumber() ? value.toInt32() : 0);
+    }
+}
+
+/// What a Qt accessor takes in.
+template <class T>
+[[nodiscard]] Variant of(const T& value)
+{
+    if constexpr (std::is_same_v<T, QVariant>)
+        return fromQVariant(value);
+    else if constexpr (std::is_same_v<T, QString>)
+        return Variant(value.toStdString());
+    else if constexpr (std::is_same_v<T, bool> || std::is_same_v<T, double>)
+        return Variant(value);
+    else
+        return Variant(static_cast<std::int32_t>(value));
+}
+
+} // namespace zor::widgets

@@ -1,0 +1,321 @@
+// Writes the QWidgets out of the controls' tables: zor_enumerations.h, zor_widgets.h and zor_widgets.cpp.
+
+#include "controls/registration.h"
+#include "core/control.h"
+#include "core/setting_order.h"
+#include "units/unit_catalogue.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+#include <string>
+#include <string_view>
+
+namespace {
+
+using namespace zor;
+using std::string;
+using std::string_view;
+
+constexpr string_view kNotice = "// Generated from the controls' tables; see widgets/generate in the sources.\n\n";
+
+/// Fragments of the names of events that no control raises: they are part of the interface, but a signal that
+/// never comes would mislead.
+constexpr std::array kNeverRaised{string_view("OLE"), string_view("Link"), string_view("NotSupportedSetTrue"),
+                                  string_view("DataChangedSetTrue")};
+
+string qtType(core::ValueKind kind)
+{
+    using enum core::ValueKind;
+    switch (kind) {
+    case Boolean: return "bool";
+    case Int16:
+    case Int32: return "int";
+    case Double: return "double";
+    case Text: return "QString";
+    case Any: return "QVariant";
+    case UnitType: return "UNIT_TYPE";
+    case MeasType: return "MEAS_TYPE";
+    case RegisterType: return "REGISTER_TYPE";
+    case EntryType: return "ENTRY_TYPE";
+    case Colour: return "uint";
+    }
+    return "QVariant";
+}
+
+string argument(core::ValueKind kind, string_view name)
+{
+    const string type = qtType(kind);
+    const bool byReference = type.front() == 'Q';
+    return (byReference ? "const " + type + "& " : type + ' ') + string(name);
+}
+
+/// Type of a signal's argument, and how to read it; by position in platform::ArgRef.
+struct ArgumentType {
+    string_view type;
+    string_view read;
+};
+constexpr std::array kArgumentTypes{
+    ArgumentType{"int", "*std::get<std::int16_t*>"}, ArgumentType{"int", "*std::get<std::int32_t*>"},
+    ArgumentType{"double", "*std::get<float*>"}, ArgumentType{"bool", "*std::get<bool*>"},
+    ArgumentType{"const QString&", "QString::fromStdString(*std::get<std::string*>"}};
+static_assert(kArgumentTypes.size() == std::variant_size_v<platform::ArgRef>);
+
+string widgetName(const core::ClassInfo& info) { return string(info.name.substr(info.name.find('_') + 1)); }
+
+bool isRaised(const core::EventRow& row)
+{
+    return std::ranges::none_of(kNeverRaised,
+                                [&](string_view part) { return row.name.find(part) != string_view::npos; });
+}
+
+bool isReadable(const core::PropertyRow& row) { return row.get != nullptr || row.field.at != nullptr; }
+
+/// Whether a form keeps it. A derived value follows from the others.
+bool isKept(const core::PropertyRow& row)
+{
+    return !row.key.empty() && row.access != core::Access::Derived && row.access != core::Access::ReadOnly;
+}
+
+std::size_t indexOf(const core::ClassInfo& info, const core::PropertyRow* row)
+{
+    return static_cast<std::size_t>(std::ranges::find(info.properties, row) - info.properties.begin());
+}
+
+// --- The enumerations
+
+template <class Rows, class Value>
+void writeEnumeration(std::ostream& out, string_view name, const Rows& rows, Value&& value)
+{
+    out << "    enum " << name << " : qint32 {\n";
+    for (const auto& row : rows)
+        out << "        " << row.name << " = " << value(row) << ",\n";
+    out << "    };\n    Q_ENUM(" << name << ")\n";
+}
+
+string enumerations()
+{
+    std::ostringstream out;
+    out << "#pragma once\n\n"
+        << kNotice << "#include <QWidget>\n\nnamespace zor {\n\n"
+        << "/// The published enumerations, with names that Qt can look up. Any other integer may stand in them.\n"
+           "class ZorWidget : public QWidget {\n    Q_OBJECT\n\npublic:\n";
+    const auto plain = [](const auto& row) { return row.value; };
+    writeEnumeration(out, "UNIT_TYPE", units::kUnitTypes,
+                     [](const auto& row) { return static_cast<std::int32_t>(row.type); });
+    writeEnumeration(out, "MEAS_TYPE", units::kUnits,
+                     [](const auto& row) { return static_cast<std::int32_t>(row.unit); });
+    writeEnumeration(out, "REGISTER_TYPE", units::kRegisterTypes, plain);
+    writeEnumeration(out, "ENTRY_TYPE", units::kEntryTypes, plain);
+    out << "\nprotected:\n    using QWidget::QWidget;\n};\n\n} // namespace zor\n";
+    return out.str();
+}
+
+// --- The header
+
+void declareProperties(std::ostream& out, const core::ClassInfo& info)
+{
+    for (const core::PropertyRow* row : core::settingOrder(info)) {
+        const string name(row->name);
+        out << "    Q_PROPERTY(" << qtType(row->field.kind) << ' ' << name << " READ " << name << " WRITE set"
+            << name << (isKept(*row) ? "" : " STORED false") << ")\n";
+    }
+}
+
+string signalOf(const core::EventRow& row)
+{
+    string text = string(row.name) + '(';
+    for (std::size_t i = 0; i < row.argumentCount; ++i)
+        text.append(i == 0 ? "" : ", ")
+            .append(kArgumentTypes[row.types[i]].type)
+            .append(" ")
+            .append(row.arguments[i]);
+    return text + ')';
+}
+
+string methodOf(const core::MethodRow& row, string_view scope)
+{
+    using Answers = core::MethodRow::Answers;
+    string text = row.answers == Answers::Nothing ? "void"
+                  : row.answers == Answers::Array ? "QVariantList"
+                                                  : qtType(row.result);
+    // Outside the class the enumerations need their scope.
+    if (!scope.empty() && text.find("_TYPE") != string::npos)
+        text.insert(0, scope);
+    text.append(" ").append(scope).append(row.name).append("(");
+    for (std::size_t i = 0; i < row.argumentCount; ++i)
+        text.append(i == 0 ? "" : ", ").append(argument(row.arguments[i].kind, row.arguments[i].name));
+    return text + ')';
+}
+
+void declareClass(std::ostream& out, const core::ClassInfo& info)
+{
+    const string name = widgetName(info);
+    out << "/// " << info.name << " as a QWidget; what each member means stands there.\nclass " << name
+        << " final : public ZorControl {\n    Q_OBJECT\n";
+    declareProperties(out, info);
+    out << "\npublic:\n    explicit " << name << "(QWidget* parent = nullptr);\n    [[nodiscard]] " << info.name
+        << "& control() const noexcept;\n\n";
+    for (const core::PropertyRow* row : info.properties)
+        out << "    [[nodiscard]] " << qtType(row->field.kind) << ' ' << row->name << "() const;\n";
+    out << '\n';
+    for (const core::MethodRow& row : info.methods)
+        out << "    Q_INVOKABLE " << methodOf(row, {}) << ";\n";
+    out << "\npublic slots:\n";
+    for (const core::PropertyRow* row : info.properties)
+        out << "    void set" << row->name << '(' << argument(row->field.kind, "value") << ");\n";
+    out << "\nsignals:\n";
+    for (const core::EventRow& row : info.events) {
+        if (isRaised(row))
+            out << "    void " << signalOf(row) << ";\n";
+    }
+    out << "\nprotected:\n    void emitEvent(std::size_t event, platform::EventArgs arguments) override;\n};\n\n";
+}
+
+string header(const core::ClassRegistry& registry)
+{
+    std::ostringstream out;
+    out << "#pragma once\n\n" << kNotice << "#include \"widgets/zor_control.h\"\n\nnamespace zor {\n\n";
+    for (const core::ClassInfo* info : registry.classes())
+        out << "class " << info->name << ";\n";
+    out << '\n';
+    for (const core::ClassInfo* info : registry.classes())
+        declareClass(out, *info);
+    out << "} // namespace zor\n";
+    return out.str();
+}
+
+// --- The source
+
+void defineEvents(std::ostream& out, const core::ClassInfo& info)
+{
+    out << "void " << widgetName(info)
+        << "::emitEvent(std::size_t event, [[maybe_unused]] platform::EventArgs arguments)\n{\n"
+           "    switch (event) {\n";
+    for (std::size_t number = 0; number < info.events.size(); ++number) {
+        const core::EventRow& row = info.events[number];
+        if (!isRaised(row))
+            continue;
+        out << "    case " << number << ": emit " << row.name << '(';
+        for (std::size_t i = 0; i < row.argumentCount; ++i) {
+            const string_view read = kArgumentTypes[row.types[i]].read;
+            const bool isText = read.starts_with("QString");
+            out << (i == 0 ? "" : ", ") << read << "(arguments[" << i << "])" << (isText ? ")" : "");
+        }
+        out << "); break;\n";
+    }
+    out << "    default: break;\n    }\n}\n\n";
+}
+
+void defineMethods(std::ostream& out, const core::ClassInfo& info)
+{
+    using Answers = core::MethodRow::Answers;
+    const string scope = widgetName(info) + "::";
+    for (std::size_t number = 0; number < info.methods.size(); ++number) {
+        const core::MethodRow& row = info.methods[number];
+        string arguments;
+        for (std::size_t i = 0; i < row.argumentCount; ++i)
+            arguments.append(i == 0 ? "" : ", ").append("of(").append(row.arguments[i].name).append(")");
+        string whole = row.answers == Answers::Array ? "callForArray(" : "callMethod(";
+        whole.append(std::to_string(number)).append(", {").append(arguments).append("})");
+        out << methodOf(row, scope) << " { ";
+        if (row.answers == Answers::Value)
+            out << "return as<" << qtType(row.result) << ">(" << whole << ");";
+        else
+            out << (row.answers == Answers::Array ? "return " : "") << whole << ';';
+        out << " }\n";
+    }
+    out << '\n';
+}
+
+void defineClass(std::ostream& out, const core::ClassInfo& info)
+{
+    const string name = widgetName(info);
+    out << "// --- " << name << "\n\n"
+        << name << "::" << name << "(QWidget* parent) : ZorControl(\"" << info.name << "\", parent) {}\n"
+        << info.name << "& " << name << "::control() const noexcept\n{\n    return static_cast<" << info.name
+        << "&>(ZorControl::control());\n}\n\n";
+    for (const core::PropertyRow* row : info.properties) {
+        const string type = qtType(row->field.kind);
+        const std::size_t index = indexOf(info, row);
+        out << (type.find("_TYPE") == string::npos ? "" : name + "::") << type << ' ' << name << "::" << row->name
+            << "() const { return "
+            << (isReadable(*row) ? "as<" + type + ">(readProperty(" + std::to_string(index) + "))" : type + "{}")
+            << "; }\nvoid " << name << "::set" << row->name << '(' << argument(row->field.kind, "value")
+            << ") { writeProperty(" << index << ", of(value)); }\n";
+    }
+    out << '\n';
+    defineMethods(out, info);
+    defineEvents(out, info);
+}
+
+/// The header of a control's class, as the sources include it.
+string headerOf(const core::ClassInfo& info, const std::filesystem::path& top)
+{
+    const string file = string(info.name) + ".h";
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(top / "controls")) {
+        if (entry.path().filename() == file)
+            return std::filesystem::relative(entry.path(), top).generic_string();
+    }
+    throw std::runtime_error("no header " + file);
+}
+
+string source(const core::ClassRegistry& registry, const std::filesystem::path& top)
+{
+    std::ostringstream out;
+    out << kNotice << "#include \"zor_widgets.h\"\n\n";
+    for (const core::ClassInfo* info : registry.classes())
+        out << "#include \"" << headerOf(*info, top) << "\"\n";
+    out << "#include \"widgets/conversion.h\"\n\n#include <array>\n\nnamespace zor {\n\n"
+           "using widgets::as;\nusing widgets::of;\n\n";
+    for (const core::ClassInfo* info : registry.classes())
+        defineClass(out, *info);
+    out << "std::span<const WidgetClass> widgetClasses() noexcept\n{\n    static constexpr std::array kClasses{\n";
+    for (const core::ClassInfo* info : registry.classes()) {
+        const string name = widgetName(*info);
+        out << "        WidgetClass{\"zor::" << name << "\", \"" << info->name
+            << "\", [](QWidget* parent) -> ZorControl* { return new " << name << "(parent); }},\n";
+    }
+    out << "    };\n    return kClasses;\n}\n\n} // namespace zor\n";
+    return out.str();
+}
+
+/// A file that would come out as it is keeps its time, so that nothing is built again for it.
+void write(const std::filesystem::path& file, const string& text)
+{
+    std::ifstream before(file, std::ios::binary);
+    std::ostringstream old;
+    old << before.rdbuf();
+    if (before && old.str() == text)
+        return;
+    std::ofstream out(file, std::ios::binary);
+    out << text;
+    out.flush();
+    if (!out)
+        throw std::runtime_error("cannot write " + file.string());
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 3) {
+        std::cerr << "usage: zor-generate-widgets SOURCES FOLDER\n";
+        return 2;
+    }
+    try {
+        const std::filesystem::path folder = argv[2];
+        core::ClassRegistry registry;
+        registerControls(registry);
+        std::filesystem::create_directories(folder);
+        write(folder / "zor_enumerations.h", enumerations());
+        write(folder / "zor_widgets.h", header(registry));
+        write(folder / "zor_widgets.cpp", source(registry, argv[1]));
+        return 0;
+    } catch (const std::exception& error) {
+        std::cerr << "zor-generate-widgets: " << error.what() << '\n';
+        return 1;
+    }
+}

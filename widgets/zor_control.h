@@ -1,0 +1,112 @@
+#pragma once
+
+/// What the ready-made QWidgets share. The widgets themselves are generated from the controls' tables, see
+/// zor_widgets.h in the build tree.
+
+#include "platform/notice.h"
+#include "platform/variant.h"
+#include "zor_enumerations.h"
+
+#include <QVariant>
+
+#include <cstddef>
+#include <initializer_list>
+#include <memory>
+#include <span>
+#include <string_view>
+
+namespace zor::core {
+class Control;
+struct ClassInfo;
+} // namespace zor::core
+
+namespace zor {
+
+/// A control as a QWidget: properties as Qt properties, methods invokable, events as signals.
+///
+/// Writing a property through Qt never throws: what the control refuses (a number that does not fit, a derived
+/// property in user mode) changes nothing and is announced by `refused`. A signal carries its arguments by
+/// value; to change one (to swallow a key, say) subscribe the control's sink interface to control().
+///
+/// The widget's size is the control's: 15 twips to the device-independent pixel. In a style sheet a class goes
+/// by the name zor--ZorTextBox. A widget starts in user mode.
+///
+/// The first widget takes the decimal and grouping separators of the default QLocale; see
+/// platform::setRegionalSettings() for others.
+class ZorControl : public ZorWidget {
+    Q_OBJECT
+    /// For data mappers and item views: the value from the device, in the device's unit. Reading it gives what
+    /// the operator made of it.
+    Q_PROPERTY(
+        QVariant value READ value WRITE setValue NOTIFY valueChanged DESIGNABLE false STORED false USER true)
+
+public:
+    ~ZorControl() override;
+
+    /// The control itself, with everything that the library offers.
+    [[nodiscard]] core::Control& control() const noexcept;
+    [[nodiscard]] const core::ClassInfo& info() const noexcept;
+
+    /// Whether the program runs (true) or a form is being designed.
+    [[nodiscard]] bool isUserMode() const noexcept;
+    void setUserMode(bool userMode) noexcept;
+
+    /// OutputValue of an editing control, DeviceValue of any other.
+    [[nodiscard]] QVariant value() const;
+    /// Writes DeviceValue.
+    void setValue(const QVariant& value);
+
+    /// The size in which the control was designed.
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+signals:
+    void valueChanged();
+    /// A property was written, or changed together with another.
+    void propertyChanged(const QString& name);
+    /// A property write or a method call came to nothing: its name, the error number and a short text.
+    void refused(const QString& member, int error, const QString& text);
+
+protected:
+    ZorControl(std::string_view className, QWidget* parent);
+
+    /// @name For the generated classes
+    /// @{
+    [[nodiscard]] Variant readProperty(std::size_t row) const;
+    void writeProperty(std::size_t row, const Variant& value);
+    /// The result of a method; Empty for none, and after an error.
+    Variant callMethod(std::size_t row, std::initializer_list<Variant> arguments);
+    [[nodiscard]] QVariantList callForArray(std::size_t row, std::initializer_list<Variant> arguments);
+    /// Emits the signal of an event, by its position in the class's table.
+    virtual void emitEvent(std::size_t event, platform::EventArgs arguments) = 0;
+    /// @}
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    struct Inner;
+
+    template <class Action>
+    void guarded(std::string_view member, Action&& action) const;
+    void layOut();
+    void takeFocusProxy();
+
+    std::unique_ptr<Inner> m_inner;
+};
+
+/// One of the widgets, for programs that create them by name.
+struct WidgetClass {
+    /// The C++ name, as it stands in form files ("zor::ZorTextBox").
+    std::string_view name;
+    /// The control's class ("ctx_ZorTextBox").
+    std::string_view controlClass;
+    ZorControl* (*create)(QWidget* parent);
+};
+
+/// All widgets of the library.
+[[nodiscard]] std::span<const WidgetClass> widgetClasses() noexcept;
+
+} // namespace zor
