@@ -7,9 +7,9 @@ namespace zor::controls {
 using platform::Notice;
 
 ChoiceControl::ChoiceControl(const core::ClassInfo& info, platform::Container& container, platform::Rect designed,
-                             UndoAt undoAt)
+                             std::size_t outputValueChange, UndoAt undoAt)
     : Control(info, container, designed.width, designed.height), m_icon(surface().createImage(kState)),
-      m_undo(surface()), m_undoAt(undoAt)
+      m_undo(surface()), m_outputValueChange(outputValueChange), m_undoAt(undoAt)
 {
     constexpr platform::Twips kIconSize = 285;
     constexpr platform::Twips kIconTop = 25;
@@ -40,6 +40,12 @@ void ChoiceControl::OutputValue(std::int32_t value) { write(ChoiceRows::OutputVa
 void ChoiceControl::ModifiedValue(std::int32_t value)
 {
     run([&] { s_ApplyModifiedValue(value); });
+}
+
+void ChoiceControl::assignOutput(std::int32_t value)
+{
+    m_outputValue = value;
+    raise(m_outputValueChange);
 }
 
 // --- Display

@@ -44,8 +44,9 @@ protected:
     /// Where a release of the right mouse button offers the undo.
     enum class UndoAt : std::uint8_t { Surface, SurfaceAndFace };
 
+    /// `outputValueChange`: the published number of that event.
     ChoiceControl(const core::ClassInfo& info, platform::Container& container, platform::Rect designed,
-                  UndoAt undoAt);
+                  std::size_t outputValueChange, UndoAt undoAt);
     ~ChoiceControl() override = default;
     /// Takes the face on; the last thing before the control is ready.
     void adopt(platform::FontWidget& face);
@@ -67,6 +68,8 @@ protected:
     [[nodiscard]] std::span<platform::Widget* const> body() noexcept override { return m_body; }
     [[nodiscard]] platform::Image& icon() noexcept override { return *m_icon; }
     [[nodiscard]] bool isInputLocked() const noexcept { return m_inputLocked; }
+    /// Sets OutputValue and tells the host.
+    void assignOutput(std::int32_t value);
 
     /// @name Values that overtake each other
     /// The face reports while a value is on its way into it, and a handler may write the next one there and
@@ -89,6 +92,7 @@ private:
     core::UndoMenu m_undo;
     platform::FontWidget* m_face = nullptr;
     std::array<platform::Widget*, 1> m_body{};
+    std::size_t m_outputValueChange;
     std::uint32_t m_turn = 0;
     UndoAt m_undoAt;
     /// Until the colours are first worked out, nobody may work the control.

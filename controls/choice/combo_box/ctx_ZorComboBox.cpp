@@ -17,7 +17,7 @@ enum Event : std::size_t {
 } // namespace
 
 ctx_ZorComboBox::ctx_ZorComboBox(platform::Container& container)
-    : ChoiceControl(classInfo(), container, kDesigned, UndoAt::Surface),
+    : ChoiceControl(classInfo(), container, kDesigned, kOutputValueChange, UndoAt::Surface),
       m_combo(surface().createComboBox(controls::kFace)), m_entries(*m_combo)
 {
     m_combo->setGeometry(kDesigned);
@@ -68,12 +68,6 @@ void ctx_ZorComboBox::s_SelectValue(std::int32_t value)
         m_combo->setCurrent(*index);
     else
         raise(kInvalidValueSetTrue);
-}
-
-void ctx_ZorComboBox::assignOutput(std::int32_t value)
-{
-    m_outputValue = value;
-    raise(kOutputValueChange);
 }
 
 // --- The operator

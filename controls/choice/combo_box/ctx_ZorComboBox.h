@@ -78,7 +78,6 @@ private:
     void s_SelectValue(std::int32_t value);
     void s_UpdateColors() override;
     void s_Layout() override;
-    void assignOutput(std::int32_t value);
 
     std::unique_ptr<platform::ComboBox> m_combo;
     controls::EntryList m_entries;

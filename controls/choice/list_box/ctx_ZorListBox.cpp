@@ -22,7 +22,7 @@ enum Event : std::size_t {
 } // namespace
 
 ctx_ZorListBox::ctx_ZorListBox(platform::Container& container)
-    : ChoiceControl(classInfo(), container, kDesigned, UndoAt::Surface),
+    : ChoiceControl(classInfo(), container, kDesigned, kOutputValueChange, UndoAt::Surface),
       m_list(surface().createListBox(controls::kFace)), m_entries(*m_list)
 {
     adopt(*m_list);
@@ -73,12 +73,6 @@ bool ctx_ZorListBox::s_MarkList(std::int32_t value)
         m_list->setCurrent(0);
     --m_markings;
     return !isOvertaken(turn);
-}
-
-void ctx_ZorListBox::assignOutput(std::int32_t value)
-{
-    m_outputValue = value;
-    raise(kOutputValueChange);
 }
 
 /// The clicks of a marking judge what there is at the time: bits without an entry come last.

@@ -79,7 +79,6 @@ private:
     bool s_MarkList(std::int32_t value);
     void s_UpdateColors() override;
     void s_Layout() override;
-    void assignOutput(std::int32_t value);
     void judge();
 
     std::unique_ptr<platform::ListBox> m_list;

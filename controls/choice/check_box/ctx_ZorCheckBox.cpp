@@ -1,0 +1,111 @@
+#include "controls/choice/check_box/ctx_ZorCheckBox.h"
+
+#include "controls/choice/bit_mask.h"
+
+#include <utility>
+
+namespace zor {
+namespace {
+
+constexpr controls::CaptionLayout kLayout{330, 25};
+
+/// Published event numbers.
+enum Event : std::size_t {
+    kDataModifiedSetTrue = 1,
+    kDataModifiedReset = 2,
+    kOutputValueChange = 3,
+    kCheckClick = 8,
+};
+
+} // namespace
+
+ctx_ZorCheckBox::ctx_ZorCheckBox(platform::Container& container)
+    : CaptionChoice(classInfo(), container, kLayout, kOutputValueChange),
+      m_check(surface().createCheckBox(controls::kFace))
+{
+    adopt(*m_check, "Check1");
+}
+
+core::ControlPtr<ctx_ZorCheckBox> ctx_ZorCheckBox::create(platform::Container& container)
+{
+    return core::ControlPtr<ctx_ZorCheckBox>(new ctx_ZorCheckBox(container));
+}
+
+bool ctx_ZorCheckBox::isBitSet(std::int32_t value) const noexcept
+{
+    return (value & controls::bitMask(m_bit)) != 0;
+}
+
+// --- Values
+
+void ctx_ZorCheckBox::s_ApplyDeviceValue()
+{
+    const auto turn = newTurn();
+    m_loaded = isBitSet(m_deviceValue);
+    setChecked(m_loaded);
+    if (isOvertaken(turn))
+        return;
+    assignOutput(m_deviceValue);
+    if (isOvertaken(turn))
+        return;
+    m_status.dataModified = false;
+    s_UpdateColors();
+    s_UpdateStatusDisplay();
+}
+
+void ctx_ZorCheckBox::s_ApplyModifiedValue(std::int32_t value)
+{
+    const auto turn = newTurn();
+    setChecked(isBitSet(value));
+    if (isOvertaken(turn))
+        return;
+    assignOutput(value);
+    s_UpdateColors();
+    s_UpdateStatusDisplay();
+}
+
+void ctx_ZorCheckBox::setChecked(bool checked)
+{
+    const bool outer = std::exchange(m_isSetting, true);
+    m_check->setOn(checked);
+    m_isSetting = outer;
+}
+
+// --- The operator
+
+void ctx_ZorCheckBox::s_HandleClick()
+{
+    const bool isChecked = m_check->isOn();
+    if (isInputLocked()) {
+        // The operator's change is undone; the control's own is judged, and that is all.
+        if (m_isSetting)
+            m_status.dataModified = isChecked != m_loaded;
+        else
+            setChecked(m_loaded);
+        return;
+    }
+    const auto before = turn();
+    m_status.dataModified = isChecked != m_loaded;
+    raise(m_status.dataModified ? kDataModifiedSetTrue : kDataModifiedReset);
+    // The bit alone: the others are the device's, or other check boxes'.
+    if (!isOvertaken(before))
+        assignOutput(controls::withBits(m_outputValue, controls::bitMask(m_bit), isChecked));
+    s_UpdateColors();
+    raise(kCheckClick);
+}
+
+void ctx_ZorCheckBox::s_UndoEdit()
+{
+    if (!m_status.dataModified)
+        return;
+    const auto turn = newTurn();
+    // A box that shows the device's bit already does not report: the flag came from elsewhere.
+    if (m_check->isOn() == m_loaded)
+        s_HandleClick();
+    else
+        setChecked(m_loaded);
+    if (!isOvertaken(turn))
+        assignOutput(m_deviceValue);
+}
+
+} // namespace zor

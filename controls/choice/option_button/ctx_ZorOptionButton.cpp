@@ -1,0 +1,117 @@
+#include "controls/choice/option_button/ctx_ZorOptionButton.h"
+
+#include <utility>
+
+namespace zor {
+namespace {
+
+constexpr controls::CaptionLayout kLayout{315, 20};
+
+/// Published event numbers.
+enum Event : std::size_t {
+    kDataModifiedSetTrue = 1,
+    kOutputValueChange = 2,
+    kOptionClick = 6,
+};
+
+} // namespace
+
+ctx_ZorOptionButton::ctx_ZorOptionButton(platform::Container& container)
+    : CaptionChoice(classInfo(), container, kLayout, kOutputValueChange),
+      m_option(surface().createOptionButton(controls::kFace))
+{
+    adopt(*m_option, "option");
+}
+
+core::ControlPtr<ctx_ZorOptionButton> ctx_ZorOptionButton::create(platform::Container& container)
+{
+    return core::ControlPtr<ctx_ZorOptionButton>(new ctx_ZorOptionButton(container));
+}
+
+// --- Values
+
+void ctx_ZorOptionButton::s_ApplyDeviceValue()
+{
+    m_enumValue = m_deviceValue;
+    s_ApplyEnumValue();
+}
+
+void ctx_ZorOptionButton::s_ApplyEnumValue()
+{
+    newTurn();
+    m_reference = m_deviceValue;
+    const bool wasOn = m_option->isOn();
+    const bool isOn = m_enumValue == m_entryValue;
+    s_Select(isOn);
+    // A button that was selected before makes no click, and stays the choice that it is.
+    m_status.dataModified = wasOn && isOn && !isInputLocked() && m_enumValue != m_reference;
+    m_outputValue = m_enumValue;
+    s_UpdateStatusDisplay();
+    s_UpdateColors();
+    s_HandleClick();
+}
+
+void ctx_ZorOptionButton::s_ApplyModifiedValue(std::int32_t value)
+{
+    newTurn();
+    const bool isOn = value == m_entryValue;
+    s_Select(isOn);
+    if (!isOn)
+        m_status.dataModified = false;
+    m_outputValue = value;
+    s_UpdateStatusDisplay();
+    s_UpdateColors();
+    s_HandleClick();
+}
+
+void ctx_ZorOptionButton::s_Select(bool selected)
+{
+    m_isArmed = false;
+    const bool wasOn = m_option->isOn();
+    m_option->setOn(selected);
+    // A button that has come to stand for another value is selected anew, though it looks the same.
+    if (std::exchange(m_isEntryNew, false) && wasOn && selected)
+        m_isArmed = true;
+}
+
+// --- The operator
+
+void ctx_ZorOptionButton::s_HandleClick()
+{
+    if (!m_isArmed) {
+        m_isArmed = true;
+        return;
+    }
+    if (isInputLocked() && m_entryValue != m_deviceValue)
+        m_option->setOn(m_outputValue == m_entryValue);
+    else
+        s_TakeChoice();
+    m_isArmed = true;
+}
+
+void ctx_ZorOptionButton::s_TakeChoice()
+{
+    m_outputValue = m_option->isOn() ? m_entryValue : m_enumValue;
+    m_status.dataModified = m_outputValue != m_reference;
+    if (m_status.dataModified)
+        raise(kDataModifiedSetTrue);
+    s_UpdateColors();
+    raise(kOptionClick);
+    // A button that is not selected has no value to hand over; the one that is tells the host.
+    if (m_option->isOn())
+        raise(kOutputValueChange);
+}
+
+void ctx_ZorOptionButton::s_UndoEdit()
+{
+    const auto turn = newTurn();
+    m_option->setOn(m_reference == m_entryValue);
+    if (isOvertaken(turn))
+        return;
+    m_outputValue = m_deviceValue;
+    // Without a click nobody else notices that the edit is over.
+    m_status.dataModified = m_outputValue != m_reference;
+    s_UpdateColors();
+}
+
+} // namespace zor
