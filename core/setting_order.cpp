@@ -39,4 +39,6 @@ std::vector<const PropertyRow*> settingOrder(const ClassInfo& info)
     return rows;
 }
 
+bool isIdentifier(const PropertyRow& row) noexcept { return row.name.starts_with("Device"); }
+
 } // namespace zor::core

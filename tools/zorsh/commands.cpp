@@ -92,12 +92,10 @@ void resize(Session& session, const Call& call)
     constexpr double kLargest = 245745; // twips; a form of the platform goes no further
     if (!(width >= 0 && height >= 0 && width <= kLargest && height <= kLargest))
         raiseError(ErrorNumber::InvalidCall);
-    const platform::Hold hold(control);
     platform::Rect area = control.surface().geometry();
     area.width = width;
     area.height = height;
-    control.surface().setGeometry(area);
-    control.resized();
+    place(control, area);
 }
 
 void list(Session& session, const Call&)
@@ -247,6 +245,10 @@ constexpr std::array kCommands{
     Command{"boxes", "boxes", "prints the message boxes shown since it was last asked", 0, 0, boxes},
     Command{"host", "host NAME.EVENT ARGUMENT=VALUE | run COMMAND | off", "what the host's handler does", 2, kAny,
             host},
+    Command{"open", "open FILE", "opens a form of Qt Designer: its controls under their object names", 1, 1,
+            openForm},
+    Command{"save", "save FILE",
+            "writes the form that was opened last, or a new one, with the controls as they are", 1, 1, saveForm},
     Command{"list", "list", "the controls on the form, oldest first", 0, 0, list},
     Command{"describe", "describe CLASS", "a class's properties, methods, events, messages and widgets", 1, 1,
             describeClass},

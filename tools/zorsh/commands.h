@@ -56,6 +56,12 @@ struct Reading {
 void act(Session& session, core::Control& control, std::string_view widget,
          std::span<const std::string_view> arguments);
 
+/// Gives a control its place on the form, as its container does.
+void place(core::Control& control, const platform::Rect& area);
+
+void openForm(Session& session, const Call& call);
+void saveForm(Session& session, const Call& call);
+
 /// Evaluates a sum over numbers and paths.
 [[nodiscard]] double evaluate(std::string_view expression, Session& session);
 

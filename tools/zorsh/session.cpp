@@ -135,10 +135,19 @@ const core::ClassInfo& Session::classNamed(std::string_view name) const
     return *info;
 }
 
+bool Session::isFree(std::string_view name) const { return isName(name) && !m_objects.contains(name); }
+
+forms::Form& Session::form()
+{
+    if (!m_form)
+        m_form.emplace(m_registry);
+    return *m_form;
+}
+
 void Session::create(const core::ClassInfo& info, std::string_view name,
                      const std::function<void(core::Control&)>& prepare)
 {
-    if (!isName(name) || m_objects.contains(name))
+    if (!isFree(name))
         raiseError(ErrorNumber::InvalidCall);
     core::ControlPtr<> created = info.create(m_stage->container());
     core::Control& control = *created;

@@ -3,6 +3,7 @@
 /// A form, its controls by name, and the commands that work on them.
 
 #include "core/control.h"
+#include "forms/form.h"
 #include "tools/zorsh/recorder.h"
 #include "tools/zorsh/stage.h"
 
@@ -10,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -63,6 +65,12 @@ public:
     void create(const core::ClassInfo& info, std::string_view name,
                 const std::function<void(core::Control&)>& prepare);
     void destroy(std::string_view name);
+    /// Whether a control may have the name.
+    [[nodiscard]] bool isFree(std::string_view name) const;
+    /// The form that was opened last, or an empty one.
+    [[nodiscard]] forms::Form& form();
+    void setForm(forms::Form form) { m_form = std::move(form); }
+    [[nodiscard]] const core::ClassRegistry& classes() const noexcept { return m_registry; }
 
     [[nodiscard]] const Objects& objects() const noexcept { return m_objects; }
     [[nodiscard]] Stage& stage() noexcept { return *m_stage; }
@@ -77,6 +85,7 @@ private:
 
     std::unique_ptr<Stage> m_stage;
     core::ClassRegistry m_registry;
+    std::optional<forms::Form> m_form;
     Objects m_objects;
     std::map<const platform::Component*, std::shared_ptr<Recorder>> m_recorders;
     std::vector<OutputLine> m_output;

@@ -1,0 +1,71 @@
+#pragma once
+
+/// Forms drawn in Qt Designer (.ui), without Qt.
+///
+/// A form sets the properties of new controls: what it does not name has the value of a fresh control. Everything
+/// in the file that is no control's (other widgets, layouts, connections) is kept as it stands and written again.
+
+#include "core/class_info.h"
+#include "platform/widgets.h"
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zor::forms {
+
+class Form {
+public:
+    /// A control on the form.
+    struct Item {
+        const core::ClassInfo* info = nullptr;
+        std::string name;
+        /// Where the form puts it, in twips of its parent; nothing where a layout does.
+        std::optional<platform::Rect> place;
+        std::size_t line = 0;
+        /// A control on the form was filled from it, or stored under its name.
+        bool isTaken = false;
+    };
+
+    /// An empty form. The registry must outlive it.
+    explicit Form(const core::ClassRegistry& registry);
+    /// Reads a file or a text. Raises FormError, with file and line, for what is no form.
+    [[nodiscard]] static Form read(const core::ClassRegistry& registry, const std::filesystem::path& file);
+    [[nodiscard]] static Form parse(const core::ClassRegistry& registry, std::string_view text, std::string name);
+    Form(Form&&) noexcept;
+    Form& operator=(Form&&) noexcept;
+    ~Form();
+
+    /// The controls, in the order of the file.
+    [[nodiscard]] std::span<const Item> items() const noexcept;
+    /// Sets what the form says on a fresh control of the item's class, already in its place, in the order of the
+    /// file.
+    void fill(std::size_t item, core::Control& control);
+    /// What could not be taken over so far, a line each, beginning with file and line.
+    [[nodiscard]] std::span<const std::string> notes() const noexcept;
+    void note(std::size_t line, std::string_view text);
+
+    /// Takes a control's stored properties and place into the form, under a name that is new or an item's. Only
+    /// what has changed since fill() or the last store() is touched. In the container a control is made for a
+    /// moment, to see what the form's own settings come to.
+    void store(std::string_view name, core::Control& control, platform::Container& container);
+    /// Takes the items out for which `keep` says no.
+    void keepOnly(const std::function<bool(const Item&)>& keep);
+
+    [[nodiscard]] std::string text() const;
+    /// Writes the file, whole or not at all. Raises FormError.
+    void write(const std::filesystem::path& file) const;
+
+private:
+    struct Document;
+    explicit Form(std::unique_ptr<Document> document) noexcept;
+
+    std::unique_ptr<Document> m_document;
+};
+
+} // namespace zor::forms

@@ -1,0 +1,220 @@
+// Out of controls into a form.
+
+#include "core/control.h"
+#include "core/setting_order.h"
+#include "forms/document.h"
+#include "forms/form_error.h"
+#include "forms/markup.h"
+#include "forms/values.h"
+
+#include <algorithm>
+#include <cmath>
+#include <fstream>
+#include <system_error>
+
+namespace zor::forms {
+namespace {
+
+using std::string;
+using std::string_view;
+
+void writeValue(pugi::xml_node property, const core::PropertyRow& row, const Written& written)
+{
+    const pugi::xml_node old = firstElement(property);
+    if (old && written.element == old.name())
+        return setText(old, written.text);
+    property.remove_children();
+    const pugi::xml_node value = insertText(property, written.element.c_str(), written.text);
+    if (written.element == "string" && (core::isIdentifier(row) || row.field.kind == core::ValueKind::Any))
+        pugi::xml_node(value).append_attribute("notr").set_value("true");
+    // A number that is no member can be set by name only.
+    const bool isEnumeration = core::kindName(row.field.kind).ends_with("_TYPE");
+    property.remove_attribute("stdset");
+    if (isEnumeration && written.element == "number")
+        property.append_attribute("stdset").set_value("0");
+}
+
+/// The property's element; a new one stands where a form sets it.
+pugi::xml_node propertyElement(pugi::xml_node widget, const core::ClassInfo& info, string_view name)
+{
+    const auto order = core::settingOrder(info);
+    const auto placeOf = [&](string_view wanted) {
+        return std::ranges::find(order, wanted, &core::PropertyRow::name) - order.begin();
+    };
+    for (const pugi::xml_node& property : widget.children("property")) {
+        const string present = attributeOf(property, "name");
+        if (present == name)
+            return property;
+    }
+    pugi::xml_node before;
+    for (const pugi::xml_node& property : widget.children("property")) {
+        const string present = attributeOf(property, "name");
+        if (!before && info.property(present) != nullptr && placeOf(present) > placeOf(name))
+            before = property;
+    }
+    if (!before && !widget.child("property"))
+        before = firstElement(widget);
+    pugi::xml_node added = insertElement(widget, "property", before);
+    added.append_attribute("name").set_value(string(name).c_str());
+    return added;
+}
+
+void writePlace(pugi::xml_node widget, const platform::Rect& place)
+{
+    pugi::xml_node property = widget.find_child_by_attribute("property", "name", "geometry");
+    if (!property) {
+        property = insertElement(widget, "property", firstElement(widget));
+        property.append_attribute("name").set_value("geometry");
+    }
+    const pugi::xml_node old = property.child("rect");
+    const pugi::xml_node rect = old ? old : insertElement(property, "rect");
+    const auto side = [&](const char* name, double twips) {
+        const std::string pixels = std::to_string(std::lround(twips / kTwipsPerPixel));
+        if (const pugi::xml_node present = rect.child(name))
+            setText(present, pixels);
+        else
+            insertText(rect, name, pixels);
+    };
+    side("x", place.left);
+    side("y", place.top);
+    side("width", place.width);
+    side("height", place.height);
+}
+
+/// Says where the class comes from, once.
+void declareClass(pugi::xml_node ui, const string& className)
+{
+    pugi::xml_node list = ui.child("customwidgets");
+    for (const pugi::xml_node& entry : list.children("customwidget")) {
+        if (textOf(entry.child("class")) == className)
+            return;
+    }
+    if (!list) {
+        pugi::xml_node behind = ui.child("widget").next_sibling();
+        while (behind && behind.type() != pugi::node_element)
+            behind = behind.next_sibling();
+        list = insertElement(ui, "customwidgets", behind);
+    }
+    const pugi::xml_node entry = insertElement(list, "customwidget");
+    insertText(entry, "class", className);
+    insertText(entry, "extends", "QWidget");
+    insertText(entry, "header", "zor_widgets.h");
+}
+
+bool isKept(const core::PropertyRow& row) { return !row.key.empty() && !followsFromOthers(row); }
+
+/// Writes what differs; whether anything did.
+bool writeChanges(pugi::xml_node widget, const core::ClassInfo& info, const std::vector<Variant>& before,
+                  const std::vector<Variant>& now)
+{
+    bool any = false;
+    for (const core::PropertyRow* row : core::settingOrder(info)) {
+        const auto column =
+            static_cast<std::size_t>(std::ranges::find(info.properties, row) - info.properties.begin());
+        if (!isKept(*row) || now[column] == before[column])
+            continue;
+        const std::optional<Written> written = writtenValue(row->field.kind, now[column]);
+        if (!written)
+            continue;
+        writeValue(propertyElement(widget, info, row->name), *row, *written);
+        any = true;
+    }
+    return any;
+}
+
+} // namespace
+
+std::size_t Form::Document::itemFor(string_view wanted, core::Control& control, platform::Container& container)
+{
+    const core::ClassInfo& info = control.info();
+    const auto fits = [&](const Item& item) { return item.name == wanted && item.info == &info; };
+    auto at = std::ranges::find_if(items, [&](const Item& item) { return item.isTaken && fits(item); });
+    if (at != items.end())
+        return static_cast<std::size_t>(at - items.begin());
+    at = std::ranges::find_if(items, fits);
+    auto index = static_cast<std::size_t>(at - items.begin());
+    if (at == items.end()) {
+        pugi::xml_node root = xml.document_element();
+        if (!root.child("widget"))
+            throw FormError(name, 0, "has no widget that a control could lie on");
+        pugi::xml_node element = insertElement(root.child("widget"), "widget");
+        element.append_attribute("class").set_value(widgetClass(info).c_str());
+        element.append_attribute("name").set_value(escaped(wanted).c_str());
+        writePlace(element, control.surface().geometry());
+        declareClass(root, widgetClass(info));
+        items.push_back({&info, string(wanted), control.surface().geometry(), 0, false});
+        elements.push_back(element);
+        shown.emplace_back();
+        placed.push_back(control.surface().geometry());
+    }
+    shown[index] = storedValues(*opened(index, container));
+    items[index].isTaken = true;
+    return index;
+}
+
+core::ControlPtr<> Form::Document::opened(std::size_t item, platform::Container& container) const
+{
+    core::ControlPtr<> control = items[item].info->create(container);
+    control->initialiseProperties();
+    for (const pugi::xml_node& property : elements[item].children("property"))
+        static_cast<void>(setProperty(*control, property, attributeOf(property, "name")));
+    return control;
+}
+
+void Form::store(string_view name, core::Control& control, platform::Container& container)
+{
+    Document& document = *m_document;
+    const std::size_t item = document.itemFor(name, control, container);
+    const pugi::xml_node element = document.elements[item];
+    std::vector<Variant> now = storedValues(control);
+    bool any = writeChanges(element, control.info(), document.shown[item], now);
+    // A property that has its fresh value again may still be moved by one that is written: then it is written too.
+    constexpr int kRounds = 3;
+    for (int round = 0; any && round < kRounds; ++round)
+        any = writeChanges(element, control.info(), storedValues(*document.opened(item, container)), now);
+    document.shown[item] = std::move(now);
+
+    const platform::Rect place = control.surface().geometry();
+    if (document.items[item].place && !(place == document.placed[item]))
+        writePlace(element, place);
+    document.placed[item] = place;
+}
+
+void Form::keepOnly(const std::function<bool(const Item&)>& keep)
+{
+    Document& document = *m_document;
+    for (std::size_t i = document.items.size(); i-- > 0;) {
+        if (keep(document.items[i]))
+            continue;
+        const pugi::xml_node element = document.elements[i];
+        const bool isInLayout = string_view(element.parent().name()) == "item";
+        removeElement(isInLayout ? element.parent() : element);
+        const auto at = static_cast<std::ptrdiff_t>(i);
+        document.items.erase(document.items.begin() + at);
+        document.elements.erase(document.elements.begin() + at);
+        document.shown.erase(document.shown.begin() + at);
+        document.placed.erase(document.placed.begin() + at);
+    }
+}
+
+string Form::text() const { return markupOf(m_document->xml); }
+
+void Form::write(const std::filesystem::path& file) const
+{
+    // Beside the file first: a full disk leaves the old form as it was.
+    std::filesystem::path beside = file;
+    beside += ".new";
+    std::ofstream out(beside, std::ios::binary | std::ios::trunc);
+    out << text();
+    out.close();
+    std::error_code failure;
+    if (out)
+        std::filesystem::rename(beside, file, failure);
+    if (!out || failure) {
+        std::error_code ignored;
+        std::filesystem::remove(beside, ignored);
+        throw FormError(file.string(), 0, "cannot be written");
+    }
+}
+
+} // namespace zor::forms
