@@ -16,6 +16,20 @@ void onMovedByOperator(QScrollBar& bar, Moved&& moved)
     });
 }
 
+/// The theme's palette for a child of a widget with colours of its own: what a palette does not say itself, the
+/// child inherits.
+QPalette themePalette()
+{
+    const QPalette theme = QGuiApplication::palette();
+    QPalette palette = theme;
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        for (const auto role : {QPalette::Window, QPalette::WindowText, QPalette::Base, QPalette::Text,
+                                QPalette::Button, QPalette::ButtonText})
+            palette.setBrush(group, role, theme.brush(group, role));
+    }
+    return palette;
+}
+
 } // namespace
 
 // --- Drop-down list
@@ -44,7 +58,8 @@ void DropDownList::showPopup()
     if (m_locked)
         return;
     if (!std::exchange(m_hasOpened, true)) {
-        dynamic_cast<QListView&>(*view()).setUniformItemSizes(true);
+        if (auto* list = dynamic_cast<QListView*>(view()))
+            list->setUniformItemSizes(true);
         onMovedByOperator(*view()->verticalScrollBar(), [this] {
             if (onScroll)
                 onScroll();
@@ -196,6 +211,7 @@ void CheckList::focusInEvent(QFocusEvent* event)
 QtListBox::QtListBox(const Context& context, int number) : QtEntryBase(context, number, true)
 {
     widget().reporter = this;
+    paintColours();
     model().onMarked = [this](std::int32_t row) {
         {
             const Quiet quiet(*this);
@@ -208,10 +224,23 @@ QtListBox::QtListBox(const Context& context, int number) : QtEntryBase(context, 
     onMovedByOperator(*widget().verticalScrollBar(), [this] { report(Notice::Scroll); });
 }
 
+void QtListBox::paintColours()
+{
+    QtEntryBase::paintColours();
+    QPalette palette = widget().palette();
+    const QColor back = toQColor(backColour());
+    palette.setColor(QPalette::Window, frameSource(readableOn(ButtonText, back), back));
+    widget().setPalette(palette);
+    // The field has the colours, its scroll bars are the theme's.
+    for (QScrollBar* bar : {widget().verticalScrollBar(), widget().horizontalScrollBar()})
+        bar->setPalette(themePalette());
+}
+
 void QtListBox::setSelected(std::int32_t index, bool selected)
 {
     if (!model().setMarked(index, selected))
         return;
+    widget().viewport()->update();
     {
         const Quiet quiet(*this);
         widget().makeCurrent(model().index(index), false);

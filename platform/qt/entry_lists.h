@@ -185,6 +185,7 @@ public:
 
 private:
     void select(std::int32_t index) override { widget().makeCurrent(model().index(index), true); }
+    void paintColours() override;
     void changed();
 
     /// The mouse changed something and is not released yet.

@@ -42,7 +42,6 @@ bool EntryModel::setMarked(std::int32_t row, bool marked)
         return false;
     m_entries[static_cast<std::size_t>(row)].isMarked = marked;
     m_markedCount += marked ? 1 : -1;
-    emit dataChanged(index(row), index(row), {Qt::CheckStateRole});
     return true;
 }
 
@@ -72,7 +71,10 @@ bool EntryModel::setData(const QModelIndex& index, const QVariant& value, int ro
 {
     if (role != Qt::CheckStateRole || !m_hasMarks || !index.isValid())
         return false;
-    if (setMarked(index.row(), value.toInt() == Qt::Checked) && onMarked)
+    if (!setMarked(index.row(), value.toInt() == Qt::Checked))
+        return true;
+    emit dataChanged(index, index, {Qt::CheckStateRole});
+    if (onMarked)
         onMarked(index.row());
     return true;
 }

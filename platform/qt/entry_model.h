@@ -26,7 +26,8 @@ public:
     [[nodiscard]] const std::string& text(std::int32_t row) const { return at(row).text; }
     [[nodiscard]] std::int32_t datum(std::int32_t row) const { return at(row).datum; }
     [[nodiscard]] bool isMarked(std::int32_t row) const { return at(row).isMarked; }
-    /// Whether the mark is another one now.
+    /// Whether the mark is another one now. The view is not told, for it would lay all entries out anew with each;
+    /// whoever marks has it painted.
     bool setMarked(std::int32_t row, bool marked);
     [[nodiscard]] std::int32_t markedCount() const noexcept { return m_markedCount; }
 

@@ -33,6 +33,10 @@ QRect toPixels(const Rect& rect)
 
 QString shownText(std::string_view text, int limit)
 {
+    // Most texts are short and plain ASCII.
+    const auto isPlain = [](char c) { return c > '\0'; };
+    if (text.size() <= static_cast<std::size_t>(limit) && std::ranges::all_of(text, isPlain))
+        return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
     const std::size_t end = byteOffset(text, static_cast<std::size_t>(limit));
     const bool cut = end < text.size();
     QString shown = QString::fromStdString(validUtf8(text.substr(0, end)));
@@ -80,6 +84,17 @@ QColor readableOn(Colour wanted, const QColor& background)
                                   mix(start.blueF(), end.blueF()));
     }
     return colour;
+}
+
+QColor frameSource(const QColor& text, const QColor& background)
+{
+    // Styles frame a mark with a darker shade of the window, which on a dark, a grey or a yellow field is none.
+    constexpr int kStyleDarkens = 140;
+    const auto half = [](float one, float other) { return (one + other) / 2; };
+    const QColor frame =
+        QColor::fromRgbF(half(text.redF(), background.redF()), half(text.greenF(), background.greenF()),
+                         half(text.blueF(), background.blueF()));
+    return frame.lighter(kStyleDarkens);
 }
 
 } // namespace zor::platform::qt

@@ -35,4 +35,8 @@ inline constexpr double kTwipsPerPixel = 15.0; ///< device-independent pixels
 /// colour that does not reach it becomes black or white.
 [[nodiscard]] QColor readableOn(Colour wanted, const QColor& background);
 
+/// The window colour of a palette from which a style paints the frame of an empty mark: one that is seen on the
+/// background, whatever colour it has.
+[[nodiscard]] QColor frameSource(const QColor& text, const QColor& background);
+
 } // namespace zor::platform::qt

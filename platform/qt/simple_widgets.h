@@ -194,6 +194,7 @@ public:
     QtToggle(const Context& context, int number) : QtFontBase<Interface, Button>(context, number, ButtonFace)
     {
         this->widget().setAutoExclusive(false);
+        QtToggle::paintColours();
         QObject::connect(&this->widget(), &QAbstractButton::toggled, &this->widget(), [this](bool on) {
             if (on || ReportsOff)
                 this->report(Notice::Click);
@@ -214,6 +215,21 @@ public:
     [[nodiscard]] bool changesOnRelease() const override { return true; }
 
 private:
+    /// The caption has the colours, the mark stands on the theme's field.
+    void paintColours() override
+    {
+        QtFontBase<Interface, Button>::paintColours();
+        QPalette palette = this->widget().palette();
+        const QColor field = toQColor(WindowBackground);
+        const QColor mark = readableOn(this->foreColour(), field);
+        palette.setColor(QPalette::Base, field);
+        for (const auto group : {QPalette::Active, QPalette::Inactive})
+            palette.setColor(group, QPalette::Text, mark);
+        if ((this->backColour() & kSystemColourBit) != 0)
+            palette.setColor(QPalette::Window, frameSource(readableOn(ButtonText, field), field));
+        this->widget().setPalette(palette);
+    }
+
     std::string m_caption;
 };
 

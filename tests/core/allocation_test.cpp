@@ -1,5 +1,9 @@
-// The value path of a numeric control allocates nothing: ten thousand controls are refreshed many times a second.
+// The value path of a control allocates nothing: ten thousand controls are refreshed many times a second.
 
+#include "controls/choice/check_box/ctx_ZorCheckBox.h"
+#include "controls/choice/combo_box/ctx_ZorComboBox.h"
+#include "controls/choice/list_box/ctx_ZorListBox.h"
+#include "controls/choice/option_button/ctx_ZorOptionButton.h"
 #include "controls/numeric/text_box/ctx_ZorTextBox.h"
 #include "controls/numeric/up_down/ctx_ZorUpDown.h"
 #include "platform/headless/container.h"
@@ -71,6 +75,35 @@ void expectNoAllocation(double scale)
     EXPECT_EQ(allocations, 0);
     EXPECT_GE(listener.outputs, before + 100);
     control->unsubscribe(listener);
+}
+
+/// A choice control, with what it takes for each value to change what it shows.
+template <class Control, class Prepare>
+void expectNoAllocationOfChoice(const char* name, Prepare&& prepare)
+{
+    SCOPED_TRACE(name);
+    platform::headless::HeadlessContainer container;
+    const auto control = Control::create(container);
+    control->initialiseProperties();
+    prepare(*control);
+    allocations = 0;
+    counting = true;
+    for (int i = 0; i < 100; ++i)
+        control->DeviceValue(i % 2);
+    counting = false;
+    EXPECT_EQ(allocations, 0);
+}
+
+TEST(ValuePath, ShowsAChoiceWithoutAllocation)
+{
+    expectNoAllocationOfChoice<ctx_ZorComboBox>("combo box", [](auto& box) {
+        box.AddEnumEntry("no", 0);
+        box.AddEnumEntry("yes", 1);
+    });
+    expectNoAllocationOfChoice<ctx_ZorListBox>("list box", [](auto& box) { box.AddBitFieldEntry("bit", 0); });
+    expectNoAllocationOfChoice<ctx_ZorCheckBox>("check box", [](auto& box) { box.CheckBoxCaption("bit"); });
+    expectNoAllocationOfChoice<ctx_ZorOptionButton>("option button",
+                                                    [](auto& button) { button.EnumEntryValue(1); });
 }
 
 TEST(ValuePath, ShowsAValueAndHandsItBackWithoutAllocation)

@@ -59,6 +59,9 @@ void ctx_ZorCheckBox::s_ApplyModifiedValue(std::int32_t value)
     setChecked(isBitSet(value));
     if (isOvertaken(turn))
         return;
+    // No click has judged what a locked operator could not have done.
+    if (isInputLocked())
+        m_status.dataModified = m_check->isOn() != m_loaded;
     assignOutput(value);
     s_UpdateColors();
     s_UpdateStatusDisplay();
@@ -77,10 +80,8 @@ void ctx_ZorCheckBox::s_HandleClick()
 {
     const bool isChecked = m_check->isOn();
     if (isInputLocked()) {
-        // The operator's change is undone; the control's own is judged, and that is all.
-        if (m_isSetting)
-            m_status.dataModified = isChecked != m_loaded;
-        else
+        // The operator's change is undone, the control's own is not.
+        if (!m_isSetting)
             setChecked(m_loaded);
         return;
     }
