@@ -317,6 +317,8 @@ void Control::write(const PropertyRow& row, T value)
 {
     if (refusesWrite(row))
         return;
+    if constexpr (std::is_same_v<T, double> || std::is_same_v<T, Variant>)
+        requireFinite(value);
     run([&] {
         T& field = *std::get<T*>(row.field.at(*this));
         if (m_info.keepsFailedWrites) {

@@ -1,5 +1,9 @@
 #include "core/property_row.h"
 
+#include "platform/error.h"
+
+#include <cmath>
+
 namespace zor::core {
 
 std::string_view kindName(ValueKind kind) noexcept
@@ -40,6 +44,12 @@ Variant valueOf(const FieldRef& field)
 void storeInto(const FieldRef& field, const Variant& value)
 {
     std::visit([&](auto* at) { *at = detail::convertTo<std::decay_t<decltype(*at)>>(value); }, field);
+}
+
+void requireFinite(const Variant& value)
+{
+    if (value.isNumber() && !std::isfinite(value.number()))
+        raiseError(ErrorNumber::Overflow);
 }
 
 std::uint32_t detail::toColour(const Variant& value)

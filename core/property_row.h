@@ -161,6 +161,9 @@ struct PropertyRow {
     }
 };
 
+/// No property is infinite or undefined: raises Overflow for such a number.
+void requireFinite(const Variant& value);
+
 namespace detail {
 
 template <class T>
@@ -199,6 +202,7 @@ consteval ValueKind kindOf()
 template <class T>
 [[nodiscard]] T convertTo(const Variant& value)
 {
+    requireFinite(value);
     if constexpr (std::is_same_v<T, bool>)
         return value.toBoolean();
     else if constexpr (std::is_same_v<T, std::int16_t>)

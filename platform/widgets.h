@@ -84,7 +84,8 @@ public:
     /// Both are cut to the text.
     virtual void select(std::size_t start, std::size_t length) = 0;
     [[nodiscard]] virtual std::string selectedText() const = 0;
-    /// Replaces the selection, or inserts at the caret, and reports Change when the text changed.
+    /// Replaces the selection, or inserts at the caret, and reports Change: writing a text over itself is an edit.
+    /// Replacing nothing by nothing is none.
     virtual void replaceSelection(std::string_view text) = 0;
     [[nodiscard]] virtual bool hasFocus() const = 0;
 };

@@ -21,8 +21,11 @@ bool takesFocus(const Widget& widget)
 
 void reportMouse(Widget& widget, Notice notice, std::int16_t button)
 {
+    // A text field is clicked behind its text: the caret comes to the end.
+    constexpr Twips kInset = 30;
     std::int16_t shift = 0;
-    auto x = static_cast<float>(widget.width() / 2);
+    const bool isField = dynamic_cast<const TextField*>(&widget) != nullptr;
+    auto x = static_cast<float>(isField ? widget.width() - kInset : widget.width() / 2);
     auto y = static_cast<float>(widget.height() / 2);
     const std::array<ArgRef, 4> args{&button, &shift, &x, &y};
     base(widget).report(notice, args);
@@ -40,9 +43,9 @@ void clickEntry(EntryWidget& list, std::int32_t index)
 /// A press and release: what it does to the widget follows.
 void pressAndRelease(Widget& widget)
 {
-    reportMouse(widget, Notice::MouseDown, kLeftButton);
     if (auto* field = dynamic_cast<TextField*>(&widget))
         field->select(characterCount(field->text()), 0);
+    reportMouse(widget, Notice::MouseDown, kLeftButton);
     reportMouse(widget, Notice::MouseUp, kLeftButton);
 }
 
@@ -65,6 +68,31 @@ void click(Widget& widget)
     }
 }
 
+bool isBlank(char byte) { return byte == ' ' || byte == '\t' || byte == '\r' || byte == '\n'; }
+
+bool isWord(char byte)
+{
+    const auto value = static_cast<unsigned char>(byte);
+    return value >= 0x80 || (value >= '0' && value <= '9') || (value >= 'A' && value <= 'Z') ||
+           (value >= 'a' && value <= 'z') || value == '_';
+}
+
+/// The second click on a text field selects the word under it, which is the last one, with the blanks behind it.
+void selectLastWord(TextField& field)
+{
+    const std::string& text = field.text();
+    std::size_t from = text.size();
+    while (from > 0 && isBlank(text[from - 1]))
+        --from;
+    const bool word = from > 0 && isWord(text[from - 1]);
+    while (from > 0 && !isBlank(text[from - 1]) && isWord(text[from - 1]) == word)
+        --from;
+    const std::size_t first = characterCount(std::string_view(text).substr(0, from));
+    field.select(first, characterCount(text) - first);
+}
+
+bool isReachable(const Widget& widget) { return widget.isVisible() && widget.isEnabled(); }
+
 /// Key down and key up around `action`, which gets the key press's code.
 template <class Action>
 void stroke(Widget& widget, std::int16_t code, std::int16_t ascii, Action&& action)
@@ -73,24 +101,31 @@ void stroke(Widget& widget, std::int16_t code, std::int16_t ascii, Action&& acti
     std::int16_t down = code;
     base(widget).report(Notice::KeyDown, std::array<ArgRef, 2>{&down, &shift});
     // A handler that sets the code to 0 swallows the key itself, its character included.
-    if (down != 0 || code == 0) {
+    if ((down != 0 || code == 0) && isReachable(widget)) {
         std::int16_t press = ascii;
         if (ascii != 0)
             base(widget).report(Notice::KeyPress, std::array<ArgRef, 1>{&press});
-        action(down, press);
+        // A key that a handler gave another character does nothing but write it.
+        if ((ascii == 0 || press != 0) && isReachable(widget))
+            action(press == ascii ? down : std::int16_t{0}, press);
     }
+    // A handler may have frozen or hidden the widget under the operator's hands.
+    if (!isReachable(widget))
+        return;
     std::int16_t up = code;
     base(widget).report(Notice::KeyUp, std::array<ArgRef, 2>{&up, &shift});
 }
 
-std::string latin1(std::int16_t code)
+/// The character that a handler made of a key press.
+std::string characterOf(std::int16_t code)
 {
-    const auto byte = static_cast<unsigned>(code);
-    if (byte < 0x80)
-        return {static_cast<char>(byte)};
-    if (byte > 0xFF)
-        return {};
-    return {static_cast<char>(0xC0U | byte >> 6U), static_cast<char>(0x80U | (byte & 0x3FU))};
+    const auto value = static_cast<unsigned>(code);
+    const auto tail = [](unsigned bits) { return static_cast<char>(0x80U | (bits & 0x3FU)); };
+    if (value < 0x80)
+        return {static_cast<char>(value)};
+    if (value < 0x800)
+        return {static_cast<char>(0xC0U | value >> 6U), tail(value)};
+    return {static_cast<char>(0xE0U | value >> 12U), tail(value >> 6U), tail(value)};
 }
 
 /// The code a key press reports for a character: its own for Latin-1, "?" beyond.
@@ -103,6 +138,9 @@ std::int16_t codeOf(std::string_view character)
         return static_cast<std::int16_t>((byte(0) & 0x03U) << 6U | (byte(1) & 0x3FU));
     return '?';
 }
+
+/// A field of one line takes no control characters from the keyboard: Enter and Tab are keys, not letters.
+bool isTyped(std::int16_t ascii) { return ascii >= ' ' && (ascii < 0x7F || ascii > 0x9F); }
 
 enum KeyCode : std::int16_t {
     kBack = 8,
@@ -119,13 +157,13 @@ enum KeyCode : std::int16_t {
 
 void moveCaret(TextField& field, std::int16_t code)
 {
-    const std::size_t start = field.selectionStart();
-    const std::size_t end = start + field.selectionLength();
+    const std::size_t end = field.selectionStart() + field.selectionLength();
     switch (code) {
     case kHome: field.select(0, 0); break;
     case kEnd: field.select(characterCount(field.text()), 0); break;
-    case kLeft: field.select(start != end ? start : start - std::min<std::size_t>(start, 1), 0); break;
-    case kRight: field.select(start != end ? end : end + 1, 0); break;
+    // The caret stands at the end of a selection.
+    case kLeft: field.select(end - std::min<std::size_t>(end, 1), 0); break;
+    case kRight: field.select(end + 1, 0); break;
     default: break;
     }
 }
@@ -159,12 +197,12 @@ void erase(TextField& field, bool before)
 
 void keyInField(TextField& field, std::int16_t code, std::int16_t press)
 {
-    if (code == kBack || code == kDelete) {
-        if (!field.isLocked() && (code == kDelete || press != 0))
-            erase(field, code == kBack);
-    } else if (press >= ' ') {
+    if (isTyped(press)) {
         if (!field.isLocked())
-            field.replaceSelection(latin1(press));
+            field.replaceSelection(characterOf(press));
+    } else if (code == kBack || code == kDelete) {
+        if (!field.isLocked())
+            erase(field, code == kBack);
     } else if (Stepper* stepper = dynamic_cast<HeadlessTextField&>(field).stepper();
                stepper != nullptr && (code == kUp || code == kDown)) {
         stepper->step(code == kUp);
@@ -232,9 +270,17 @@ bool HeadlessOperator::moveFocus(Widget* widget)
     if (old == widget)
         return true;
     if (old != nullptr) {
+        // Who asks for another focus while he is asked whether this one may go has to wait for his own answer.
+        if (m_validating)
+            return false;
         const Hold hold(base(*old).host().listener());
+        // The selection ends with the focus, or a form would show one in every field.
+        if (auto* field = dynamic_cast<TextField*>(old))
+            field->select(field->selectionStart() + field->selectionLength(), 0);
         bool cancel = false;
+        m_validating = true;
         base(*old).report(Notice::Validate, std::array<ArgRef, 1>{&cancel});
+        m_validating = false;
         if (cancel)
             return false;
         m_container.setFocused(nullptr);
@@ -244,7 +290,7 @@ bool HeadlessOperator::moveFocus(Widget* widget)
         m_container.setFocused(widget);
         base(*widget).report(Notice::GotFocus);
     }
-    return true;
+    return m_container.focused() == widget;
 }
 
 Refusal HeadlessOperator::approach(Widget& widget, bool& moved)
@@ -288,6 +334,8 @@ Refusal HeadlessOperator::pointer(Widget& widget, Pointer action)
     }
     click(widget);
     if (action == Pointer::DoubleClick) {
+        if (auto* field = dynamic_cast<TextField*>(&widget))
+            selectLastWord(*field);
         base(widget).report(Notice::DblClick);
         reportMouse(widget, Notice::MouseUp, kLeftButton);
         // The second press is one more for a button, and no click of its own for anything else.
@@ -306,13 +354,13 @@ Refusal HeadlessOperator::type(TextField& field, std::string_view text)
         refusal = Refusal::Locked;
     if (refusal != Refusal::None || approach(field, moved) != Refusal::None || !moved)
         return refusal;
-    while (!text.empty()) {
+    while (!text.empty() && isReachable(field)) {
         const std::string_view character = text.substr(0, byteOffset(text, 1));
         text.remove_prefix(character.size());
         const std::int16_t ascii = codeOf(character);
         stroke(field, keyCodeOf(ascii), ascii, [&](std::int16_t, std::int16_t press) {
-            if (press != 0 && !field.isLocked())
-                field.replaceSelection(press == ascii ? std::string(character) : latin1(press));
+            if (isTyped(press) && !field.isLocked())
+                field.replaceSelection(press == ascii ? std::string(character) : characterOf(press));
         });
     }
     return Refusal::None;

@@ -35,6 +35,7 @@ private:
     Refusal approach(Widget& widget, bool& moved);
 
     HeadlessContainer& m_container;
+    bool m_validating = false;
 };
 
 } // namespace zor::platform::headless

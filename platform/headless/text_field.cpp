@@ -37,11 +37,11 @@ void HeadlessTextField::replaceSelection(std::string_view text)
 {
     const std::size_t from = bytesTo(m_start);
     const std::size_t old = bytesTo(m_start + m_length) - from;
-    const bool same = std::string_view(m_text).substr(from, old) == text;
     m_text.replace(from, old, text);
     m_start += characterCount(text);
     m_length = 0;
-    if (!same)
+    // Typing a letter over itself is a change as well.
+    if (old > 0 || !text.empty())
         report(Notice::Change);
 }
 

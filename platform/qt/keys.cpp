@@ -19,9 +19,16 @@ constexpr std::array kKeys{
     KeyRow{Qt::Key_Escape, 27},   KeyRow{Qt::Key_Space, 32},  KeyRow{Qt::Key_PageUp, 33},
     KeyRow{Qt::Key_PageDown, 34}, KeyRow{Qt::Key_End, 35},    KeyRow{Qt::Key_Home, 36},
     KeyRow{Qt::Key_Left, 37},     KeyRow{Qt::Key_Up, 38},     KeyRow{Qt::Key_Right, 39},
-    KeyRow{Qt::Key_Down, 40},     KeyRow{Qt::Key_Delete, 46}, KeyRow{Qt::Key_Plus, 187},
-    KeyRow{Qt::Key_Comma, 188},   KeyRow{Qt::Key_Minus, 189}, KeyRow{Qt::Key_Period, 190},
+    KeyRow{Qt::Key_Down, 40},     KeyRow{Qt::Key_Insert, 45}, KeyRow{Qt::Key_Delete, 46},
+    KeyRow{Qt::Key_Plus, 187},    KeyRow{Qt::Key_Comma, 188}, KeyRow{Qt::Key_Minus, 189},
+    KeyRow{Qt::Key_Period, 190},
 };
+
+constexpr std::int16_t kFirstFunctionCode = 112;
+constexpr std::int16_t kLastFunctionCode = 135;
+/// Keys without a name of Qt's, by their code.
+constexpr int kUnnamed = 0x01FE0000;
+constexpr int kCodeMask = 0x7FFF;
 
 bool isLetterOrDigit(int key)
 {
@@ -34,6 +41,10 @@ std::int16_t codeOf(const QKeyEvent& key)
 {
     if (isLetterOrDigit(key.key()))
         return static_cast<std::int16_t>(key.key());
+    if (key.key() >= Qt::Key_F1 && key.key() <= Qt::Key_F24)
+        return static_cast<std::int16_t>(key.key() - Qt::Key_F1 + kFirstFunctionCode);
+    if ((key.key() & ~kCodeMask) == kUnnamed)
+        return static_cast<std::int16_t>(key.key() & kCodeMask);
     const auto row = std::ranges::find(kKeys, key.key(), [](const KeyRow& r) { return static_cast<int>(r.key); });
     return row == kKeys.end() ? std::int16_t{0} : row->code;
 }
@@ -75,8 +86,12 @@ Qt::Key keyOf(std::int16_t code)
 {
     if (isLetterOrDigit(code))
         return static_cast<Qt::Key>(code);
+    if (code >= kFirstFunctionCode && code <= kLastFunctionCode)
+        return static_cast<Qt::Key>(Qt::Key_F1 + code - kFirstFunctionCode);
     const auto row = std::ranges::find(kKeys, code, &KeyRow::code);
-    return row == kKeys.end() ? Qt::Key_unknown : row->key;
+    if (row != kKeys.end())
+        return row->key;
+    return code > 0 ? static_cast<Qt::Key>(kUnnamed | code) : Qt::Key_unknown;
 }
 
 } // namespace zor::platform::qt

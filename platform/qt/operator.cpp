@@ -8,6 +8,7 @@
 #include "platform/qt/text_field.h"
 #include "platform/text.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QClipboard>
 
@@ -58,7 +59,20 @@ Aim aimAt(Widget& widget)
         const bool hasEntries = list->count() > 0;
         return {list->viewport(), hasEntries ? list->textOf(std::max(list->current(), 0)) : QPoint(0, 0)};
     }
+    // A text field is clicked behind its text: the caret comes to the end.
+    constexpr double kInset = 2;
+    if (dynamic_cast<TextField*>(&widget) != nullptr)
+        return {target, QPointF(target.width() - kInset, centre(target).y())};
     return {target, centre(target)};
+}
+
+/// Actions follow one another faster than a person's: the next click is not the third of a triple click.
+void letTimePass(QWidget& widget)
+{
+    for (const auto& timer : QAbstractEventDispatcher::instance()->registeredTimers(&widget)) {
+        QTimerEvent over(timer.timerId);
+        QApplication::sendEvent(&widget, &over);
+    }
 }
 
 void sendKey(QWidget& widget, Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
@@ -131,8 +145,14 @@ Refusal QtOperator::blur(Widget& widget)
         raiseError(ErrorNumber::NoSuchMember);
     const EventScope scope(base(widget).context());
     leavePopUps();
-    if (base(widget).focusReported)
-        base(widget).qwidget().clearFocus();
+    QWidget& target = base(widget).qwidget();
+    if (target.hasFocus()) {
+        target.clearFocus();
+    } else if (base(widget).focusReported) {
+        // A host that kept the focus could not get it back into a field that is frozen or hidden.
+        QFocusEvent out(QEvent::FocusOut, Qt::OtherFocusReason);
+        QApplication::sendEvent(&target, &out);
+    }
     return Refusal::None;
 }
 
@@ -151,6 +171,8 @@ Refusal QtOperator::pointer(Widget& widget, Pointer action)
         sendMouse(target, QEvent::MouseButtonDblClick, button, at);
         if (alive)
             sendMouse(target, QEvent::MouseButtonRelease, button, at);
+        if (alive)
+            letTimePass(target);
     }
     return refusal;
 }

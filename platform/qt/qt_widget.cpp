@@ -32,19 +32,21 @@ bool EventReports::keyPressed(QKeyEvent& key)
         return false;
     std::int16_t code = codeOf(key);
     std::int16_t shift = shiftOf(key.modifiers());
-    const bool hadCode = code != 0;
+    const std::int16_t oldCode = code;
     m_widget.report(Notice::KeyDown, std::array<ArgRef, 2>{&code, &shift});
-    if (hadCode && code == 0)
+    if ((oldCode != 0 && code == 0) || !m_widget.isReachable())
         return true;
     const std::int16_t ascii = characterOf(key);
-    if (ascii == 0)
-        return false;
     std::int16_t press = ascii;
-    m_widget.report(Notice::KeyPress, std::array<ArgRef, 1>{&press});
-    if (press != 0 && press != ascii)
+    if (ascii != 0)
+        m_widget.report(Notice::KeyPress, std::array<ArgRef, 1>{&press});
+    if (press != ascii)
         m_replacement = std::make_unique<QKeyEvent>(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier,
                                                     QString(QChar(static_cast<char16_t>(press))));
-    return press == 0;
+    else if (code != oldCode && ascii < ' ')
+        // A key without a letter acts as the key that the handler made of it.
+        m_replacement = std::make_unique<QKeyEvent>(QEvent::KeyPress, keyOf(code), key.modifiers(), key.text());
+    return ascii != 0 && press == 0;
 }
 
 void EventReports::after()
@@ -70,7 +72,7 @@ void EventReports::after()
         break;
     case QEvent::MouseButtonRelease: {
         const auto& release = static_cast<QMouseEvent&>(m_event);
-        const bool second = std::exchange(m_widget.doubleClicked, false);
+        const bool second = release.button() == Qt::LeftButton && std::exchange(m_widget.doubleClicked, false);
         if (!m_widget.changesOnRelease())
             mouse(Notice::MouseUp);
         if (m_widget.isClick(release, second))
@@ -87,13 +89,15 @@ void EventReports::focusLost(const QFocusEvent& focus)
     // A menu or another program over the window does not end the operator's work in the field.
     const Qt::FocusReason reason = focus.reason();
     if (reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason || m_widget.isFocusNear() ||
-        !m_widget.focusReported)
+        !m_widget.focusReported || m_widget.validating)
         return;
     bool cancel = false;
     const QPointer<QWidget> widget = &m_widget.qwidget();
+    m_widget.validating = true;
     m_widget.report(Notice::Validate, std::array<ArgRef, 1>{&cancel});
     if (!widget)
         return;
+    m_widget.validating = false;
     if (cancel) {
         widget->setFocus(Qt::OtherFocusReason);
         return;

@@ -65,13 +65,16 @@ public:
     /// changes as clicks says no.
     [[nodiscard]] virtual bool isClick(const QMouseEvent& release, bool second)
     {
-        return release.button() == Qt::LeftButton && !second &&
-               qwidget().rect().contains(release.position().toPoint());
+        // A label without a text is no wider than a line, and still the operator's to click.
+        const QRect area = qwidget().rect().united(QRect(0, 0, 1, 1));
+        return release.button() == Qt::LeftButton && !second && area.contains(release.position().toPoint());
     }
     /// A widget that changes on the release hears of the mouse first: MouseUp comes before the Click.
     [[nodiscard]] virtual bool changesOnRelease() const { return false; }
     /// Whether the focus is in a window of the widget's own: it has not left.
     [[nodiscard]] virtual bool isFocusNear() const { return false; }
+    /// Whether the operator could act on it.
+    [[nodiscard]] bool isReachable() const { return qwidget().isEnabled() && !qwidget().isHidden(); }
     /// The theme changed: colours that follow it are set anew.
     virtual void themeChanged() = 0;
 
@@ -79,6 +82,10 @@ public:
     bool focusReported = false;
     /// The release after a double click is no click of its own.
     bool doubleClicked = false;
+    /// True while the control disables or hides the widget: it keeps the focus then.
+    bool keepsFocus = false;
+    /// True while the listener is asked whether the focus may go.
+    bool validating = false;
 
 private:
     Context m_context;
@@ -114,15 +121,22 @@ bool reported(QtWidget* const& owner, QEvent* event, Handle&& handle)
 {
     if (owner == nullptr)
         return handle(event);
+    // The focus may rest on a widget that is frozen or hidden; its keys go on to the form (Tab does).
+    const bool isKey = dynamic_cast<QKeyEvent*>(event) != nullptr;
+    if (isKey && !owner->isReachable())
+        return false;
     const EventScope scope(owner->context());
     EventReports reports(*owner, *event);
-    if (reports.before())
+    if (reports.before() || (isKey && (owner == nullptr || !owner->isReachable())))
         return true;
     const bool handled = handle(reports.replacement() != nullptr ? reports.replacement() : event);
     if (owner != nullptr)
         reports.after();
     // A press that nobody takes would go to the widget beneath, and its release with it.
-    return handled || dynamic_cast<QMouseEvent*>(event) != nullptr;
+    if (dynamic_cast<QMouseEvent*>(event) == nullptr)
+        return handled;
+    event->accept();
+    return true;
 }
 
 /// A Qt widget whose events are reported.
@@ -137,6 +151,14 @@ public:
         if (!isOfInterest(event->type()))
             return Base::event(event);
         return reported(owner, event, [this](QEvent* shown) { return Base::event(shown); });
+    }
+
+protected:
+    /// Qt hands the focus of a widget that is disabled or hidden to its neighbour. The operator has left neither:
+    /// a half-typed entry must not be taken over because the host froze the field while it reads the device.
+    bool focusNextPrevChild(bool next) override
+    {
+        return (owner != nullptr && owner->keepsFocus) || Base::focusNextPrevChild(next);
     }
 
 private:
@@ -186,14 +208,20 @@ public:
     [[nodiscard]] bool isVisible() const override { return !m_widget->isHidden(); }
     void setVisible(bool visible) override
     {
-        if (isVisible() != visible)
-            m_widget->setVisible(visible);
+        if (isVisible() == visible)
+            return;
+        keepsFocus = true;
+        m_widget->setVisible(visible);
+        keepsFocus = false;
     }
     [[nodiscard]] bool isEnabled() const override { return m_enabled; }
     void setEnabled(bool enabled) override
     {
-        if (std::exchange(m_enabled, enabled) != enabled)
-            m_widget->setEnabled(enabled);
+        if (std::exchange(m_enabled, enabled) == enabled)
+            return;
+        keepsFocus = true;
+        m_widget->setEnabled(enabled);
+        keepsFocus = false;
     }
     [[nodiscard]] Colour backColour() const override { return m_backColour; }
     void setBackColour(Colour colour) override

@@ -1,5 +1,7 @@
 #include "platform/qt/text_field.h"
 
+#include "platform/text.h"
+
 #include <QPointer>
 #include <QWheelEvent>
 
@@ -55,14 +57,19 @@ void QtTextField::setText(std::string_view text)
     if (m_text == text)
         return;
     m_text = text;
+    showText(0);
+    report(Notice::Change);
+}
+
+void QtTextField::showText(std::size_t caret)
+{
     m_setting = true;
-    const QString shown = shownText(text, kShownLimit);
+    const QString shown = shownText(m_text, kShownLimit);
     m_cut = shown.size() > kShownLimit;
     widget().setText(shown);
-    widget().setCursorPosition(0);
+    widget().setCursorPosition(units(caret));
     m_setting = false;
     applyLock();
-    report(Notice::Change);
 }
 
 void QtTextField::setLocked(bool locked)
@@ -86,8 +93,11 @@ void QtTextField::setAlignment(Alignment alignment)
 
 std::size_t QtTextField::characters(qsizetype units) const
 {
-    std::size_t count = 0;
     const QString text = widget().text();
+    // The end of what is shown stands for the end of the whole text.
+    if (m_cut && units >= text.size())
+        return characterCount(m_text);
+    std::size_t count = 0;
     for (qsizetype i = 0; i < units && i < text.size(); ++i)
         count += text.at(i).isLowSurrogate() ? 0 : 1;
     return count;
@@ -117,7 +127,7 @@ std::size_t QtTextField::selectionLength() const
 void QtTextField::select(std::size_t start, std::size_t length)
 {
     const int from = units(start);
-    const int to = length > std::numeric_limits<std::size_t>::max() - start ? from : units(start + length);
+    const int to = units(start + std::min(length, std::numeric_limits<std::size_t>::max() - start));
     if (to == from)
         widget().setCursorPosition(from);
     else
@@ -126,16 +136,23 @@ void QtTextField::select(std::size_t start, std::size_t length)
         widget().deselect();
 }
 
+std::string QtTextField::selectedText() const
+{
+    const std::size_t start = selectionStart();
+    const std::size_t from = byteOffset(m_text, start);
+    return m_text.substr(from, byteOffset(m_text, start + selectionLength()) - from);
+}
+
 void QtTextField::replaceSelection(std::string_view text)
 {
-    // The host may write where the operator may not; QLineEdit's insert() ignores the lock itself.
-    const QString before = widget().text();
-    m_setting = true;
-    widget().insert(shownText(text, std::numeric_limits<int>::max()));
-    m_setting = false;
-    if (widget().text() == before)
+    // The host may write where the operator may not, and into what is shown in part only.
+    const std::size_t start = selectionStart();
+    const std::size_t from = byteOffset(m_text, start);
+    const std::size_t old = byteOffset(m_text, start + selectionLength()) - from;
+    if (old == 0 && text.empty())
         return;
-    m_text = widget().text().toStdString();
+    m_text.replace(from, old, text);
+    showText(start + characterCount(text));
     report(Notice::Change);
 }
 

@@ -37,12 +37,13 @@ public:
     [[nodiscard]] std::size_t selectionStart() const override;
     [[nodiscard]] std::size_t selectionLength() const override;
     void select(std::size_t start, std::size_t length) override;
-    [[nodiscard]] std::string selectedText() const override { return widget().selectedText().toStdString(); }
+    [[nodiscard]] std::string selectedText() const override;
     void replaceSelection(std::string_view text) override;
     [[nodiscard]] bool hasFocus() const override { return focusReported; }
     void onStep(std::function<void(bool up)> step) { widget().onStep = std::move(step); }
 
 private:
+    void showText(std::size_t caret);
     void applyLock();
     [[nodiscard]] std::size_t characters(qsizetype units) const;
     [[nodiscard]] int units(std::size_t characters) const;

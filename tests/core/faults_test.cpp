@@ -49,6 +49,32 @@ TEST_F(TextBoxTest, AnOverflowingConversionChangesNothing)
     EXPECT_EQ(box->DefaultUnit(), LgthU_MM);
 }
 
+TEST_F(TextBoxTest, InfiniteAndUndefinedNumbersChangeNothing)
+{
+    box->DeviceValue(1234);
+    for (const ENTRY_TYPE entry : {Numeric, Text}) {
+        box->EntryType(entry);
+        for (const double value :
+             {std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
+              std::numeric_limits<double>::quiet_NaN()}) {
+            EXPECT_EQ(errorOf([&] { box->DeviceValue(value); }), 6);
+            EXPECT_EQ(errorOf([&] { box->setProperty("DeviceValue", value); }), 6);
+            EXPECT_EQ(errorOf([&] { box->ModifiedValue(value); }), 6);
+            EXPECT_EQ(errorOf([&] { box->MaxValue(value); }), 6);
+            EXPECT_TRUE(box->DeviceValue() == Variant(1234));
+            EXPECT_TRUE(box->OutputValue() == Variant(1234));
+            EXPECT_EQ(text(), "123");
+            EXPECT_EQ(box->MaxValue(), 0);
+        }
+    }
+    // What was last shown from the device is still what an edit returns to.
+    box->DataChanged(true);
+    EXPECT_EQ(field().toolTip(), "Data Changed by other user  :  , 123");
+    MemoryPropertyBag bag;
+    bag.set("DeviceValue", std::numeric_limits<double>::infinity());
+    EXPECT_EQ(errorOf([&] { ctx_ZorTextBox::create(container)->readProperties(bag); }), 6);
+}
+
 TEST_F(TextBoxTest, AnEntryThatOverflowsIsNeverHandedBack)
 {
     box->DeviceUnit(LgthU_1By10_MM);

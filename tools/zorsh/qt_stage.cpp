@@ -57,10 +57,24 @@ private:
     std::exception_ptr m_error;
 };
 
+QtMessageHandler& chained()
+{
+    static QtMessageHandler handler = nullptr;
+    return handler;
+}
+
+/// Without a display Qt remarks that its windows cannot be raised and the like: no news to who asked for none.
+void withoutRemarks(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (!message.startsWith("This plugin does not support") && !message.startsWith("QStandardPaths:"))
+        chained()(type, context, message);
+}
+
 } // namespace
 
 std::shared_ptr<void> startQt()
 {
+    chained() = qInstallMessageHandler(withoutRemarks);
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         // Qt tries the platforms of the list in turn: a display that cannot be reached is no display.
         if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))

@@ -61,6 +61,7 @@ bool ctx_ZorTextBox::showsDisplayValue() const
 
 void ctx_ZorTextBox::ModifiedValue(const Variant& value)
 {
+    core::requireFinite(value);
     run([&] {
         if (const std::optional<double> number = validNumber(value)) {
             show(m_units.toOutput(*number));

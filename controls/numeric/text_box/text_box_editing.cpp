@@ -82,7 +82,8 @@ void ctx_ZorTextBox::validateEntry(bool reformat)
         if (m_invalidEntryEnable && m_status.dataModified && outside)
             setInvalidEntry();
     }
-    if (reformat)
+    // An invalid entry stays as it was typed: the operator must see what he is to correct.
+    if (reformat && !m_invalidEntry)
         show(m_field.text().text());
 }
 
