@@ -5,6 +5,7 @@
 #include "platform/qt/simple_widgets.h"
 #include "platform/qt/text_field.h"
 
+#include <QContextMenuEvent>
 #include <QDebug>
 #include <QMenu>
 #include <QMessageBox>
@@ -85,13 +86,23 @@ private:
     QPointer<QMenu> m_menu;
 };
 
-/// The QWidget under a surface; tells the component when the container gives it another size.
+/// The QWidget under a surface; tells the component when the container gives it another size, and of the menu key
+/// of any widget on it that has no menu of its own.
 class SurfaceWidget : public QWidget {
 public:
     using QWidget::QWidget;
     std::function<void(QSize)> onResized;
+    std::function<void(QPoint)> onMenuKey;
 
 protected:
+    void contextMenuEvent(QContextMenuEvent* event) override
+    {
+        // The mouse has been heard of already, by its release.
+        const bool isKey = event->reason() == QContextMenuEvent::Keyboard;
+        event->setAccepted(isKey);
+        if (isKey && onMenuKey)
+            onMenuKey(event->pos());
+    }
     void resizeEvent(QResizeEvent* event) override
     {
         QWidget::resizeEvent(event);
@@ -109,6 +120,7 @@ public:
         m_inner.surface = &widget();
         widget().setVisible(true);
         widget().onResized = [this](QSize size) { resizedByForm(size); };
+        widget().onMenuKey = [this](QPoint at) { menuKey(at); };
     }
 
     // Twips that the host gave stay as they are; only a size that comes from the form's layout is counted
@@ -165,6 +177,15 @@ private:
         return made;
     }
 
+    /// What the right mouse button does on the surface, the keyboard does on any of its widgets.
+    void menuKey(QPoint at)
+    {
+        std::int16_t button = kRightButton;
+        std::int16_t shift = 0;
+        auto x = static_cast<float>(at.x() * kTwipsPerPixel);
+        auto y = static_cast<float>(at.y() * kTwipsPerPixel);
+        report(Notice::MouseUp, std::array<ArgRef, 4>{&button, &shift, &x, &y});
+    }
     void resizedByForm(QSize size)
     {
         auto* component = dynamic_cast<Component*>(context().listener);

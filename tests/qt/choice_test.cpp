@@ -1,0 +1,141 @@
+// What only a real screen has: the wheel over a drop-down list, the menu key, an open list that must close, and
+// marks that must be seen.
+
+#include "controls/choice/check_box/ctx_ZorCheckBox.h"
+#include "controls/choice/combo_box/ctx_ZorComboBox.h"
+#include "controls/choice/list_box/ctx_ZorListBox.h"
+#include "core/frm_Container.h"
+#include "platform/qt/container.h"
+#include "platform/qt/looks.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QLineEdit>
+#include <QListView>
+#include <QTest>
+#include <QWheelEvent>
+#include <gtest/gtest.h>
+
+namespace zor {
+namespace {
+
+class ChoiceTest : public testing::Test {
+protected:
+    ChoiceTest()
+    {
+        form.resize(600, 300);
+        form.show();
+        other.move(0, 250);
+        other.show();
+        QApplication::setActiveWindow(&form);
+        other.setFocus();
+        container.setUserMode(true);
+    }
+    template <class T>
+    core::ControlPtr<T> make()
+    {
+        core::ControlPtr<T> control = T::create(container);
+        control->initialiseProperties();
+        return control;
+    }
+    core::ControlPtr<ctx_ZorComboBox> makeCombo()
+    {
+        auto control = make<ctx_ZorComboBox>();
+        for (int i = 0; i < 3; ++i)
+            control->AddEnumEntry("entry", i);
+        control->DeviceValue(1);
+        return control;
+    }
+    static QWidget& face(core::Control& control)
+    {
+        return platform::qt::widgetOf(*control.widget(controls::kFace));
+    }
+    static void turnWheel(QWidget& widget)
+    {
+        const QPointF at = QRectF(widget.rect()).center();
+        QWheelEvent event(at, widget.mapToGlobal(at), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&widget, &event);
+    }
+
+    QWidget form;
+    QLineEdit other{&form};
+    platform::qt::QtContainer container{form, core::pictureData};
+};
+
+TEST_F(ChoiceTest, TheWheelTurnsADropDownListOnlyForWhoeverWorksIt)
+{
+    const auto combo = makeCombo();
+    turnWheel(face(*combo));
+    EXPECT_EQ(combo->OutputValue(), 1) << "without the focus";
+    face(*combo).setFocus();
+    turnWheel(face(*combo));
+    EXPECT_EQ(combo->OutputValue(), 2);
+    combo->DeviceValue(1);
+    combo->CFail(true);
+    turnWheel(face(*combo));
+    QTest::keyClick(&face(*combo), Qt::Key_Down);
+    EXPECT_EQ(combo->OutputValue(), 1) << "locked";
+    EXPECT_TRUE(face(*combo).isEnabled()) << "and looks as ever";
+    EXPECT_EQ(face(*combo).toolTip(), "Communication Failure !");
+}
+
+TEST_F(ChoiceTest, AnOpenListClosesWhenTheConnectionIsLost)
+{
+    const auto combo = makeCombo();
+    auto& list = dynamic_cast<QComboBox&>(face(*combo));
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Space);
+    ASSERT_TRUE(list.view()->isVisible());
+    combo->CFail(true);
+    EXPECT_FALSE(list.view()->isVisible());
+    QTest::mouseClick(&list, Qt::LeftButton);
+    EXPECT_FALSE(list.view()->isVisible());
+}
+
+TEST_F(ChoiceTest, TheMenuKeyOffersTheUndo)
+{
+    const auto check = make<ctx_ZorCheckBox>();
+    const auto list = make<ctx_ZorListBox>();
+    list->AddBitFieldEntry("bit", 0);
+    const std::initializer_list<controls::ChoiceControl*> both{check.get(), list.get()};
+    for (controls::ChoiceControl* control : both) {
+        control->ModifiedValue(1);
+        QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(1, 1), face(*control).mapToGlobal(QPoint(1, 1)));
+        QApplication::sendEvent(&face(*control), &key);
+        ASSERT_TRUE(control->menu()->isOpen());
+        QWidget* menu = QApplication::activePopupWidget();
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Return);
+        EXPECT_EQ(control->OutputValue(), 0);
+        control->ReadOnly(true);
+        QApplication::sendEvent(&face(*control), &key);
+        EXPECT_FALSE(control->menu()->isOpen());
+    }
+}
+
+TEST_F(ChoiceTest, AnEmptyMarkIsSeenOnEveryField)
+{
+    const auto list = make<ctx_ZorListBox>();
+    list->AddBitFieldEntry(" ", 0);
+    auto& view = dynamic_cast<QListView&>(face(*list));
+    const auto strongest = [&] {
+        QApplication::processEvents();
+        const QImage picture = view.viewport()->grab().toImage();
+        const QColor back = view.palette().color(QPalette::Base);
+        const QRect entry = view.visualRect(view.model()->index(0, 0));
+        double best = 1;
+        for (int x = 0; x < entry.height(); ++x)
+            best = std::max(best, platform::qt::contrast(picture.pixelColor(x, entry.center().y()), back));
+        return best;
+    };
+    EXPECT_GE(strongest(), 2.5);
+    list->DataModified(true);
+    EXPECT_GE(strongest(), 2.5) << "yellow";
+    list->ReadOnly(true);
+    EXPECT_GE(strongest(), 2.5) << "read-only";
+}
+
+} // namespace
+} // namespace zor
