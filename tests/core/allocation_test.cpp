@@ -4,6 +4,7 @@
 #include "controls/choice/combo_box/ctx_ZorComboBox.h"
 #include "controls/choice/list_box/ctx_ZorListBox.h"
 #include "controls/choice/option_button/ctx_ZorOptionButton.h"
+#include "controls/numeric/slider/ctx_ZorSlider.h"
 #include "controls/numeric/text_box/ctx_ZorTextBox.h"
 #include "controls/numeric/up_down/ctx_ZorUpDown.h"
 #include "platform/headless/container.h"
@@ -115,6 +116,10 @@ TEST(ValuePath, ShowsAValueAndHandsItBackWithoutAllocation)
     {
         SCOPED_TRACE("up-down");
         expectNoAllocation<ctx_ZorUpDown, __ctx_ZorUpDown>(20'000'000);
+    }
+    {
+        SCOPED_TRACE("slider");
+        expectNoAllocation<ctx_ZorSlider, __ctx_ZorSlider>(12345.25);
     }
     counting = true;
     auto* probe = new int(1);

@@ -176,7 +176,8 @@ void ctx_ZorUpDown::onTextChanged()
 
 void ctx_ZorUpDown::s_CommitEntry()
 {
-    if (!m_editPending)
+    // A device value counts as an edit, too; but to a read-only parameter nobody hands anything back.
+    if (!m_editPending || isReadOnlyForOperator())
         return;
     if (const std::optional<double> number = m_field.number()) {
         spinToNumber(*number);

@@ -1,0 +1,235 @@
+#include "controls/numeric/slider/ctx_ZorSlider.h"
+
+#include "platform/error.h"
+#include "platform/number_text.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace zor {
+
+using platform::Notice;
+
+namespace {
+
+/// Sets a variable for the length of a scope.
+template <class T>
+class Temporarily {
+public:
+    Temporarily(T& variable, T value) : m_variable(variable), m_old(std::exchange(variable, value)) {}
+    ~Temporarily() { m_variable = m_old; }
+    Temporarily(const Temporarily&) = delete;
+    Temporarily& operator=(const Temporarily&) = delete;
+
+private:
+    T& m_variable;
+    T m_old;
+};
+
+double finite(double value)
+{
+    if (!std::isfinite(value))
+        raiseError(ErrorNumber::Overflow);
+    return value;
+}
+
+} // namespace
+
+// --- From the device to the operator
+
+void ctx_ZorSlider::s_ApplyDeviceValue()
+{
+    testValue(m_deviceValue);
+    m_reference = m_units.toOutput(m_deviceValue);
+    moveTo(m_reference);
+    assignOutput(m_deviceValue);
+    m_status.dataModified = false;
+    s_UpdateStatusDisplay();
+}
+
+void ctx_ZorSlider::ModifiedValue(double value)
+{
+    run([&] {
+        testValue(value);
+        moveTo(m_units.toOutput(value));
+        assignOutput(value);
+        s_UpdateStatusDisplay();
+    });
+}
+
+void ctx_ZorSlider::moveTo(double position)
+{
+    const std::int32_t whole = roundToInt32(position);
+    if (whole > m_track->maximum())
+        setPosition(m_track->maximum());
+    else
+        setPosition(std::max(whole, m_track->minimum()));
+}
+
+void ctx_ZorSlider::setPosition(std::int32_t position)
+{
+    const Temporarily own(m_report, Report::Own);
+    settle([&] { m_track->setValue(position); });
+}
+
+void ctx_ZorSlider::assignOutput(double value)
+{
+    m_output = value;
+    raise(kOutputValueChange);
+}
+
+// --- From the operator to the device
+
+void ctx_ZorSlider::s_TrackMoved()
+{
+    const std::int32_t position = m_track->value();
+    judge(position != roundToInt32(m_reference));
+    assignOutput(m_units.toDevice(position));
+    raise(kShownChange);
+}
+
+void ctx_ZorSlider::putBack()
+{
+    const double shown = m_units.toOutput(m_output);
+    setPosition(roundToInt32(std::max<double>(std::min<double>(shown, m_track->maximum()), m_track->minimum())));
+}
+
+void ctx_ZorSlider::undoEdit()
+{
+    if (!m_status.dataModified)
+        return;
+    setPosition(roundToInt32(m_reference));
+    assignOutput(m_deviceValue);
+    // Also where the track cannot go back as far as the device value lies.
+    m_status.dataModified = false;
+}
+
+void ctx_ZorSlider::onNotice(int widget, Notice notice, platform::EventArgs args)
+{
+    if (widget == kTrack && notice == Notice::Change) {
+        if (m_report == Report::Ignored)
+            return;
+        if (!isInputLocked())
+            s_TrackMoved();
+        else if (m_report == Report::Taken)
+            putBack();
+        return;
+    }
+    if (widget == kState && notice == Notice::Click)
+        s_ExplainState();
+    else if (widget == core::kUndoEdit)
+        undoEdit();
+    else if (notice == Notice::MouseUp && widget == platform::kSurfaceWidget)
+        offerUndo(surface(), args);
+    else if (notice == Notice::MouseUp && widget >= kMinPrefix)
+        offerUndo(label(static_cast<Number>(widget)), args);
+    forward(widget, notice, args);
+}
+
+// --- Units and limits
+
+void ctx_ZorSlider::s_DeviceUnitChanged() { assignOutput(m_units.toDevice(m_track->value())); }
+
+void ctx_ZorSlider::s_OutputUnitChanged()
+{
+    m_reference = m_units.reExpress(m_reference);
+    m_otherUser = m_units.reExpress(m_otherUser);
+    const std::int32_t position = roundToInt32(m_units.reExpress(m_track->value()));
+    const double lower = m_units.reExpress(m_units.minParam);
+    const double upper = m_units.reExpress(m_units.maxParam);
+    const std::int32_t first = roundToInt32(lower);
+    // The new ends first: the old ones would hold back the same value in the new unit.
+    const std::int32_t before = m_track->value();
+    {
+        const Temporarily ignored(m_report, Report::Ignored);
+        m_units.minParam = lower;
+        m_track->setMinimum(first);
+        m_units.maxParam = upper;
+        if (upper > lower)
+            m_track->setMaximum(roundToInt32(upper));
+        m_track->setValue(position);
+    }
+    if (m_track->value() != before && !isInputLocked())
+        s_TrackMoved();
+    s_ShowLimits();
+    m_units.previousOutputUnit = m_units.outputUnit;
+}
+
+double ctx_ZorSlider::scaled(double value) const { return finite(value * m_scaleFactor); }
+
+double ctx_ZorSlider::unscaled(double value) const
+{
+    if (m_scaleFactor == 0)
+        raiseError(ErrorNumber::DivisionByZero);
+    return value / m_scaleFactor;
+}
+
+template <class Set>
+void ctx_ZorSlider::setEnds(Set&& set)
+{
+    const std::int32_t before = m_track->value();
+    {
+        const Temporarily ignored(m_report, Report::Ignored);
+        std::forward<Set>(set)();
+    }
+    // A device value beyond the ends is no edit; an edit that the new end cuts is handed back as it is shown.
+    if (m_track->value() != before && m_status.dataModified && !isInputLocked())
+        s_TrackMoved();
+}
+
+void ctx_ZorSlider::s_UpdateMinParamValue()
+{
+    m_units.minParam = scaled(m_units.limitToOutput(m_units.minValue));
+    label(kMinValue).setCaption(platform::doubleToText(unscaled(m_units.minParam)));
+    setEnds([&] { m_track->setMinimum(roundToInt32(m_units.minParam)); });
+    s_Layout();
+}
+
+void ctx_ZorSlider::s_UpdateMaxParamValue()
+{
+    m_units.maxParam = scaled(m_units.limitToOutput(m_units.maxValue));
+    if (m_units.maxParam > m_units.minParam)
+        setEnds([&] { m_track->setMaximum(roundToInt32(m_units.maxParam)); });
+    label(kMaxValue).setCaption(platform::doubleToText(unscaled(m_units.maxParam)));
+    s_Layout();
+}
+
+void ctx_ZorSlider::s_ShowLimits()
+{
+    label(kMinValue).setCaption(platform::doubleToText(unscaled(m_units.minParam)));
+    label(kMaxValue).setCaption(platform::doubleToText(unscaled(m_units.maxParam)));
+}
+
+void ctx_ZorSlider::s_ShowPrefixes()
+{
+    label(kMinPrefix).setCaption(m_minPrefix);
+    label(kMaxPrefix).setCaption(m_maxPrefix);
+    s_Layout();
+}
+
+void ctx_ZorSlider::s_AfterLoading()
+{
+    {
+        const Temporarily ignored(m_report, Report::Ignored);
+        m_track->setMinimum(roundToInt32(m_units.minParam));
+        if (m_units.maxParam > m_units.minParam)
+            m_track->setMaximum(roundToInt32(m_units.maxParam));
+    }
+    // The stored limits are in the stored unit: nothing is left to be expressed in it.
+    m_units.previousOutputUnit = m_units.outputUnit;
+    s_ShowPrefixes();
+    UnitControl::s_AfterLoading();
+    s_Layout();
+}
+
+// --- Properties that are not simply fields
+
+double ctx_ZorSlider::OutputValue() const { return unscaled(m_output); }
+std::int16_t ctx_ZorSlider::TickStyle() const { return m_track->tickStyle(); }
+void ctx_ZorSlider::TickType(std::int16_t value) { m_track->setTickStyle(value); }
+double ctx_ZorSlider::TickFrequency() const { return unscaled(m_track->tickFrequency()); }
+void ctx_ZorSlider::TickFrequency(double value) { m_track->setTickFrequency(roundToInt32(scaled(value))); }
+std::int32_t ctx_ZorSlider::GetNumTicks() const { return m_track->tickCount(); }
+
+} // namespace zor

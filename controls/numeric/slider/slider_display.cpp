@@ -1,0 +1,149 @@
+// How the slider looks: visibility and placement.
+
+#include "controls/numeric/slider/ctx_ZorSlider.h"
+
+#include <algorithm>
+
+namespace zor {
+
+using platform::Rect;
+using platform::Twips;
+
+namespace {
+
+// The composite as designed; only its width is the container's.
+constexpr Twips kDesignedWidth = 3000;
+constexpr Twips kHeight = 770;
+constexpr Twips kTrackHeight = 510;
+constexpr Twips kLabelTop = 515;
+constexpr Twips kLabelHeight = 195;
+constexpr Twips kIconTop = 25;
+constexpr Twips kIconSize = 285;
+constexpr Twips kIconGap = 100;
+
+constexpr Twips kBesideTrack = 415;
+constexpr Twips kNarrow = 700;
+constexpr Twips kMinTrackWidth = 285;
+constexpr Twips kLabelGap = 20;
+/// The upper end's number stands this far left of the track's end.
+constexpr Twips kBeforeTrackEnd = 150;
+
+using Group = std::array<platform::Label*, 3>;
+
+Twips widthOf(const Group& group)
+{
+    return group[0]->width() + group[1]->width() + group[2]->width() + 2 * kLabelGap;
+}
+
+/// Places the labels one after another; returns where the last one ends.
+Twips place(const Group& group, Twips left)
+{
+    for (platform::Label* label : group) {
+        const Rect old = label->geometry();
+        label->setGeometry({left, old.top, old.width, old.height});
+        left += label->width() + kLabelGap;
+    }
+    return left - kLabelGap;
+}
+
+} // namespace
+
+ctx_ZorSlider::ctx_ZorSlider(platform::Container& container)
+    : RangeControl(classInfo(), container, kDesignedWidth, kHeight, LgthU_1By10_MM),
+      m_track(surface().createTrack(kTrack)), m_icon(surface().createImage(kState))
+{
+    m_track->setGeometry({0, 0, kDesignedWidth - kBesideTrack, kTrackHeight});
+    m_icon->setVisible(false);
+    m_icon->setGeometry({kDesignedWidth - kBesideTrack + kIconGap, kIconTop, kIconSize, kIconSize});
+    auto body = m_body.begin();
+    *body++ = m_track.get();
+    for (std::size_t i = 0; i < kLabelCount; ++i) {
+        m_labels[i] = surface().createLabel(kMinPrefix + static_cast<int>(i));
+        m_labels[i]->setGeometry({0, kLabelTop, 0, kLabelHeight});
+        *body++ = m_labels[i].get();
+    }
+    constexpr double kInitialMaximum = 10;
+    m_units.maxValue = m_units.maxParam = kInitialMaximum;
+    s_ShowUnit(fc_GetUnitLabel(m_units.outputUnit));
+}
+
+core::ControlPtr<ctx_ZorSlider> ctx_ZorSlider::create(platform::Container& container)
+{
+    return core::ControlPtr<ctx_ZorSlider>(new ctx_ZorSlider(container));
+}
+
+platform::Widget* ctx_ZorSlider::widget(int number) noexcept
+{
+    if (number == kTrack)
+        return m_track.get();
+    if (number == Number::kState)
+        return m_icon.get();
+    if (number >= kMinPrefix && number <= kMaxUnit)
+        return &label(static_cast<Number>(number));
+    return Control::widget(number);
+}
+
+void ctx_ZorSlider::s_ChangeBackColor(Colour l_ColorValue)
+{
+    Control::s_ChangeBackColor(l_ColorValue);
+    for (const auto& label : m_labels)
+        label->setBackColour(l_ColorValue);
+}
+
+// --- Visibility
+
+void ctx_ZorSlider::s_UpdateDeviceSupportDisplay()
+{
+    const bool isSupported = isDeviceSupported();
+    m_track->setVisible(isSupported);
+    label(kMinPrefix).setVisible(isSupported);
+    label(kMaxPrefix).setVisible(isSupported);
+    // The state icon comes back with the next status refresh: what it showed may be out of date.
+    if (!isSupported)
+        m_icon->setVisible(false);
+    s_UpdateUnitLabelVisibility();
+}
+
+void ctx_ZorSlider::s_UpdateUnitLabelVisibility()
+{
+    const bool isSupported = isDeviceSupported();
+    for (const Number unit : {kMinUnit, kMaxUnit})
+        label(unit).setVisible(m_unitEnable && isSupported);
+    for (const Number value : {kMinValue, kMaxValue})
+        label(value).setVisible(m_enableValues && isSupported);
+}
+
+void ctx_ZorSlider::s_ShowUnit(std::string_view caption)
+{
+    label(kMinUnit).setCaption(caption);
+    label(kMaxUnit).setCaption(caption);
+    s_Layout();
+}
+
+// --- Placement
+
+void ctx_ZorSlider::s_Layout()
+{
+    const Rect area = surface().geometry();
+    Rect track = m_track->geometry();
+    track.width = area.width >= kNarrow ? area.width - kBesideTrack : kMinTrackWidth;
+    m_track->setGeometry(track);
+    Rect icon = m_icon->geometry();
+    icon.left = track.left + track.width + kIconGap;
+    m_icon->setGeometry(icon);
+
+    const Twips leftEnd = place({&label(kMinPrefix), &label(kMinValue), &label(kMinUnit)}, kLabelGap);
+    const Group right{&label(kMaxPrefix), &label(kMaxValue), &label(kMaxUnit)};
+    const Twips valueWidth = right[1]->width();
+    // The number is centred on this point, with its prefix before it.
+    const Twips centre = track.width - kBeforeTrackEnd;
+    const Twips centred = centre - roundToInt32(valueWidth / 2) - kLabelGap - right[0]->width();
+    const bool fits = leftEnd + kLabelGap < centred && area.width - right[2]->width() - valueWidth / 2 > centre;
+    // Else it is pushed left until it ends at the control's edge, but never into the left group.
+    const Twips pushed = std::max(leftEnd + kLabelGap, std::min(centred, area.width - widthOf(right)));
+    place(right, fits && m_enableValues ? centred : pushed);
+    if (area.height != kHeight)
+        surface().setGeometry({area.left, area.top, area.width, kHeight});
+}
+
+} // namespace zor

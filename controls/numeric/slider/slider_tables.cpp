@@ -1,0 +1,188 @@
+// The slider as data: properties, messages, events, states, methods.
+
+#include "controls/numeric/range_rows.h"
+#include "controls/numeric/slider/ctx_ZorSlider.h"
+
+#include <array>
+
+namespace zor {
+
+using controls::RangeRows;
+using core::Access;
+using core::computedRow;
+using core::event;
+using core::fieldRow;
+using core::ownEvent;
+using core::PropertyRow;
+using core::SharedRows;
+using platform::Notice;
+
+struct ctx_ZorSlider::Rows : RangeRows {
+    using This = ctx_ZorSlider;
+
+    // What is kept and stored is the value in track steps.
+    static constexpr PropertyRow DeviceValue =
+        fieldRow<&This::m_deviceValue>("DeviceValue")
+            .stored(0.0)
+            .then<&This::s_ApplyDeviceValue>()
+            .written<[](This& slider, double value) { slider.DeviceValue(value); }>();
+    static constexpr PropertyRow OutputValue = fieldRow<&This::m_output>("OutputValue")
+                                                   .stored(0.0)
+                                                   .with(Access::Derived)
+                                                   .reading<[](This& slider) { return slider.OutputValue(); }>()
+                                                   .storingField();
+    static constexpr PropertyRow ModifiedValue =
+        computedRow<[](This& slider) { return slider.ModifiedValue(); }>("ModifiedValue")
+            .written<[](This& slider, double value) { slider.ModifiedValue(value); }>();
+    static constexpr PropertyRow OtherUserValue = OtherUser<&This::m_otherUser>;
+    static constexpr PropertyRow ScaleFactor =
+        fieldRow<&This::m_scaleFactor>("ScaleFactor").initially(1).with(Access::Silent);
+
+    static constexpr PropertyRow MaxValue = RangeRows::MaxValue.stored(10.0);
+    static constexpr PropertyRow MaxParamValue = RangeRows::MaxParamValue.stored(10.0);
+    static constexpr PropertyRow EnableValues =
+        fieldRow<&This::m_enableValues>("EnableValues").stored(true).then<&This::s_UpdateUnitLabelVisibility>();
+    static constexpr PropertyRow MinPrefix =
+        fieldRow<&This::m_minPrefix>("MinPrefix").stored("").then<&This::s_ShowPrefixes>();
+    static constexpr PropertyRow MaxPrefix =
+        fieldRow<&This::m_maxPrefix>("MaxPrefix").stored("").then<&This::s_ShowPrefixes>();
+
+    // One setting under two names: it is read as the style and written as the type.
+    static constexpr PropertyRow TickStyle =
+        computedRow<[](This& slider) { return slider.TickStyle(); }>("TickStyle");
+    static constexpr PropertyRow TickType =
+        core::writeOnlyRow<[](This& slider, std::int16_t value) { slider.TickType(value); }>("TickType");
+    static constexpr PropertyRow TickFrequency =
+        computedRow<[](This& slider) { return slider.TickFrequency(); }>("TickFrequency")
+            .written<[](This& slider, double value) { slider.TickFrequency(value); }>();
+    static constexpr PropertyRow GetNumTicks =
+        computedRow<[](This& slider) { return slider.GetNumTicks(); }>("GetNumTicks");
+};
+
+namespace {
+
+/// The four events of a label, whose names begin with the label's own.
+template <auto Change, auto Click, auto DblClick, auto MouseMove>
+constexpr std::array<core::EventRow, 4> labelRows(int label, const std::array<std::string_view, 4>& names)
+{
+    return {event<Change>(names[0], label, Notice::Change), event<Click>(names[1], label, Notice::Click),
+            event<DblClick>(names[2], label, Notice::DblClick),
+            event<MouseMove>(names[3], label, Notice::MouseMove, "Button", "Shift", "X", "Y")};
+}
+
+} // namespace
+
+struct ctx_ZorSlider::Tables {
+    using S = SharedRows;
+    using R = Rows;
+    using E = __ctx_ZorSlider;
+
+    // clang-format off
+    static constexpr std::array kProperties{
+        &S::CFail, &R::MinValue, &R::MaxValue, &R::MinParamValue, &R::MaxParamValue, &R::InvalidValue,
+        &S::DataModified, &S::WaitingForData, &R::UnitType, &R::DeviceValue, &R::OutputValue,
+        &R::DeviceUnitInTenths, &R::OutputUnit, &S::DataChanged, &S::DataNotAvailable, &S::DeviceTypeSupported,
+        &S::DeviceMinVersionSupported, &S::DeviceMaxVersionSupported, &S::DeviceTag, &S::DeviceTagNotFound,
+        &S::DeviceVerNotSupported, &S::DeviceTypeNotSupported, &S::MsgCfail, &S::MsgDataChanged,
+        &S::MsgDataNotAvailable, &R::MsgInvalidValue, &S::MsgDeviceTagNotFound, &S::MsgDefault, &S::IconEnable,
+        &R::UnitEnable, &S::ReadOnly, &R::DefaultUnit, &R::UnitLabelCaption, &S::DeviceType, &S::DeviceVersion,
+        &S::RegisterType, &S::EnableControl, &R::EnableValues, &R::MinPrefix, &R::MaxPrefix,
+        // not stored
+        &S::MessageHeader, &R::ModifiedValue, &R::OtherUserValue, &R::ScaleFactor, &R::TickStyle, &R::TickType,
+        &R::TickFrequency, &R::GetNumTicks};
+    // clang-format on
+    static constexpr auto kOrder = controls::limitsAfterUnit<kProperties>();
+
+    static constexpr std::array kTrackEvents{
+        ownEvent<&E::sliderChange>("sliderChange"),
+        event<&E::sliderClick>("sliderClick", kTrack, Notice::Click),
+        event<&E::sliderGotFocus>("sliderGotFocus", kTrack, Notice::GotFocus),
+        event<&E::sliderKeyDown>("sliderKeyDown", kTrack, Notice::KeyDown, "KeyCode", "Shift"),
+        event<&E::sliderKeyPress>("sliderKeyPress", kTrack, Notice::KeyPress, "KeyAscii"),
+        event<&E::sliderKeyUp>("sliderKeyUp", kTrack, Notice::KeyUp, "KeyCode", "Shift"),
+        event<&E::sliderLostFocus>("sliderLostFocus", kTrack, Notice::LostFocus),
+        event<&E::sliderMouseDown>("sliderMouseDown", kTrack, Notice::MouseDown, "Button", "Shift", "X", "Y"),
+        event<&E::sliderMouseMove>("sliderMouseMove", kTrack, Notice::MouseMove, "Button", "Shift", "X", "Y"),
+        event<&E::sliderMouseUp>("sliderMouseUp", kTrack, Notice::MouseUp, "Button", "Shift", "X", "Y"),
+        event<&E::sliderOLECompleteDrag>("sliderOLECompleteDrag", kTrack, Notice::OLECompleteDrag, "Effect"),
+        event<&E::sliderOLEDragDrop>("sliderOLEDragDrop", kTrack, Notice::OLEDragDrop, "Data", "Effect", "Button",
+                                     "Shift", "X", "Y"),
+        event<&E::sliderOLEDragOver>("sliderOLEDragOver", kTrack, Notice::OLEDragOver, "Data", "Effect", "Button",
+                                     "Shift", "X", "Y", "State"),
+        event<&E::sliderOLEGiveFeedback>("sliderOLEGiveFeedback", kTrack, Notice::OLEGiveFeedback, "Effect",
+                                         "DefaultCursors"),
+        event<&E::sliderOLESetData>("sliderOLESetData", kTrack, Notice::OLESetData, "Data", "DataFormat"),
+        event<&E::sliderOLEStartDrag>("sliderOLEStartDrag", kTrack, Notice::OLEStartDrag, "Data",
+                                      "AllowedEffects"),
+        event<&E::sliderScroll>("sliderScroll", kTrack, Notice::Scroll),
+        event<&E::sliderValidate>("sliderValidate", kTrack, Notice::Validate, "Cancel"),
+    };
+
+    static constexpr auto kEvents = core::joinedEvents(
+        std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue")}, controls::conditionRows<E>(),
+        kTrackEvents,
+        labelRows<&E::LabelMinUnitChange, &E::LabelMinUnitClick, &E::LabelMinUnitDblClick,
+                  &E::LabelMinUnitMouseMove>(kMinUnit, {"LabelMinUnitChange", "LabelMinUnitClick",
+                                                        "LabelMinUnitDblClick", "LabelMinUnitMouseMove"}),
+        labelRows<&E::LabelMaxUnitChange, &E::LabelMaxUnitClick, &E::LabelMaxUnitDblClick,
+                  &E::LabelMaxUnitMouseMove>(kMaxUnit, {"LabelMaxUnitChange", "LabelMaxUnitClick",
+                                                        "LabelMaxUnitDblClick", "LabelMaxUnitMouseMove"}),
+        labelRows<&E::LabelMinValueChange, &E::LabelMinValueClick, &E::LabelMinValueDblClick,
+                  &E::LabelMinValueMouseMove>(kMinValue, {"LabelMinValueChange", "LabelMinValueClick",
+                                                          "LabelMinValueDblClick", "LabelMinValueMouseMove"}),
+        labelRows<&E::LabelMaxValueChange, &E::LabelMaxValueClick, &E::LabelMaxValueDblClick,
+                  &E::LabelMaxValueMouseMove>(kMaxValue, {"LabelMaxValueChange", "LabelMaxValueClick",
+                                                          "LabelMaxValueDblClick", "LabelMaxValueMouseMove"}),
+        labelRows<&E::LabelMinPrefixChange, &E::LabelMinPrefixClick, &E::LabelMinPrefixDblClick,
+                  &E::LabelMinPrefixMouseMove>(kMinPrefix, {"LabelMinPrefixChange", "LabelMinPrefixClick",
+                                                            "LabelMinPrefixDblClick", "LabelMinPrefixMouseMove"}),
+        labelRows<&E::LabelMaxPrefixChange, &E::LabelMaxPrefixClick, &E::LabelMaxPrefixDblClick,
+                  &E::LabelMaxPrefixMouseMove>(kMaxPrefix, {"LabelMaxPrefixChange", "LabelMaxPrefixClick",
+                                                            "LabelMaxPrefixDblClick", "LabelMaxPrefixMouseMove"}),
+        controls::iconRows<E>(Number::kState));
+
+    static constexpr auto kStates = R::kStates<&ctx_ZorSlider::m_otherUser, &ctx_ZorSlider::m_reference>;
+
+    static constexpr std::array kMethods{core::kGetMaxMessage, core::kGetMessageID, core::kSetMessage,
+                                         core::kChangeBackColor, R::GetCaptionID};
+
+    static constexpr std::array kWidgets{core::WidgetRow{platform::kSurfaceWidget, "Surface"},
+                                         core::WidgetRow{kTrack, "sld_Slider"},
+                                         core::WidgetRow{Number::kState, "img_State"},
+                                         core::WidgetRow{kMinPrefix, "lbl_MinPrefix"},
+                                         core::WidgetRow{kMinValue, "lbl_MinValue"},
+                                         core::WidgetRow{kMinUnit, "lbl_MinUnit"},
+                                         core::WidgetRow{kMaxPrefix, "lbl_MaxPrefix"},
+                                         core::WidgetRow{kMaxValue, "lbl_MaxValue"},
+                                         core::WidgetRow{kMaxUnit, "lbl_MaxUnit"}};
+};
+
+const core::ClassInfo& ctx_ZorSlider::classInfo() noexcept
+{
+    using T = Tables;
+    static constexpr core::ClassInfo info{
+        .name = "ctx_ZorSlider",
+        .properties = T::kProperties,
+        .readOrder = T::kOrder,
+        .initialOrder = T::kOrder,
+        .messages = Rows::kMessages,
+        .events = T::kEvents,
+        .methods = T::kMethods,
+        .states = T::kStates,
+        .widgets = T::kWidgets,
+        .keepsFailedWrites = true,
+        .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }};
+    return info;
+}
+
+// --- Accessors
+
+void ctx_ZorSlider::ScaleFactor(std::int32_t value) { write(Rows::ScaleFactor, value); }
+void ctx_ZorSlider::DeviceValue(double value) { write(Rows::DeviceValue, scaled(value)); }
+void ctx_ZorSlider::OutputValue(double value) { write(Rows::OutputValue, value); }
+void ctx_ZorSlider::OtherUserValue(double value) { write(Rows::OtherUserValue, value); }
+void ctx_ZorSlider::EnableValues(bool value) { write(Rows::EnableValues, value); }
+void ctx_ZorSlider::MinPrefix(std::string_view value) { write(Rows::MinPrefix, std::string(value)); }
+void ctx_ZorSlider::MaxPrefix(std::string_view value) { write(Rows::MaxPrefix, std::string(value)); }
+
+} // namespace zor
