@@ -240,6 +240,15 @@ protected:
     /// Re-raises a widget's report as the event that the class's table names, if it names one.
     void forward(int widget, platform::Notice notice, platform::EventArgs args);
 
+    /// @name Values that overtake each other
+    /// A widget reports while a value is on its way into it, and a handler may write the next one there and then.
+    /// What was under way must not be laid over the newer value.
+    /// @{
+    std::uint32_t newTurn() noexcept { return ++m_turn; }
+    [[nodiscard]] std::uint32_t turn() const noexcept { return m_turn; }
+    [[nodiscard]] bool isOvertaken(std::uint32_t turn) const noexcept { return turn != m_turn; }
+    /// @}
+
     void addTypedSink(void* sink) { m_sinks.add({nullptr, sink}); }
     void removeTypedSink(void* sink) noexcept { m_sinks.remove({nullptr, sink}); }
 
@@ -269,6 +278,7 @@ private:
     std::uint32_t m_holds = 0;
     std::uint32_t m_runs = 0;
     std::uint32_t m_settings = 0;
+    std::uint32_t m_turn = 0;
     bool m_ended = false;
 };
 

@@ -71,15 +71,6 @@ protected:
     /// Sets OutputValue and tells the host.
     void assignOutput(std::int32_t value);
 
-    /// @name Values that overtake each other
-    /// The face reports while a value is on its way into it, and a handler may write the next one there and
-    /// then. What was under way must not be laid over the newer value.
-    /// @{
-    std::uint32_t newTurn() noexcept { return ++m_turn; }
-    [[nodiscard]] std::uint32_t turn() const noexcept { return m_turn; }
-    [[nodiscard]] bool isOvertaken(std::uint32_t turn) const noexcept { return turn != m_turn; }
-    /// @}
-
     std::int32_t m_deviceValue = 0;
     std::int32_t m_outputValue = 0;
 
@@ -93,7 +84,6 @@ private:
     platform::FontWidget* m_face = nullptr;
     std::array<platform::Widget*, 1> m_body{};
     std::size_t m_outputValueChange;
-    std::uint32_t m_turn = 0;
     UndoAt m_undoAt;
     /// Until the colours are first worked out, nobody may work the control.
     bool m_inputLocked = true;

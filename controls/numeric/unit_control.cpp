@@ -79,10 +79,17 @@ void UnitControl::judge(bool differs)
         raise(kDataModifiedSetTrue);
 }
 
-void UnitControl::offerUndo(const platform::Widget& widget, platform::EventArgs mouse)
+void UnitControl::onNotice(int number, platform::Notice notice, platform::EventArgs args)
 {
-    if (!isInputLocked() && m_status.enableControl)
-        m_undo.offer(surface(), widget, mouse);
+    using platform::Notice;
+    const bool opensMenu = notice == Notice::MouseUp && (number == platform::kSurfaceWidget || isLabel(number));
+    if (number == core::kUndoEdit)
+        undoEdit();
+    else if (notice == Notice::Click && widget(number) == &icon())
+        s_ExplainState();
+    else if (opensMenu && !isInputLocked() && m_status.enableControl)
+        m_undo.offer(surface(), *widget(number), args);
+    forward(number, notice, args);
 }
 
 // --- Loading

@@ -100,13 +100,16 @@ protected:
     void s_AfterLoading() override;
     [[nodiscard]] std::string accessibleDetail() const override { return m_unitLabelCaption; }
 
+    /// The state icon's click, the menu, and where the menu opens; then the event of the class's table.
+    void onNotice(int widget, platform::Notice notice, platform::EventArgs args) override;
+    virtual void undoEdit() = 0;
+    [[nodiscard]] virtual bool isLabel(int widget) const noexcept = 0;
+
     [[nodiscard]] bool showsUnit() const noexcept { return m_unitEnable && m_units.outputUnit != NoneU; }
     /// Whether what the operator does to the value is undone instead of taken.
     [[nodiscard]] bool isInputLocked() const noexcept { return m_status.cFail || isReadOnlyForOperator(); }
     /// Whether the shown value differs from the device's; raises DataModifiedSetTrue each time it does.
     void judge(bool differs);
-    /// Offers the undo where the right mouse button was released, if there may be something to undo.
-    void offerUndo(const platform::Widget& widget, platform::EventArgs mouse);
 
     UnitBinding m_units;
     std::string m_unitLabelCaption;

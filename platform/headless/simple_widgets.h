@@ -8,6 +8,7 @@
 #include "platform/whole_range.h"
 
 #include <algorithm>
+#include <exception>
 
 namespace zor::platform::headless {
 
@@ -119,9 +120,18 @@ public:
     void setBuddy(TextField& field) override { dynamic_cast<HeadlessTextField&>(field).setStepper(*this); }
     void step(bool up) override
     {
-        if (m_range.step(up))
-            report(Notice::Change);
+        // One action, two reports: what a handler throws out of the first does not cut off the second, as it does
+        // not where an event loop stands in between.
+        std::exception_ptr error;
+        try {
+            if (m_range.step(up))
+                report(Notice::Change);
+        } catch (...) {
+            error = std::current_exception();
+        }
         report(up ? Notice::SpinUp : Notice::SpinDown);
+        if (error)
+            std::rethrow_exception(error);
     }
 };
 

@@ -123,6 +123,17 @@ public:
         widget().onMenuKey = [this](QPoint at) { menuKey(at); };
     }
 
+    /// Where the form's layout has put the control, if it has.
+    [[nodiscard]] Rect geometry() const override
+    {
+        Rect placed = m_geometry;
+        if (const QPoint at = widget().pos(); at != toPixels(placed).topLeft()) {
+            placed.left = at.x() * kTwipsPerPixel;
+            placed.top = at.y() * kTwipsPerPixel;
+        }
+        return placed;
+    }
+
     // Twips that the host gave stay as they are; only a size that comes from the form's layout is counted
     // from pixels.
     void setGeometry(const Rect& geometry) override

@@ -8,13 +8,12 @@
 
 #include <QSlider>
 #include <QSpinBox>
-#include <QStyle>
+#include <QStyleOptionSlider>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include <algorithm>
-#include <limits>
 
 namespace zor::platform::qt {
 
@@ -88,7 +87,8 @@ private:
     WholeRange m_range;
 };
 
-/// A slider that the wheel moves only where it has the focus.
+/// A slider that the wheel moves only where it has the focus, and that draws its ticks itself: a style draws them
+/// one by one, however many thousand million there are, and in a dark theme hardly visible.
 class QuietSlider : public QSlider {
 public:
     explicit QuietSlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {}
@@ -101,6 +101,10 @@ protected:
         else
             event->ignore();
     }
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void drawTicks(QPainter& painter, const QStyleOptionSlider& option) const;
 };
 
 class QtTrack final : public QtBase<Track, QuietSlider> {
@@ -109,6 +113,7 @@ public:
     {
         widget().setFocusPolicy(Qt::StrongFocus);
         widget().setTickPosition(QSlider::TicksBelow);
+        widget().setTickInterval(1);
         applyEnds();
         setGeometry({0, 0, 285, 510});
         QObject::connect(&widget(), &QSlider::sliderMoved, &widget(), [this] {
@@ -118,11 +123,6 @@ public:
         QObject::connect(&widget(), &QSlider::valueChanged, &widget(), [this] { report(Notice::Change); });
     }
 
-    void setGeometry(const Rect& geometry) override
-    {
-        QtBase::setGeometry(geometry);
-        applyTicks();
-    }
     [[nodiscard]] std::int32_t value() const override { return widget().value(); }
     void setValue(std::int32_t value) override
     {
@@ -151,13 +151,9 @@ public:
         if (style >= 0 && style < static_cast<std::int16_t>(kPositions.size()))
             widget().setTickPosition(kPositions[static_cast<std::size_t>(style)]);
     }
-    [[nodiscard]] std::int32_t tickFrequency() const override { return m_tickFrequency; }
-    void setTickFrequency(std::int32_t frequency) override
-    {
-        m_tickFrequency = std::max(frequency, 1);
-        applyTicks();
-    }
-    [[nodiscard]] std::int32_t tickCount() const override { return platform::tickCount(m_ends, m_tickFrequency); }
+    [[nodiscard]] std::int32_t tickFrequency() const override { return widget().tickInterval(); }
+    void setTickFrequency(std::int32_t frequency) override { widget().setTickInterval(std::max(frequency, 1)); }
+    [[nodiscard]] std::int32_t tickCount() const override { return platform::tickCount(m_ends, tickFrequency()); }
     [[nodiscard]] bool hasFocus() const override { return focusReported; }
 
 private:
@@ -167,22 +163,9 @@ private:
         widget().setRange(m_ends.minimum, std::max(m_ends.minimum, m_ends.maximum));
         widget().setSingleStep(1);
         widget().setPageStep(pageStep(m_ends));
-        applyTicks();
-    }
-    /// Ticks closer than the eye can tell apart are left out, an equal number between any two that are drawn: a
-    /// style draws them one by one, and a track may have two thousand million.
-    void applyTicks()
-    {
-        constexpr int kClosest = 3;
-        const std::int64_t room = std::max(widget().width() / kClosest, 1);
-        const std::int64_t every = (tickCount() + room - 1) / room;
-        const std::int64_t interval = std::max<std::int64_t>(every, 1) * m_tickFrequency;
-        widget().setTickInterval(
-            static_cast<int>(std::min<std::int64_t>(interval, std::numeric_limits<int>::max())));
     }
 
     WholeRange m_ends;
-    std::int32_t m_tickFrequency = 1;
     std::int16_t m_tickStyle = 0;
     bool m_setting = false;
 };

@@ -40,9 +40,12 @@ double finite(double value)
 
 void ctx_ZorSlider::s_ApplyDeviceValue()
 {
+    const std::uint32_t turn = newTurn();
     testValue(m_deviceValue);
     m_reference = m_units.toOutput(m_deviceValue);
     moveTo(m_reference);
+    if (isOvertaken(turn))
+        return;
     assignOutput(m_deviceValue);
     m_status.dataModified = false;
     s_UpdateStatusDisplay();
@@ -51,8 +54,11 @@ void ctx_ZorSlider::s_ApplyDeviceValue()
 void ctx_ZorSlider::ModifiedValue(double value)
 {
     run([&] {
+        const std::uint32_t turn = newTurn();
         testValue(value);
         moveTo(m_units.toOutput(value));
+        if (isOvertaken(turn))
+            return;
         assignOutput(value);
         s_UpdateStatusDisplay();
     });
@@ -83,8 +89,11 @@ void ctx_ZorSlider::assignOutput(double value)
 
 void ctx_ZorSlider::s_TrackMoved()
 {
+    const std::uint32_t turn = this->turn();
     const std::int32_t position = m_track->value();
     judge(position != roundToInt32(m_reference));
+    if (isOvertaken(turn))
+        return;
     assignOutput(m_units.toDevice(position));
     raise(kShownChange);
 }
@@ -116,15 +125,7 @@ void ctx_ZorSlider::onNotice(int widget, Notice notice, platform::EventArgs args
             putBack();
         return;
     }
-    if (widget == kState && notice == Notice::Click)
-        s_ExplainState();
-    else if (widget == core::kUndoEdit)
-        undoEdit();
-    else if (notice == Notice::MouseUp && widget == platform::kSurfaceWidget)
-        offerUndo(surface(), args);
-    else if (notice == Notice::MouseUp && widget >= kMinPrefix)
-        offerUndo(label(static_cast<Number>(widget)), args);
-    forward(widget, notice, args);
+    UnitControl::onNotice(widget, notice, args);
 }
 
 // --- Units and limits

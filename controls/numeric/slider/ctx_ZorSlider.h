@@ -108,11 +108,15 @@ private:
     template <class Set>
     void setEnds(Set&& set);
     void putBack();
-    void undoEdit();
+    void undoEdit() override;
     void assignOutput(double value);
     [[nodiscard]] double scaled(double value) const;
     [[nodiscard]] double unscaled(double value) const;
     void onNotice(int widget, platform::Notice notice, platform::EventArgs args) override;
+    [[nodiscard]] bool isLabel(int widget) const noexcept override
+    {
+        return widget >= kMinPrefix && widget <= kMaxUnit;
+    }
 
     // Display
     void s_UpdateColors() override {}

@@ -8,6 +8,7 @@ using platform::Alignment;
 
 void ctx_ZorTextBox::s_ApplyDeviceValue()
 {
+    const std::uint32_t turn = newTurn();
     const std::optional<double> number = isNumeric() ? validNumber(m_deviceValue) : std::nullopt;
     if (number) {
         m_displayValue = fc_FormatValue(m_units.toOutput(*number), m_units.outputUnit, m_numberOfDigits);
@@ -18,12 +19,16 @@ void ctx_ZorTextBox::s_ApplyDeviceValue()
         } else {
             show(m_displayValue);
         }
+        if (isOvertaken(turn))
+            return;
         // A unit without a display pattern shows nothing: then there is nothing to hand back either.
         if (showsDisplayValue() || m_field.number())
             assignOutput(m_deviceValue);
     } else {
         m_displayValue = m_deviceValue;
         show(m_displayValue);
+        if (isOvertaken(turn))
+            return;
         assignOutput(m_deviceValue);
     }
     m_status.dataModified = false;
@@ -63,14 +68,13 @@ void ctx_ZorTextBox::ModifiedValue(const Variant& value)
 {
     core::requireFinite(value);
     run([&] {
-        if (const std::optional<double> number = validNumber(value)) {
-            show(m_units.toOutput(*number));
-            if (m_field.number())
-                assignOutput(value);
-        } else {
-            show(value);
+        const std::uint32_t turn = newTurn();
+        const std::optional<double> number = validNumber(value);
+        show(number ? Variant(m_units.toOutput(*number)) : value);
+        if (isOvertaken(turn))
+            return;
+        if (!number || m_field.number())
             assignOutput(value);
-        }
         s_UpdateColors();
         s_UpdateStatusDisplay();
     });

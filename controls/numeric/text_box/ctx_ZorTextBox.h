@@ -137,7 +137,6 @@ private:
     void validateEntry(bool reformat);
     void assignEntry();
     void setInvalidEntry();
-    void undoEdit();
     [[nodiscard]] std::string rangeText() const;
     void appendDisplayValue(std::string& text) const;
 
@@ -152,6 +151,11 @@ private:
     [[nodiscard]] std::span<platform::Widget* const> body() noexcept override { return m_body; }
     [[nodiscard]] platform::Image& icon() noexcept override { return m_field.icon(); }
     void onNotice(int widget, platform::Notice notice, platform::EventArgs args) override;
+    void undoEdit() override;
+    [[nodiscard]] bool isLabel(int widget) const noexcept override
+    {
+        return widget == controls::EntryField::kUnits;
+    }
 
     controls::EntryField m_field;
     std::array<platform::Widget*, 2> m_body;

@@ -16,15 +16,7 @@ void ctx_ZorTextBox::onNotice(int widget, Notice notice, platform::EventArgs arg
     m_field.followFocus(widget, notice);
     if (widget == EntryField::kText && notice == Notice::LostFocus)
         s_CommitEntry(true);
-    else if (widget == EntryField::kState && notice == Notice::Click)
-        s_ExplainState();
-    else if (widget == core::kUndoEdit)
-        undoEdit();
-    else if (notice == Notice::MouseUp && widget == platform::kSurfaceWidget)
-        offerUndo(surface(), args);
-    else if (notice == Notice::MouseUp && widget == EntryField::kUnits)
-        offerUndo(m_field.units(), args);
-    forward(widget, notice, args);
+    UnitControl::onNotice(widget, notice, args);
 }
 
 void ctx_ZorTextBox::onTextChanged()

@@ -15,10 +15,13 @@ using platform::Notice;
 
 void ctx_ZorUpDown::s_ApplyDeviceValue()
 {
+    const std::uint32_t turn = newTurn();
     testValue(m_deviceValue);
     m_reference = roundToInt32(m_units.toOutput(m_deviceValue));
     showNumber(m_reference);
     spinToNumber(m_reference);
+    if (isOvertaken(turn))
+        return;
     assignOutput(m_deviceValue);
     m_status.dataModified = false;
     s_UpdateColors();
@@ -28,10 +31,13 @@ void ctx_ZorUpDown::s_ApplyDeviceValue()
 void ctx_ZorUpDown::ModifiedValue(std::int32_t value)
 {
     run([&] {
+        const std::uint32_t turn = newTurn();
         testValue(value);
         showText(platform::doubleToText(m_units.toOutput(value)));
         if (const std::optional<double> number = m_field.number()) {
             spinToNumber(*number);
+            if (isOvertaken(turn))
+                return;
             assignOutput(value);
         }
         s_UpdateColors();
@@ -75,13 +81,13 @@ void ctx_ZorUpDown::s_OutputUnitChanged()
     if (const std::optional<double> number = m_field.number()) {
         m_reference = roundToInt32(m_units.reExpress(m_reference));
         m_otherUser = roundToInt32(m_units.reExpress(m_otherUser));
-        const double shown = m_units.reExpress(*number);
-        showText(platform::doubleToText(shown));
+        showText(platform::doubleToText(m_units.reExpress(*number)));
         m_units.minParam = m_units.reExpress(m_units.minParam);
         m_units.maxParam = m_units.reExpress(m_units.maxParam);
         // The new limits first: the old ones would hold back the same value in the new unit.
         spinLimits(roundToInt32(m_units.minParam), roundToInt32(m_units.maxParam));
-        spinTo(roundToInt32(shown));
+        if (const std::optional<double> shown = m_field.number())
+            spinTo(roundToInt32(*shown));
     }
     m_units.previousOutputUnit = m_units.outputUnit;
 }
@@ -103,7 +109,7 @@ void ctx_ZorUpDown::s_UpdateMaxParamValue()
 void ctx_ZorUpDown::spinTo(std::int32_t value)
 {
     m_spin->setValue(value);
-    m_spinValue = m_spin->value();
+    settleSpin();
 }
 
 void ctx_ZorUpDown::spinToNumber(double number)
@@ -120,21 +126,32 @@ void ctx_ZorUpDown::spinLimits(std::int32_t minimum, std::int32_t maximum)
 {
     m_spin->setMinimum(minimum);
     m_spin->setMaximum(maximum);
+    settleSpin();
+}
+
+void ctx_ZorUpDown::settleSpin()
+{
     m_spinValue = m_spin->value();
+    m_stepOvertaken = false;
 }
 
 void ctx_ZorUpDown::onSpin()
 {
-    if (isInputLocked()) {
+    if (isInputLocked() || m_stepOvertaken) {
         // The step is undone without a word: the host has not seen a value change.
         m_spinningBack = true;
         spinTo(m_spinValue);
         m_spinningBack = false;
         return;
     }
-    m_spinValue = m_spin->value();
+    const std::uint32_t turn = this->turn();
+    settleSpin();
     showNumber(m_spinValue);
+    if (isOvertaken(turn))
+        return;
     assignEntry(m_spinValue);
+    if (isOvertaken(turn))
+        return;
     judge(m_spinValue != m_reference);
     s_UpdateColors();
 }
@@ -145,22 +162,19 @@ void ctx_ZorUpDown::onNotice(int widget, Notice notice, platform::EventArgs args
 {
     if (widget == EntryField::kText && notice == Notice::Change)
         return onTextChanged();
-    if (widget == kSpin && notice == Notice::Change && m_spinningBack)
+    if (widget == kSpin && notice == Notice::Change) {
+        const std::uint32_t turn = this->turn();
+        if (!m_spinningBack)
+            forward(widget, notice, args);
+        m_stepOvertaken = isOvertaken(turn);
         return;
+    }
     m_field.followFocus(widget, notice);
     if (widget == EntryField::kText && notice == Notice::LostFocus)
         s_CommitEntry();
     else if (widget == kSpin && (notice == Notice::SpinUp || notice == Notice::SpinDown))
         onSpin();
-    else if (widget == EntryField::kState && notice == Notice::Click)
-        s_ExplainState();
-    else if (widget == core::kUndoEdit)
-        undoEdit();
-    else if (notice == Notice::MouseUp && widget == platform::kSurfaceWidget)
-        offerUndo(surface(), args);
-    else if (notice == Notice::MouseUp && widget == EntryField::kUnits)
-        offerUndo(m_field.units(), args);
-    forward(widget, notice, args);
+    UnitControl::onNotice(widget, notice, args);
 }
 
 void ctx_ZorUpDown::onTextChanged()
@@ -179,13 +193,14 @@ void ctx_ZorUpDown::s_CommitEntry()
     // A device value counts as an edit, too; but to a read-only parameter nobody hands anything back.
     if (!m_editPending || isReadOnlyForOperator())
         return;
+    const std::uint32_t turn = this->turn();
     if (const std::optional<double> number = m_field.number()) {
+        const bool isBeyond = *number > m_spin->maximum() || *number < m_spin->minimum();
         spinToNumber(*number);
-        if (*number > m_spin->maximum() || *number < m_spin->minimum())
+        if (isBeyond && !isOvertaken(turn))
             showNumber(m_spin->value());
-        // The text again: a handler may have changed it meanwhile.
-        if (const std::optional<double> entry = m_field.number())
-            assignEntry(*entry);
+        if (!isOvertaken(turn))
+            assignEntry(isBeyond ? m_spin->value() : *number);
     } else {
         showNumber(m_spin->value());
     }

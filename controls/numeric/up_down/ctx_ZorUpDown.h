@@ -94,13 +94,18 @@ private:
     void spinTo(std::int32_t value);
     void spinToNumber(double number);
     void spinLimits(std::int32_t minimum, std::int32_t maximum);
+    void settleSpin();
     void onSpin();
 
     // Editing
     void onTextChanged();
     void s_CommitEntry();
-    void undoEdit();
+    void undoEdit() override;
     void onNotice(int widget, platform::Notice notice, platform::EventArgs args) override;
+    [[nodiscard]] bool isLabel(int widget) const noexcept override
+    {
+        return widget == controls::EntryField::kUnits;
+    }
 
     // Display
     void s_UpdateColors() override;
@@ -126,6 +131,8 @@ private:
     std::int16_t m_numberOfDigits = 3;
     bool m_editPending = false;
     bool m_spinningBack = false;
+    /// The host wrote a new value between the step of the button and its click.
+    bool m_stepOvertaken = false;
 };
 
 } // namespace zor
