@@ -1,7 +1,5 @@
 #include "core/class_info.h"
 
-#include "platform/error.h"
-
 #include <algorithm>
 
 namespace zor::core {
@@ -22,19 +20,6 @@ const EventRow* ClassInfo::event(std::string_view wanted) const noexcept
 {
     const auto at = std::ranges::find(events, wanted, &EventRow::name);
     return at == events.end() ? nullptr : &*at;
-}
-
-void ClassRegistry::add(const ClassInfo& info)
-{
-    if (find(info.name) != nullptr)
-        raiseError(ErrorNumber::InvalidCall);
-    m_classes.push_back(&info);
-}
-
-const ClassInfo* ClassRegistry::find(std::string_view name) const noexcept
-{
-    const auto at = std::ranges::find(m_classes, name, [](const ClassInfo* info) { return info->name; });
-    return at == m_classes.end() ? nullptr : *at;
 }
 
 } // namespace zor::core

@@ -6,7 +6,9 @@
 #include "core/method_row.h"
 #include "core/property_row.h"
 #include "platform/container.h"
+#include "platform/error.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -90,17 +92,32 @@ struct ClassInfo {
     [[nodiscard]] const EventRow* event(std::string_view event) const noexcept;
 };
 
-/// The classes a program offers, by name.
-class ClassRegistry {
+/// What a program offers of one kind, by name.
+template <class Info>
+class Registry {
 public:
-    /// The class information must live as long as the registry; a second class of the same name raises
-    /// InvalidCall.
-    void add(const ClassInfo& info);
-    [[nodiscard]] const ClassInfo* find(std::string_view name) const noexcept;
-    [[nodiscard]] std::span<const ClassInfo* const> classes() const noexcept { return m_classes; }
+    /// The information must live as long as the registry; a second one of the same name raises InvalidCall.
+    void add(const Info& info)
+    {
+        if (find(info.name) != nullptr)
+            raiseError(ErrorNumber::InvalidCall);
+        m_rows.push_back(&info);
+    }
+    [[nodiscard]] const Info* find(std::string_view name) const noexcept
+    {
+        const auto at = std::ranges::find(m_rows, name, &Info::name);
+        return at == m_rows.end() ? nullptr : *at;
+    }
+    [[nodiscard]] std::span<const Info* const> rows() const noexcept { return m_rows; }
 
 private:
-    std::vector<const ClassInfo*> m_classes;
+    std::vector<const Info*> m_rows;
+};
+
+/// The classes of controls that a program offers.
+class ClassRegistry : public Registry<ClassInfo> {
+public:
+    [[nodiscard]] std::span<const ClassInfo* const> classes() const noexcept { return rows(); }
 };
 
 } // namespace zor::core

@@ -10,6 +10,10 @@ namespace zor::core {
 
 void ControlDeleter::operator()(Control* control) const noexcept
 {
+    control->m_sinks.each([control](const SinkList::Entry& entry) {
+        if (entry.generic != nullptr)
+            entry.generic->ended(*control);
+    });
     if (control->m_holds == 0)
         delete control;
     else

@@ -37,6 +37,9 @@ struct EventRow {
 class EventSink {
 public:
     virtual void event(Control& control, const EventRow& row, platform::EventArgs args) = 0;
+    /// The control has been destroyed by its owner; it is not to be used any more. A listener that outlives the
+    /// controls it listens to takes itself away here.
+    virtual void ended(Control& /*control*/) noexcept {}
 
 protected:
     ~EventSink() = default;

@@ -121,7 +121,11 @@ void act(Session& session, core::Control& control, std::string_view widgetName, 
 {
     if (widgetName == kMenuName && control.menu() != nullptr)
         return actOnMenu(session, *control.menu(), arguments);
-    Widget& widget = widgetNamed(control, widgetName);
+    act(session, widgetNamed(control, widgetName), arguments);
+}
+
+void act(Session& session, Widget& widget, Arguments arguments)
+{
     const auto row = std::ranges::find_if(kActions, [&](const ActionRow& candidate) {
         return candidate.name == arguments[0] && candidate.fits(widget);
     });

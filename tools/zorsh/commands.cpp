@@ -186,6 +186,8 @@ void boxes(Session& session, const Call&)
 
 void operate(Session& session, const Call& call)
 {
+    if (const auto [page, widget] = resolvePage(session, call[0]); page != nullptr)
+        return act(session, widgetNamed(*page, widget), call.words.subspan(1));
     const auto [object, widget] = resolve(session, call[0]);
     act(session, *object.control, widget, call.words.subspan(1));
 }
@@ -195,6 +197,36 @@ void menu(Session& session, const Call&)
     const platform::PopupMenu* open = session.stage().openMenu();
     session.print(std::string(open == nullptr ? "none" : kMenuName));
 }
+
+// --- Property pages
+
+std::vector<core::Control*> controlsNamed(Session& session, std::span<const std::string_view> names)
+{
+    std::vector<core::Control*> controls;
+    for (const std::string_view name : names)
+        controls.push_back(&session.control(name));
+    return controls;
+}
+
+pages::Page& pageNamed(Session& session, std::string_view name)
+{
+    pages::Page* page = session.page(name);
+    if (page == nullptr)
+        raiseError(ErrorNumber::ObjectRequired);
+    return *page;
+}
+
+void openPage(Session& session, const Call& call)
+{
+    session.openPage(call[0], call[1], controlsNamed(session, call.words.subspan(2)));
+}
+
+void select(Session& session, const Call& call)
+{
+    pageNamed(session, call[0]).select(controlsNamed(session, call.words.subspan(1)));
+}
+
+void apply(Session& session, const Call& call) { pageNamed(session, call[0]).apply(); }
 
 // --- Help
 
@@ -226,7 +258,7 @@ constexpr std::array kCommands{
             restore},
     Command{"clone", "clone NAME NEWNAME", "stores a control and restores another from it", 2, 2, clone},
     Command{"bag", "bag NAME", "prints what a control stores", 1, 1, printBag},
-    Command{"destroy", "destroy NAME", "destroys a control", 1, 1, destroy},
+    Command{"destroy", "destroy NAME", "destroys a control, or closes a page", 1, 1, destroy},
     Command{"size", "size NAME WIDTH HEIGHT", "the container resizes a control (twips)", 3, 3, resize},
     Command{"put", "put NAME.PROPERTY VALUE", "the host writes a property", 2, 2, put},
     Command{"get", "get NAME.PROPERTY or NAME.WIDGET.ASPECT", "prints a property, or what the operator sees", 1, 1,
@@ -249,6 +281,10 @@ constexpr std::array kCommands{
             openForm},
     Command{"save", "save FILE",
             "writes the form that was opened last, or a new one, with the controls as they are", 1, 1, saveForm},
+    Command{"page", "page CLASS NAME CONTROL ...",
+            "opens a property page on the selected controls, first one first", 3, kAny, openPage},
+    Command{"select", "select NAME CONTROL ...", "the frame tells a page of a new selection", 2, kAny, select},
+    Command{"apply", "apply NAME", "Apply: the page writes into the first selected control", 1, 1, apply},
     Command{"list", "list", "the controls on the form, oldest first", 0, 0, list},
     Command{"describe", "describe CLASS", "a class's properties, methods, events, messages and widgets", 1, 1,
             describeClass},

@@ -52,9 +52,10 @@ struct Reading {
 /// What the operator sees of a widget. Raises NoSuchMember for an aspect the widget has not.
 [[nodiscard]] Reading aspect(const platform::Widget& widget, std::string_view name);
 
-/// The operator acts on a widget or a menu; prints a refusal.
+/// The operator acts on a control's widget or its menu, or on any widget; prints a refusal.
 void act(Session& session, core::Control& control, std::string_view widget,
          std::span<const std::string_view> arguments);
+void act(Session& session, platform::Widget& widget, std::span<const std::string_view> arguments);
 
 /// Gives a control its place on the form, as its container does.
 void place(core::Control& control, const platform::Rect& area);
@@ -72,8 +73,13 @@ void describe(Session& session, const core::ClassInfo& info);
 /// there is nothing behind it.
 [[nodiscard]] std::pair<Session::Object&, std::string_view> resolve(Session& session, std::string_view path);
 
-/// The widget of a control by name. Raises ObjectRequired.
+/// The widget of a control or a page by name. Raises ObjectRequired.
 [[nodiscard]] platform::Widget& widgetNamed(core::Control& control, std::string_view name);
+[[nodiscard]] platform::Widget& widgetNamed(pages::Page& page, std::string_view name);
+
+/// The page in front of the first point of a path and what stands behind it; nullptr when no page goes by the
+/// name. Raises InvalidCall when there is nothing behind it.
+[[nodiscard]] std::pair<pages::Page*, std::string_view> resolvePage(Session& session, std::string_view path);
 
 /// The name by which a control's pop-up menu goes.
 inline constexpr std::string_view kMenuName = "mnu_Edit";

@@ -1,4 +1,5 @@
 #include "platform/headless/operator.h"
+#include "platform/headless/page_frame.h"
 #include "tools/zorsh/stage.h"
 
 namespace zor::console {
@@ -18,6 +19,10 @@ public:
     platform::Operator& hands() override { return m_operator; }
     platform::PopupMenu* openMenu() override { return m_container.openMenu(); }
     void setUserMode(bool userMode) override { m_container.setUserMode(userMode); }
+    std::unique_ptr<platform::PageFrame> createPageFrame() override
+    {
+        return std::make_unique<platform::headless::HeadlessPageFrame>(m_container);
+    }
 
 private:
     platform::headless::HeadlessContainer m_container;

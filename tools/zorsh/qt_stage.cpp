@@ -3,6 +3,7 @@
 #include "core/frm_Container.h"
 #include "platform/qt/container.h"
 #include "platform/qt/operator.h"
+#include "platform/qt/page_dialog.h"
 
 #include <QApplication>
 #include <QWidget>
@@ -38,6 +39,12 @@ public:
     platform::Operator& hands() override { return m_operator; }
     platform::PopupMenu* openMenu() override { return m_container.openMenu(); }
     void setUserMode(bool userMode) override { m_container.setUserMode(userMode); }
+    std::unique_ptr<platform::PageFrame> createPageFrame() override
+    {
+        auto frame = std::make_unique<platform::qt::PageDialog>(&m_form);
+        frame->show();
+        return frame;
+    }
     void settle() override
     {
         QCoreApplication::processEvents();

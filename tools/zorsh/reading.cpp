@@ -36,8 +36,39 @@ platform::Widget& widgetNamed(core::Control& control, std::string_view name)
     return *widget;
 }
 
+platform::Widget& widgetNamed(pages::Page& page, std::string_view name)
+{
+    platform::Widget* widget = page.widget(name);
+    if (widget == nullptr)
+        raiseError(ErrorNumber::ObjectRequired);
+    return *widget;
+}
+
+std::pair<pages::Page*, std::string_view> resolvePage(Session& session, std::string_view path)
+{
+    const auto point = path.find('.');
+    pages::Page* page = session.page(path.substr(0, point));
+    if (page == nullptr)
+        return {nullptr, {}};
+    if (point == std::string_view::npos || point + 1 == path.size())
+        raiseError(ErrorNumber::InvalidCall);
+    return {page, path.substr(point + 1)};
+}
+
+static Reading readPage(pages::Page& page, std::string_view member)
+{
+    const auto point = member.find('.');
+    if (point != std::string_view::npos)
+        return aspect(widgetNamed(page, member.substr(0, point)), member.substr(point + 1));
+    if (member != "Changed")
+        raiseError(ErrorNumber::NoSuchMember);
+    return {page.isChanged()};
+}
+
 Reading read(Session& session, std::string_view path)
 {
+    if (const auto [page, member] = resolvePage(session, path); page != nullptr)
+        return readPage(*page, member);
     const auto [object, member] = resolve(session, path);
     const auto point = member.find('.');
     if (point == std::string_view::npos)

@@ -1,6 +1,7 @@
 #include "tools/zorsh/session.h"
 
 #include "controls/registration.h"
+#include "pages/registration.h"
 #include "platform/error.h"
 #include "tools/zorsh/commands.h"
 #include "tools/zorsh/notation.h"
@@ -36,6 +37,7 @@ bool isName(std::string_view text)
 Session::Session(std::unique_ptr<Stage> stage) : m_stage(std::move(stage))
 {
     registerControls(m_registry);
+    registerPages(m_pageRegistry);
     m_stage->onPropertyChanged = [this](platform::Component& component, std::string_view name) {
         if (const auto at = m_recorders.find(&component); at != m_recorders.end())
             at->second->notices.add(std::string(name));
@@ -48,6 +50,7 @@ Session::Session(std::unique_ptr<Stage> stage) : m_stage(std::move(stage))
 
 Session::~Session()
 {
+    m_pages.clear();
     while (!m_objects.empty())
         destroy(std::string(m_objects.begin()->first));
     m_stage->settle();
@@ -135,7 +138,10 @@ const core::ClassInfo& Session::classNamed(std::string_view name) const
     return *info;
 }
 
-bool Session::isFree(std::string_view name) const { return isName(name) && !m_objects.contains(name); }
+bool Session::isFree(std::string_view name) const
+{
+    return isName(name) && !m_objects.contains(name) && !m_pages.contains(name);
+}
 
 forms::Form& Session::form()
 {
@@ -169,6 +175,10 @@ void Session::create(const core::ClassInfo& info, std::string_view name,
 
 void Session::destroy(std::string_view name)
 {
+    if (const auto page = m_pages.find(name); page != m_pages.end()) {
+        m_pages.erase(page);
+        return;
+    }
     const auto at = m_objects.find(name);
     if (at == m_objects.end())
         raiseError(ErrorNumber::ObjectRequired);
@@ -178,6 +188,27 @@ void Session::destroy(std::string_view name)
     m_recorders.erase(object.control.get());
     if (object.recorder)
         object.recorder->detach();
+}
+
+// --- Property pages
+
+void Session::openPage(std::string_view pageClass, std::string_view name, std::span<core::Control* const> controls)
+{
+    const pages::PageInfo* info = m_pageRegistry.find(pageClass);
+    if (info == nullptr)
+        raiseError(ErrorNumber::ObjectRequired);
+    if (!isFree(name))
+        raiseError(ErrorNumber::InvalidCall);
+    OpenPage open{m_stage->createPageFrame(), nullptr};
+    open.page = std::make_unique<pages::Page>(*info, *open.frame);
+    open.page->select(controls);
+    m_pages.emplace(name, std::move(open));
+}
+
+pages::Page* Session::page(std::string_view name) const noexcept
+{
+    const auto at = m_pages.find(name);
+    return at == m_pages.end() ? nullptr : at->second.page.get();
 }
 
 // --- Completion
@@ -195,7 +226,11 @@ std::vector<std::string> Session::completions(std::string_view word) const
             offer(std::string(command.name));
         for (const core::ClassInfo* info : m_registry.classes())
             offer(std::string(info->name));
+        for (const pages::PageInfo* info : m_pageRegistry.rows())
+            offer(std::string(info->name));
         for (const auto& [name, object] : m_objects)
+            offer(name + '.');
+        for (const auto& [name, open] : m_pages)
             offer(name + '.');
     } else if (const auto at = m_objects.find(word.substr(0, point)); at != m_objects.end()) {
         const core::ClassInfo& info = at->second.control->info();
@@ -208,6 +243,11 @@ std::vector<std::string> Session::completions(std::string_view word) const
             offer(prefix + std::string(row.name));
         for (const core::EventRow& row : info.events)
             offer(prefix + std::string(row.name));
+    } else if (const pages::Page* open = page(word.substr(0, point))) {
+        const std::string prefix(word.substr(0, point + 1));
+        offer(prefix + "Changed");
+        for (const std::string& name : open->widgetNames())
+            offer(prefix + name);
     }
     return found;
 }

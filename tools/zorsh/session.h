@@ -4,6 +4,7 @@
 
 #include "core/control.h"
 #include "forms/form.h"
+#include "pages/page.h"
 #include "tools/zorsh/recorder.h"
 #include "tools/zorsh/stage.h"
 
@@ -64,13 +65,19 @@ public:
     /// Creates a control under a new name; `prepare` initialises or reads it.
     void create(const core::ClassInfo& info, std::string_view name,
                 const std::function<void(core::Control&)>& prepare);
+    /// Destroys a control or closes a page.
     void destroy(std::string_view name);
-    /// Whether a control may have the name.
+    /// Whether a control or a page may have the name.
     [[nodiscard]] bool isFree(std::string_view name) const;
     /// The form that was opened last, or an empty one.
     [[nodiscard]] forms::Form& form();
     void setForm(forms::Form form) { m_form = std::move(form); }
     [[nodiscard]] const core::ClassRegistry& classes() const noexcept { return m_registry; }
+
+    /// Opens a property page under a new name on some controls.
+    void openPage(std::string_view pageClass, std::string_view name, std::span<core::Control* const> controls);
+    /// The page of a name; nullptr for a name that is no page's.
+    [[nodiscard]] pages::Page* page(std::string_view name) const noexcept;
 
     [[nodiscard]] const Objects& objects() const noexcept { return m_objects; }
     [[nodiscard]] Stage& stage() noexcept { return *m_stage; }
@@ -80,13 +87,20 @@ public:
     /// @}
 
 private:
+    struct OpenPage {
+        std::unique_ptr<platform::PageFrame> frame;
+        std::unique_ptr<pages::Page> page;
+    };
+
     void dispatch(std::string_view line);
     void printError(int number, std::string_view text);
 
     std::unique_ptr<Stage> m_stage;
     core::ClassRegistry m_registry;
     std::optional<forms::Form> m_form;
+    pages::PageRegistry m_pageRegistry;
     Objects m_objects;
+    std::map<std::string, OpenPage, std::less<>> m_pages;
     std::map<const platform::Component*, std::shared_ptr<Recorder>> m_recorders;
     std::vector<OutputLine> m_output;
     std::vector<std::string> m_boxes;

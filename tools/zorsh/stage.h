@@ -4,6 +4,7 @@
 
 #include "platform/container.h"
 #include "platform/operator.h"
+#include "platform/property_page.h"
 
 #include <functional>
 #include <memory>
@@ -21,6 +22,8 @@ public:
     [[nodiscard]] virtual platform::Operator& hands() = 0;
     [[nodiscard]] virtual platform::PopupMenu* openMenu() = 0;
     virtual void setUserMode(bool userMode) = 0;
+    /// A frame for a property page, shown beside the form; it ends before the stage.
+    [[nodiscard]] virtual std::unique_ptr<platform::PageFrame> createPageFrame() = 0;
     /// Lets pending events of the platform happen.
     virtual void settle() {}
     /// Throws what a control has thrown into the platform's event loop since the last call.

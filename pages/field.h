@@ -1,0 +1,40 @@
+#pragma once
+
+/// One field of a property page as data.
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace zor::pages {
+
+class Page;
+
+/// What a field is made of.
+enum class FieldKind : std::uint8_t {
+    Text,   ///< a text field behind its caption
+    List,   ///< a drop-down list; the position is the property's value
+    Number, ///< a text field with spin buttons, which hold the accepted number
+    Check,  ///< a check box, which carries the caption itself
+};
+
+struct Field {
+    std::string_view widget;
+    FieldKind kind;
+    std::string_view caption;
+    std::string_view property;
+    /// Of a list.
+    std::span<const std::string_view> items{};
+    /// Of a number: the name of the spin buttons, and their ends.
+    std::string_view spinButton{};
+    std::int32_t minimum = 0;
+    std::int32_t maximum = 0;
+    /// What Apply does instead of writing the property.
+    void (*write)(Page&) = nullptr;
+    /// What a click by the user of the page does beside marking the page as changed.
+    void (*clicked)(Page&) = nullptr;
+    /// Whether the user can use the field now; nullptr: always.
+    bool (*usable)(const Page&) = nullptr;
+};
+
+} // namespace zor::pages

@@ -1,0 +1,215 @@
+#include "pages/page.h"
+
+#include "pages/fields.h"
+#include "platform/error.h"
+#include "units/mod_Common.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace zor::pages {
+
+using platform::Notice;
+
+Page::Page(const PageInfo& info, platform::PageFrame& frame)
+    : m_info(info), m_frame(frame), m_surface(frame.createSurface(*this))
+{
+    m_isShowing = true;
+    for (const Field* field : m_info.fields)
+        create(*field);
+    arrange();
+    updateUsable();
+    m_isShowing = false;
+    m_frame.setPage(this);
+}
+
+Page::~Page()
+{
+    setControl(nullptr);
+    m_frame.setPage(nullptr);
+}
+
+const Page::Entry* Page::entry(const Field& field) const noexcept
+{
+    const auto at = std::ranges::find(m_entries, &field, &Entry::field);
+    return at == m_entries.end() ? nullptr : &*at;
+}
+
+// --- The selection
+
+void Page::select(std::span<core::Control* const> controls)
+{
+    core::Control* control = controls.empty() ? nullptr : controls.front();
+    std::vector<Variant> values;
+    if (control != nullptr) {
+        for (const Entry& entry : m_entries)
+            values.push_back(control->property(entry.field->property));
+    }
+    setControl(control);
+    m_isShowing = true;
+    for (std::size_t i = 0; i < values.size(); ++i)
+        show(m_entries[i], values[i]);
+    m_isShowing = false;
+    updateUsable();
+    m_frame.setChanged(false);
+}
+
+void Page::setControl(core::Control* control)
+{
+    if (m_control != nullptr)
+        m_control->unsubscribe(*this);
+    m_control = control;
+    if (m_control != nullptr)
+        m_control->subscribe(*this);
+}
+
+void Page::ended(core::Control& /*control*/) noexcept
+{
+    setControl(nullptr);
+    updateUsable();
+    m_frame.setChanged(false);
+}
+
+void Page::show(const Entry& entry, const Variant& value)
+{
+    switch (entry.field->kind) {
+    case FieldKind::Text: entry.text->setText(value.toText()); break;
+    case FieldKind::List: {
+        const std::int32_t position = value.toInt32();
+        entry.list->setCurrent(position >= 0 && position < entry.list->count() ? position : -1);
+        break;
+    }
+    case FieldKind::Number:
+        entry.spin->setValue(value.toInt32());
+        entry.text->setText(std::to_string(entry.spin->value()));
+        break;
+    case FieldKind::Check: entry.check->setOn(value.toBoolean()); break;
+    }
+}
+
+// --- Apply
+
+void Page::apply()
+{
+    if (m_control == nullptr)
+        raiseError(ErrorNumber::ObjectRequired);
+    const platform::Hold hold(*m_control);
+    core::Control& control = *m_control;
+    // Apply by a key leaves the focus in the field; what was typed there counts all the same.
+    for (const Entry& entry : m_entries) {
+        if (entry.spin && entry.text->hasFocus())
+            acceptNumber(entry);
+    }
+    for (const Field* field : writeOrder()) {
+        if (const Entry* at = entry(*field))
+            apply(*at);
+    }
+    if (m_control != &control)
+        return;
+    m_frame.setChanged(false);
+    if (onApplied)
+        onApplied(control);
+}
+
+void Page::apply(const Entry& entry)
+{
+    const Field& field = *entry.field;
+    if (field.write != nullptr)
+        return field.write(*this);
+    switch (field.kind) {
+    case FieldKind::Text: write(field.property, entry.text->text()); break;
+    case FieldKind::List:
+        // A value that the list does not offer stays as the host has set it.
+        if (entry.list->current() >= 0)
+            write(field.property, entry.list->current());
+        break;
+    case FieldKind::Number: write(field.property, entry.spin->value()); break;
+    case FieldKind::Check: write(field.property, entry.check->isOn()); break;
+    }
+}
+
+void Page::write(std::string_view property, const Variant& value)
+{
+    // The host may destroy the control while it is told of a change.
+    if (m_control == nullptr)
+        return;
+    if (onWrite)
+        onWrite(*m_control, property, value);
+    else
+        m_control->setProperty(property, value);
+}
+
+// --- The user of the page
+
+void Page::notice(int widget, Notice notice, platform::EventArgs /*args*/)
+{
+    const int part = widget - 1;
+    if (m_isShowing || part < 0)
+        return;
+    const Entry& entry = m_entries[static_cast<std::size_t>(part / kParts)];
+    switch (notice) {
+    case Notice::Change: m_frame.setChanged(true); break;
+    case Notice::Click:
+        if (entry.field->kind != FieldKind::List && entry.field->kind != FieldKind::Check)
+            break;
+        if (part % kParts != kInput)
+            break;
+        if (entry.field->clicked != nullptr)
+            entry.field->clicked(*this);
+        updateUsable();
+        m_frame.setChanged(true);
+        break;
+    case Notice::SpinUp:
+    case Notice::SpinDown: entry.text->setText(std::to_string(entry.spin->value())); break;
+    case Notice::LostFocus:
+        if (entry.spin)
+            acceptNumber(entry);
+        break;
+    default: break;
+    }
+}
+
+void Page::acceptNumber(const Entry& entry)
+{
+    const std::optional<double> number = validNumber(std::string_view(entry.text->text()));
+    if (!number)
+        entry.text->setText(std::to_string(entry.spin->value()));
+    else if (*number > entry.spin->maximum())
+        entry.text->setText(std::to_string(entry.spin->maximum()));
+    else if (*number < entry.spin->minimum())
+        entry.text->setText(std::to_string(entry.spin->minimum()));
+    else
+        entry.spin->setValue(roundToInt32(*number));
+}
+
+bool Page::isTicked(const Field& check) const noexcept
+{
+    const Entry* at = entry(check);
+    return at != nullptr && at->check->isOn();
+}
+
+std::int32_t Page::position(const Field& list) const noexcept
+{
+    const Entry* at = entry(list);
+    return at == nullptr ? -1 : at->list->current();
+}
+
+void Page::choose(const Field& list, std::int32_t position)
+{
+    if (const Entry* at = entry(list))
+        at->list->setCurrent(position);
+}
+
+void Page::updateUsable()
+{
+    for (const Entry& entry : m_entries) {
+        const bool usable = m_control != nullptr && (entry.field->usable == nullptr || entry.field->usable(*this));
+        entry.input().setEnabled(usable);
+        if (entry.spin)
+            entry.spin->setEnabled(usable);
+        if (entry.caption)
+            entry.caption->setEnabled(usable);
+    }
+}
+
+} // namespace zor::pages

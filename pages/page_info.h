@@ -1,0 +1,28 @@
+#pragma once
+
+/// A class of property pages as data, and the registry of those a program offers.
+
+#include "core/class_info.h"
+#include "pages/field.h"
+
+#include <span>
+#include <string_view>
+
+namespace zor::pages {
+
+struct PageInfo {
+    std::string_view name;
+    std::string_view caption;
+    /// From top to bottom.
+    std::span<const Field* const> fields;
+    /// The classes of controls that the page is made for.
+    std::span<const std::string_view> controls;
+};
+
+class PageRegistry : public core::Registry<PageInfo> {
+public:
+    /// The page for a class of controls; nullptr for a class without one.
+    [[nodiscard]] const PageInfo* forControl(std::string_view controlClass) const noexcept;
+};
+
+} // namespace zor::pages

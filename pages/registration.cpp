@@ -1,0 +1,55 @@
+#include "pages/registration.h"
+
+#include "pages/fields.h"
+
+#include <algorithm>
+#include <array>
+
+namespace zor {
+
+using namespace pages;
+
+namespace {
+
+constexpr std::string_view kDevice = "Device";
+
+constexpr std::array kTextBoxFields{&kDeviceTag,   &kRegisterType, &kDeviceTypes, &kMinVersions,
+                                    &kMaxVersions, &kEntryType,    &kMaxLength,   &kNumberOfDigits,
+                                    &kUnitEnable,  &kUnitType,     &kIconEnable};
+constexpr std::array<std::string_view, 1> kTextBoxControls{"ctx_ZorTextBox"};
+
+constexpr std::array kUpDSldFields{&kDeviceTag,   &kRegisterType, &kDeviceTypes, &kMinVersions,
+                                   &kMaxVersions, &kUnitEnable,   &kUnitType,    &kIconEnable};
+constexpr std::array<std::string_view, 2> kUpDSldControls{"ctx_ZorUpDown", "ctx_ZorSlider"};
+
+constexpr std::array kOtherFields{&kDeviceTag,   &kRegisterType, &kDeviceTypes,
+                                  &kMinVersions, &kMaxVersions,  &kIconEnable};
+constexpr std::array<std::string_view, 5> kOtherControls{"ctx_ZorLabel", "ctx_ZorComboBox", "ctx_ZorListBox",
+                                                         "ctx_ZorCheckBox", "ctx_ZorOptionButton"};
+
+constexpr std::array kImageFields{&kDeviceTag, &kRegisterType, &kDeviceTypes, &kMinVersions, &kMaxVersions};
+constexpr std::array<std::string_view, 1> kImageControls{"ctx_ZorImage"};
+
+} // namespace
+
+constexpr PageInfo prp_ZorTextBoxGeneral{"prp_ZorTextBoxGeneral", kDevice, kTextBoxFields, kTextBoxControls};
+constexpr PageInfo prp_ZorUpDSldDevice{"prp_ZorUpDSldDevice", kDevice, kUpDSldFields, kUpDSldControls};
+constexpr PageInfo prp_ZorOtherControls{"prp_ZorOtherControls", kDevice, kOtherFields, kOtherControls};
+constexpr PageInfo prp_ZorImage{"prp_ZorImage", kDevice, kImageFields, kImageControls};
+
+void registerPages(PageRegistry& registry)
+{
+    for (const PageInfo* page :
+         {&prp_ZorTextBoxGeneral, &prp_ZorUpDSldDevice, &prp_ZorOtherControls, &prp_ZorImage})
+        registry.add(*page);
+}
+
+const PageInfo* PageRegistry::forControl(std::string_view controlClass) const noexcept
+{
+    const auto page = std::ranges::find_if(rows(), [&](const PageInfo* info) {
+        return std::ranges::find(info->controls, controlClass) != info->controls.end();
+    });
+    return page == rows().end() ? nullptr : *page;
+}
+
+} // namespace zor
