@@ -1,9 +1,11 @@
-#include "monitor/device.h"
-#include "monitor/window.h"
-#include "platform/qt/qt_regional.h"
+#include "controls/registration.h"
+#include "forms/form_error.h"
+#include "monitor/link/device_address.h"
+#include "monitor/ui/window.h"
 
 #include <CLI/CLI.hpp>
 #include <QApplication>
+#include <QFile>
 
 #include <iostream>
 
@@ -12,101 +14,142 @@ namespace {
 using namespace zor::monitor;
 
 struct Settings {
+    std::string form;
+    std::string parameters;
     std::string device;
     std::string screenshot;
+    std::string log;
+    std::string language;
+    std::string units = "form";
     int period = 500;
+    int timeout = 0;
     int runFor = 0;
-    int serve = -1;
+    int serve = 0;
+    int tab = 0;
 };
 
 enum ExitStatus : int { kWell = 0, kUnhealthy = 1, kUsage = 2 };
 
+const std::map<std::string, UnitSystem> kUnitSystems{{"form", UnitSystem::Form},
+                                                     {"metric", UnitSystem::Metric},
+                                                     {"us", UnitSystem::Us},
+                                                     {"device", UnitSystem::Device}};
+
 void addOptions(CLI::App& app, Settings& settings)
 {
-    constexpr int kLongest = 3600;
-    app.add_option("--device", settings.device, "HOST:PORT of a Modbus TCP device; without it, the embedded one");
+    constexpr int kLongest = 86400;
+    app.add_option("--form", settings.form,
+                   "form drawn in Qt Designer (.ui); without it, one is made from the parameter file");
+    app.add_option("--parameters", settings.parameters,
+                   "file that says where the device's parameters lie; without it, the demonstration device's");
+    app.add_option(
+        "--device", settings.device,
+        "tcp://HOST:PORT[?unit=N] or rtu:DEVICE[?unit=N&baud=B&parity=P&stop=S]; without it, a simulated "
+        "device");
     app.add_option("--period", settings.period, "milliseconds from poll to poll")->check(CLI::Range(100, 60000));
-    app.add_option("--run-for", settings.runFor, "seconds to run; prints what was read")
+    app.add_option("--timeout", settings.timeout, "milliseconds for a whole reply; without it, the poll period")
+        ->check(CLI::Range(10, 60000));
+    app.add_option("--run-for", settings.runFor, "seconds to run unattended; prints what was read")
         ->check(CLI::Range(1, kLongest));
     app.add_option("--screenshot", settings.screenshot, "file for a picture of the window, taken at the end");
-    app.add_option("--serve", settings.serve, "run only the embedded device, on this port")
+    app.add_option("--log", settings.log,
+                   "CSV file to which reads that change their outcome and writes are added");
+    app.add_option("--language", settings.language, "en, de or fr; without it, that of the environment")
+        ->check(CLI::IsMember({"en", "de", "fr"}));
+    app.add_option("--units", settings.units, "form, metric, us or device")->check(CLI::IsMember(kUnitSystems));
+    app.add_option("--tab", settings.tab, "number of the tab in front, from 0")->check(CLI::Range(0, 1000));
+    app.add_option("--serve", settings.serve, "run only the simulated device, on this port")
         ->check(CLI::Range(1, 65535));
 }
 
-int serve(QApplication& app, int port)
+int fail(int status, const std::string& text)
 {
-    Device device(port);
-    if (!device.start()) {
-        std::cerr << "zor-monitor: port " << port << ": " << device.error().toStdString() << '\n';
-        return kUsage;
-    }
-    std::cout << "serving on 127.0.0.1:" << device.port() << std::endl;
-    return QApplication::exec() == 0 && &app == QCoreApplication::instance() ? kWell : kUnhealthy;
+    std::cerr << "zor-monitor: " << text << '\n';
+    return status;
 }
 
-/// HOST and PORT, or false.
-bool splitAddress(const std::string& address, QString& host, int& port)
+ParameterFile loadParameters(const Settings& settings)
 {
-    const auto colon = address.rfind(':');
-    if (colon == std::string::npos || colon == 0)
-        return false;
-    bool isNumber = false;
-    host = QString::fromStdString(address.substr(0, colon));
-    port = QString::fromStdString(address.substr(colon + 1)).toInt(&isNumber);
-    return isNumber && port > 0 && port <= 65535;
+    const QString name =
+        settings.parameters.empty() ? QString(":/monitor/demo.json") : QString::fromStdString(settings.parameters);
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly))
+        throw FileError(name.toStdString(), 0, file.errorString().toStdString());
+    constexpr qint64 kLargest = 16 << 20;
+    if (file.size() > kLargest)
+        throw FileError(name.toStdString(), 0, "larger than 16 MB");
+    return readParameterFile(file.readAll().toStdString(), name.toStdString());
+}
+
+int serve(const ParameterFile& file, int port)
+{
+    Simulator device(file, port);
+    if (!device.start())
+        return fail(kUsage, "port " + std::to_string(port) + ": " + device.error().toStdString());
+    std::cout << "serving on 127.0.0.1:" << device.port() << std::endl;
+    return QApplication::exec();
 }
 
 int finish(Window& window, const Settings& settings)
 {
-    std::cout << window.report();
-    if (!settings.screenshot.empty() && !window.grab().save(QString::fromStdString(settings.screenshot))) {
-        std::cerr << "zor-monitor: cannot write " << settings.screenshot << '\n';
-        return kUsage;
-    }
-    if (!window.isHealthy()) {
-        std::cerr << "zor-monitor: the device does not answer\n";
-        return kUnhealthy;
-    }
+    std::cout << window.session().report();
+    if (!settings.screenshot.empty() && !window.grab().save(QString::fromStdString(settings.screenshot)))
+        return fail(kUsage, "cannot write " + settings.screenshot);
+    if (settings.runFor == 0)
+        return kWell;
+    const Session& session = window.session();
+    const int rounds = window.session().poller().rounds();
+    if (session.failedRounds() > 0 || rounds == 0)
+        return fail(kUnhealthy, "the device did not answer in " + std::to_string(session.failedRounds()) + " of " +
+                                    std::to_string(rounds) + " rounds");
     return kWell;
 }
 
-int monitor(const Settings& settings)
+int monitor(const Settings& settings, ParameterFile file)
 {
-    QString host = "127.0.0.1";
-    int port = 0;
-    std::unique_ptr<Device> device;
-    if (!settings.device.empty()) {
-        if (!splitAddress(settings.device, host, port)) {
-            std::cerr << "zor-monitor: --device takes HOST:PORT, not " << settings.device << '\n';
-            return kUsage;
-        }
-    } else {
-        device = std::make_unique<Device>();
-        if (!device->start()) {
-            std::cerr << "zor-monitor: the embedded device: " << device->error().toStdString() << '\n';
-            return kUnhealthy;
-        }
-        port = device->port();
+    Languages languages;
+    languages.use(settings.language.empty() ? Languages::systemLanguage()
+                                            : QString::fromStdString(settings.language));
+    zor::core::ClassRegistry classes;
+    zor::registerControls(classes);
+    std::optional<Log> log;
+    if (!settings.log.empty())
+        log.emplace(QString::fromStdString(settings.log));
+    std::unique_ptr<Simulator> device;
+    QString address = QString::fromStdString(settings.device);
+    const ParameterFile simulated = file;
+    if (address.isEmpty()) {
+        device = std::make_unique<Simulator>(simulated);
+        if (!device->start())
+            return fail(kUnhealthy, "the simulated device: " + device->error().toStdString());
+        address = QString("tcp://127.0.0.1:%1").arg(device->port());
     }
-    Window window(host, port, settings.period);
+    auto link = openLink(address, settings.timeout > 0 ? settings.timeout : settings.period);
+    auto session = std::make_unique<Session>(std::move(link), std::move(file), log ? &*log : nullptr);
+    std::unique_ptr<Form> form;
+    if (settings.form.empty())
+        form = std::make_unique<GeneratedForm>(session->file(), classes);
+    else
+        form = std::make_unique<UiForm>(QString::fromStdString(settings.form), classes);
+    if (form->tabs() != nullptr)
+        form->tabs()->setCurrentIndex(settings.tab);
+    Window window(std::move(session), std::move(form), languages, device.get());
+    if (settings.units != "form")
+        window.setUnits(kUnitSystems.at(settings.units));
     window.show();
-    if (settings.runFor == 0)
-        return QApplication::exec();
-    int status = kWell;
-    QTimer::singleShot(settings.runFor * 1000, &window, [&] {
-        status = finish(window, settings);
-        QApplication::quit();
-    });
+    window.session().start(settings.period);
+    if (settings.runFor > 0) {
+        constexpr int kSecond = 1000;
+        QTimer::singleShot(settings.runFor * kSecond, &window, [&] { window.closeUnasked(); });
+    }
     QApplication::exec();
-    return status;
+    return settings.runFor > 0 || !settings.screenshot.empty() ? finish(window, settings) : kWell;
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+int run(int argc, char** argv)
 {
     Settings settings;
-    CLI::App app{"Polls a Modbus device and shows its parameters."};
+    CLI::App app{"Shows and edits the parameters of a Modbus device."};
     addOptions(app, settings);
     try {
         app.parse(argc, argv);
@@ -116,12 +159,27 @@ int main(int argc, char** argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsSet("DISPLAY") &&
         !qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
+    const QApplication application(argc, argv);
+    const Languages resources;
+    ParameterFile file = loadParameters(settings);
+    return settings.serve > 0 ? serve(file, settings.serve) : monitor(settings, std::move(file));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
     try {
-        zor::platform::setRegionalSettings(zor::platform::qt::localeRegionalSettings());
-        return settings.serve > 0 ? serve(application, settings.serve) : monitor(settings);
+        return run(argc, argv);
+    } catch (const FileError& error) {
+        return fail(kUsage, error.what());
+    } catch (const zor::forms::FormError& error) {
+        return fail(kUsage, error.what());
+    } catch (const AddressError& error) {
+        return fail(kUsage, error.what());
     } catch (const std::exception& error) {
-        std::cerr << "zor-monitor: " << error.what() << '\n';
+        return fail(kUnhealthy, error.what());
+    } catch (...) {
         return kUnhealthy;
     }
 }

@@ -1,0 +1,291 @@
+#include "monitor/data/parameter_file.h"
+
+#include "monitor/data/codec.h"
+#include "monitor/data/json_fields.h"
+#include "units/unit_catalogue.h"
+
+#include <algorithm>
+#include <array>
+#include <set>
+
+namespace zor::monitor {
+namespace {
+
+constexpr int kLastAddress = 65535;
+
+LocalText readText(const Value& value)
+{
+    if (value.isText())
+        return LocalText({{"en", value.text()}});
+    std::map<std::string, std::string> texts;
+    Fields fields = value.object();
+    for (const std::string_view language : {"en", "de", "fr"}) {
+        if (const auto text = fields.take(language))
+            texts.emplace(language, text->text());
+    }
+    fields.finish();
+    if (texts.empty())
+        value.fail("a text has at least one language");
+    return LocalText(std::move(texts));
+}
+
+template <class Enum>
+Enum readName(const Value& value, std::span<const std::string_view> names)
+{
+    const auto at = std::ranges::find(names, value.text());
+    if (at == names.end())
+        value.fail('"' + value.text() + "\" is none of " + joined(names));
+    return static_cast<Enum>(at - names.begin());
+}
+
+constexpr std::array<std::string_view, 2> kBanks{"holding", "input"}; // in the order of REGISTER_TYPE
+constexpr std::array<std::string_view, 2> kAccesses{"read", "write"};
+
+MEAS_TYPE readUnit(const Value& value)
+{
+    const auto* const row =
+        std::ranges::find(units::kUnits, std::string_view(value.text()), &units::UnitRow::name);
+    if (row == units::kUnits.end())
+        value.fail('"' + value.text() + "\" is no unit");
+    return row->unit;
+}
+
+UNIT_TYPE typeOf(MEAS_TYPE unit)
+{
+    const auto number = static_cast<std::int32_t>(unit);
+    for (const units::UnitTypeRow& row : units::kUnitTypes) {
+        if (row.first <= number && number <= row.last)
+            return row.type;
+    }
+    return None;
+}
+
+/// What is read of a parameter's place; `fixed` is the type where the file does not say one.
+Location readLocation(Fields& fields, std::optional<ValueType> fixed)
+{
+    Location location;
+    location.bank = readName<REGISTER_TYPE>(fields.need("bank"), kBanks);
+    const Value address = fields.need("address");
+    location.address = static_cast<std::uint16_t>(address.integer(0, kLastAddress));
+    const auto type = fixed ? fields.take("type") : std::optional(fields.need("type"));
+    location.type = type ? readName<ValueType>(*type, valueTypeNames()) : *fixed;
+    location.registers = registersOf(location.type);
+    if (location.type == ValueType::Text) {
+        location.registers = static_cast<std::uint16_t>(fields.need("registers").integer(1, kMostWriteRegisters));
+    } else if (const auto count = fields.take("registers")) {
+        if (!fixed)
+            count->fail("only a text has a number of registers");
+        location.registers = static_cast<std::uint16_t>(count->integer(1, 4));
+    }
+    if (const auto order = fields.take("order"))
+        location.order = readName<Order>(*order, orderNames());
+    if (location.address + location.registers > kLastAddress + 1)
+        address.fail("the parameter reaches beyond address 65535");
+    return location;
+}
+
+std::vector<Entry> readEntries(const Value& list, std::string_view key, int lowest, int highest)
+{
+    std::vector<Entry> entries;
+    std::set<std::int32_t> seen;
+    for (const Value& value : list.array()) {
+        Fields fields = value.object();
+        const Value number = fields.need(key);
+        const auto integer = static_cast<std::int32_t>(number.integer(lowest, highest));
+        if (!seen.insert(integer).second)
+            number.fail(std::string(key) + ' ' + std::to_string(integer) + " stands twice");
+        entries.push_back({integer, readText(fields.need("text"))});
+        fields.finish();
+    }
+    if (entries.empty())
+        list.fail("an empty list");
+    return entries;
+}
+
+void readSupported(const Value& value, Supported& supported)
+{
+    Fields fields = value.object();
+    if (const auto types = fields.take("types"))
+        supported.types = types->text();
+    if (const auto versions = fields.take("minVersions"))
+        supported.minVersions = versions->text();
+    if (const auto versions = fields.take("maxVersions"))
+        supported.maxVersions = versions->text();
+    fields.finish();
+}
+
+Simulation readSimulation(const Value& value, ValueType type)
+{
+    Simulation simulation;
+    Fields fields = value.object();
+    if (const auto absent = fields.take("absent"))
+        simulation.absent = absent->boolean();
+    if (const auto start = fields.take("value")) {
+        if (type == ValueType::Text)
+            simulation.text = start->text();
+        else
+            simulation.value = start->number();
+    }
+    if (const auto swing = fields.take("swing"))
+        simulation.swing = swing->number();
+    if (const auto period = fields.take("period")) {
+        simulation.period = period->number();
+        if (!(simulation.period > 0))
+            period->fail("a period is longer than 0 seconds");
+    }
+    fields.finish();
+    return simulation;
+}
+
+void readAppearance(Fields& fields, Parameter& parameter)
+{
+    Appearance& appearance = parameter.appearance;
+    const auto caption = fields.take("caption");
+    appearance.caption = caption ? readText(*caption) : LocalText({{"en", parameter.tag}});
+    if (const auto group = fields.take("group"))
+        appearance.group = readText(*group);
+    if (const auto control = fields.take("control"))
+        appearance.control = control->text();
+    appearance.unit = parameter.unit;
+    if (const auto unit = fields.take("displayUnit")) {
+        appearance.unit = readUnit(*unit);
+        if (typeOf(appearance.unit) != parameter.unitType)
+            unit->fail("the unit shown is not of the type of the parameter's unit");
+    }
+    if (const auto digits = fields.take("digits"))
+        appearance.digits = static_cast<std::int16_t>(digits->integer(0, 15));
+    if (const auto minimum = fields.take("minimum"))
+        appearance.minimum = minimum->number();
+    if (const auto maximum = fields.take("maximum")) {
+        appearance.maximum = maximum->number();
+        if (appearance.minimum && *appearance.minimum > *appearance.maximum)
+            maximum->fail("the maximum is less than the minimum");
+    }
+    if (const auto supported = fields.take("supported"))
+        readSupported(*supported, appearance.supported);
+}
+
+/// The class that shows a parameter when the file names none.
+std::string usualControl(const Parameter& parameter)
+{
+    if (!parameter.entries.empty())
+        return "ctx_ZorComboBox";
+    if (!parameter.bits.empty())
+        return parameter.writable ? "ctx_ZorListBox" : "ctx_ZorImage";
+    return parameter.location.type == ValueType::Bit ? "ctx_ZorCheckBox" : "ctx_ZorTextBox";
+}
+
+Parameter readParameter(const Value& value)
+{
+    Parameter parameter;
+    parameter.line = value.line();
+    Fields fields = value.object();
+    const Value tag = fields.need("tag");
+    parameter.tag = tag.text();
+    if (parameter.tag.empty())
+        tag.fail("a tag is not empty");
+    Location& location = parameter.location = readLocation(fields, std::nullopt);
+    const bool integer = isInteger(location.type);
+    const bool number = integer || location.type == ValueType::Float32 || location.type == ValueType::Float64;
+    if (location.type == ValueType::Bit)
+        location.bit = static_cast<std::uint8_t>(fields.need("bit").integer(0, 15));
+    if (const auto scale = fields.take("scale")) {
+        parameter.scale = scale->number();
+        if (!number || parameter.scale == 0)
+            scale->fail(number ? "a scale is not 0" : "only a number has a scale");
+    }
+    if (const auto unit = fields.take("unit")) {
+        parameter.unit = readUnit(*unit);
+        if (!number)
+            unit->fail("only a number has a unit");
+    }
+    parameter.unitType = typeOf(parameter.unit);
+    if (const auto access = fields.take("access")) {
+        parameter.writable = access->text() == "write";
+        if (std::ranges::find(kAccesses, access->text()) == kAccesses.end())
+            access->fail('"' + access->text() + "\" is none of " + joined(kAccesses));
+        if (parameter.writable && location.bank == InputRegister)
+            access->fail("an input register cannot be written");
+    }
+    const auto named = [&](std::string_view list, bool allowed) {
+        auto taken = fields.take(list);
+        if (taken && (!allowed || parameter.scale != 1 || parameter.unit != NoneU))
+            taken->fail("only an integer without scale and unit has " + std::string(list));
+        return taken;
+    };
+    if (const auto entries = named("entries", integer || location.type == ValueType::Bit))
+        parameter.entries = readEntries(*entries, "value", INT32_MIN, INT32_MAX);
+    if (const auto bits = named("bits", integer))
+        parameter.bits = readEntries(*bits, "bit", 0, location.registers * 16 - 1);
+    readAppearance(fields, parameter);
+    if (parameter.appearance.control.empty())
+        parameter.appearance.control = usualControl(parameter);
+    if (const auto simulation = fields.take("simulation"))
+        parameter.simulation = readSimulation(*simulation, location.type);
+    fields.finish();
+    return parameter;
+}
+
+std::optional<Location> readIdentityPart(Fields& fields, std::string_view name, Simulation& simulation)
+{
+    const auto part = fields.take(name);
+    if (!part)
+        return std::nullopt;
+    Fields inner = part->object();
+    const ValueType usual = name == "type" ? ValueType::Text : ValueType::UInt16;
+    const Location location = readLocation(inner, usual);
+    if (location.type != ValueType::Text && location.type != usual)
+        part->fail("what the device is comes as a text, its version also as uint16");
+    if (const auto simulated = inner.take("simulation"))
+        simulation.text = simulated->text();
+    inner.finish();
+    return location;
+}
+
+} // namespace
+
+const std::string& LocalText::in(const std::string& language) const
+{
+    static const std::string none;
+    for (const std::string& wanted : {language, std::string("en")}) {
+        if (const auto found = m_texts.find(wanted); found != m_texts.end())
+            return found->second;
+    }
+    return m_texts.empty() ? none : m_texts.begin()->second;
+}
+
+std::optional<std::size_t> ParameterFile::indexOf(std::string_view tag) const
+{
+    const auto found = std::ranges::find(parameters, tag, &Parameter::tag);
+    return found == parameters.end() ? std::nullopt
+                                     : std::optional(static_cast<std::size_t>(found - parameters.begin()));
+}
+
+ParameterFile readParameterFile(std::string_view text, const std::string& name)
+{
+    const JsonNode root = parseJson(text, name);
+    ParameterFile file;
+    const Value whole(root, name);
+    Fields fields = whole.object();
+    fields.take("$schema");
+    if (const auto title = fields.take("title"))
+        file.title = readText(*title);
+    if (const auto identity = fields.take("identity")) {
+        Fields inner = identity->object();
+        file.identity.type = readIdentityPart(inner, "type", file.identity.simulatedType);
+        file.identity.version = readIdentityPart(inner, "version", file.identity.simulatedVersion);
+        inner.finish();
+    }
+    std::set<std::string> tags;
+    for (const Value& value : fields.need("parameters").array()) {
+        file.parameters.push_back(readParameter(value));
+        if (!tags.insert(file.parameters.back().tag).second)
+            value.fail("the tag \"" + file.parameters.back().tag + "\" stands twice");
+    }
+    fields.finish();
+    if (file.parameters.empty())
+        whole.fail("no parameters");
+    return file;
+}
+
+} // namespace zor::monitor

@@ -1,0 +1,102 @@
+#include "monitor/link/device_address.h"
+
+#include "monitor/link/rtu_link.h"
+#include "monitor/link/tcp_link.h"
+
+#include <QMap>
+#include <QStringList>
+#include <QUrl>
+#include <QUrlQuery>
+
+namespace zor::monitor {
+namespace {
+
+constexpr int kUsualPort = 502;
+constexpr int kLastUnit = 255;
+
+[[noreturn]] void refuse(const QString& address, const QString& reason)
+{
+    throw AddressError((address + ": " + reason).toStdString());
+}
+
+/// The options after the question mark; each is taken once, and none may be left.
+class Options {
+public:
+    Options(const QString& address, const QString& query) : m_address(address)
+    {
+        for (const auto& [name, value] : QUrlQuery(query).queryItems()) {
+            if (m_options.contains(name))
+                refuse(address, '"' + name + "\" stands twice");
+            m_options.insert(name, value);
+        }
+    }
+
+    int number(const QString& name, int usual, int lowest, int highest)
+    {
+        if (!m_options.contains(name))
+            return usual;
+        bool isNumber = false;
+        const int value = m_options.take(name).toInt(&isNumber);
+        if (!isNumber || value < lowest || value > highest)
+            refuse(m_address, QString("%1 is a number from %2 to %3").arg(name).arg(lowest).arg(highest));
+        return value;
+    }
+
+    int choice(const QString& name, const QMap<QString, int>& choices, const QString& usual)
+    {
+        const QString value = m_options.contains(name) ? m_options.take(name) : usual;
+        if (!choices.contains(value))
+            refuse(m_address, name + " is one of " + choices.keys().join(", "));
+        return choices.value(value);
+    }
+
+    void finish() const
+    {
+        if (!m_options.isEmpty())
+            refuse(m_address, '"' + m_options.firstKey() + "\" is not known here");
+    }
+
+private:
+    QString m_address;
+    QMap<QString, QString> m_options;
+};
+
+std::unique_ptr<Link> openSerial(const QString& address, int deadline)
+{
+    const QString rest = address.mid(4);
+    Options options(address, rest.section('?', 1));
+    SerialSettings settings;
+    settings.device = rest.section('?', 0, 0);
+    if (settings.device.isEmpty())
+        refuse(address, "a serial device is missing, as in rtu:/dev/ttyUSB0");
+    constexpr int kFastest = 4000000;
+    settings.baud = options.number("baud", settings.baud, 50, kFastest);
+    settings.parity = options.choice("parity", {{"none", 0}, {"even", 2}, {"odd", 3}}, "even");
+    settings.stopBits = options.number("stop", settings.stopBits, 1, 2);
+    const int unit = options.number("unit", 1, 1, kLastUnit);
+    options.finish();
+    return std::make_unique<RtuLink>(settings, static_cast<std::uint8_t>(unit), deadline);
+}
+
+std::unique_ptr<Link> openTcp(const QString& address, int deadline)
+{
+    const QUrl url(address.contains("://") ? address : "tcp://" + address, QUrl::StrictMode);
+    if (!url.isValid() || url.scheme() != "tcp" || url.host().isEmpty() || !url.userInfo().isEmpty() ||
+        (!url.path().isEmpty() && url.path() != "/") || url.hasFragment() || url.port(kUsualPort) == 0)
+        refuse(address, "not a device; write tcp://HOST:PORT or rtu:DEVICE");
+    Options options(address, url.query());
+    const int unit = options.number("unit", 1, 0, kLastUnit);
+    options.finish();
+    return std::make_unique<TcpLink>(url.host(), static_cast<quint16>(url.port(kUsualPort)),
+                                     static_cast<std::uint8_t>(unit), deadline);
+}
+
+} // namespace
+
+std::unique_ptr<Link> openLink(const QString& address, int deadlineMilliseconds)
+{
+    return address.startsWith("rtu:") ? openSerial(address, deadlineMilliseconds)
+                                      : openTcp(address, deadlineMilliseconds);
+}
+
+} // namespace zor::monitor

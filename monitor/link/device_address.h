@@ -1,0 +1,24 @@
+#pragma once
+
+/// The address of a device as a user writes it.
+
+#include "monitor/link/link.h"
+
+#include <memory>
+#include <stdexcept>
+
+namespace zor::monitor {
+
+/// Why an address cannot be used.
+class AddressError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The link to
+///   tcp://HOST:PORT[?unit=N]                                      (the scheme may be left out; port 502)
+///   rtu:DEVICE[?unit=N&baud=B&parity=none|even|odd&stop=1|2]      (19200 baud, even, 1 stop bit)
+/// with unit 1 unless it says another. Raises AddressError. Nothing is connected yet.
+[[nodiscard]] std::unique_ptr<Link> openLink(const QString& address, int deadlineMilliseconds);
+
+} // namespace zor::monitor

@@ -1,0 +1,279 @@
+#include "monitor/session/binding.h"
+
+#include "monitor/session/value_texts.h"
+#include "platform/error.h"
+#include "units/mod_Common.h"
+#include "units/unit_catalogue.h"
+
+#include <array>
+#include <utility>
+
+namespace zor::monitor {
+namespace {
+
+/// How the outcome of a read shows: {communication failure, no data, waiting}.
+struct OutcomeRow {
+    std::optional<bool> cFail;
+    std::optional<bool> noData;
+    bool waiting;
+};
+
+// In the order of ReadOutcome. What a row leaves open stays as it was.
+constexpr std::array<OutcomeRow, 5> kOutcomes{{
+    {false, false, false},             // Live
+    {false, true, false},              // NotAvailable
+    {false, std::nullopt, true},       // Busy
+    {true, std::nullopt, false},       // NoAnswer
+    {std::nullopt, std::nullopt, true} // Late
+}};
+
+} // namespace
+
+Binding::Binding(core::Control& control, const Parameter* parameter) : m_control(control), m_parameter(parameter)
+{
+    const core::ClassInfo& info = control.info();
+    m_row = {info.property("DeviceValue"),        info.property("OutputValue"),    info.property("DataModified"),
+             info.property("DataChanged"),        info.property("OtherUserValue"), info.property("CFail"),
+             info.property("DataNotAvailable"),   info.property("WaitingForData"), info.property("EnumEntryValue"),
+             info.property("BitFieldEntryIndex"), info.property("InvalidEntry"),   info.property("OutputUnit")};
+    if (m_row.invalid == nullptr)
+        m_row.invalid = info.property("InvalidValue");
+    if (m_row.modified != nullptr)
+        m_control.subscribe(*this);
+}
+
+Binding::~Binding()
+{
+    if (m_row.modified != nullptr)
+        m_control.unsubscribe(*this);
+}
+
+bool Binding::has(std::string_view property) const { return m_control.info().property(property) != nullptr; }
+
+void Binding::putIfThere(std::string_view property, const Variant& value)
+{
+    if (const core::PropertyRow* row = m_control.info().property(property))
+        quietly([&] { m_control.put(*row, value); });
+}
+
+std::optional<Variant> Binding::getIfThere(std::string_view property) const
+{
+    const core::PropertyRow* row = m_control.info().property(property);
+    return row != nullptr ? std::optional(m_control.get(*row)) : std::nullopt;
+}
+
+template <class Action>
+void Binding::quietly(Action&& action)
+{
+    struct Depth {
+        explicit Depth(int& depth) : depth(depth) { ++depth; }
+        ~Depth() { --depth; }
+        Depth(const Depth&) = delete;
+        Depth& operator=(const Depth&) = delete;
+        int& depth;
+    };
+    const Depth depth(m_quiet);
+    std::forward<Action>(action)();
+}
+
+void Binding::setFlag(const core::PropertyRow* row, bool value)
+{
+    // A write that changes nothing would still paint.
+    if (row != nullptr && m_control.get(*row).toBoolean() != value)
+        quietly([&] { m_control.put(*row, value); });
+}
+
+void Binding::applyFile()
+{
+    if (m_parameter == nullptr) {
+        putIfThere("DeviceTagNotFound", true);
+        return;
+    }
+    setFlag(m_row.waiting, true);
+    putIfThere("RegisterType", static_cast<std::int32_t>(m_parameter->location.bank));
+    if (!m_parameter->writable)
+        putIfThere("ReadOnly", true);
+    if (m_parameter->location.type == ValueType::Text) {
+        putIfThere("EntryType", static_cast<std::int32_t>(ENTRY_TYPE::Text));
+        putIfThere("MaxLength", static_cast<std::int32_t>(m_parameter->location.registers) * 2);
+        return;
+    }
+    // The form chooses the unit that the operator sees; one of another kind than the parameter's makes no sense.
+    const MEAS_TYPE wanted = shownUnit();
+    putIfThere("UnitType", static_cast<std::int32_t>(m_parameter->unitType));
+    putIfThere("DeviceUnit", static_cast<std::int32_t>(m_parameter->unit));
+    const auto* type = units::rowOf(m_parameter->unitType);
+    const auto number = static_cast<std::int32_t>(wanted);
+    if (type == nullptr || number < type->first || number > type->last)
+        putIfThere("OutputUnit", static_cast<std::int32_t>(m_parameter->unit));
+}
+
+void Binding::applyEntries(const std::string& language)
+{
+    if (m_parameter == nullptr)
+        return;
+    const core::ClassInfo& info = m_control.info();
+    const core::MethodRow* addBit = info.method("AddBitFieldEntry");
+    const core::MethodRow* addValue = info.method("AddEnumEntry");
+    const auto call = [&](std::string_view method, std::initializer_list<Variant> arguments) {
+        quietly([&] { m_control.call(method, std::span<const Variant>(arguments.begin(), arguments.size())); });
+    };
+    if (addValue != nullptr) {
+        call("ClearEnumList", {});
+        for (const Entry& entry : m_parameter->entries)
+            call("AddEnumEntry", {entry.text.in(language), entry.value});
+    }
+    if (addBit == nullptr)
+        return;
+    constexpr std::size_t kIndexed = 3;
+    if (addBit->argumentCount == kIndexed) {
+        const auto count = static_cast<std::int16_t>(m_parameter->bits.size());
+        call("MaxEntries", {count});
+        for (std::int16_t i = 0; i < count; ++i) {
+            const Entry& bit = m_parameter->bits[static_cast<std::size_t>(i)];
+            call("AddBitFieldEntry", {bit.text.in(language), static_cast<std::int16_t>(bit.value), i});
+        }
+        return;
+    }
+    call("ClearBitFieldList", {});
+    for (const Entry& bit : m_parameter->bits)
+        call("AddBitFieldEntry", {bit.text.in(language), static_cast<std::int16_t>(bit.value)});
+}
+
+void Binding::showOutcome(ReadOutcome outcome)
+{
+    const OutcomeRow& row = kOutcomes[static_cast<std::size_t>(outcome)];
+    if (row.cFail)
+        setFlag(m_row.cFail, *row.cFail);
+    if (row.noData)
+        setFlag(m_row.noData, *row.noData || (m_unfit && outcome == ReadOutcome::Live));
+    // Waiting freezes a control; an operator in the middle of an edit is not thrown out of it.
+    setFlag(m_row.waiting, row.waiting && !isModified());
+}
+
+Variant Binding::valueFor(std::span<const std::uint16_t> registers, const std::string& language) const
+{
+    const core::ValueKind kind = m_row.value->field.kind;
+    if (kind == core::ValueKind::Text && m_parameter->location.type != ValueType::Text) {
+        const ShownValue shownValue = describe(*m_parameter, registers, m_parameter->appearance.unit, language);
+        const std::string_view label = fc_GetUnitLabel(shownValue.unit);
+        return label.empty() ? shownValue.text : shownValue.text + ' ' + std::string(label);
+    }
+    const bool integer = kind == core::ValueKind::Int32 && m_row.unit == nullptr && m_parameter->scale == 1;
+    if (integer && (isInteger(m_parameter->location.type) || m_parameter->location.type == ValueType::Bit))
+        return decodeInteger(m_parameter->location, registers);
+    return decode(*m_parameter, registers);
+}
+
+bool Binding::showValue(std::span<const std::uint16_t> registers, const std::string& language)
+{
+    shown = seen = Registers(registers.begin(), registers.end());
+    m_unfit = true;
+    try {
+        const Variant value = valueFor(registers, language);
+        if (!value.isEmpty()) {
+            quietly([&] { m_control.put(*m_row.value, value); });
+            m_unfit = false;
+        }
+    } catch (const RunTimeError&) {
+        // A device may send what is no number of this unit, or more than the control can hold.
+    }
+    setFlag(m_row.noData, m_unfit);
+    return !m_unfit;
+}
+
+void Binding::tellOther(std::span<const std::uint16_t> registers)
+{
+    if (m_row.changed == nullptr)
+        return;
+    if (m_row.other != nullptr) {
+        try {
+            Variant value = valueFor(registers, {});
+            if (m_row.bitIndex != nullptr)
+                value = decodeBits(m_parameter->location, relevant(registers)) != 0;
+            else if (m_row.unit != nullptr && value.isNumber())
+                value = convert(value.number(), m_parameter->unitType, m_parameter->unit, shownUnit());
+            quietly([&] { m_control.put(*m_row.other, value); });
+        } catch (const RunTimeError&) {
+            // The flag alone must do: the other value does not fit the control.
+        }
+    }
+    quietly([&] { m_control.put(*m_row.changed, true); });
+}
+
+void Binding::forgetOther() { setFlag(m_row.changed, false); }
+
+Registers Binding::relevant(std::span<const std::uint16_t> registers) const
+{
+    std::uint32_t mask = 0;
+    if (m_parameter->location.type == ValueType::Bit) {
+        mask = 1;
+    } else if (m_row.bitIndex != nullptr) {
+        const std::int32_t bit = m_control.get(*m_row.bitIndex).toInt32();
+        mask = bit >= 0 && bit < 31 ? 1U << static_cast<unsigned>(bit) : 0;
+    } else {
+        return {registers.begin(), registers.end()};
+    }
+    const Registers none(registers.size(), 0);
+    return mergeBits(m_parameter->location, none, mask, decodeBits(m_parameter->location, registers));
+}
+
+bool Binding::isModified() const
+{
+    return m_parameter != nullptr && m_row.modified != nullptr && m_control.get(*m_row.modified).toBoolean();
+}
+
+bool Binding::isInvalid() const { return m_row.invalid != nullptr && m_control.get(*m_row.invalid).toBoolean(); }
+
+bool Binding::isBitwise() const
+{
+    return m_parameter->location.type == ValueType::Bit || m_row.bitIndex != nullptr ||
+           m_control.info().method("AddBitFieldEntry") != nullptr;
+}
+
+Edit Binding::edit() const
+{
+    Edit edit{m_control.get(*m_row.output)};
+    if (!isBitwise() || isInvalid())
+        return edit;
+    edit.bits = static_cast<std::uint32_t>(edit.value.toInt32());
+    edit.mask = edit.bits ^ static_cast<std::uint32_t>(m_control.get(*m_row.value).toInt32());
+    return edit;
+}
+
+MEAS_TYPE Binding::shownUnit() const
+{
+    if (m_row.unit != nullptr)
+        return MEAS_TYPE{m_control.get(*m_row.unit).toInt32()};
+    return m_parameter != nullptr ? m_parameter->appearance.unit : NoneU;
+}
+
+void Binding::refresh(const std::string& language)
+{
+    if (m_parameter == nullptr)
+        return;
+    // Filling a list anew moves its selection, and that must not become the operator's choice.
+    const bool modified = isModified();
+    const Variant output = modified ? m_control.get(*m_row.output) : Variant();
+    const bool valid = !isInvalid();
+    applyEntries(language);
+    if (modified && valid)
+        putIfThere("ModifiedValue", output);
+    else if (!modified && !shown.empty())
+        showValue(Registers(shown), language);
+}
+
+void Binding::follow(const Variant& chosen) { putIfThere("ModifiedValue", chosen); }
+
+void Binding::event(core::Control& control, const core::EventRow& row, platform::EventArgs /*args*/)
+{
+    if (m_quiet > 0)
+        return;
+    const bool chosen = row.name == "OutputValueChange";
+    if (chosen || row.name == "textChange" || row.name == "DataModifiedSetTrue" || row.name == "DataModifiedReset")
+        ++m_actions;
+    if (chosen && isChoice() && onChosen)
+        onChosen(control.get(*m_row.output));
+}
+
+} // namespace zor::monitor

@@ -1,0 +1,114 @@
+#pragma once
+
+/// One control and the parameter it shows. Goes by the names of the control's properties, so that it serves every
+/// class of controls.
+
+#include "core/control.h"
+#include "monitor/data/codec.h"
+#include "monitor/session/poller.h"
+
+#include <functional>
+#include <optional>
+
+namespace zor::monitor {
+
+/// What an operator has made of a parameter and not yet written.
+struct Edit {
+    Variant value;          ///< in the device's unit; when the mask is 0
+    std::uint32_t mask = 0; ///< of an edit of single bits: those that differ
+    std::uint32_t bits = 0;
+};
+
+class Binding final : public core::EventSink {
+public:
+    /// `parameter` is nullptr for a tag that the file does not have. The control must outlive the binding.
+    Binding(core::Control& control, const Parameter* parameter);
+    ~Binding();
+    Binding(const Binding&) = delete;
+    Binding& operator=(const Binding&) = delete;
+
+    [[nodiscard]] core::Control& control() const { return m_control; }
+    [[nodiscard]] const Parameter* parameter() const { return m_parameter; }
+    /// Of the choice between several buttons, of which one edit takes all.
+    [[nodiscard]] bool isChoice() const { return m_row.entryValue != nullptr; }
+
+    /// Tells the control what the file says: bank, unit, access, entries, names of bits.
+    void applyFile();
+
+    /// @name The device's side
+    /// @{
+    /// How the last read went; leaves the value as it is.
+    void showOutcome(ReadOutcome outcome);
+    /// Shows a value and so ends an edit. False when the control cannot show it.
+    bool showValue(std::span<const std::uint16_t> registers, const std::string& language);
+    /// The value has been changed by somebody else.
+    void tellOther(std::span<const std::uint16_t> registers);
+    /// The change by somebody else has been overwritten.
+    void forgetOther();
+    /// The part of the registers that this control is about.
+    [[nodiscard]] Registers relevant(std::span<const std::uint16_t> registers) const;
+    /// @}
+
+    /// @name The operator's side
+    /// @{
+    [[nodiscard]] bool isModified() const;
+    [[nodiscard]] bool isInvalid() const;
+    [[nodiscard]] Edit edit() const;
+    /// Counts what the operator has done to the control.
+    [[nodiscard]] std::uint64_t actions() const { return m_actions; }
+    /// The unit in which the operator sees numbers.
+    [[nodiscard]] MEAS_TYPE shownUnit() const;
+    /// Fills the entries in a language and shows the edit anew, or the value when there is none. An entry that
+    /// is no valid value stays as it was typed.
+    void refresh(const std::string& language);
+    /// Called when the operator has chosen this button of several.
+    std::function<void(const Variant& value)> onChosen;
+    void follow(const Variant& chosen);
+    /// @}
+
+    /// What the control was last given; empty before the first value.
+    Registers shown;
+    /// The device's value when it was last heard of, for telling whether somebody has changed it.
+    Registers seen;
+
+    /// @name Properties by name
+    /// @{
+    [[nodiscard]] bool has(std::string_view property) const;
+    void putIfThere(std::string_view property, const Variant& value);
+    [[nodiscard]] std::optional<Variant> getIfThere(std::string_view property) const;
+    /// @}
+
+private:
+    void event(core::Control& control, const core::EventRow& row, platform::EventArgs args) override;
+    [[nodiscard]] Variant valueFor(std::span<const std::uint16_t> registers, const std::string& language) const;
+    [[nodiscard]] bool isBitwise() const;
+    void applyEntries(const std::string& language);
+    template <class Action>
+    void quietly(Action&& action);
+    void setFlag(const core::PropertyRow* row, bool value);
+
+    /// Properties that are read and written again and again; nullptr where the class has none.
+    struct Rows {
+        const core::PropertyRow* value;
+        const core::PropertyRow* output;
+        const core::PropertyRow* modified;
+        const core::PropertyRow* changed;
+        const core::PropertyRow* other;
+        const core::PropertyRow* cFail;
+        const core::PropertyRow* noData;
+        const core::PropertyRow* waiting;
+        const core::PropertyRow* entryValue;
+        const core::PropertyRow* bitIndex;
+        const core::PropertyRow* invalid;
+        const core::PropertyRow* unit;
+    };
+
+    core::Control& m_control;
+    const Parameter* m_parameter;
+    Rows m_row;
+    std::uint64_t m_actions = 0;
+    int m_quiet = 0;
+    bool m_unfit = false; ///< the last value could not be shown
+};
+
+} // namespace zor::monitor

@@ -1,0 +1,109 @@
+#include "monitor/session/changes.h"
+
+#include "monitor/session/value_texts.h"
+#include "platform/error.h"
+
+#include <algorithm>
+#include <array>
+
+namespace zor::monitor {
+namespace {
+
+// In the order of Unfit.
+constexpr std::array kProblemOf{Problem::None, Problem::NotANumber, Problem::OutOfRange, Problem::TextTooLong,
+                                Problem::CharactersUnknown};
+
+void takeValue(Change& change, const Parameter& parameter, const Variant& value)
+{
+    const Encoded encoded = encode(parameter, value);
+    if (!change.target.empty() && change.target != encoded.registers)
+        change.problem = Problem::Conflict;
+    else if (encoded.unfit != Unfit::No)
+        change.problem = kProblemOf[static_cast<std::size_t>(encoded.unfit)];
+    change.target = encoded.registers;
+}
+
+void takeBits(Change& change, const Edit& edit)
+{
+    if (((change.bits ^ edit.bits) & change.mask & edit.mask) != 0)
+        change.problem = Problem::Conflict;
+    change.mask |= edit.mask;
+    change.bits = (change.bits & ~edit.mask) | (edit.bits & edit.mask);
+}
+
+void take(Change& change, const Parameter& parameter, Binding& binding)
+{
+    change.origins.push_back({&binding, binding.actions()});
+    change.before = binding.seen;
+    change.unit = binding.shownUnit();
+    change.changedByOther =
+        change.changedByOther || binding.getIfThere("DataChanged").value_or(Variant(false)).toBoolean();
+    if (!parameter.writable) {
+        change.problem = Problem::ReadOnly;
+    } else if (binding.isInvalid()) {
+        change.problem = Problem::InvalidEntry;
+    } else {
+        try {
+            const Edit edit = binding.edit();
+            if (edit.mask != 0)
+                takeBits(change, edit);
+            else
+                takeValue(change, parameter, edit.value);
+        } catch (const RunTimeError&) {
+            change.problem = Problem::InvalidEntry;
+        }
+    }
+}
+
+void describeChange(Change& change, const Parameter& parameter, const std::string& language)
+{
+    change.tag = parameter.tag;
+    if (change.mask != 0 && change.problem == Problem::None) {
+        if (change.before.empty())
+            change.problem = Problem::NeverRead;
+        else
+            change.target = mergeBits(parameter.location, change.before, change.mask, change.bits);
+    }
+    const MEAS_TYPE shown = change.unit;
+    change.oldText = describe(parameter, change.before, shown, language, change.mask).text;
+    if (change.target.empty()) {
+        // An entry that is no valid value has none that could be shown.
+        if (change.problem != Problem::InvalidEntry)
+            change.newText =
+                change.origins.front().binding->getIfThere("OutputValue").value_or(Variant()).toText();
+        return;
+    }
+    const ShownValue value = describe(parameter, change.target, shown, language, change.mask);
+    change.newText = value.text;
+    change.unit = value.unit;
+}
+
+} // namespace
+
+std::vector<Change> collectChanges(const ParameterFile& file, std::span<const std::unique_ptr<Binding>> bindings,
+                                   const std::string& language)
+{
+    std::vector<Change> changes;
+    for (std::size_t i = 0; i < file.parameters.size(); ++i) {
+        Change change;
+        change.parameter = i;
+        for (const auto& binding : bindings) {
+            if (binding->parameter() == &file.parameters[i] && binding->isModified())
+                take(change, file.parameters[i], *binding);
+        }
+        if (change.origins.empty())
+            continue;
+        describeChange(change, file.parameters[i], language);
+        changes.push_back(std::move(change));
+    }
+    return changes;
+}
+
+bool isFulfilled(const Change& change, const Location& location, const Registers& registers)
+{
+    if (change.mask == 0)
+        return registers == change.target;
+    return ((decodeBits(location, registers) ^ change.bits) & change.mask) == 0;
+}
+
+} // namespace zor::monitor

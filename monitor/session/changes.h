@@ -1,0 +1,60 @@
+#pragma once
+
+/// The operator's edits as a list that he reviews before anything is written.
+
+#include "monitor/session/binding.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace zor::monitor {
+
+/// Why a change cannot be written.
+enum class Problem : std::uint8_t {
+    None,
+    InvalidEntry,
+    NotANumber,
+    OutOfRange,
+    TextTooLong,
+    CharactersUnknown,
+    ReadOnly,
+    NeverRead, ///< bits are changed within what the device holds, and that is not known
+    Conflict,  ///< two controls hold different edits of the parameter
+};
+
+/// An edit of one control, as it was when the list was made.
+struct Origin {
+    Binding* binding;
+    std::uint64_t actions;
+};
+
+/// One parameter to be written: its whole value, or some of its bits.
+struct Change {
+    std::size_t parameter = 0;
+    std::vector<Origin> origins{};
+    Problem problem = Problem::None;
+    Registers before{};     ///< what the device held when last read
+    Registers target{};     ///< what it is to hold; of an edit of bits, as far as the mask goes
+    std::uint32_t mask = 0; ///< of an edit of bits
+    std::uint32_t bits = 0;
+    /// @name As the operator reviews it
+    /// What is shown as new is what the registers will hold.
+    /// @{
+    std::string tag{};
+    std::string oldText{};
+    std::string newText{};
+    MEAS_TYPE unit = NoneU;
+    bool changedByOther = false;
+    /// @}
+};
+
+/// The changes that the bound controls hold, in the order of the parameter file.
+[[nodiscard]] std::vector<Change> collectChanges(const ParameterFile& file,
+                                                 std::span<const std::unique_ptr<Binding>> bindings,
+                                                 const std::string& language);
+
+/// Whether what was read back is what the change was to bring about.
+[[nodiscard]] bool isFulfilled(const Change& change, const Location& location, const Registers& registers);
+
+} // namespace zor::monitor

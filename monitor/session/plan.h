@@ -1,0 +1,38 @@
+#pragma once
+
+/// Which registers are read together.
+
+#include "monitor/data/parameter_file.h"
+
+#include <cstddef>
+#include <optional>
+#include <set>
+#include <span>
+#include <utility>
+#include <vector>
+
+namespace zor::monitor {
+
+/// Neighbours in one bank, read in one request.
+struct Batch {
+    REGISTER_TYPE bank;
+    int first;
+    int count;                           ///< registers, up to 125
+    std::vector<std::size_t> parameters; ///< by address
+};
+
+/// An address at which a batch ends: what starts there or beyond goes into another. Found where a device refuses
+/// a request, so that one register that it does not have does not take its neighbours with it.
+using Cut = std::pair<REGISTER_TYPE, int>;
+using Cuts = std::set<Cut>;
+
+/// Reads for the wanted parameters (indices, in any order). Registers that nobody wants are read along where
+/// that saves a request, up to eight between two parameters. A parameter is never divided.
+[[nodiscard]] std::vector<Batch> plan(std::span<const Parameter> parameters, std::vector<std::size_t> wanted,
+                                      const Cuts& cuts);
+
+/// Where to divide a refused batch: in its widest gap, else in the middle. Nothing when its parameters all start
+/// at one address.
+[[nodiscard]] std::optional<Cut> cutOf(std::span<const Parameter> parameters, const Batch& batch);
+
+} // namespace zor::monitor

@@ -1,0 +1,193 @@
+#include "monitor/session/poller.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace zor::monitor {
+namespace {
+
+ReadOutcome outcomeOf(const Reply& reply)
+{
+    if (reply.outcome == Outcome::Answered)
+        return ReadOutcome::Live;
+    if (reply.outcome != Outcome::Refused || isGatewayException(reply.exception))
+        return ReadOutcome::NoAnswer;
+    return isBusyException(reply.exception) ? ReadOutcome::Busy : ReadOutcome::NotAvailable;
+}
+
+std::string joinedNumbers(std::span<const std::uint16_t> numbers)
+{
+    std::string text;
+    for (const std::uint16_t number : numbers)
+        text.append(text.empty() ? "" : ".").append(std::to_string(number));
+    return text;
+}
+
+std::string identityText(const Location& location, const Registers& registers)
+{
+    return location.type == ValueType::Text ? decodeText(location, registers) : joinedNumbers(registers);
+}
+
+} // namespace
+
+Poller::Poller(Link& link, const ParameterFile& file) : m_link(link), m_file(file)
+{
+    connect(&m_timer, &QTimer::timeout, this, [this] { tick(); });
+    m_soon.setSingleShot(true);
+    connect(&m_soon, &QTimer::timeout, this, [this] { begin(); });
+}
+
+Request Poller::readRequest(const Location& location)
+{
+    return {location.bank == InputRegister ? Function::ReadInput : Function::ReadHolding, location.address,
+            location.registers};
+}
+
+void Poller::start(int periodMilliseconds)
+{
+    m_timer.start(periodMilliseconds);
+    m_soon.start(0);
+}
+
+void Poller::setPeriod(int milliseconds) { m_timer.setInterval(milliseconds); }
+
+void Poller::pollNow()
+{
+    if (m_inRound)
+        m_again = true;
+    else
+        m_soon.start(0);
+}
+
+void Poller::tick()
+{
+    if (!m_inRound)
+        return begin();
+    // A device slower than the period is asked again only when it has answered.
+    if (std::exchange(m_late, true))
+        return;
+    for (const Batch& batch : m_todo)
+        tell(batch, {ReadOutcome::Late});
+}
+
+void Poller::begin()
+{
+    if (m_inRound)
+        return;
+    m_inRound = true;
+    m_late = m_answered = m_again = false;
+    const std::vector<Batch> batches = plan(m_file.parameters, wanted(), m_cuts);
+    const auto isSilent = [&](const Batch& batch) {
+        return std::ranges::any_of(batch.parameters, [&](std::size_t i) { return m_silent.contains(i); });
+    };
+    m_todo.assign(batches.begin(), batches.end());
+    std::stable_partition(m_todo.begin(), m_todo.end(), [&](const Batch& batch) { return !isSilent(batch); });
+    if (m_todo.empty()) {
+        // Nobody wants to know anything, so nothing is learned about the connection either.
+        m_inRound = false;
+        return;
+    }
+    next();
+}
+
+void Poller::next()
+{
+    const Batch& batch = m_todo.front();
+    const Location location{batch.bank, static_cast<std::uint16_t>(batch.first),
+                            static_cast<std::uint16_t>(batch.count)};
+    m_link.send(readRequest(location), [this](const Reply& reply) { hear(reply); });
+}
+
+void Poller::hear(const Reply& reply)
+{
+    const Batch batch = std::move(m_todo.front());
+    m_todo.pop_front();
+    const ReadOutcome outcome = outcomeOf(reply);
+    const bool answered = outcome != ReadOutcome::NoAnswer;
+    const std::optional<Cut> cut = cutOf(m_file.parameters, batch);
+    if (cut && (outcome == ReadOutcome::NotAvailable || (!answered && m_answered))) {
+        divide(batch, *cut);
+        m_answered = m_answered || answered;
+    } else {
+        m_answered = m_answered || answered;
+        for (const std::size_t i : batch.parameters) {
+            if (answered)
+                m_silent.erase(i);
+            else
+                m_silent.insert(i);
+        }
+        tell(batch, {outcome, reply.registers, reply.reason});
+    }
+    if (!m_answered) {
+        // Nothing has answered: asking for the rest would only make the operator wait for the news.
+        for (const Batch& rest : std::exchange(m_todo, {}))
+            tell(rest, {outcome, {}, reply.reason});
+    }
+    if (m_todo.empty())
+        end();
+    else
+        next();
+}
+
+void Poller::tell(const Batch& batch, const Reading& reading)
+{
+    for (const std::size_t i : batch.parameters) {
+        Reading own = reading;
+        if (reading.outcome == ReadOutcome::Live) {
+            const Location& location = m_file.parameters[i].location;
+            const auto begin = reading.registers.begin() + (location.address - batch.first);
+            own.registers.assign(begin, begin + location.registers);
+        }
+        onReading(i, own);
+    }
+}
+
+void Poller::divide(const Batch& batch, const Cut& cut)
+{
+    m_cuts.insert(cut);
+    const std::vector<Batch> parts = plan(m_file.parameters, batch.parameters, m_cuts);
+    m_todo.insert(m_todo.begin(), parts.begin(), parts.end());
+}
+
+void Poller::end()
+{
+    m_inRound = false;
+    ++m_rounds;
+    if (!m_answered) {
+        // What comes back may be another device, or the same with other firmware.
+        m_identified = false;
+        m_cuts.clear();
+    } else if (!m_identified) {
+        readIdentity();
+    }
+    onRound(m_answered);
+    if (m_again)
+        m_soon.start(0);
+}
+
+void Poller::readIdentity()
+{
+    m_identified = true;
+    if (!m_file.identity.type)
+        return readVersion({});
+    read(*m_file.identity.type, [this](const Reply& reply) {
+        if (reply.outcome != Outcome::Answered)
+            m_identified = reply.outcome == Outcome::Refused;
+        else
+            readVersion(identityText(*m_file.identity.type, reply.registers));
+    });
+}
+
+void Poller::readVersion(const std::string& type)
+{
+    if (!m_file.identity.version)
+        return onIdentity(type, {});
+    read(*m_file.identity.version, [this, type](const Reply& reply) {
+        if (reply.outcome != Outcome::Answered)
+            m_identified = reply.outcome == Outcome::Refused;
+        else
+            onIdentity(type, identityText(*m_file.identity.version, reply.registers));
+    });
+}
+
+} // namespace zor::monitor

@@ -1,0 +1,85 @@
+#pragma once
+
+/// Reads the device in rounds, a round each poll period.
+
+#include "monitor/data/codec.h"
+#include "monitor/link/link.h"
+#include "monitor/session/plan.h"
+
+#include <QTimer>
+
+#include <deque>
+#include <functional>
+#include <span>
+#include <string>
+
+namespace zor::monitor {
+
+/// What a read of one parameter came to.
+enum class ReadOutcome : std::uint8_t {
+    Live,         ///< the registers are the device's
+    NotAvailable, ///< the device answers, but not for this parameter
+    Busy,         ///< the device asks to be asked again
+    NoAnswer,     ///< communication failed
+    Late,         ///< the answer has been awaited for longer than a poll period
+};
+
+struct Reading {
+    ReadOutcome outcome = ReadOutcome::NoAnswer;
+    Registers registers{}; ///< of a live one
+    std::string reason{};
+};
+
+class Poller : public QObject {
+public:
+    /// The link and the file must outlive the poller. It does nothing before start().
+    Poller(Link& link, const ParameterFile& file);
+
+    /// Asked at the start of each round: the parameters to read.
+    std::function<std::vector<std::size_t>()> wanted;
+    std::function<void(std::size_t parameter, const Reading&)> onReading;
+    /// Device type and firmware version, read when a connection has begun to answer.
+    std::function<void(const std::string& type, const std::string& version)> onIdentity;
+    /// After each round; whether the device answered at all.
+    std::function<void(bool answered)> onRound;
+
+    void start(int periodMilliseconds);
+    void setPeriod(int milliseconds);
+    [[nodiscard]] int period() const { return m_timer.interval(); }
+    /// Begins a round now, or as soon as the present one has ended.
+    void pollNow();
+
+    /// Reads one parameter beside the rounds.
+    void read(const Location& location, Link::Done done) { m_link.send(readRequest(location), std::move(done)); }
+    [[nodiscard]] static Request readRequest(const Location& location);
+
+    [[nodiscard]] int rounds() const { return m_rounds; }
+
+private:
+    void tick();
+    void begin();
+    void next();
+    void hear(const Reply& reply);
+    void tell(const Batch& batch, const Reading& reading);
+    void divide(const Batch& batch, const Cut& cut);
+    void end();
+    void readIdentity();
+    void readVersion(const std::string& type);
+
+    Link& m_link;
+    const ParameterFile& m_file;
+    QTimer m_timer;
+    QTimer m_soon;
+    Cuts m_cuts;
+    /// Parameters whose read timed out while others were answered; they come last, so that they hold up nobody.
+    std::set<std::size_t> m_silent;
+    std::deque<Batch> m_todo;
+    int m_rounds = 0;
+    bool m_inRound = false;
+    bool m_late = false;
+    bool m_answered = false;
+    bool m_identified = false;
+    bool m_again = false;
+};
+
+} // namespace zor::monitor

@@ -1,0 +1,343 @@
+#include "monitor/session/session.h"
+
+#include "monitor/session/value_texts.h"
+#include "platform/error.h"
+#include "units/mod_Common.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace zor::monitor {
+namespace {
+
+// In the order of ReadOutcome.
+constexpr std::array<std::string_view, 5> kReadWords{"live", "not available", "busy", "communication failure",
+                                                     "waiting"};
+// In the order of WriteOutcome.
+constexpr std::array<std::string_view, 5> kWriteWords{"written", "refused", "not sent", "unconfirmed", "differs"};
+
+std::string withReason(std::string_view word, const std::string& reason)
+{
+    return reason.empty() ? std::string(word) : std::string(word) + ": " + reason;
+}
+
+} // namespace
+
+Session::Session(std::unique_ptr<Link> link, ParameterFile file, Log* log)
+    : m_link(std::move(link)), m_file(std::move(file)), m_log(log), m_poller(*m_link, m_file),
+      m_writer(*m_link, m_file), m_states(m_file.parameters.size())
+{
+    m_clock.start();
+    m_poller.wanted = [this] { return wanted(); };
+    m_poller.onReading = [this](std::size_t parameter, const Reading& reading) { hear(parameter, reading); };
+    m_poller.onRound = [this](bool answered) { hearRound(answered); };
+    m_poller.onIdentity = [this](const std::string& type, const std::string& version) {
+        m_type = type;
+        m_version = version;
+        for (const auto& binding : m_bindings) {
+            binding->control().DeviceType(type);
+            binding->control().DeviceVersion(version);
+        }
+    };
+    m_writer.onResult = [this](const Change& change, const WriteResult& result) { hearResult(change, result); };
+    m_writer.onDone = [this] {
+        if (onWritten)
+            onWritten(std::exchange(m_results, {}));
+    };
+}
+
+template <class Action>
+void Session::forEach(std::size_t parameter, Action&& action) const
+{
+    for (const auto& binding : m_bindings) {
+        if (binding->parameter() == &m_file.parameters[parameter])
+            action(*binding);
+    }
+}
+
+void Session::bind(core::Control& control)
+{
+    const auto index = m_file.indexOf(control.DeviceTag());
+    auto binding = std::make_unique<Binding>(control, index ? &m_file.parameters[*index] : nullptr);
+    binding->applyFile();
+    binding->refresh(m_language);
+    if (binding->isChoice()) {
+        Binding* chooser = binding.get();
+        chooser->onChosen = [this, chooser](const Variant& value) { chosen(*chooser, value); };
+    }
+    m_views.push_back({ControlTexts(control), binding->shownUnit()});
+    m_bindings.push_back(std::move(binding));
+}
+
+void Session::start(int periodMilliseconds) { m_poller.start(periodMilliseconds); }
+
+void Session::setPeriod(int milliseconds)
+{
+    m_poller.setPeriod(milliseconds);
+    m_link->setDeadline(milliseconds);
+}
+
+// --- Reading
+
+std::vector<std::size_t> Session::wanted()
+{
+    std::vector<std::size_t> parameters;
+    for (std::size_t i = 0; i < m_bindings.size(); ++i) {
+        Binding& binding = *m_bindings[i];
+        if (binding.parameter() == nullptr)
+            continue;
+        const auto parameter = static_cast<std::size_t>(binding.parameter() - m_file.parameters.data());
+        const bool visible = !isVisible || isVisible(binding.control());
+        const State& state = m_states[parameter];
+        if (visible || binding.isModified() || state.unconfirmed)
+            parameters.push_back(parameter);
+        // What has not been read for a while does not pass for live while its first read is under way.
+        const bool stale = state.readAt < 0 || m_clock.elapsed() - state.readAt > m_poller.period();
+        if (visible && !m_views[i].visible && stale)
+            binding.showOutcome(ReadOutcome::Late);
+        m_views[i].visible = visible;
+    }
+    return parameters;
+}
+
+void Session::hear(std::size_t parameter, const Reading& reading)
+{
+    logRead(parameter, reading);
+    State& state = m_states[parameter];
+    state.outcome = reading.outcome;
+    forEach(parameter, [&](Binding& binding) { binding.showOutcome(reading.outcome); });
+    if (reading.outcome == ReadOutcome::NotAvailable)
+        state.readAt = m_clock.elapsed();
+    if (reading.outcome != ReadOutcome::Live)
+        return;
+    state.readAt = m_clock.elapsed();
+    // Between a write and its reading back every answer is about our own change.
+    if (!m_writer.isWriting(parameter))
+        hearValue(parameter, reading.registers);
+}
+
+void Session::hearValue(std::size_t parameter, const Registers& registers)
+{
+    State& state = m_states[parameter];
+    if (state.unconfirmed)
+        settle(parameter, registers);
+    const bool foreign = !state.written.empty() && state.written != registers;
+    if (foreign)
+        state.written.clear();
+    bool modified = false;
+    forEach(parameter, [&](const Binding& binding) { modified = modified || binding.isModified(); });
+    const bool again = std::exchange(state.wasModified, modified) && !modified;
+    state.last = registers;
+    forEach(parameter, [&](Binding& binding) { update(binding, registers, foreign, again); });
+}
+
+bool Session::isInEdit(const Binding& binding) const
+{
+    if (binding.isModified() || !binding.isChoice())
+        return binding.isModified();
+    return std::ranges::any_of(m_bindings, [&](const auto& other) {
+        return other->parameter() == binding.parameter() && other->isChoice() && other->isModified();
+    });
+}
+
+void Session::update(Binding& binding, const Registers& registers, bool foreign, bool again)
+{
+    if (isInEdit(binding)) {
+        const bool known = !binding.seen.empty();
+        if (known && binding.isModified() && binding.relevant(binding.seen) != binding.relevant(registers))
+            binding.tellOther(registers);
+        binding.seen = registers;
+        return;
+    }
+    const bool mine =
+        foreign && !binding.seen.empty() && binding.relevant(binding.seen) != binding.relevant(registers);
+    if (again || binding.shown != registers)
+        binding.showValue(registers, m_language);
+    if (mine)
+        binding.tellOther(registers);
+}
+
+void Session::hearRound(bool answered)
+{
+    const bool recovered = answered && !m_healthy;
+    m_healthy = answered;
+    m_failedRounds += answered ? 0 : 1;
+    for (std::size_t i = 0; i < m_bindings.size(); ++i) {
+        Binding& binding = *m_bindings[i];
+        if (binding.parameter() == nullptr)
+            continue;
+        if (!answered)
+            binding.showOutcome(ReadOutcome::NoAnswer);
+        else if (recovered && !m_views[i].visible && binding.control().CFail() && !binding.isModified())
+            binding.showOutcome(ReadOutcome::Busy); // it is read when it is next seen
+    }
+    if (onRound)
+        onRound(answered);
+}
+
+// --- Writing
+
+bool Session::hasEdits() const
+{
+    return std::ranges::any_of(m_bindings, [](const auto& binding) { return binding->isModified(); });
+}
+
+std::vector<Change> Session::pending() const { return collectChanges(m_file, m_bindings, m_language); }
+
+bool Session::write(const std::vector<Change>& changes)
+{
+    if (isWriting())
+        return false;
+    std::vector<Change> writable;
+    std::ranges::copy_if(changes, std::back_inserter(writable),
+                         [](const Change& change) { return change.problem == Problem::None; });
+    m_writer.write(std::move(writable));
+    return true;
+}
+
+void Session::hearResult(const Change& change, const WriteResult& result)
+{
+    State& state = m_states[change.parameter];
+    logWrite(change, result, kWriteWords[static_cast<std::size_t>(result.outcome)]);
+    if (result.outcome == WriteOutcome::Written) {
+        endEdits(change, result.readBack);
+    } else if (result.outcome == WriteOutcome::Unconfirmed) {
+        state.unconfirmed = change;
+    } else if (result.outcome == WriteOutcome::Differs) {
+        state.last = result.readBack;
+        for (const Origin& origin : change.origins) {
+            origin.binding->seen = result.readBack;
+            origin.binding->tellOther(result.readBack);
+        }
+    }
+    m_results.push_back({change, result});
+}
+
+void Session::endEdits(const Change& change, const Registers& registers)
+{
+    State& state = m_states[change.parameter];
+    state.written = state.last = registers;
+    state.wasModified = false;
+    for (const Origin& origin : change.origins) {
+        // What the operator has typed since the review is a new edit.
+        if (origin.actions == origin.binding->actions()) {
+            origin.binding->forgetOther();
+            origin.binding->showValue(registers, m_language);
+        }
+    }
+    forEach(change.parameter, [&](Binding& binding) {
+        if (isInEdit(binding))
+            binding.seen = registers;
+        else if (binding.shown != registers)
+            binding.showValue(registers, m_language);
+    });
+}
+
+void Session::settle(std::size_t parameter, const Registers& registers)
+{
+    const Change change = *std::exchange(m_states[parameter].unconfirmed, std::nullopt);
+    const bool done = isFulfilled(change, m_file.parameters[parameter].location, registers);
+    logWrite(change, {done ? WriteOutcome::Written : WriteOutcome::NotSent, 0, registers, {}},
+             done ? "confirmed" : "not carried out");
+    if (done)
+        endEdits(change, registers);
+}
+
+void Session::undoAll()
+{
+    for (std::size_t i = 0; i < m_states.size(); ++i) {
+        bool modified = false;
+        forEach(i, [&](const Binding& binding) { modified = modified || binding.isModified(); });
+        if (!modified || m_states[i].last.empty())
+            continue;
+        m_states[i].unconfirmed.reset();
+        m_states[i].wasModified = false;
+        forEach(i, [&](Binding& binding) { binding.showValue(m_states[i].last, m_language); });
+    }
+}
+
+void Session::chosen(Binding& binding, const Variant& value)
+{
+    for (const auto& other : m_bindings) {
+        if (other.get() != &binding && other->isChoice() && other->parameter() == binding.parameter())
+            other->follow(value);
+    }
+}
+
+// --- How values are shown
+
+void Session::setLanguage(const std::string& language)
+{
+    m_language = language;
+    for (std::size_t i = 0; i < m_bindings.size(); ++i) {
+        m_bindings[i]->refresh(language);
+        m_views[i].texts.apply();
+    }
+}
+
+void Session::setUnits(UnitSystem system)
+{
+    for (std::size_t i = 0; i < m_bindings.size(); ++i) {
+        Binding& binding = *m_bindings[i];
+        if (binding.parameter() != nullptr)
+            setUnit(binding, unitIn(system, m_views[i].formUnit, binding.parameter()->unit));
+    }
+}
+
+bool Session::setUnit(Binding& binding, MEAS_TYPE unit)
+{
+    if (!binding.has("OutputUnit"))
+        return true;
+    try {
+        binding.putIfThere("OutputUnit", static_cast<std::int32_t>(unit));
+        // The control converts the text that it shows; from the value itself no rounding adds up.
+        if (!binding.isModified() && !binding.shown.empty())
+            binding.showValue(Registers(binding.shown), m_language);
+    } catch (const RunTimeError&) {
+        return false;
+    }
+    const auto found = std::ranges::find(m_bindings, &binding, &std::unique_ptr<Binding>::get);
+    m_views[static_cast<std::size_t>(found - m_bindings.begin())].texts.applyUnitLabel();
+    return true;
+}
+
+// --- For people
+
+void Session::logRead(std::size_t parameter, const Reading& reading)
+{
+    const State& state = m_states[parameter];
+    if (m_log == nullptr || state.outcome == reading.outcome)
+        return;
+    const Parameter& row = m_file.parameters[parameter];
+    m_log->record("read", row.tag, recordText(row, state.last), recordText(row, reading.registers),
+                  withReason(kReadWords[static_cast<std::size_t>(reading.outcome)], reading.reason));
+}
+
+void Session::logWrite(const Change& change, const WriteResult& result, std::string_view outcome)
+{
+    if (m_log == nullptr)
+        return;
+    const Parameter& row = m_file.parameters[change.parameter];
+    m_log->record("write", row.tag, recordText(row, change.before, change.mask),
+                  recordText(row, change.target, change.mask), withReason(outcome, result.reason));
+}
+
+std::string Session::report() const
+{
+    std::string lines;
+    for (std::size_t i = 0; i < m_states.size(); ++i) {
+        const Parameter& row = m_file.parameters[i];
+        MEAS_TYPE unit = row.appearance.unit;
+        forEach(i, [&](const Binding& binding) { unit = binding.has("OutputUnit") ? binding.shownUnit() : unit; });
+        const ShownValue value = describe(row, m_states[i].last, unit, m_language);
+        const std::string_view label = fc_GetUnitLabel(value.unit);
+        lines.append(row.tag).append("  ").append(value.text);
+        lines.append(label.empty() ? "" : " ").append(label).append("  ");
+        const bool read = m_states[i].readAt >= 0 || m_states[i].outcome == ReadOutcome::NoAnswer;
+        lines.append(read ? kReadWords[static_cast<std::size_t>(m_states[i].outcome)] : "not read").append("\n");
+    }
+    return lines;
+}
+
+} // namespace zor::monitor

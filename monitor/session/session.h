@@ -1,0 +1,128 @@
+#pragma once
+
+/// A host's work without a window: reads the device into the bound controls, keeps the operator's edits, and
+/// writes them when told to.
+
+#include "monitor/session/changes.h"
+#include "monitor/session/control_texts.h"
+#include "monitor/session/log.h"
+#include "monitor/session/poller.h"
+#include "monitor/session/unit_system.h"
+#include "monitor/session/writer.h"
+
+#include <QElapsedTimer>
+
+#include <functional>
+#include <memory>
+
+namespace zor::monitor {
+
+/// A change that has been dealt with.
+struct Written {
+    Change change;
+    WriteResult result;
+};
+
+class Session : public QObject {
+public:
+    /// `log` may be nullptr; else it must outlive the session.
+    Session(std::unique_ptr<Link> link, ParameterFile file, Log* log = nullptr);
+
+    /// Takes a control under the session's care: by its DeviceTag it finds its parameter. The control must
+    /// outlive the session.
+    void bind(core::Control& control);
+    void start(int periodMilliseconds);
+    void setPeriod(int milliseconds);
+
+    /// Whether the operator can see a control; without it, he sees all.
+    std::function<bool(core::Control&)> isVisible;
+    /// After each round; whether the device answered.
+    std::function<void(bool answered)> onRound;
+    /// When a list of changes has been dealt with.
+    std::function<void(const std::vector<Written>&)> onWritten;
+
+    /// @name Editing
+    /// @{
+    [[nodiscard]] bool hasEdits() const;
+    [[nodiscard]] std::vector<Change> pending() const;
+    /// Writes those of the changes that have no problem; false when a list is still being written.
+    bool write(const std::vector<Change>& changes);
+    [[nodiscard]] bool isWriting() const { return m_writer.isWriting(); }
+    /// Every edit goes back to what the device holds.
+    void undoAll();
+    /// @}
+
+    /// @name How values are shown
+    /// @{
+    /// "en", "de" or "fr": texts and entries. Translators and separators must be in force already.
+    void setLanguage(const std::string& language);
+    void setUnits(UnitSystem system);
+    /// False when the value cannot be expressed in the unit.
+    bool setUnit(Binding& binding, MEAS_TYPE unit);
+    /// @}
+
+    /// @name For people
+    /// @{
+    [[nodiscard]] const ParameterFile& file() const { return m_file; }
+    [[nodiscard]] Poller& poller() { return m_poller; }
+    [[nodiscard]] Link& link() { return *m_link; }
+    [[nodiscard]] std::span<const std::unique_ptr<Binding>> bindings() const { return m_bindings; }
+    /// Whether the device answered in the last round.
+    [[nodiscard]] bool isHealthy() const { return m_healthy; }
+    [[nodiscard]] int failedRounds() const { return m_failedRounds; }
+    /// Device type and firmware version, once they are known.
+    [[nodiscard]] const std::string& deviceType() const { return m_type; }
+    [[nodiscard]] const std::string& deviceVersion() const { return m_version; }
+    /// A line for each parameter: tag, value, unit, state.
+    [[nodiscard]] std::string report() const;
+    /// @}
+
+private:
+    /// What is known of a parameter.
+    struct State {
+        Registers last{};    ///< as read
+        Registers written{}; ///< by us, as read back; empty when somebody has changed it since
+        ReadOutcome outcome = ReadOutcome::Late;
+        std::optional<Change> unconfirmed{};
+        qint64 readAt = -1; ///< on the session's clock
+        bool wasModified = false;
+    };
+    struct View {
+        ControlTexts texts;
+        MEAS_TYPE formUnit;
+        bool visible = false;
+    };
+
+    [[nodiscard]] std::vector<std::size_t> wanted();
+    void hear(std::size_t parameter, const Reading& reading);
+    void hearValue(std::size_t parameter, const Registers& registers);
+    void update(Binding& binding, const Registers& registers, bool foreign, bool again);
+    void hearRound(bool answered);
+    void settle(std::size_t parameter, const Registers& registers);
+    void hearResult(const Change& change, const WriteResult& result);
+    void endEdits(const Change& change, const Registers& registers);
+    void chosen(Binding& binding, const Variant& value);
+    void logRead(std::size_t parameter, const Reading& reading);
+    void logWrite(const Change& change, const WriteResult& result, std::string_view outcome);
+    [[nodiscard]] bool isInEdit(const Binding& binding) const;
+    template <class Action>
+    void forEach(std::size_t parameter, Action&& action) const;
+
+    std::unique_ptr<Link> m_link;
+    ParameterFile m_file;
+    Log* m_log;
+    Poller m_poller;
+    Writer m_writer;
+    std::vector<State> m_states;
+    std::vector<std::unique_ptr<Binding>> m_bindings;
+    std::vector<View> m_views; ///< one for each binding
+    std::vector<Written> m_results;
+    QElapsedTimer m_clock;
+    std::string m_language = "en";
+    std::string m_type;
+    std::string m_version;
+    int m_failedRounds = 0;
+    bool m_healthy = false;
+};
+
+} // namespace zor::monitor

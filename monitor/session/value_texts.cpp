@@ -1,0 +1,89 @@
+#include "monitor/session/value_texts.h"
+
+#include "platform/error.h"
+#include "units/mod_Common.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace zor::monitor {
+namespace {
+
+constexpr std::int16_t kUsualDigits = 3;
+
+std::string nameOf(const std::vector<Entry>& entries, std::int32_t value, const std::string& language)
+{
+    const auto found = std::ranges::find(entries, value, &Entry::value);
+    return found == entries.end() ? std::string() : found->text.in(language);
+}
+
+std::string describeBits(const Parameter& parameter, std::uint32_t bits, const std::string& language,
+                         std::uint32_t mask)
+{
+    std::string text;
+    for (std::int32_t bit = 0; bit < 32; ++bit) {
+        const std::uint32_t one = 1U << static_cast<unsigned>(bit);
+        if (((mask == 0 ? bits : mask) & one) == 0)
+            continue;
+        std::string name = nameOf(parameter.bits, bit, language);
+        if (name.empty())
+            name = parameter.location.type == ValueType::Bit ? "" : std::to_string(bit);
+        text.append(text.empty() ? "" : ", ").append(name);
+        if (mask != 0)
+            text.append(name.empty() ? "" : "=").append((bits & one) != 0 ? "1" : "0");
+    }
+    return text.empty() ? "-" : text;
+}
+
+std::string describeNumber(const Parameter& parameter, double value, MEAS_TYPE shown)
+{
+    const bool unitless = shown == NoneU;
+    const bool whole = unitless && !parameter.appearance.digits && value == std::floor(value);
+    const std::int16_t digits = whole ? std::int16_t{0} : parameter.appearance.digits.value_or(kUsualDigits);
+    return formatValueText(convert(value, parameter.unitType, parameter.unit, shown), shown, digits);
+}
+
+} // namespace
+
+std::int32_t decodeInteger(const Location& location, std::span<const std::uint16_t> registers)
+{
+    const std::uint32_t raw = decodeBits(location, registers);
+    return location.type == ValueType::Int16 ? static_cast<std::int16_t>(raw) : static_cast<std::int32_t>(raw);
+}
+
+ShownValue describe(const Parameter& parameter, std::span<const std::uint16_t> registers, MEAS_TYPE shown,
+                    const std::string& language, std::uint32_t mask)
+{
+    if (registers.empty())
+        return {"?", NoneU};
+    if (mask != 0 || !parameter.bits.empty())
+        return {describeBits(parameter, decodeBits(parameter.location, registers), language, mask), NoneU};
+    if (!parameter.entries.empty()) {
+        const std::int32_t value = decodeInteger(parameter.location, registers);
+        const std::string name = nameOf(parameter.entries, value, language);
+        return {name.empty() ? std::to_string(value) : name, NoneU};
+    }
+    const Variant value = decode(parameter, registers);
+    if (!value.isNumber())
+        return {value.isEmpty() ? "?" : value.text(), NoneU};
+    try {
+        return {describeNumber(parameter, value.number(), shown), shown};
+    } catch (const RunTimeError&) {
+        return {value.toText(), parameter.unit};
+    }
+}
+
+std::string recordText(const Parameter& parameter, std::span<const std::uint16_t> registers, std::uint32_t mask)
+{
+    const bool named = mask != 0 || !parameter.bits.empty() || !parameter.entries.empty();
+    const Variant value = named || registers.empty() ? Variant() : decode(parameter, registers);
+    if (!value.isNumber())
+        return describe(parameter, registers, parameter.unit, "en", mask).text;
+    std::array<char, 32> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value.number()).ptr;
+    return {digits.data(), end};
+}
+
+} // namespace zor::monitor

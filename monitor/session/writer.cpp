@@ -1,0 +1,140 @@
+#include "monitor/session/writer.h"
+
+#include <algorithm>
+
+namespace zor::monitor {
+namespace {
+
+WriteResult resultOf(const Reply& reply)
+{
+    WriteResult result;
+    result.exception = reply.exception;
+    result.reason = reply.reason;
+    switch (reply.outcome) {
+    case Outcome::Answered: result.outcome = WriteOutcome::Written; break;
+    case Outcome::Refused: result.outcome = WriteOutcome::Refused; break;
+    case Outcome::NotSent: result.outcome = WriteOutcome::NotSent; break;
+    case Outcome::NoAnswer: result.outcome = WriteOutcome::Unconfirmed; break;
+    }
+    return result;
+}
+
+} // namespace
+
+bool Writer::isWriting(std::size_t parameter) const
+{
+    return std::ranges::any_of(m_jobs, [&](const Job& job) {
+        return std::ranges::any_of(job.changes,
+                                   [&](const Change& change) { return change.parameter == parameter; });
+    });
+}
+
+void Writer::write(std::vector<Change> changes)
+{
+    std::ranges::stable_sort(changes, {}, [this](const Change& change) {
+        return m_file.parameters[change.parameter].location.address;
+    });
+    for (Change& change : changes) {
+        const Location& location = m_file.parameters[change.parameter].location;
+        const bool bits = change.mask != 0;
+        const int end = location.address + location.registers;
+        const auto shares = [&](const Job& job) {
+            return job.bits && bits && location.address < job.first + job.count &&
+                   end - job.first <= kMostWriteRegisters;
+        };
+        const auto found = std::ranges::find_if(m_jobs, shares);
+        if (found == m_jobs.end()) {
+            m_jobs.push_back({location.address, location.registers, bits, {}});
+            m_jobs.back().changes.push_back(std::move(change));
+        } else {
+            found->count = std::max(found->count, end - found->first);
+            found->changes.push_back(std::move(change));
+        }
+    }
+    next();
+}
+
+Request Writer::readRequest() const
+{
+    return {Function::ReadHolding, static_cast<std::uint16_t>(m_jobs.front().first),
+            static_cast<std::uint16_t>(m_jobs.front().count)};
+}
+
+void Writer::next()
+{
+    if (m_jobs.empty()) {
+        onDone();
+    } else if (m_jobs.front().bits) {
+        readFirst();
+    } else {
+        send(m_jobs.front().changes.front().target);
+    }
+}
+
+void Writer::readFirst()
+{
+    m_link.send(readRequest(), [this](const Reply& reply) {
+        if (reply.outcome != Outcome::Answered) {
+            WriteResult result = resultOf(reply);
+            // The read has failed; the write has not been sent.
+            if (result.outcome == WriteOutcome::Unconfirmed)
+                result.outcome = WriteOutcome::NotSent;
+            return finish(result, {});
+        }
+        Registers registers = reply.registers;
+        for (const Change& change : m_jobs.front().changes) {
+            const Location& location = m_file.parameters[change.parameter].location;
+            const auto at = registers.begin() + (location.address - m_jobs.front().first);
+            const Registers merged =
+                mergeBits(location, std::span(at, location.registers), change.mask, change.bits);
+            std::ranges::copy(merged, at);
+        }
+        send(std::move(registers));
+    });
+}
+
+void Writer::send(Registers registers)
+{
+    const auto address = static_cast<std::uint16_t>(m_jobs.front().first);
+    m_link.send(writeRequest(address, std::move(registers)), [this](const Reply& reply) {
+        const WriteResult result = resultOf(reply);
+        if (result.outcome == WriteOutcome::Refused || result.outcome == WriteOutcome::NotSent)
+            return finish(result, {});
+        readBack(result);
+    });
+}
+
+void Writer::readBack(const WriteResult& written)
+{
+    m_link.send(readRequest(), [this, written](const Reply& reply) {
+        if (reply.outcome == Outcome::Answered)
+            return finish(written, reply.registers);
+        WriteResult result = written;
+        result.outcome = WriteOutcome::Unconfirmed;
+        result.reason = reply.reason;
+        finish(result, {});
+    });
+}
+
+void Writer::finish(const WriteResult& result, const Registers& registers)
+{
+    const Job job = std::move(m_jobs.front());
+    m_jobs.pop_front();
+    for (const Change& change : job.changes) {
+        const Location& location = m_file.parameters[change.parameter].location;
+        WriteResult own = result;
+        if (!registers.empty()) {
+            const auto at = registers.begin() + (location.address - job.first);
+            own.readBack.assign(at, at + location.registers);
+            // A write whose answer was lost may have been carried out all the same, and may yet be.
+            if (isFulfilled(change, location, own.readBack))
+                own.outcome = WriteOutcome::Written;
+            else if (own.outcome == WriteOutcome::Written)
+                own.outcome = WriteOutcome::Differs;
+        }
+        onResult(change, own);
+    }
+    next();
+}
+
+} // namespace zor::monitor

@@ -1,0 +1,64 @@
+#pragma once
+
+/// Carries out a reviewed list of changes: each is written once and read back.
+
+#include "monitor/link/link.h"
+#include "monitor/session/changes.h"
+
+#include <QObject>
+
+#include <deque>
+#include <functional>
+
+namespace zor::monitor {
+
+enum class WriteOutcome : std::uint8_t {
+    Written,     ///< read back as it was to be
+    Refused,     ///< by an exception; nothing has changed
+    NotSent,     ///< no connection; nothing has changed
+    Unconfirmed, ///< sent, but whether it was carried out is not known
+    Differs,     ///< carried out, but the device holds something else
+};
+
+struct WriteResult {
+    WriteOutcome outcome = WriteOutcome::Unconfirmed;
+    std::uint8_t exception = 0;
+    Registers readBack{}; ///< of the parameter, when it could be read
+    std::string reason{};
+};
+
+/// Changes of bits that share registers are read, merged and written together, so that no other bit is touched.
+class Writer : public QObject {
+public:
+    Writer(Link& link, const ParameterFile& file) : m_link(link), m_file(file) {}
+
+    std::function<void(const Change&, const WriteResult&)> onResult;
+    std::function<void()> onDone;
+
+    /// Changes with a problem must not be among them. Not while isWriting().
+    void write(std::vector<Change> changes);
+    [[nodiscard]] bool isWriting() const { return !m_jobs.empty(); }
+    [[nodiscard]] bool isWriting(std::size_t parameter) const;
+
+private:
+    /// Registers written in one request, and the changes that this brings about.
+    struct Job {
+        int first;
+        int count;
+        bool bits;
+        std::vector<Change> changes;
+    };
+
+    void next();
+    void readFirst();
+    void send(Registers registers);
+    void readBack(const WriteResult& written);
+    void finish(const WriteResult& result, const Registers& registers);
+    [[nodiscard]] Request readRequest() const;
+
+    Link& m_link;
+    const ParameterFile& m_file;
+    std::deque<Job> m_jobs;
+};
+
+} // namespace zor::monitor

@@ -1,0 +1,39 @@
+// What the controls' texts are looked up by. Not compiled: the identifiers come from the controls at run time, and
+// lupdate, which collects what there is to translate, would not find them. A label that is the same in every
+// language needs no translation.
+
+#include <QtGlobal>
+
+const char* const kMessages[] = {
+    QT_TRANSLATE_NOOP("messages", "MSG_CFAIL"),
+    QT_TRANSLATE_NOOP("messages", "MSG_DATANOTAVAILABLE"),
+    QT_TRANSLATE_NOOP("messages", "MSG_DATACHANGED"),
+    QT_TRANSLATE_NOOP("messages", "MSG_INVALIDENTRY"),
+    QT_TRANSLATE_NOOP("messages", "MSG_DEVICETAGNOTFOUND"),
+    QT_TRANSLATE_NOOP("messages", "MSG_INVALIDENTRYTO"),
+    QT_TRANSLATE_NOOP("messages", "MSG_INVALIDENTRYNAN"),
+    QT_TRANSLATE_NOOP("messages", "MSG_INVALIDVALUE"),
+    QT_TRANSLATE_NOOP("messages", "MsgInvalidEntryForText"),
+};
+
+// The status image has texts of its own under these.
+const char* const kOfTheImage[][2] = {
+    QT_TRANSLATE_NOOP3("messages", "MSG_DEFAULT", "ctx_ZorImage"),
+    QT_TRANSLATE_NOOP3("messages", "MSG_STATUSNOTOK", "ctx_ZorImage"),
+    QT_TRANSLATE_NOOP3("messages", "MsgStatusOK", "ctx_ZorImage"),
+    QT_TRANSLATE_NOOP3("messages", "MsgUndefined", "ctx_ZorImage"),
+    QT_TRANSLATE_NOOP3("messages", "MsgBit", "ctx_ZorImage"),
+    QT_TRANSLATE_NOOP3("messages", "StatusText", "ctx_ZorImage"),
+};
+
+const char* const kUnits[] = {
+    QT_TRANSLATE_NOOP("units", "UNIT_LENGTH_1/256_INCH"), QT_TRANSLATE_NOOP("units", "UNIT_LENGTH_1/16_INCH"),
+    QT_TRANSLATE_NOOP("units", "UNIT_LENGTH_INCH"),       QT_TRANSLATE_NOOP("units", "UNIT_LENGTH_FEET"),
+    QT_TRANSLATE_NOOP("units", "UNIT_VEL_1/10_FT/HR"),    QT_TRANSLATE_NOOP("units", "UNIT_VEL_FT/S"),
+    QT_TRANSLATE_NOOP("units", "UNIT_VEL_FT/HR"),         QT_TRANSLATE_NOOP("units", "UNIT_VEL_INCH/MIN"),
+    QT_TRANSLATE_NOOP("units", "UNIT_VOL_FT3"),           QT_TRANSLATE_NOOP("units", "UNIT_VOL_BBL"),
+    QT_TRANSLATE_NOOP("units", "UNIT_VOL_IMPGAL"),        QT_TRANSLATE_NOOP("units", "UNIT_VOL_YD3"),
+    QT_TRANSLATE_NOOP("units", "UNIT_VOL_INCH3"),         QT_TRANSLATE_NOOP("units", "UNIT_PRES_BAR"),
+    QT_TRANSLATE_NOOP("units", "UNIT_PRES_MBAR"),         QT_TRANSLATE_NOOP("units", "UNIT_VOLFLOW_BBL/HR"),
+    QT_TRANSLATE_NOOP("units", "UNIT_OTHER_DEBYE"),       QT_TRANSLATE_NOOP("units", "UNIT_OTHER_OHM"),
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+/// The language of the whole program.
+
+#include <QString>
+#include <QTranslator>
+
+#include <span>
+
+namespace zor::monitor {
+
+struct LanguageRow {
+    const char* code; ///< as in locale names and parameter files
+    const char* name; ///< in the language itself
+};
+
+/// English first.
+[[nodiscard]] std::span<const LanguageRow> languages() noexcept;
+
+/// Installs translators and separators. One for the process; it must end before the application does.
+class Languages {
+public:
+    Languages();
+    ~Languages();
+    Languages(const Languages&) = delete;
+    Languages& operator=(const Languages&) = delete;
+
+    /// The language of the user's environment if it is one of ours, else English.
+    [[nodiscard]] static QString systemLanguage();
+    /// Texts by `code`, separators by the user's own region where its language is this one. Any other code
+    /// counts as English.
+    void use(const QString& code);
+    [[nodiscard]] const QString& current() const { return m_code; }
+
+private:
+    QTranslator m_own;
+    QTranslator m_qt;
+    QString m_code = "en";
+};
+
+} // namespace zor::monitor

@@ -1,0 +1,58 @@
+#include "forms/form.h"
+#include "monitor/ui/form.h"
+#include "widgets/ui_loader.h"
+#include "widgets/zor_control.h"
+
+#include <QFile>
+#include <QMainWindow>
+
+namespace zor::monitor {
+
+UiForm::UiForm(const QString& file, const core::ClassRegistry& classes)
+{
+    QFile source(file);
+    const std::string name = file.toStdString();
+    if (!source.open(QIODevice::ReadOnly))
+        throw FileError(name, 0, source.errorString().toStdString());
+    constexpr qint64 kLargest = 16 << 20;
+    if (source.size() > kLargest)
+        throw FileError(name, 0, "larger than 16 MB");
+    // Read first by the library's own reader: it says what is wrong, and in which line.
+    const QByteArray text = source.readAll();
+    if (forms::Form::parse(classes, text.toStdString(), name).items().empty())
+        throw FileError(name, 0, "no controls of the library are on this form");
+    source.seek(0);
+    ZorUiLoader loader;
+    QWidget* loaded = loader.load(&source);
+    if (loaded == nullptr)
+        throw FileError(name, 0, loader.errorString().toStdString());
+    // A form drawn as a window would bring its own frame, menus and status bar.
+    if (auto* window = qobject_cast<QMainWindow*>(loaded);
+        window != nullptr && window->centralWidget() != nullptr) {
+        loaded = window->takeCentralWidget();
+        loaded->setParent(nullptr);
+        delete window;
+    }
+    loaded->setWindowFlags(Qt::Widget);
+    m_widget = loaded;
+}
+
+UiForm::~UiForm()
+{
+    if (m_widget != nullptr && m_widget->parent() == nullptr)
+        delete m_widget;
+}
+
+std::vector<core::Control*> UiForm::controls()
+{
+    std::vector<core::Control*> controls;
+    for (ZorControl* control : m_widget->findChildren<ZorControl*>())
+        controls.push_back(&control->control());
+    if (auto* own = qobject_cast<ZorControl*>(m_widget.data()))
+        controls.push_back(&own->control());
+    return controls;
+}
+
+QTabWidget* UiForm::tabs() { return m_widget->findChild<QTabWidget*>(); }
+
+} // namespace zor::monitor

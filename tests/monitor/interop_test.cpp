@@ -1,0 +1,128 @@
+// Against programs by others: the monitor with a server, and the simulated device with a client.
+
+#include "monitor/device/simulator.h"
+#include "tests/monitor/session_fixture.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+namespace zor::monitor {
+namespace {
+
+using tests::Host;
+
+TEST(Interop, TheMonitorWithAServerByOthers)
+{
+    int port = 0;
+    {
+        QTcpServer probe;
+        ASSERT_TRUE(probe.listen(QHostAddress::LocalHost));
+        port = probe.serverPort();
+    }
+    QProcess server;
+    const auto start = [&] {
+        server.start("/usr/bin/python3", {ZOR_TEST_DATA "/../monitor/pymodbus_server.py", QString::number(port)});
+        QByteArray said;
+        return Host::until([&] { return (said += server.readAllStandardOutput()).contains("ready"); });
+    };
+    ASSERT_TRUE(start()) << "python3-pymodbus: " << server.readAllStandardError().toStdString();
+    Host host(static_cast<quint16>(port));
+    host.run({"Level", "Limit", "Wide", "Name", "Missing"});
+    EXPECT_EQ(host.text("Level"), "10");
+    EXPECT_EQ(host.text("Wide"), "1441815.000");
+    EXPECT_TRUE(host.box("Missing").DataNotAvailable());
+    EXPECT_FALSE(host.box("Limit").DataNotAvailable());
+    host.type("Limit", "450");
+    host.type("Wide", "70000");
+    for (const Written& written : host.write())
+        EXPECT_EQ(written.result.outcome, WriteOutcome::Written) << written.result.reason;
+    EXPECT_EQ(host.text("Limit") + ' ' + host.text("Wide"), "450 70000.000");
+    host.type("Limit", "451");
+    server.kill();
+    server.waitForFinished();
+    EXPECT_TRUE(host.until([&] { return host.box("Level").CFail() && host.box("Limit").CFail(); }));
+    ASSERT_TRUE(start()) << server.readAllStandardError().toStdString();
+    EXPECT_TRUE(host.untilLive());
+    EXPECT_EQ(host.text("Limit"), "451");
+    EXPECT_TRUE(host.get("Limit", "DataChanged").toBoolean()) << "the restarted server holds 20 again";
+    server.kill();
+    server.waitForFinished();
+}
+
+/// Runs mbpoll on the simulated device; what it prints.
+QString mbpoll(int port, const QStringList& how, const QStringList& values = {})
+{
+    QProcess client;
+    client.setProcessChannelMode(QProcess::MergedChannels);
+    client.start("mbpoll", QStringList{"-m", "tcp", "-a", "1", "-1", "-p", QString::number(port)} + how +
+                               QStringList{"127.0.0.1"} + values);
+    EXPECT_TRUE(Host::until([&] { return client.state() == QProcess::NotRunning; }));
+    return client.readAll();
+}
+
+TEST(Interop, TheSimulatedDeviceWithAClientByOthers)
+{
+    const ParameterFile file = readParameterFile(
+        R"({"parameters": [
+          {"tag": "Gain", "bank": "holding", "address": 4, "type": "float32", "access": "write", "order": "CDAB",
+           "simulation": {"value": 1.5}},
+          {"tag": "Count", "bank": "input", "address": 7, "type": "uint16", "simulation": {"value": 4711}},
+          {"tag": "Gone", "bank": "input", "address": 9, "type": "uint16", "simulation": {"absent": true}}]})",
+        "test");
+    Simulator device(file);
+    ASSERT_TRUE(device.start());
+    const auto has = [](const QString& said, const char* pattern) {
+        EXPECT_TRUE(said.contains(QRegularExpression(pattern))) << said.toStdString();
+    };
+    has(mbpoll(device.port(), {"-0", "-t", "3", "-r", "7", "-c", "1"}), R"(\[7\]:\s+4711)");
+    has(mbpoll(device.port(), {"-0", "-t", "4:float", "-r", "4", "-c", "1"}), R"(\[4\]:\s+1\.5)");
+    has(mbpoll(device.port(), {"-0", "-t", "3", "-r", "9", "-c", "1"}), "Illegal data address");
+    has(mbpoll(device.port(), {"-0", "-t", "4:float", "-r", "4"}, {"2.25"}), "Written 1 references");
+    EXPECT_EQ(decode(file.parameters[0], device.registers(HoldingRegister, 4, 2)), Variant(2.25));
+}
+
+TEST(Interop, TheSchemaAgreesWithTheReader)
+{
+    const std::string good =
+        R"({"parameters": [{"tag": "A", "bank": "holding", "address": 1, "type": "uint16"}]})";
+    struct Row {
+        const char* from;
+        const char* to;
+    };
+    QTemporaryDir folder;
+    const auto schemaTakes = [&](const QString& file) {
+        QProcess checker;
+        checker.start("/usr/bin/python3", {"-W", "ignore", "-m", "jsonschema", "-i", file,
+                                           ZOR_TEST_DATA "/../../docs/parameter-file.schema.json"});
+        EXPECT_TRUE(checker.waitForFinished());
+        const bool usable = !checker.readAllStandardError().contains("No module");
+        EXPECT_TRUE(usable) << "python3-jsonschema is missing";
+        return checker.exitCode() == 0;
+    };
+    EXPECT_TRUE(schemaTakes(ZOR_TEST_DATA "/../../monitor/device/demo.json"));
+    for (const Row& row :
+         {Row{"", ""}, Row{"\"address\": 1", "\"address\": 65536"}, Row{"uint16\"", "text\""},
+          Row{"uint16\"", "uint16\", \"access\": \"always\""}, Row{"\"tag\"", "\"tga\""},
+          Row{"holding\"", "input\", \"access\": \"write\""}, Row{"uint16\"", "bit\", \"scale\": 2"},
+          Row{"uint16\"", "uint16\", \"unit\": \"LgthU_MM\""},
+          Row{"uint16\"", "uint16\", \"unit\": \"Length\""}}) {
+        std::string text = good;
+        text.replace(text.find(row.from), std::string_view(row.from).size(), row.to);
+        QFile file(folder.filePath("test.json"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(text.c_str());
+        file.close();
+        bool readerTakes = true;
+        try {
+            (void)readParameterFile(text, "test");
+        } catch (const FileError&) {
+            readerTakes = false;
+        }
+        EXPECT_EQ(schemaTakes(file.fileName()), readerTakes) << text;
+    }
+}
+
+} // namespace
+} // namespace zor::monitor

@@ -1,0 +1,190 @@
+// The connection against a peer that misbehaves, over real TCP and over a pseudo-terminal.
+
+#include "monitor/link/device_address.h"
+#include "monitor/link/tcp_link.h"
+#include "tests/monitor/peer.h"
+
+#include <QElapsedTimer>
+#include <QSocketNotifier>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fcntl.h>
+#include <optional>
+#include <unistd.h>
+
+namespace zor::monitor {
+namespace {
+
+constexpr int kDeadline = 150;
+constexpr int kPatience = 5000;
+
+Reply ask(Link& link, const Request& request)
+{
+    std::optional<Reply> heard;
+    link.send(request, [&](const Reply& reply) { heard = reply; });
+    EXPECT_FALSE(heard) << "heard before send() has returned";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return heard.has_value(); }, kPatience));
+    return heard.value_or(Reply{});
+}
+
+const Request kRead{Function::ReadHolding, 20, 3};
+
+TEST(TcpLink, TakesNothingThatIsNotTheReplyAndRecovers)
+{
+    tests::Peer peer;
+    const auto good = peer.answer;
+    TcpLink link("127.0.0.1", peer.serverPort(), 1, kDeadline);
+    for (const tests::Fault& fault : tests::faults()) {
+        for (const Request& request : {kRead, writeRequest(40, {7}), writeRequest(40, {7, 8})}) {
+            SCOPED_TRACE(std::string(fault.name) + ", function " +
+                         std::to_string(static_cast<int>(request.function)));
+            peer.answer = fault.answer;
+            const std::size_t before = peer.functions.size();
+            const Reply reply = ask(link, request);
+            EXPECT_EQ(reply.outcome, Outcome::NoAnswer);
+            EXPECT_FALSE(reply.reason.empty());
+            EXPECT_EQ(peer.functions.size(), before + 1) << "sent a second time";
+            peer.answer = good;
+            const Reply next = ask(link, kRead);
+            EXPECT_EQ(next.outcome, Outcome::Answered);
+            EXPECT_EQ(next.registers, (Registers{20, 21, 22}));
+        }
+    }
+}
+
+TEST(TcpLink, ComparesTheEchoOfAWrite)
+{
+    tests::Peer peer;
+    TcpLink link("127.0.0.1", peer.serverPort(), 1, kDeadline);
+    for (const int at : {8, 9, 10, 11}) {
+        peer.answer = [at](QTcpSocket& socket, QByteArray reply) {
+            reply[at] = static_cast<char>(reply[at] ^ 4);
+            socket.write(reply);
+        };
+        EXPECT_EQ(ask(link, writeRequest(40, {7})).outcome, Outcome::NoAnswer) << at;
+        EXPECT_EQ(ask(link, writeRequest(40, {7, 8})).outcome, Outcome::NoAnswer) << at;
+    }
+}
+
+TEST(TcpLink, KnowsARefusalFromSilenceAndWhatWasNeverSent)
+{
+    tests::Peer peer;
+    const quint16 port = peer.serverPort();
+    TcpLink link("127.0.0.1", port, 1, kDeadline);
+    const Reply refused = ask(link, {Function::ReadInput, 199, 2});
+    EXPECT_EQ(refused.outcome, Outcome::Refused);
+    EXPECT_EQ(refused.exception, 2);
+    peer.die();
+    QTest::qWait(50);
+    EXPECT_EQ(ask(link, writeRequest(40, {7})).outcome, Outcome::NotSent);
+    peer.revive(port);
+    EXPECT_EQ(ask(link, kRead).outcome, Outcome::Answered);
+    EXPECT_EQ(peer.registers[40], 40) << "a write that was not sent arrived";
+    EXPECT_EQ(link.reads().requests, 2U);
+    EXPECT_EQ(link.reads().failures, 1U);
+}
+
+TEST(TcpLink, EndsWithAReplyPending)
+{
+    tests::Peer peer;
+    peer.answer = [](QTcpSocket&, const QByteArray&) {};
+    auto link = std::make_unique<TcpLink>("127.0.0.1", peer.serverPort(), 1, kDeadline);
+    link->send(kRead, [](const Reply&) { ADD_FAILURE() << "heard after the end"; });
+    link->send(kRead, [](const Reply&) { ADD_FAILURE() << "heard after the end"; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !peer.functions.empty(); }, kPatience));
+    link.reset();
+    QTest::qWait(2 * kDeadline);
+}
+
+TEST(DeviceAddress, IsReadOrRefusedWithAReason)
+{
+    for (const char* address : {"tcp://127.0.0.1:5020?unit=3", "127.0.0.1:5020", "host", "tcp://[::1]:502",
+                                "rtu:/dev/ttyS9?unit=7&baud=9600&parity=none&stop=2"})
+        EXPECT_NO_THROW((void)openLink(address, kDeadline)) << address;
+    for (const char* address :
+         {"", "tcp://", "udp://h:1", "h:0", "h:70000", "tcp://h:1?unit=256", "tcp://h:1?unit=1&unit=2",
+          "tcp://h:1?baud=9600", "tcp://h:1/x", "rtu:", "rtu:/dev/x?parity=some", "rtu:/dev/x?stop=3"})
+        EXPECT_THROW((void)openLink(address, kDeadline), AddressError) << address;
+}
+
+// --- Serial
+
+unsigned crc(const QByteArray& bytes)
+{
+    unsigned sum = 0xFFFF;
+    for (const char byte : bytes) {
+        sum ^= static_cast<quint8>(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            sum = (sum & 1U) != 0 ? sum >> 1U ^ 0xA001U : sum >> 1U;
+    }
+    return sum;
+}
+
+/// The other end of a serial line.
+struct SerialPeer {
+    SerialPeer() : handle(posix_openpt(O_RDWR | O_NOCTTY))
+    {
+        EXPECT_EQ(grantpt(handle) | unlockpt(handle), 0);
+        notifier = std::make_unique<QSocketNotifier>(handle, QSocketNotifier::Read);
+        QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(), [this] {
+            std::array<char, 256> bytes{};
+            const auto count = read(handle, bytes.data(), bytes.size());
+            heard.append(bytes.data(), count > 0 ? count : 0);
+            if (heard.size() >= 8)
+                send(answer);
+        });
+    }
+    ~SerialPeer() { close(handle); }
+    void send(QByteArray frame)
+    {
+        heard.clear();
+        if (frame.isEmpty())
+            return;
+        const unsigned sum = crc(frame) ^ wrong;
+        frame += static_cast<char>(sum & 0xFFU);
+        frame += static_cast<char>(sum >> 8U);
+        EXPECT_EQ(write(handle, frame.data(), static_cast<std::size_t>(frame.size())), frame.size());
+    }
+
+    int handle;
+    unsigned wrong = 0;
+    QByteArray heard;
+    QByteArray answer;
+    std::unique_ptr<QSocketNotifier> notifier;
+};
+
+TEST(RtuLink, ReadsAndJudgesAsOnTcp)
+{
+    SerialPeer peer;
+    const auto link = openLink(QString("rtu:%1?unit=5&parity=none").arg(ptsname(peer.handle)), 500);
+    const Request read{Function::ReadHolding, 20, 2};
+    const auto hex = [](const char* text) { return QByteArray::fromHex(text); };
+    peer.answer = hex("0503 04 0102 FFFE");
+    const Reply reply = ask(*link, read);
+    EXPECT_EQ(reply.outcome, Outcome::Answered) << reply.reason;
+    EXPECT_EQ(reply.registers, (Registers{0x0102, 0xFFFE}));
+    peer.answer = hex("0583 02");
+    const Reply refused = ask(*link, read);
+    EXPECT_EQ(refused.exception, 2) << refused.reason;
+    peer.answer = hex("0506 0028 0007");
+    EXPECT_EQ(ask(*link, writeRequest(40, {7})).outcome, Outcome::Answered);
+    peer.answer = hex("0506 0028 0008");
+    EXPECT_EQ(ask(*link, writeRequest(40, {7})).outcome, Outcome::NoAnswer) << "the echo differs";
+    peer.answer = hex("0603 04 0102 FFFE");
+    EXPECT_EQ(ask(*link, read).outcome, Outcome::NoAnswer) << "another unit";
+    peer.answer = hex("0503 02 0102");
+    EXPECT_EQ(ask(*link, read).outcome, Outcome::NoAnswer) << "fewer registers";
+    peer.answer = QByteArray();
+    EXPECT_EQ(ask(*link, read).outcome, Outcome::NoAnswer) << "silence";
+    peer.answer = hex("0503 04 0102 FFFE");
+    peer.wrong = 1;
+    EXPECT_EQ(ask(*link, read).outcome, Outcome::NoAnswer) << "a wrong checksum";
+    peer.wrong = 0;
+    EXPECT_EQ(ask(*link, read).registers, (Registers{0x0102, 0xFFFE})) << "recovers";
+    EXPECT_EQ(ask(*openLink("rtu:/dev/there-is-none", 500), read).outcome, Outcome::NotSent);
+}
+
+} // namespace
+} // namespace zor::monitor

@@ -1,0 +1,28 @@
+"""A Modbus TCP server by others: registers 0 to 199 hold their own address. Prints "ready" when it listens."""
+import sys
+import threading
+
+from pymodbus.datastore import ModbusSequentialDataBlock, ModbusServerContext, ModbusSlaveContext
+from pymodbus.server import StartTcpServer
+
+block = lambda: ModbusSequentialDataBlock(0, list(range(200)))
+slave = ModbusSlaveContext(hr=block(), ir=block(), zero_mode=True)
+context = ModbusServerContext(slaves={1: slave}, single=False)
+
+
+def announce():
+    """Once the port can be reached."""
+    import socket
+    import time
+
+    while True:
+        try:
+            socket.create_connection(("127.0.0.1", int(sys.argv[1])), 1).close()
+            print("ready", flush=True)
+            return
+        except OSError:
+            time.sleep(0.05)
+
+
+threading.Thread(target=announce, daemon=True).start()
+StartTcpServer(context=context, address=("127.0.0.1", int(sys.argv[1])), allow_reuse_address=True)

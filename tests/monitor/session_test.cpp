@@ -1,0 +1,337 @@
+// A host's work, without a window, against a device that does what it should, and against one that does not.
+
+#include "tests/monitor/session_fixture.h"
+
+#include <QTemporaryDir>
+
+namespace zor::monitor {
+namespace {
+
+using tests::Host;
+using tests::kPeriod;
+using tests::Peer;
+
+WriteOutcome only(const std::vector<Written>& results)
+{
+    EXPECT_EQ(results.size(), 1U);
+    return results.empty() ? WriteOutcome::NotSent : results.front().result.outcome;
+}
+
+TEST(Session, ReadsEachParameterAndTellsHowItWent)
+{
+    Peer peer;
+    peer.registers[100] = 0x5A54;
+    peer.registers[30] = 0x4162;
+    peer.registers[31] = 0x6320;
+    peer.registers[32] = peer.registers[33] = 0;
+    Host host(peer.serverPort());
+    host.run({"Level", "Limit", "Wide", "Name", "Missing", "Nowhere"});
+    EXPECT_EQ(host.text("Level"), "10");
+    EXPECT_EQ(host.text("Wide"), "1441815.000") << "register 22 is the high word";
+    EXPECT_EQ(host.text("Name"), "Abc");
+    EXPECT_TRUE(host.box("Missing").DataNotAvailable());
+    EXPECT_FALSE(host.box("Limit").DataNotAvailable()) << "a neighbour's refusal";
+    EXPECT_TRUE(host.box("Nowhere").DeviceTagNotFound());
+    EXPECT_EQ(host.get("Level", "RegisterType"), Variant(1));
+    EXPECT_EQ(host.get("Missing", "ReadOnly"), Variant(true));
+    EXPECT_TRUE(host.until([&] { return host.session->deviceVersion() == "2.3"; }));
+    EXPECT_EQ(host.box("Level").DeviceType(), "ZT");
+    peer.registers[10] = 77;
+    host.rounds();
+    EXPECT_EQ(host.text("Level"), "77");
+}
+
+TEST(Session, ReadsOnlyWhatIsSeenOrEdited)
+{
+    Peer peer;
+    Host host(peer.serverPort());
+    std::string seen = "Level";
+    host.session->isVisible = [&](core::Control& control) { return control.DeviceTag() == seen; };
+    host.boxes["Level"] = host.add("ctx_ZorTextBox", "Level");
+    host.boxes["Far"] = host.add("ctx_ZorTextBox", "Far");
+    for (const auto& control : host.controls)
+        host.session->bind(*control);
+    host.session->start(kPeriod);
+    host.rounds(3);
+    EXPECT_EQ(std::ranges::count(peer.functions, 3), 0) << "a holding register was read that nobody sees";
+    EXPECT_TRUE(host.box("Far").WaitingForData());
+    seen = "Far";
+    host.session->poller().pollNow();
+    EXPECT_TRUE(host.untilLive());
+    EXPECT_EQ(host.text("Far"), "150.000");
+    host.type("Far", "7");
+    seen = "Level";
+    peer.registers[150] = 9;
+    EXPECT_TRUE(host.until([&] { return host.get("Far", "DataChanged").toBoolean(); }))
+        << "an edit is watched unseen";
+}
+
+TEST(Session, AnEditIsKeptUntilItIsWrittenAndReadBack)
+{
+    Peer peer;
+    Host host(peer.serverPort());
+    host.run({"Level", "Limit", "Wide", "Name"});
+    host.type("Limit", "450");
+    host.type("Wide", "70000");
+    host.type("Name", "\u00C4bc");
+    host.rounds();
+    EXPECT_EQ(host.text("Limit"), "450") << "polling overwrote the edit";
+    EXPECT_EQ(peer.registers[20], 20) << "written before anybody said so";
+    const std::vector<Change> changes = host.session->pending();
+    ASSERT_EQ(changes.size(), 3U);
+    EXPECT_EQ(changes[0].tag + ' ' + changes[0].oldText + ' ' + changes[0].newText, "Limit 20 450");
+    EXPECT_EQ(changes[1].newText, "70000");
+    peer.functions.clear();
+    EXPECT_EQ(host.write().size(), 3U);
+    EXPECT_EQ(std::ranges::count(peer.functions, 6), 1) << "one register is written with function 6";
+    EXPECT_EQ(std::ranges::count(peer.functions, 16), 2);
+    EXPECT_EQ(peer.registers[20], 450);
+    EXPECT_EQ(peer.registers[22] << 16U | peer.registers[23], 70000);
+    EXPECT_EQ(peer.registers[30], 0xC462);
+    for (const char* tag : {"Limit", "Wide", "Name"})
+        EXPECT_FALSE(host.get(tag, "DataModified").toBoolean()) << tag;
+    EXPECT_EQ(host.text("Limit"), "450");
+    EXPECT_FALSE(host.session->hasEdits());
+}
+
+TEST(Session, WhatCannotBeWrittenIsNamedAndKept)
+{
+    Peer peer;
+    Host host(peer.serverPort());
+    host.run({"Limit", "Far", "Name"});
+    host.box("Limit").setProperty("MaxValue", 1000.0);
+    for (const char* tag : {"Limit", "Far"})
+        host.box(tag).setProperty("InvalidEntryEnable", true);
+    host.type("Limit", "1001");
+    host.type("Far", "40000");
+    host.type("Name", "\u20ACuro");
+    const std::vector<Change> changes = host.session->pending();
+    ASSERT_EQ(changes.size(), 3U);
+    EXPECT_EQ(changes[0].problem, Problem::InvalidEntry);
+    EXPECT_EQ(changes[1].problem, Problem::CharactersUnknown);
+    EXPECT_EQ(changes[2].problem, Problem::InvalidEntry) << "limits of 0 and 0";
+    host.box("Far").setProperty("InvalidEntryEnable", false);
+    host.type("Far", "40001");
+    EXPECT_EQ(host.session->pending()[2].problem, Problem::OutOfRange);
+    peer.functions.clear();
+    EXPECT_TRUE(host.write().empty());
+    EXPECT_EQ(std::ranges::count(peer.functions, 6) + std::ranges::count(peer.functions, 16), 0);
+    EXPECT_EQ(host.text("Limit"), "1001");
+    host.session->undoAll();
+    EXPECT_EQ(host.text("Limit") + host.text("Far"), "20150.000");
+    EXPECT_FALSE(host.session->hasEdits());
+}
+
+TEST(Session, ARefusedWriteKeepsItsEditAndTheOthersEnd)
+{
+    Peer peer;
+    Host host(peer.serverPort());
+    host.run({"Limit", "Far"});
+    host.type("Limit", "5");
+    host.type("Far", "6");
+    peer.answer = [](QTcpSocket& socket, QByteArray reply) {
+        if (reply[7] == 6 && static_cast<quint8>(reply[9]) == 20) {
+            reply = reply.left(5) + QByteArray("\x03\x01\x86\x03", 4);
+        }
+        socket.write(reply);
+    };
+    const std::vector<Written> results = host.write();
+    ASSERT_EQ(results.size(), 2U);
+    EXPECT_EQ(results[0].result.outcome, WriteOutcome::Refused);
+    EXPECT_EQ(results[0].result.exception, 3);
+    EXPECT_EQ(results[1].result.outcome, WriteOutcome::Written);
+    EXPECT_TRUE(host.get("Limit", "DataModified").toBoolean());
+    EXPECT_EQ(host.text("Limit"), "5");
+    EXPECT_FALSE(host.get("Far", "DataModified").toBoolean());
+}
+
+TEST(Session, AWriteWithoutAnAnswerIsSentOnceAndSettledByTheNextRead)
+{
+    for (const bool carriedOut : {true, false}) {
+        SCOPED_TRACE(carriedOut ? "carried out" : "not carried out");
+        QTemporaryDir folder;
+        Log log(folder.filePath("log.csv"));
+        Peer peer;
+        const auto good = peer.answer;
+        Host host(peer.serverPort(), &log);
+        host.run({"Limit"});
+        host.type("Limit", "5");
+        bool blocked = true;
+        peer.answer = [&](QTcpSocket& socket, const QByteArray& reply) {
+            if (reply[7] == 6 && !carriedOut)
+                peer.registers[20] = 20;
+            if (!blocked)
+                good(socket, reply);
+        };
+        peer.functions.clear();
+        EXPECT_EQ(only(host.write()), WriteOutcome::Unconfirmed);
+        EXPECT_TRUE(host.get("Limit", "DataModified").toBoolean()) << "the edit was lost";
+        blocked = false;
+        host.rounds(3);
+        EXPECT_EQ(std::ranges::count(peer.functions, 6), 1) << "resent blindly";
+        EXPECT_EQ(host.get("Limit", "DataModified").toBoolean(), !carriedOut);
+        EXPECT_EQ(host.text("Limit"), "5");
+        QFile file(folder.filePath("log.csv"));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QString record = file.readAll();
+        EXPECT_TRUE(record.startsWith("time,event,tag,old,new,result\n"));
+        EXPECT_TRUE(record.contains(",read,Limit,?,20,live\n")) << record.toStdString();
+        EXPECT_TRUE(record.contains(",write,Limit,20,5,unconfirmed: no complete answer in time\n"))
+            << record.toStdString();
+        EXPECT_TRUE(
+            record.contains(carriedOut ? ",write,Limit,20,5,confirmed\n" : ",write,Limit,20,5,not carried out\n"))
+            << record.toStdString();
+    }
+}
+
+TEST(Session, AWriteWhoseAnswerIsLostButReadsBackIsWritten)
+{
+    Peer peer;
+    Host host(peer.serverPort());
+    host.run({"Wide"});
+    host.type("Wide", "5");
+    peer.answer = [](QTcpSocket& socket, const QByteArray& reply) {
+        if (reply[7] != 16)
+            socket.write(reply);
+    };
+    EXPECT_EQ(only(host.write()), WriteOutcome::Written);
+    EXPECT_FALSE(host.session->hasEdits());
+}
+
+TEST(Session, ADeviceThatHoldsSomethingElseKeepsTheEdit)
+{
+    Peer peer;
+    Host host(peer.serverPort());
+    host.run({"Limit"});
+    host.type("Limit", "5");
+    peer.answer = [&](QTcpSocket& socket, const QByteArray& reply) {
+        socket.write(reply);
+        if (reply[7] == 6)
+            peer.registers[20] = 8; // the device knows better
+    };
+    EXPECT_EQ(only(host.write()), WriteOutcome::Differs);
+    EXPECT_EQ(host.text("Limit"), "5");
+    EXPECT_TRUE(host.get("Limit", "DataModified").toBoolean());
+    EXPECT_TRUE(host.get("Limit", "DataChanged").toBoolean());
+    EXPECT_EQ(host.session->pending().at(0).oldText, "8");
+}
+
+TEST(Session, TwoOperatorsSeeEachOthersWrites)
+{
+    Peer peer;
+    Host one(peer.serverPort());
+    Host two(peer.serverPort());
+    for (Host* host : {&one, &two}) {
+        host->run({"Limit", "Far"});
+    }
+    one.type("Limit", "5");
+    two.type("Limit", "6");
+    two.type("Far", "7");
+    EXPECT_EQ(two.write().size(), 2U);
+    one.rounds();
+    EXPECT_EQ(one.text("Limit"), "5") << "the open edit was overwritten";
+    EXPECT_TRUE(one.get("Limit", "DataChanged").toBoolean());
+    EXPECT_EQ(one.text("Far"), "7.000");
+    EXPECT_FALSE(one.get("Far", "DataChanged").toBoolean());
+    EXPECT_TRUE(one.session->pending().at(0).changedByOther);
+    EXPECT_EQ(only(one.write()), WriteOutcome::Written);
+    EXPECT_FALSE(one.get("Limit", "DataChanged").toBoolean());
+    two.rounds();
+    EXPECT_EQ(two.text("Limit"), "5");
+    EXPECT_TRUE(two.get("Limit", "DataChanged").toBoolean()) << "what two wrote last has been changed since";
+}
+
+// --- Faults
+
+TEST(Session, EveryFaultIsACommunicationFailureAndHealsByItself)
+{
+    for (const tests::Fault& fault : tests::faults()) {
+        SCOPED_TRACE(fault.name);
+        Peer peer;
+        const auto good = peer.answer;
+        Host host(peer.serverPort());
+        host.run({"Level", "Limit", "Missing"});
+        host.type("Limit", "5");
+        qint64 longest = 0;
+        QElapsedTimer pause;
+        QTimer beat;
+        QObject::connect(&beat, &QTimer::timeout, &beat, [&] { longest = std::max(longest, pause.restart()); });
+        pause.start();
+        beat.start(10);
+        peer.answer = fault.answer;
+        EXPECT_TRUE(host.until([&] {
+            return std::ranges::all_of(host.controls, [](const auto& control) { return control->CFail(); });
+        }));
+        EXPECT_EQ(host.text("Limit"), "5");
+        peer.answer = good;
+        peer.registers[10] = 99;
+        EXPECT_TRUE(host.until([&] { return host.text("Level") == "99" && !host.box("Level").CFail(); }));
+        EXPECT_TRUE(host.untilLive());
+        EXPECT_EQ(host.text("Limit"), "5") << "the edit was lost";
+        EXPECT_LT(longest, 1000) << "the window would have stopped painting";
+    }
+}
+
+TEST(Session, OneSilentParameterHoldsUpNobody)
+{
+    Peer peer;
+    Host host(peer.serverPort());
+    host.boxes["Far"] = host.add("ctx_ZorTextBox", "Far");
+    peer.answer = [](QTcpSocket& socket, const QByteArray& reply) {
+        if (reply[7] != 4)
+            socket.write(reply);
+    };
+    host.boxes["Level"] = host.add("ctx_ZorTextBox", "Level");
+    for (const auto& control : host.controls)
+        host.session->bind(*control);
+    host.session->start(kPeriod);
+    EXPECT_TRUE(host.until([&] { return host.text("Far") == "150.000" && host.box("Level").CFail(); }));
+    peer.registers[150] = 3;
+    EXPECT_TRUE(host.until([&] { return host.text("Far") == "3.000"; }));
+    EXPECT_FALSE(host.box("Far").CFail());
+}
+
+TEST(Session, ARestartDuringAWriteLosesNothing)
+{
+    Peer peer;
+    const quint16 port = peer.serverPort();
+    const auto good = peer.answer;
+    Host host(port);
+    host.run({"Limit"});
+    host.type("Limit", "5");
+    peer.answer = [&](QTcpSocket&, const QByteArray& reply) {
+        if (reply[7] == 6) {
+            peer.registers[20] = 20;
+            peer.die();
+        }
+    };
+    EXPECT_EQ(only(host.write()), WriteOutcome::Unconfirmed);
+    EXPECT_EQ(host.text("Limit"), "5");
+    peer.answer = good;
+    peer.revive(port);
+    EXPECT_TRUE(host.untilLive());
+    EXPECT_TRUE(host.get("Limit", "DataModified").toBoolean());
+    EXPECT_EQ(only(host.write()), WriteOutcome::Written);
+    EXPECT_EQ(peer.registers[20], 5);
+}
+
+TEST(Session, ASlowDeviceIsWaitedFor)
+{
+    Peer peer;
+    const auto good = peer.answer;
+    Host host(peer.serverPort());
+    host.run({"Level", "Limit"});
+    host.session->link().setDeadline(10 * kPeriod);
+    host.type("Limit", "5");
+    peer.answer = [&](QTcpSocket& socket, const QByteArray& reply) {
+        QTimer::singleShot(3 * kPeriod, &socket, [&socket, reply] { socket.write(reply); });
+    };
+    EXPECT_TRUE(host.until([&] { return host.box("Level").WaitingForData(); }));
+    EXPECT_FALSE(host.box("Limit").WaitingForData()) << "the operator was thrown out of his edit";
+    EXPECT_FALSE(host.box("Level").CFail());
+    peer.answer = good;
+    EXPECT_TRUE(host.untilLive());
+}
+
+} // namespace
+} // namespace zor::monitor

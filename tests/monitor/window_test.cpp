@@ -1,0 +1,189 @@
+// The window against the simulated device, over real TCP: what an operator sees and does.
+
+#include "controls/registration.h"
+#include "monitor/link/tcp_link.h"
+#include "monitor/ui/window.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace zor::monitor {
+namespace {
+
+constexpr int kPeriod = 200;
+constexpr int kPatience = 5000;
+
+ParameterFile demoFile()
+{
+    QFile file(":/monitor/demo.json");
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return readParameterFile(file.readAll().toStdString(), "demo.json");
+}
+
+struct Demo : testing::Test {
+    Demo()
+    {
+        registerControls(classes);
+        languages.use("en");
+        EXPECT_TRUE(device.start()) << device.error().toStdString();
+        auto link = std::make_unique<TcpLink>("127.0.0.1", device.port(), 1, kPeriod);
+        auto session = std::make_unique<Session>(std::move(link), file);
+        auto form = std::make_unique<GeneratedForm>(session->file(), classes);
+        window = std::make_unique<Window>(std::move(session), std::move(form), languages, &device);
+        window->show();
+        window->session().start(kPeriod);
+        EXPECT_TRUE(untilLive());
+    }
+    ~Demo() override
+    {
+        window.reset();
+        languages.use("en");
+    }
+
+    Binding& binding(std::string_view tag)
+    {
+        const auto all = window->session().bindings();
+        return **std::ranges::find_if(all, [&](const auto& bound) { return bound->control().DeviceTag() == tag; });
+    }
+    /// Every control that the operator sees.
+    template <class Condition>
+    bool all(Condition condition)
+    {
+        return std::ranges::all_of(window->session().bindings(), [&](const auto& bound) {
+            return !isInSight(bound->control()) || condition(bound->control());
+        });
+    }
+    bool untilLive()
+    {
+        return QTest::qWaitFor(
+            [&] { return all([](core::Control& c) { return !c.CFail() && !c.WaitingForData(); }); }, kPatience);
+    }
+    void open(int tab)
+    {
+        window->form().tabs()->setCurrentIndex(tab);
+        EXPECT_TRUE(untilLive());
+    }
+    platform::TextField& field(std::string_view tag)
+    {
+        return dynamic_cast<platform::TextField&>(*binding(tag).control().widget(1));
+    }
+    void type(std::string_view tag, const QString& text)
+    {
+        QWidget& edit = platform::qt::widgetOf(field(tag));
+        edit.setFocus();
+        QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(&edit, text);
+    }
+    QAbstractButton* button(QWidget& dialog, const QString& text)
+    {
+        const auto buttons = dialog.findChildren<QAbstractButton*>();
+        const auto found = std::ranges::find_if(buttons, [&](auto* one) { return one->text() == text; });
+        return found == buttons.end() ? nullptr : *found;
+    }
+
+    core::ClassRegistry classes;
+    Languages languages;
+    const ParameterFile file = demoFile();
+    Simulator device{file};
+    std::unique_ptr<Window> window;
+};
+
+TEST_F(Demo, ShowsParametersInTheUnitsAndTheLanguageOfTheOperator)
+{
+    open(1);
+    EXPECT_EQ(field("TankHeight").text(), "12.500");
+    EXPECT_EQ(field("TagName").text(), "TK-101 North");
+    window->setUnits(UnitSystem::Us);
+    EXPECT_EQ(field("TankHeight").text(), "41.010");
+    window->setUnits(UnitSystem::Device);
+    EXPECT_EQ(field("TankHeight").text(), "125000.00");
+    window->setUnits(UnitSystem::Form);
+    type("TankHeight", "13.25");
+    window->setLanguage("de");
+    EXPECT_EQ(field("TankHeight").text(), "13,250") << "an edit goes along with the separators";
+    EXPECT_TRUE(binding("TankHeight").isModified());
+    EXPECT_EQ(field("HighAlarm").text(), "85,0");
+    EXPECT_EQ(window->form().tabs()->tabText(1), "Einstellungen");
+    EXPECT_EQ(binding("TankHeight").control().MsgCfail(), "Keine Verbindung zum Ger\u00E4t!");
+    window->setLanguage("fr");
+    EXPECT_EQ(binding("TankHeight").control().MsgCfail(), "Pas de communication avec l'appareil !");
+    window->setLanguage("en");
+    EXPECT_EQ(binding("TankHeight").control().MsgCfail(), "Communication Failure !");
+    EXPECT_EQ(field("TankHeight").text(), "13.250");
+    EXPECT_EQ(window->session().pending().size(), 1U);
+}
+
+TEST_F(Demo, WritesWhatHasBeenReviewed)
+{
+    open(1);
+    type("HighAlarm", "91.26");
+    window->review();
+    ASSERT_NE(window->openReview(), nullptr);
+    auto* table = window->openReview()->findChild<QTableWidget*>();
+    QString row;
+    for (int column = 0; column < table->columnCount(); ++column)
+        row += table->item(0, column)->text() + '|';
+    EXPECT_EQ(row, "HighAlarm|85.0|91.3|\u00B0C||") << "what is shown is what the registers will hold";
+    EXPECT_EQ(device.registers(HoldingRegister, 2, 1), (Registers{850})) << "written before the review has ended";
+    button(*window->openReview(), "&Write")->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->session().hasEdits(); }, kPatience));
+    EXPECT_EQ(device.registers(HoldingRegister, 2, 1), (Registers{913}));
+    EXPECT_EQ(field("HighAlarm").text(), "91.3");
+    window->review();
+    EXPECT_EQ(window->openReview(), nullptr) << "nothing to write";
+}
+
+TEST_F(Demo, ADeadDeviceFailsEveryControlWithinTwoPeriodsAndARevivedOneRecovers)
+{
+    open(1);
+    type("TankHeight", "13");
+    device.stop();
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return all([](core::Control& c) { return c.CFail(); }); }, kPatience));
+    EXPECT_LE(clock.elapsed(), 2 * kPeriod);
+    EXPECT_TRUE(binding("Distance").control().CFail()) << "on the other tabs as well";
+    ASSERT_TRUE(device.start());
+    EXPECT_TRUE(untilLive());
+    EXPECT_EQ(field("TankHeight").text(), "13") << "the edit was lost";
+    open(0);
+    EXPECT_EQ(binding("Density").control().DataNotAvailable(), true);
+}
+
+TEST_F(Demo, AParameterThatTheFirmwareLacksIsHidden)
+{
+    open(3);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return binding("SelfTest").control().DeviceVerNotSupported(); }, kPatience));
+    EXPECT_FALSE(binding("Supply").control().DeviceVerNotSupported());
+}
+
+TEST_F(Demo, ClosingWithEditsAsksAndClosingWithAReplyPendingIsSafe)
+{
+    open(1);
+    type("TankHeight", "13");
+    QString question;
+    QTimer::singleShot(100, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        question = box != nullptr ? box->text() : "no question";
+        if (box != nullptr)
+            box->button(QMessageBox::Cancel)->click();
+    });
+    EXPECT_FALSE(window->close());
+    EXPECT_TRUE(question.startsWith("There are edits")) << question.toStdString();
+    EXPECT_TRUE(window->isVisible());
+    window->session().poller().pollNow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->session().link().pending() > 0; }, kPatience));
+    window.reset();
+    QTest::qWait(kPeriod);
+}
+
+} // namespace
+} // namespace zor::monitor
