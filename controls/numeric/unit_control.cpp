@@ -35,6 +35,7 @@ void UnitControl::s_AfterOutputUnit()
     s_OutputUnitChanged();
     m_unitLabelCaption = fc_GetUnitLabel(m_units.outputUnit);
     s_ShowUnit(m_unitLabelCaption);
+    describeForReaders();
 }
 
 void UnitControl::DefaultUnit(MEAS_TYPE value) { write(UnitRows::DefaultUnit, value); }

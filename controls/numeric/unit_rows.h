@@ -41,9 +41,10 @@ struct UnitRows {
             control.s_Layout();
         }>();
     static constexpr PropertyRow UnitLabelCaption =
-        core::fieldRow<&C::m_unitLabelCaption>("UnitLabelCaption")
-            .stored("")
-            .then<[](C& control) { control.s_ShowUnit(control.m_unitLabelCaption); }>();
+        core::fieldRow<&C::m_unitLabelCaption>("UnitLabelCaption").stored("").then<[](C& control) {
+            control.s_ShowUnit(control.m_unitLabelCaption);
+            control.describeForReaders();
+        }>();
 
     static constexpr core::MethodRow GetCaptionID = core::method<&C::fc_GetCaptionID>("fc_GetCaptionID");
     static constexpr core::MethodRow GetConversionFactor =

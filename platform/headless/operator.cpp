@@ -19,8 +19,14 @@ bool takesFocus(const Widget& widget)
            dynamic_cast<const Surface*>(&widget) == nullptr && dynamic_cast<const SpinButton*>(&widget) == nullptr;
 }
 
+/// A handler may have frozen or hidden the widget under the operator's hands: then it hears of no key any more.
+bool isReachable(const Widget& widget) { return widget.isVisible() && widget.isEnabled(); }
+
 void reportMouse(Widget& widget, Notice notice, std::int16_t button)
 {
+    // A click may hide what it acknowledges, and is one all the same; what it freezes hears of nothing more.
+    if (!widget.isEnabled())
+        return;
     // A text field is clicked behind its text: the caret comes to the end.
     constexpr Twips kInset = 30;
     std::int16_t shift = 0;
@@ -57,6 +63,8 @@ void pushToggle(ToggleButton& button)
 void click(Widget& widget)
 {
     pressAndRelease(widget);
+    if (!widget.isEnabled())
+        return;
     if (auto* button = dynamic_cast<ToggleButton*>(&widget)) {
         pushToggle(*button);
     } else if (auto* list = dynamic_cast<EntryWidget*>(&widget)) {
@@ -91,12 +99,12 @@ void selectLastWord(TextField& field)
     field.select(first, characterCount(text) - first);
 }
 
-bool isReachable(const Widget& widget) { return widget.isVisible() && widget.isEnabled(); }
-
 /// Key down and key up around `action`, which gets the key press's code.
 template <class Action>
 void stroke(Widget& widget, std::int16_t code, std::int16_t ascii, Action&& action)
 {
+    if (!isReachable(widget))
+        return;
     std::int16_t shift = 0;
     std::int16_t down = code;
     base(widget).report(Notice::KeyDown, std::array<ArgRef, 2>{&down, &shift});
@@ -109,10 +117,10 @@ void stroke(Widget& widget, std::int16_t code, std::int16_t ascii, Action&& acti
         if ((ascii == 0 || press != 0) && isReachable(widget))
             action(press == ascii ? down : std::int16_t{0}, press);
     }
-    // A handler may have frozen or hidden the widget under the operator's hands.
     if (!isReachable(widget))
         return;
     std::int16_t up = code;
+    shift = 0;
     base(widget).report(Notice::KeyUp, std::array<ArgRef, 2>{&up, &shift});
 }
 
@@ -333,7 +341,7 @@ Refusal HeadlessOperator::pointer(Widget& widget, Pointer action)
         return refusal;
     }
     click(widget);
-    if (action == Pointer::DoubleClick) {
+    if (action == Pointer::DoubleClick && widget.isEnabled()) {
         if (auto* field = dynamic_cast<TextField*>(&widget))
             selectLastWord(*field);
         base(widget).report(Notice::DblClick);

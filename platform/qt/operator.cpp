@@ -37,7 +37,7 @@ void click(QWidget& widget, Qt::MouseButton button, QPointF at)
 {
     const QPointer<QWidget> alive = &widget;
     sendMouse(widget, QEvent::MouseButtonPress, button, at);
-    if (alive)
+    if (alive && widget.isEnabled())
         sendMouse(widget, QEvent::MouseButtonRelease, button, at);
 }
 

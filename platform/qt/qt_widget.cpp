@@ -75,7 +75,7 @@ void EventReports::after()
         const bool second = release.button() == Qt::LeftButton && std::exchange(m_widget.doubleClicked, false);
         if (!m_widget.changesOnRelease())
             mouse(Notice::MouseUp);
-        if (m_widget.isClick(release, second))
+        if (m_widget.qwidget().isEnabled() && m_widget.isClick(release, second))
             m_widget.report(Notice::Click);
         break;
     }

@@ -121,22 +121,28 @@ bool reported(QtWidget* const& owner, QEvent* event, Handle&& handle)
 {
     if (owner == nullptr)
         return handle(event);
-    // The focus may rest on a widget that is frozen or hidden; its keys go on to the form (Tab does).
+    // The focus may rest on a widget that is frozen or hidden; keys (Tab, say) and clicks go on to the form.
+    // A click may hide what it acknowledges: the second of two is still the operator's.
+    const bool isMouse = dynamic_cast<QMouseEvent*>(event) != nullptr;
     const bool isKey = dynamic_cast<QKeyEvent*>(event) != nullptr;
-    if (isKey && !owner->isReachable())
+    const auto isLost = [&] {
+        return (isMouse && !owner->qwidget().isEnabled()) || (isKey && !owner->isReachable());
+    };
+    if (isLost()) {
+        event->ignore();
         return false;
+    }
     const EventScope scope(owner->context());
     EventReports reports(*owner, *event);
-    if (reports.before() || (isKey && (owner == nullptr || !owner->isReachable())))
+    if (reports.before() || owner == nullptr || isLost())
         return true;
     const bool handled = handle(reports.replacement() != nullptr ? reports.replacement() : event);
     if (owner != nullptr)
         reports.after();
     // A press that nobody takes would go to the widget beneath, and its release with it.
-    if (dynamic_cast<QMouseEvent*>(event) == nullptr)
-        return handled;
-    event->accept();
-    return true;
+    if (isMouse)
+        event->accept();
+    return handled || isMouse;
 }
 
 /// A Qt widget whose events are reported.

@@ -338,7 +338,7 @@ std::string printColour(Colour colour)
         if (system.colour == colour)
             return std::string(system.name);
     }
-    return hexadecimal("#", colour, 6, "");
+    return hexadecimal("#", colour & 0xFFFFFFU, 6, "");
 }
 
 /// A single-precision number has no more digits to show than this.
