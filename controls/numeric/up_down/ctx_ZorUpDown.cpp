@@ -2,8 +2,10 @@
 
 #include "platform/number_text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <limits>
 #include <utility>
 
 namespace zor {
@@ -19,7 +21,7 @@ void ctx_ZorUpDown::s_ApplyDeviceValue()
     testValue(m_deviceValue);
     m_reference = roundToInt32(m_units.toOutput(m_deviceValue));
     showNumber(m_reference);
-    spinToNumber(m_reference);
+    spinTo(m_reference);
     if (isOvertaken(turn))
         return;
     assignOutput(m_deviceValue);
@@ -54,7 +56,10 @@ void ctx_ZorUpDown::showNumber(std::int32_t number)
 {
     std::array<char, 11> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    // What has just been written need not be read: ten thousand fields are refreshed many times a second.
+    m_written = number;
     showText({digits.data(), static_cast<std::size_t>(end - digits.data())});
+    m_written.reset();
 }
 
 void ctx_ZorUpDown::assignOutput(std::int32_t value)
@@ -114,12 +119,9 @@ void ctx_ZorUpDown::spinTo(std::int32_t value)
 
 void ctx_ZorUpDown::spinToNumber(double number)
 {
-    if (number > m_spin->maximum())
-        spinTo(m_spin->maximum());
-    else if (number < m_spin->minimum())
-        spinTo(m_spin->minimum());
-    else
-        spinTo(roundToInt32(number));
+    using Limits = std::numeric_limits<std::int32_t>;
+    // The button cuts to its own limits, which are never wider.
+    spinTo(roundToInt32(std::clamp<double>(number, Limits::min(), Limits::max())));
 }
 
 void ctx_ZorUpDown::spinLimits(std::int32_t minimum, std::int32_t maximum)
@@ -180,10 +182,14 @@ void ctx_ZorUpDown::onNotice(int widget, Notice notice, platform::EventArgs args
 void ctx_ZorUpDown::onTextChanged()
 {
     m_editPending = true;
-    const std::optional<double> number = m_field.number();
-    if (!number)
+    const std::optional<std::int32_t> written = std::exchange(m_written, std::nullopt);
+    if (written) {
+        judge(*written != m_reference);
+    } else if (const std::optional<double> number = m_field.number()) {
+        judge(roundToInt32(*number) != m_reference);
+    } else {
         return;
-    judge(roundToInt32(*number) != m_reference);
+    }
     s_UpdateColors();
     raise(kShownChange);
 }

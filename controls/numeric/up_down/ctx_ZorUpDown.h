@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -128,6 +129,8 @@ private:
     std::int32_t m_otherUser = 0;
     /// Where the spin button stood before the operator's next click.
     std::int32_t m_spinValue = 0;
+    /// The number on its way into the text, until the text reports the change.
+    std::optional<std::int32_t> m_written;
     std::int16_t m_numberOfDigits = 3;
     bool m_editPending = false;
     bool m_spinningBack = false;
