@@ -4,6 +4,8 @@
 #include "controls/choice/combo_box/ctx_ZorComboBox.h"
 #include "controls/choice/list_box/ctx_ZorListBox.h"
 #include "controls/choice/option_button/ctx_ZorOptionButton.h"
+#include "controls/display/image/ctx_ZorImage.h"
+#include "controls/display/label/ctx_ZorLabel.h"
 #include "controls/numeric/slider/ctx_ZorSlider.h"
 #include "controls/numeric/text_box/ctx_ZorTextBox.h"
 #include "controls/numeric/up_down/ctx_ZorUpDown.h"
@@ -126,6 +128,27 @@ TEST(ValuePath, ShowsAValueAndHandsItBackWithoutAllocation)
     counting = false;
     delete probe;
     EXPECT_EQ(allocations, 1) << "the counter counts";
+}
+
+TEST(ValuePath, ShowsATextAndAStatusWordWithoutAllocation)
+{
+    platform::headless::HeadlessContainer container;
+    const auto label = ctx_ZorLabel::create(container);
+    label->initialiseProperties();
+    const auto image = ctx_ZorImage::create(container);
+    image->initialiseProperties();
+    // A new state is described to a screen reader once; after that it is values only.
+    image->DeviceValue(1);
+    allocations = 0;
+    counting = true;
+    for (int i = 0; i < 100; ++i) {
+        label->DeviceValue(i % 2 == 0 ? "12.5 m" : "12.6 m");
+        image->DeviceValue(i + 1);
+    }
+    counting = false;
+    EXPECT_EQ(allocations, 0);
+    EXPECT_EQ(label->LabelCaption(), "12.6 m");
+    EXPECT_EQ(dynamic_cast<platform::Image&>(*image->widget(1)).picture(), 5);
 }
 
 } // namespace
