@@ -1,6 +1,7 @@
 #include "platform/qt/entry_lists.h"
 
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 
 namespace zor::platform::qt {
@@ -117,12 +118,29 @@ void QtComboBox::paintColours()
 
 // --- List of check marks
 
+namespace {
+
+/// Rows with room for accents above capitals, which a row of the font's own height cuts off.
+class RoomyRows final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        constexpr int kRoom = 4;
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kRoom);
+    }
+};
+
+} // namespace
+
 CheckList::CheckList(QWidget* parent) : QListView(parent)
 {
     // Marks alone say what is selected; the current entry is only where the keys are.
     setSelectionMode(QAbstractItemView::NoSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setUniformItemSizes(true);
+    setItemDelegate(new RoomyRows(this));
 }
 
 void CheckList::makeCurrent(const QModelIndex& index, bool scroll)
