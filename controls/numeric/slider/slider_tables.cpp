@@ -13,7 +13,6 @@ using core::computedRow;
 using core::event;
 using core::fieldRow;
 using core::ownEvent;
-using core::PropertyRow;
 using core::SharedRows;
 using platform::Notice;
 

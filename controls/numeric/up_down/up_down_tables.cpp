@@ -12,7 +12,6 @@ using controls::RangeRows;
 using core::event;
 using core::fieldRow;
 using core::ownEvent;
-using core::PropertyRow;
 using core::SharedRows;
 using platform::Notice;
 
