@@ -20,14 +20,17 @@ void UnitControl::DeviceUnit(MEAS_TYPE value) { write(UnitRows::DeviceUnit, valu
 
 void UnitControl::OutputUnit(MEAS_TYPE value)
 {
-    const MEAS_TYPE before = std::exchange(m_units.previousOutputUnit, m_units.outputUnit);
-    try {
-        write(UnitRows::OutputUnit, value);
-    } catch (...) {
-        if (m_units.outputUnit != value)
-            m_units.previousOutputUnit = before;
-        throw;
-    }
+    // A handler may end the control and throw: it lives until the previous unit is settled.
+    run([&] {
+        const MEAS_TYPE before = std::exchange(m_units.previousOutputUnit, m_units.outputUnit);
+        try {
+            write(UnitRows::OutputUnit, value);
+        } catch (...) {
+            if (m_units.outputUnit != value)
+                m_units.previousOutputUnit = before;
+            throw;
+        }
+    });
 }
 
 void UnitControl::s_AfterOutputUnit()
