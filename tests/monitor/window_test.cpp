@@ -10,10 +10,12 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <set>
 
 namespace zor::monitor {
 namespace {
@@ -183,6 +185,69 @@ TEST_F(Demo, ClosingWithEditsAsksAndClosingWithAReplyPendingIsSafe)
     EXPECT_TRUE(QTest::qWaitFor([&] { return window->session().link().pending() > 0; }, kPatience));
     window.reset();
     QTest::qWait(kPeriod);
+}
+
+TEST(DrawnForm, ShowsAllNineClassesAndWritesThroughThem)
+{
+    core::ClassRegistry classes;
+    registerControls(classes);
+    Languages languages;
+    languages.use("en");
+    const ParameterFile file = demoFile();
+    Simulator device(file);
+    ASSERT_TRUE(device.start());
+    auto link = std::make_unique<TcpLink>("127.0.0.1", device.port(), 1, kPeriod);
+    auto form = std::make_unique<UiForm>(ZOR_TEST_DATA "/../../monitor/device/demo.ui", classes);
+    std::set<std::string_view> seen;
+    for (core::Control* control : form->controls())
+        seen.insert(control->info().name);
+    EXPECT_EQ(seen.size(), 9U);
+    Window window(std::make_unique<Session>(std::move(link), file), std::move(form), languages, &device);
+    window.show();
+    window.session().start(kPeriod);
+    const auto control = [&](std::string_view tag) -> core::Control& {
+        const auto all = window.session().bindings();
+        return (*std::ranges::find_if(all, [&](const auto& one) { return one->control().DeviceTag() == tag; }))
+            ->control();
+    };
+    window.form().tabs()->setCurrentIndex(0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return control("Serial").property("LabelCaption") == Variant("Z-0047110"); },
+                                kPatience));
+    EXPECT_TRUE(control("Unheard").DeviceTagNotFound());
+    EXPECT_EQ(control("DeviceStatus").property("DeviceValue"), Variant(8));
+    window.form().tabs()->setCurrentIndex(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return control("Echo").property("DeviceValue") == Variant(1); }, kPatience));
+    control("Damping").setProperty("ModifiedValue", 42);
+    window.review();
+    ASSERT_NE(window.openReview(), nullptr);
+    window.openReview()->accept();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.session().hasEdits(); }, kPatience));
+    EXPECT_EQ(device.registers(HoldingRegister, 3, 1), (Registers{42}));
+}
+
+TEST(DrawnForm, WhatIsNoFormIsRefusedWithFileAndLine)
+{
+    core::ClassRegistry classes;
+    registerControls(classes);
+    QTemporaryDir folder;
+    const std::vector<std::pair<const char*, const char*>> rows{
+        {"<ui version=\"4.0\">\n<widget", "bad.ui:2: "},
+        {"", "bad.ui"},
+        {"<ui version=\"4.0\"><widget class=\"QWidget\" name=\"a\"/></ui>", "no controls of the library"},
+    };
+    for (const auto& [text, error] : rows) {
+        QFile file(folder.filePath("bad.ui"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(text);
+        file.close();
+        try {
+            const UiForm form(file.fileName(), classes);
+            ADD_FAILURE() << "accepted: " << text;
+        } catch (const std::runtime_error& refused) {
+            EXPECT_NE(std::string(refused.what()).find(error), std::string::npos) << refused.what();
+        }
+    }
+    EXPECT_THROW(UiForm(folder.filePath("none.ui"), classes), FileError);
 }
 
 } // namespace
