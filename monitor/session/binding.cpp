@@ -40,6 +40,8 @@ Binding::Binding(core::Control& control, const Parameter* parameter) : m_control
         m_row.invalid = info.property("InvalidValue");
     if (m_row.modified != nullptr)
         m_control.subscribe(*this);
+    if (parameter != nullptr)
+        m_textUnit = parameter->appearance.unit;
 }
 
 Binding::~Binding()
@@ -155,7 +157,7 @@ Variant Binding::valueFor(std::span<const std::uint16_t> registers, const std::s
 {
     const core::ValueKind kind = m_row.value->field.kind;
     if (kind == core::ValueKind::Text && m_parameter->location.type != ValueType::Text) {
-        const ShownValue shownValue = describe(*m_parameter, registers, m_parameter->appearance.unit, language);
+        const ShownValue shownValue = describe(*m_parameter, registers, m_textUnit, language);
         const std::string_view label = fc_GetUnitLabel(shownValue.unit);
         return label.empty() ? shownValue.text : shownValue.text + ' ' + std::string(label);
     }
@@ -245,7 +247,16 @@ MEAS_TYPE Binding::shownUnit() const
 {
     if (m_row.unit != nullptr)
         return MEAS_TYPE{m_control.get(*m_row.unit).toInt32()};
-    return m_parameter != nullptr ? m_parameter->appearance.unit : NoneU;
+    return m_textUnit;
+}
+
+void Binding::showIn(MEAS_TYPE unit, const std::string& language)
+{
+    m_textUnit = unit;
+    putIfThere("OutputUnit", static_cast<std::int32_t>(unit));
+    // The control converts the text that it shows; from the value itself no rounding adds up.
+    if (!isModified() && !shown.empty())
+        showValue(Registers(shown), language);
 }
 
 void Binding::refresh(const std::string& language)

@@ -58,6 +58,9 @@ public:
     [[nodiscard]] std::uint64_t actions() const { return m_actions; }
     /// The unit in which the operator sees numbers.
     [[nodiscard]] MEAS_TYPE shownUnit() const;
+    /// Changes it and shows the value anew; an edit stays. Raises what the control raises when the value cannot be
+    /// expressed in the unit.
+    void showIn(MEAS_TYPE unit, const std::string& language);
     /// Fills the entries in a language and shows the edit anew, or the value when there is none. An entry that
     /// is no valid value stays as it was typed.
     void refresh(const std::string& language);
@@ -108,7 +111,8 @@ private:
     Rows m_row;
     std::uint64_t m_actions = 0;
     int m_quiet = 0;
-    bool m_unfit = false; ///< the last value could not be shown
+    MEAS_TYPE m_textUnit = NoneU; ///< of a control that shows numbers as texts
+    bool m_unfit = false;         ///< the last value could not be shown
 };
 
 } // namespace zor::monitor

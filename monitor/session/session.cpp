@@ -287,13 +287,8 @@ void Session::setUnits(UnitSystem system)
 
 bool Session::setUnit(Binding& binding, MEAS_TYPE unit)
 {
-    if (!binding.has("OutputUnit"))
-        return true;
     try {
-        binding.putIfThere("OutputUnit", static_cast<std::int32_t>(unit));
-        // The control converts the text that it shows; from the value itself no rounding adds up.
-        if (!binding.isModified() && !binding.shown.empty())
-            binding.showValue(Registers(binding.shown), m_language);
+        binding.showIn(unit, m_language);
     } catch (const RunTimeError&) {
         return false;
     }
@@ -329,7 +324,7 @@ std::string Session::report() const
     for (std::size_t i = 0; i < m_states.size(); ++i) {
         const Parameter& row = m_file.parameters[i];
         MEAS_TYPE unit = row.appearance.unit;
-        forEach(i, [&](const Binding& binding) { unit = binding.has("OutputUnit") ? binding.shownUnit() : unit; });
+        forEach(i, [&](const Binding& binding) { unit = binding.shownUnit(); });
         const ShownValue value = describe(row, m_states[i].last, unit, m_language);
         const std::string_view label = fc_GetUnitLabel(value.unit);
         lines.append(row.tag).append("  ").append(value.text);

@@ -135,6 +135,8 @@ TEST(Classes, DisplayControlsShowAnyParameter)
     core::Control& image = *host.add("ctx_ZorImage", "Flags");
     host.start();
     EXPECT_EQ(get(level, "LabelCaption"), Variant("10 mm"));
+    host.session->setUnits(UnitSystem::Us);
+    EXPECT_EQ(get(level, "LabelCaption"), Variant("0.4 in"));
     EXPECT_EQ(get(mode, "LabelCaption"), Variant("Forty"));
     EXPECT_EQ(get(image, "DeviceValue"), Variant(50));
     std::string said;

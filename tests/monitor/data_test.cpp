@@ -3,6 +3,7 @@
 #include "monitor/data/codec.h"
 #include "monitor/session/plan.h"
 
+#include <QFile>
 #include <gtest/gtest.h>
 
 #include <random>
@@ -78,6 +79,36 @@ TEST(ParameterFile, SaysWhatIsWrongAndWhere)
             EXPECT_EQ(std::string(error.what()).substr(0, row.error.size()), row.error) << error.what();
         }
     }
+}
+
+TEST(ParameterFile, AnyDamageIsReadOrRefused)
+{
+    QFile demo(ZOR_TEST_DATA "/../../monitor/device/demo.json");
+    ASSERT_TRUE(demo.open(QIODevice::ReadOnly));
+    const std::string whole = demo.readAll().toStdString();
+    EXPECT_GT(readParameterFile(whole, "demo").parameters.size(), 20U);
+    const unsigned seed = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    int refused = 0;
+    for (int i = 0; i < 1500; ++i) {
+        std::string text = whole.substr(0, i % 3 == 0 ? random() % whole.size() : whole.size());
+        for (unsigned long damage = random() % 4; !text.empty() && damage > 0; --damage) {
+            const std::size_t at = random() % text.size();
+            switch (random() % 3) {
+            case 0: text[at] = static_cast<char>(random()); break;
+            case 1: text.erase(at, random() % 40); break;
+            default: text.insert(at, text.substr(random() % text.size(), random() % 40)); break;
+            }
+        }
+        try {
+            (void)readParameterFile(text, "damaged");
+        } catch (const FileError& error) {
+            ++refused;
+            ASSERT_GT(error.line(), 0) << error.what();
+        }
+    }
+    EXPECT_GT(refused, 500);
 }
 
 TEST(ParameterFile, GivesEachParameterItsUsualControlAndTexts)
