@@ -428,9 +428,11 @@ Refusal HeadlessOperator::moveTo(Track& track, std::int32_t position)
     const Hold hold(base(track).host().listener());
     bool moved = false;
     const Refusal refusal = approach(track, moved);
-    if (moved && track.value() != position) {
+    // The handle goes no farther than the ends.
+    const std::int32_t target = std::clamp(position, track.minimum(), std::max(track.minimum(), track.maximum()));
+    if (moved && track.value() != target) {
         base(track).report(Notice::Scroll);
-        track.setValue(position);
+        track.setValue(target);
     }
     return refusal;
 }
