@@ -3,6 +3,7 @@
 #include "monitor/link/modbus.h"
 
 #include <QTcpServer>
+#include <QTcpSocket>
 #include <QVariant>
 
 #include <algorithm>
@@ -88,6 +89,11 @@ bool Simulator::start()
 void Simulator::stop()
 {
     m_clock.stop();
+    // The server frees what it holds for a connection when the socket ends, which must be before it does itself.
+    for (QTcpSocket* socket : m_server.findChildren<QTcpSocket*>()) {
+        socket->abort();
+        delete socket;
+    }
     m_server.disconnectDevice();
 }
 

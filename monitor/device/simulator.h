@@ -23,6 +23,7 @@ class Simulator : public QObject {
 public:
     /// Serves on 127.0.0.1 as unit 1; port 0 lets the system choose one. The file must outlive the device.
     explicit Simulator(const ParameterFile& file, int port = 0);
+    ~Simulator() override { stop(); }
 
     /// False when the port cannot be had; error() says why.
     [[nodiscard]] bool start();

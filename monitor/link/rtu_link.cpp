@@ -52,8 +52,12 @@ void RtuLink::hear(const QModbusReply& reply)
     if (!replied || reply.serverAddress() != m_unit)
         return fail(reply.errorString());
     const QModbusResponse response = reply.rawResult();
-    std::vector<std::uint8_t> pdu{static_cast<std::uint8_t>(static_cast<unsigned>(response.functionCode()) |
-                                                            (response.isException() ? 0x80U : 0U))};
+    // Qt has compared the function; of an exception its own accessors would read a code that is no member of
+    // their enumeration.
+    const bool exception = reply.error() == QModbusDevice::ProtocolError;
+    const unsigned function = exception ? static_cast<unsigned>(current().function) | 0x80U
+                                        : static_cast<unsigned>(response.functionCode());
+    std::vector<std::uint8_t> pdu{static_cast<std::uint8_t>(function)};
     for (const char byte : response.data())
         pdu.push_back(static_cast<std::uint8_t>(byte));
     m_reply->disconnect(this);

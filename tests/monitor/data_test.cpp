@@ -91,7 +91,7 @@ TEST(ParameterFile, AnyDamageIsReadOrRefused)
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
     int refused = 0;
-    for (int i = 0; i < 1500; ++i) {
+    for (int i = 0; i < 600; ++i) {
         std::string text = whole.substr(0, i % 3 == 0 ? random() % whole.size() : whole.size());
         for (unsigned long damage = random() % 4; !text.empty() && damage > 0; --damage) {
             const std::size_t at = random() % text.size();
@@ -108,7 +108,7 @@ TEST(ParameterFile, AnyDamageIsReadOrRefused)
             ASSERT_GT(error.line(), 0) << error.what();
         }
     }
-    EXPECT_GT(refused, 500);
+    EXPECT_GT(refused, 200);
 }
 
 TEST(ParameterFile, GivesEachParameterItsUsualControlAndTexts)
@@ -173,7 +173,7 @@ TEST(Codec, AnyRegistersComeBackTheSame)
     const unsigned seed = std::random_device{}();
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
-    for (int i = 0; i < 20000; ++i) {
+    for (int i = 0; i < 5000; ++i) {
         const Coded& row = kCoded[random() % kCoded.size()];
         const Parameter parameter = parameterOf(R"("type": ")" + row.type + R"(", "order": ")" + row.order + '"');
         Registers registers(parameter.location.registers);
