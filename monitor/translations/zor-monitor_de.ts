@@ -131,10 +131,6 @@
         <translation>%1: keine Antwort, versucht um %2</translation>
     </message>
     <message>
-        <source>%1 requests/s, %2 ms</source>
-        <translation>%1 Anfragen/s, %2 ms</translation>
-    </message>
-    <message>
         <source>%1: %2 requests, %3 failed, round trip %4 ms on average, %5 ms at most</source>
         <translation>%1: %2 Anfragen, %3 fehlgeschlagen, Umlauf %4 ms im Mittel, %5 ms höchstens</translation>
     </message>
@@ -160,6 +156,10 @@
     <message>
         <source>These edits are kept:</source>
         <translation>Diese Änderungen bleiben erhalten:</translation>
+    </message>
+    <message>
+        <source>%1: %2/s, %3 ms</source>
+        <translation>%1: %2/s, %3 ms</translation>
     </message>
 </context>
 <context>

@@ -131,10 +131,6 @@
         <translation>%1 : pas de réponse, essayé à %2</translation>
     </message>
     <message>
-        <source>%1 requests/s, %2 ms</source>
-        <translation>%1 requêtes/s, %2 ms</translation>
-    </message>
-    <message>
         <source>%1: %2 requests, %3 failed, round trip %4 ms on average, %5 ms at most</source>
         <translation>%1 : %2 requêtes, %3 échouées, aller-retour %4 ms en moyenne, %5 ms au plus</translation>
     </message>
@@ -160,6 +156,10 @@
     <message>
         <source>These edits are kept:</source>
         <translation>Ces modifications sont conservées :</translation>
+    </message>
+    <message>
+        <source>%1: %2/s, %3 ms</source>
+        <translation>%1 : %2/s, %3 ms</translation>
     </message>
 </context>
 <context>

@@ -15,6 +15,7 @@
 #include <QToolBar>
 
 #include <array>
+#include <utility>
 
 namespace zor::monitor {
 namespace {
@@ -249,25 +250,30 @@ void Window::showRound(bool answered)
 
 void Window::showTraffic()
 {
-    const Traffic& reads = m_session->link().reads();
-    const Traffic& writes = m_session->link().writes();
-    constexpr qint64 kWindow = 1000;
-    if (m_clock.elapsed() < kWindow)
+    constexpr qint64 kSecond = 1000;
+    if (m_clock.elapsed() < kSecond)
         return;
-    const std::uint64_t all = reads.requests + writes.requests;
-    const double rate = static_cast<double>(all - m_counted) * kWindow / static_cast<double>(m_clock.restart());
-    m_counted = all;
+    const double seconds = static_cast<double>(m_clock.restart()) / kSecond;
     const QLocale locale;
     const auto number = [&](double value) { return locale.toString(value, 'f', 1); };
-    m_traffic->setText(tr("%1 requests/s, %2 ms").arg(number(rate), number(reads.meanMilliseconds())));
-    const auto line = [&](const QString& name, const Traffic& traffic) {
-        return tr("%1: %2 requests, %3 failed, round trip %4 ms on average, %5 ms at most")
-            .arg(name)
-            .arg(traffic.requests)
-            .arg(traffic.failures)
-            .arg(number(traffic.meanMilliseconds()), number(traffic.longestMilliseconds));
-    };
-    m_traffic->setToolTip(line(tr("Reads"), reads) + '\n' + line(tr("Writes"), writes));
+    const std::array<const Traffic*, 2> kinds{&m_session->link().reads(), &m_session->link().writes()};
+    const std::array names{tr("Reads"), tr("Writes")};
+    QStringList line;
+    QStringList table;
+    for (std::size_t i = 0; i < kinds.size(); ++i) {
+        const Traffic& traffic = *kinds[i];
+        const auto now = static_cast<double>(traffic.requests - std::exchange(m_counted[i], traffic.requests));
+        const QString rate = number(now / seconds);
+        const QString mean = number(traffic.meanMilliseconds());
+        line.append(tr("%1: %2/s, %3 ms").arg(names[i], rate, mean));
+        table.append(tr("%1: %2 requests, %3 failed, round trip %4 ms on average, %5 ms at most")
+                         .arg(names[i])
+                         .arg(traffic.requests)
+                         .arg(traffic.failures)
+                         .arg(mean, number(traffic.longestMilliseconds)));
+    }
+    m_traffic->setText(line.join("  |  "));
+    m_traffic->setToolTip(table.join('\n'));
 }
 
 void Window::showResults(const std::vector<Written>& results)

@@ -14,6 +14,8 @@
 #include <QMainWindow>
 #include <QPointer>
 
+#include <array>
+
 namespace zor::monitor {
 
 class Window final : public QMainWindow {
@@ -61,7 +63,8 @@ private:
     QLabel* m_traffic;
     QPointer<QDialog> m_review;
     QElapsedTimer m_clock;
-    std::uint64_t m_counted = 0;
+    /// Reads and writes counted so far, and how many came in the last second.
+    std::array<std::uint64_t, 2> m_counted{};
     UnitSystem m_units = UnitSystem::Form;
     bool m_answered = false;
     bool m_unasked = false;

@@ -17,7 +17,7 @@
 namespace zor::monitor {
 namespace {
 
-constexpr int kDeadline = 150;
+constexpr int kDeadline = 300;
 constexpr int kPatience = 5000;
 
 Reply ask(Link& link, const Request& request)

@@ -122,7 +122,7 @@ inline const std::vector<Fault>& faults()
         {"a header and silence", [](QTcpSocket& socket, const QByteArray& reply) { socket.write(reply.left(7)); }},
         {"late",
          [](QTcpSocket& socket, const QByteArray& reply) {
-             QTimer::singleShot(250, &socket, [&socket, reply] { socket.write(reply); });
+             QTimer::singleShot(450, &socket, [&socket, reply] { socket.write(reply); });
          }},
         {"a byte a second",
          [](QTcpSocket& socket, const QByteArray& reply) {

@@ -18,6 +18,7 @@ namespace zor::tests {
 using namespace zor::monitor;
 
 inline constexpr int kPeriod = 150;
+inline constexpr int kDeadline = 300;
 inline constexpr int kPatience = 5000;
 
 /// Registers 0 to 199 of the peer hold their own address.
@@ -45,7 +46,7 @@ struct Host {
     {
         container.setUserMode(true);
         registerControls(classes);
-        auto link = std::make_unique<TcpLink>("127.0.0.1", port, 1, kPeriod);
+        auto link = std::make_unique<TcpLink>("127.0.0.1", port, 1, kDeadline);
         session = std::make_unique<Session>(std::move(link), readParameterFile(parameters, "test"), log);
     }
 
