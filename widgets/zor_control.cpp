@@ -110,6 +110,7 @@ ZorControl::ZorControl(std::string_view className, QWidget* parent)
     inner.control->subscribe(inner);
     inner.designed = platform::qt::toPixels(inner.control->surface().geometry()).size();
     takeFocusProxy();
+    setSizePolicy(QSizePolicy::Preferred, hasList() ? QSizePolicy::Expanding : QSizePolicy::Fixed);
     resize(inner.designed);
 }
 
@@ -239,6 +240,13 @@ void ZorControl::takeFocusProxy()
         widget.installEventFilter(this);
         return;
     }
+}
+
+bool ZorControl::hasList() const
+{
+    return std::ranges::any_of(info().widgets, [this](const core::WidgetRow& row) {
+        return dynamic_cast<const platform::ListBox*>(control().widget(row.widget)) != nullptr;
+    });
 }
 
 bool ZorControl::eventFilter(QObject* watched, QEvent* event)

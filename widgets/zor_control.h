@@ -93,6 +93,8 @@ private:
     void guarded(std::string_view member, Action&& action) const;
     void layOut();
     void takeFocusProxy();
+    /// A list grows with the form; everything else has the height of a line.
+    [[nodiscard]] bool hasList() const;
 
     std::unique_ptr<Inner> m_inner;
 };

@@ -1,0 +1,19 @@
+// The same form, loaded while the program runs.
+
+#include "widgets/ui_loader.h"
+#include "zor_widgets.h"
+
+#include <QApplication>
+#include <QFile>
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QFile file(argc > 1 ? argv[1] : "tank.ui");
+    QWidget* window = file.open(QIODevice::ReadOnly) ? zor::ZorUiLoader().load(&file) : nullptr;
+    if (window == nullptr)
+        return 1;
+    window->findChild<zor::ZorTextBox*>("level")->setDeviceValue(12345);
+    window->show();
+    return QApplication::exec();
+}
