@@ -1,9 +1,11 @@
 #include "designer/extensions.h"
 
+#include "designer/device_menu.h"
 #include "designer/headings.h"
 
 #include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtDesigner/QDesignerPropertySheetExtension>
+#include <QtDesigner/QDesignerTaskMenuExtension>
 #include <QtDesigner/QExtensionManager>
 
 namespace zor::designer {
@@ -14,6 +16,7 @@ void addExtensions(QDesignerFormEditorInterface& core)
     if (manager->findChild<Headings*>() != nullptr)
         return;
     manager->registerExtensions(new Headings(*manager), Q_TYPEID(QDesignerPropertySheetExtension));
+    manager->registerExtensions(new DeviceMenuFactory(manager), Q_TYPEID(QDesignerTaskMenuExtension));
 }
 
 } // namespace zor::designer

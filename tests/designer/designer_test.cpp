@@ -22,6 +22,7 @@
 #include <QMetaProperty>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTest>
 #include <QTimer>
 #include <QUndoStack>
 #include <QtDesigner/QDesignerComponents>
@@ -290,6 +291,67 @@ TEST(Designer, EveryReaderOfAFormEndsWithTheSameValues)
     }
     EXPECT_TRUE(headless.notes().empty());
     EXPECT_EQ(here, values);
+}
+
+/// Opens "Device..." and works in the dialog while it is open.
+void onPage(const OpenForm& form, const char* name, const std::function<void(QDialog&)>& work)
+{
+    auto* menu = qt_extension<QDesignerTaskMenuExtension*>(Editor::core().extensionManager(), form.widget(name));
+    ASSERT_TRUE(menu) << name;
+    ASSERT_TRUE(menu->preferredEditAction()) << name;
+    EXPECT_EQ(menu->preferredEditAction()->text(), "Device...");
+    EXPECT_TRUE(menu->taskActions().contains(menu->preferredEditAction()));
+    bool worked = false;
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        worked = true;
+        work(*dialog);
+        dialog->reject();
+    });
+    menu->preferredEditAction()->trigger();
+    EXPECT_TRUE(worked) << name;
+}
+
+void press(QDialog& dialog, QDialogButtonBox::StandardButton button)
+{
+    dialog.findChild<QDialogButtonBox*>()->button(button)->click();
+}
+
+TEST(Designer, TheDevicePageOfEachControlIsInItsContextMenu)
+{
+    const OpenForm form(oneOfEach());
+    const QString before = form.window->contents();
+    for (const WidgetClass& widgetClass : widgetClasses())
+        onPage(form, std::string(widgetClass.controlClass).c_str(),
+               [](QDialog& dialog) { press(dialog, QDialogButtonBox::Ok); });
+    EXPECT_EQ(form.window->contents(), before);
+    EXPECT_FALSE(form.window->isDirty());
+}
+
+TEST(Designer, AChangeOnAPageIsOneStepThatCanBeTakenBack)
+{
+    const OpenForm form(oneOfEach());
+    const QString before = form.window->contents();
+    onPage(form, "ctx_ZorTextBox", [&](QDialog& dialog) {
+        for (auto* box : dialog.findChildren<QComboBox*>()) {
+            if (box->findText("Pressure") >= 0)
+                box->setCurrentText("Pressure");
+        }
+        QTest::keyClicks(dialog.findChildren<QLineEdit*>().first(), "X");
+        press(dialog, QDialogButtonBox::Apply);
+        EXPECT_TRUE(form.window->isDirty());
+        EXPECT_EQ(form.window->commandHistory()->count(), 1);
+    });
+    const QString after = form.window->contents();
+    for (const char* saved :
+         {"<enum>zor::ZorWidget::PRESSURE</enum>", "<enum>zor::ZorWidget::PrU_Psi</enum>", ">X</string>"})
+        EXPECT_TRUE(after.contains(saved)) << saved << '\n' << after.toStdString();
+    EXPECT_FALSE(after.contains("MaxLength")) << "what was not changed is not stored";
+    form.window->commandHistory()->undo();
+    EXPECT_EQ(form.window->contents(), before);
+    form.window->commandHistory()->redo();
+    EXPECT_EQ(form.window->contents(), after);
 }
 
 } // namespace
