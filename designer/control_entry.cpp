@@ -45,7 +45,12 @@ QString ControlEntry::whatsThis() const { return toQString(descriptionOf(m_class
 QIcon ControlEntry::icon() const
 {
     const QString own = QString(":/zor/designer/%1.svg").arg(shortName(m_class));
-    return QIcon(QFile::exists(own) ? own : QStringLiteral(":/zor/designer/ZorControl.svg"));
+    const QIcon drawing(QFile::exists(own) ? own : QStringLiteral(":/zor/designer/ZorControl.svg"));
+    // The widget box takes only icons that name their sizes, which a drawing cannot.
+    QIcon icon;
+    for (const int size : {16, 22, 24, 32, 44, 48, 64})
+        icon.addPixmap(drawing.pixmap(size, size));
+    return icon;
 }
 
 QString ControlEntry::domXml() const

@@ -63,7 +63,8 @@ public:
 
     static QDesignerFormEditorInterface& core()
     {
-        static Editor editor;
+        // Never ends: Designer does not survive the application, which ends before what is static.
+        static Editor& editor = *new Editor;
         return *editor.m_core;
     }
 
@@ -156,8 +157,10 @@ TEST(Designer, TheControlsAreInTheWidgetBox)
     QStringList names;
     for (int i = 0; i < box.categoryCount(); ++i) {
         const auto category = box.category(i);
-        for (int j = 0; category.name() == "Zor Smart Controls" && j < category.widgetCount(); ++j)
+        for (int j = 0; category.name() == "Zor Smart Controls" && j < category.widgetCount(); ++j) {
             names << category.widget(j).name();
+            EXPECT_TRUE(category.widget(j).iconName().contains("zor::")) << "the plugin's own icon";
+        }
     }
     EXPECT_EQ(names.size(), static_cast<qsizetype>(widgetClasses().size())) << names.join(' ').toStdString();
     EXPECT_TRUE(names.contains("Text Box"));
