@@ -18,6 +18,14 @@ constexpr string_view kBlanks = " \t\r\n";
 constexpr string_view kNotInNames = " \t\r\n<>&'\"/=?!";
 constexpr auto npos = string_view::npos;
 
+/// "#123" or "#x1F".
+bool isNumber(string_view entity)
+{
+    const bool isHex = entity.starts_with("#x");
+    const string_view digits = entity.starts_with('#') ? entity.substr(isHex ? 2 : 1) : string_view();
+    return !digits.empty() && digits.find_first_not_of(isHex ? "0123456789abcdefABCDEF" : "0123456789") == npos;
+}
+
 class Check {
 public:
     Check(string_view text, string_view file) : m_text(text), m_file(file) {}
@@ -188,7 +196,7 @@ private:
         const string_view after = m_text.substr(m_at + 1, kLongest);
         const auto end = after.find(';');
         const string_view entity = end == npos ? string_view() : after.substr(0, end);
-        if (entity.empty() || (entity.front() != '#' && std::ranges::find(kKnown, entity) == kKnown.end()))
+        if (!isNumber(entity) && std::ranges::find(kKnown, entity) == kKnown.end())
             fail("an entity that XML does not know");
         m_at += entity.size() + 2;
     }

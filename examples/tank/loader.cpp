@@ -1,6 +1,6 @@
 // The same form, loaded while the program runs.
 
-#include "widgets/ui_loader.h"
+#include "widgets/form_loader.h"
 #include "zor_widgets.h"
 
 #include <QApplication>

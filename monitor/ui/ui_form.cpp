@@ -1,6 +1,6 @@
 #include "forms/form.h"
 #include "monitor/ui/form.h"
-#include "widgets/ui_loader.h"
+#include "widgets/form_loader.h"
 #include "widgets/zor_control.h"
 
 #include <QFile>

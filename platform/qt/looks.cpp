@@ -4,7 +4,9 @@
 
 #include <QGuiApplication>
 #include <QPalette>
+#include <QStyle>
 #include <QTextDocument>
+#include <QWidget>
 
 #include <algorithm>
 #include <cmath>
@@ -95,6 +97,21 @@ QColor frameSource(const QColor& text, const QColor& background)
         QColor::fromRgbF(half(text.redF(), background.redF()), half(text.greenF(), background.greenF()),
                          half(text.blueF(), background.blueF()));
     return frame.lighter(kStyleDarkens);
+}
+
+void holdAgainstStyleSheet(QWidget& widget, Colour back, Colour fore)
+{
+    const auto isState = [](Colour colour) { return (colour & kSystemColourBit) == 0; };
+    QString sheet;
+    if (widget.style()->inherits("QStyleSheetStyle")) {
+        const QColor background = isState(back) ? toQColor(back) : widget.palette().color(widget.backgroundRole());
+        if (isState(back))
+            sheet += "background-color: " + background.name() + ';';
+        if (isState(back) || isState(fore))
+            sheet += "color: " + readableOn(fore, background).name() + ';';
+    }
+    if (widget.styleSheet() != sheet)
+        widget.setStyleSheet(sheet);
 }
 
 } // namespace zor::platform::qt

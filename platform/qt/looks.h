@@ -12,6 +12,8 @@
 #include <string>
 #include <string_view>
 
+class QWidget;
+
 namespace zor::platform::qt {
 
 inline constexpr double kTwipsPerPixel = 15.0; ///< device-independent pixels
@@ -38,5 +40,9 @@ inline constexpr double kTwipsPerPixel = 15.0; ///< device-independent pixels
 /// The window colour of a palette from which a style paints the frame of an empty mark: one that is seen on the
 /// background, whatever colour it has.
 [[nodiscard]] QColor frameSource(const QColor& text, const QColor& background);
+
+/// Keeps colours that mean a state (a field with an edit, a control without communication) where a style sheet of
+/// the program would go before the palette. System colours are left to the style sheet.
+void holdAgainstStyleSheet(QWidget& widget, Colour back, Colour fore);
 
 } // namespace zor::platform::qt

@@ -179,6 +179,7 @@ private:
         case QEvent::MouseButtonRelease:
         case QEvent::MouseButtonDblClick:
         case QEvent::MouseMove:
+        case QEvent::StyleChange:
         case QEvent::ApplicationPaletteChange: return true;
         default: return false;
         }
@@ -311,6 +312,7 @@ protected:
         }
         this->widget().setPalette(palette);
         this->widget().setAutoFillBackground((this->backColour() & kSystemColourBit) == 0);
+        holdAgainstStyleSheet(this->widget(), this->backColour(), m_foreColour);
     }
 
 private:

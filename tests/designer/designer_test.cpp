@@ -5,8 +5,9 @@
 #include "core/setting_order.h"
 #include "forms/form.h"
 #include "platform/headless/container.h"
+#include "ui_tank.h"
 #include "widgets/conversion.h"
-#include "widgets/ui_loader.h"
+#include "widgets/form_loader.h"
 #include "zor_widgets.h"
 
 #include <QAction>
@@ -294,6 +295,19 @@ TEST(Designer, EveryReaderOfAFormEndsWithTheSameValues)
     }
     EXPECT_TRUE(headless.notes().empty());
     EXPECT_EQ(here, values);
+}
+
+TEST(Designer, TheFormThatUicCompiledHasTheSameValues)
+{
+    QWidget window;
+    Ui::Tank tank;
+    tank.setupUi(&window);
+    QByteArray bytes = example().toUtf8();
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    const std::unique_ptr<QWidget> loaded(ZorUiLoader().load(&buffer));
+    EXPECT_EQ(valuesOf(window), valuesOf(*loaded));
+    EXPECT_EQ(tank.level->MaxValue(), 20);
 }
 
 /// Opens "Device..." and works in the dialog while it is open.

@@ -80,6 +80,7 @@ TEST(FormFile, WhatIsNoFormIsRefusedWithItsLine)
         {"a type definition", "<!DOCTYPE ui [<!ENTITY a \"b\">]><ui>&a;</ui>",
          "f:1: document type definitions are not read"},
         {"an unknown entity", "<ui>\n<class>&lol9;</class></ui>", "f:2: an entity that XML does not know"},
+        {"a reference cut by a comment", "<ui>&#26<!--;--></ui>", "f:1: an entity that XML does not know"},
         {"a bare ampersand", "<ui a=\"b & c\"/>", "f:1: an entity that XML does not know"},
         {"text around", "<ui/> form", "f:1: text outside the form"},
         {"deep nesting", "<ui>" + repeated("\n<a>", 1000), "f:201: elements are nested too deeply"},

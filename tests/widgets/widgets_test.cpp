@@ -3,7 +3,7 @@
 #include "controls/numeric/text_box/ctx_ZorTextBox.h"
 #include "controls/registration.h"
 #include "widgets/conversion.h"
-#include "widgets/ui_loader.h"
+#include "widgets/form_loader.h"
 #include "zor_widgets.h"
 
 #include <QApplication>
@@ -176,6 +176,26 @@ TEST(Widgets, AWidgetMayBeDeletedInASlotOfItsOwnSignal)
     QObject::connect(other, &ZorTextBox::OutputValueChange, &form, [other] { delete other; });
     other->setDeviceValue(5);
     EXPECT_TRUE(alive.isNull());
+}
+
+TEST(Widgets, AStyleSheetOfTheProgramHidesNoState)
+{
+    QWidget form;
+    QVBoxLayout layout(&form);
+    auto* box = new ZorTextBox;
+    layout.addWidget(box);
+    form.setStyleSheet("QLineEdit { background: #ccddee; color: black; border: 1px solid gray; }");
+    form.show();
+    const auto field = [&] { return box->findChild<QLineEdit*>()->grab().toImage().pixelColor(8, 8); };
+    EXPECT_EQ(field(), QColor(0xccddee));
+    box->setDataModified(true);
+    EXPECT_EQ(field(), QColor(Qt::yellow));
+    form.setStyleSheet("* { background: #223344; }");
+    EXPECT_EQ(field(), QColor(Qt::yellow));
+    box->setDataModified(false);
+    EXPECT_EQ(field(), QColor(0x223344));
+    form.setStyleSheet({});
+    EXPECT_EQ(field(), form.palette().color(QPalette::Base));
 }
 
 TEST(Widgets, ADataMapperShowsAndTakesTheValue)

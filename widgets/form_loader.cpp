@@ -1,4 +1,4 @@
-#include "widgets/ui_loader.h"
+#include "widgets/form_loader.h"
 
 #include "widgets/zor_control.h"
 
