@@ -1,6 +1,6 @@
-# A layer is a static library of the sources in one folder. Its include path holds a view of the source
-# tree with its own folder and those of the layers below it, and nothing else: an include that points
-# upwards does not compile.
+# A layer is a static library of the sources in one folder. Its include path holds a view of the source tree with
+# its own headers and those of the layers below it, and nothing else: an include that points upwards does not
+# compile.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -18,61 +18,66 @@ if(ZOR_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link,address,undefined)
   add_link_options(-fsanitize=address,undefined)
 elseif(ZOR_SANITIZE)
+  # With the sanitizers the compiler takes much for uninitialised that is not.
+  target_compile_options(zor_warnings INTERFACE -Wno-maybe-uninitialized)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-# zor_view(NAME FOLDER...): a folder in the build tree that shows only these top-level folders.
+# zor_view(NAME HEADER...): a folder in the build tree that shows these headers and nothing else.
 function(zor_view name)
   set(view ${CMAKE_BINARY_DIR}/views/${name})
   file(REMOVE_RECURSE ${view})
-  file(MAKE_DIRECTORY ${view})
-  foreach(folder IN LISTS ARGN)
-    get_filename_component(parent ${folder} DIRECTORY)
-    if(parent)
-      file(MAKE_DIRECTORY ${view}/${parent})
-    endif()
-    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${folder} ${view}/${folder} SYMBOLIC)
+  foreach(header IN LISTS ARGN)
+    get_filename_component(folder ${header} DIRECTORY)
+    file(MAKE_DIRECTORY ${view}/${folder})
+    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${header} ${view}/${header} SYMBOLIC)
   endforeach()
 endfunction()
 
 # zor_layer(NAME DIR folder [RECURSE] [BELOW layer]): target zor_NAME.
 function(zor_layer name)
   cmake_parse_arguments(L "RECURSE" "DIR;BELOW" "" ${ARGN})
+  set(glob GLOB)
   if(L_RECURSE)
-    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${L_DIR}/*.cpp ${L_DIR}/*.h)
-  else()
-    file(GLOB sources CONFIGURE_DEPENDS ${L_DIR}/*.cpp ${L_DIR}/*.h)
+    set(glob GLOB_RECURSE)
   endif()
-  if(NOT sources)
+  file(${glob} sources CONFIGURE_DEPENDS ${L_DIR}/*.cpp)
+  file(${glob} headers RELATIVE ${CMAKE_SOURCE_DIR} CONFIGURE_DEPENDS ${L_DIR}/*.h)
+  if(NOT sources OR NOT headers)
     message(FATAL_ERROR "layer ${name}: no sources in ${L_DIR}")
   endif()
-  add_library(zor_${name} STATIC ${sources})
+  add_library(zor_${name} STATIC ${sources} ${headers})
   target_link_libraries(zor_${name} PRIVATE zor_warnings)
   target_compile_features(zor_${name} PUBLIC cxx_std_20)
-  set(folders ${L_DIR})
   if(L_BELOW)
     target_link_libraries(zor_${name} PUBLIC zor_${L_BELOW})
-    get_target_property(lower zor_${L_BELOW} ZOR_FOLDERS)
-    list(APPEND folders ${lower})
+    get_target_property(lower zor_${L_BELOW} ZOR_HEADERS)
+    list(APPEND headers ${lower})
   endif()
-  set_target_properties(zor_${name} PROPERTIES ZOR_FOLDERS "${folders}")
-  # A folder below one that is already shown needs no link of its own.
-  set(shown)
-  foreach(folder IN LISTS folders)
-    set(inside FALSE)
-    foreach(other IN LISTS folders)
-      string(FIND "${folder}" "${other}/" at)
-      if(at EQUAL 0)
-        set(inside TRUE)
-      endif()
-    endforeach()
-    if(NOT inside)
-      list(APPEND shown ${folder})
-    endif()
-  endforeach()
-  zor_view(${name} ${shown})
-  # The views serve compilation of the layer itself; programs on top include from the source tree.
+  set_target_properties(zor_${name} PROPERTIES ZOR_LAYER TRUE ZOR_HEADERS "${headers}")
+  zor_view(${name} ${headers})
+  # The views serve compilation of the layers themselves; programs on top include from the source tree.
   target_include_directories(zor_${name} PRIVATE ${CMAKE_BINARY_DIR}/views/${name}
-                             INTERFACE ${CMAKE_SOURCE_DIR})
+    INTERFACE $<$<NOT:$<BOOL:$<TARGET_PROPERTY:ZOR_LAYER>>>:${CMAKE_SOURCE_DIR}>)
+  set_property(GLOBAL APPEND PROPERTY ZOR_LAYERS ${name})
+endfunction()
+
+# One test a layer: the compiler finds the layer's own headers, and none of a layer above it.
+function(zor_layer_tests)
+  get_property(layers GLOBAL PROPERTY ZOR_LAYERS)
+  set(all)
+  foreach(layer IN LISTS layers)
+    get_target_property(headers zor_${layer} ZOR_HEADERS)
+    list(APPEND all ${headers})
+  endforeach()
+  list(REMOVE_DUPLICATES all)
+  foreach(layer IN LISTS layers)
+    get_target_property(headers zor_${layer} ZOR_HEADERS)
+    set(above ${all})
+    list(REMOVE_ITEM above ${headers})
+    add_test(NAME layers.${layer}.SeesNothingAbove
+             COMMAND ${CMAKE_COMMAND} -DCOMPILER=${CMAKE_CXX_COMPILER} "-DINCLUDES=$<TARGET_PROPERTY:zor_${layer},INCLUDE_DIRECTORIES>"
+                     "-DOWN=${headers}" "-DABOVE=${above}" -P ${CMAKE_SOURCE_DIR}/cmake/CheckLayer.cmake)
+  endforeach()
 endfunction()
