@@ -4,41 +4,20 @@
 #include "controls/choice/check_box/ctx_ZorCheckBox.h"
 #include "controls/choice/combo_box/ctx_ZorComboBox.h"
 #include "controls/choice/list_box/ctx_ZorListBox.h"
-#include "core/frm_Container.h"
-#include "platform/qt/container.h"
 #include "platform/qt/looks.h"
+#include "tests/qt/screen_fixture.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QContextMenuEvent>
-#include <QLineEdit>
 #include <QListView>
 #include <QTest>
 #include <QWheelEvent>
-#include <gtest/gtest.h>
 
 namespace zor {
 namespace {
 
-class ChoiceTest : public testing::Test {
+class ChoiceTest : public tests::ScreenTest {
 protected:
-    ChoiceTest()
-    {
-        form.resize(600, 300);
-        form.show();
-        other.move(0, 250);
-        other.show();
-        QApplication::setActiveWindow(&form);
-        other.setFocus();
-        container.setUserMode(true);
-    }
-    template <class T>
-    core::ControlPtr<T> make()
-    {
-        core::ControlPtr<T> control = T::create(container);
-        control->initialiseProperties();
-        return control;
-    }
     core::ControlPtr<ctx_ZorComboBox> makeCombo()
     {
         auto control = make<ctx_ZorComboBox>();
@@ -47,10 +26,6 @@ protected:
         control->DeviceValue(1);
         return control;
     }
-    static QWidget& face(core::Control& control)
-    {
-        return platform::qt::widgetOf(*control.widget(controls::kFace));
-    }
     static void turnWheel(QWidget& widget)
     {
         const QPointF at = QRectF(widget.rect()).center();
@@ -58,33 +33,29 @@ protected:
                           Qt::NoScrollPhase, false);
         QApplication::sendEvent(&widget, &event);
     }
-
-    QWidget form;
-    QLineEdit other{&form};
-    platform::qt::QtContainer container{form, core::pictureData};
 };
 
 TEST_F(ChoiceTest, TheWheelTurnsADropDownListOnlyForWhoeverWorksIt)
 {
     const auto combo = makeCombo();
-    turnWheel(face(*combo));
+    turnWheel(part(*combo));
     EXPECT_EQ(combo->OutputValue(), 1) << "without the focus";
-    face(*combo).setFocus();
-    turnWheel(face(*combo));
+    part(*combo).setFocus();
+    turnWheel(part(*combo));
     EXPECT_EQ(combo->OutputValue(), 2);
     combo->DeviceValue(1);
     combo->CFail(true);
-    turnWheel(face(*combo));
-    QTest::keyClick(&face(*combo), Qt::Key_Down);
+    turnWheel(part(*combo));
+    QTest::keyClick(&part(*combo), Qt::Key_Down);
     EXPECT_EQ(combo->OutputValue(), 1) << "locked";
-    EXPECT_TRUE(face(*combo).isEnabled()) << "and looks as ever";
-    EXPECT_EQ(face(*combo).toolTip(), "Communication Failure !");
+    EXPECT_TRUE(part(*combo).isEnabled()) << "and looks as ever";
+    EXPECT_EQ(part(*combo).toolTip(), "Communication Failure !");
 }
 
 TEST_F(ChoiceTest, AnOpenListClosesWhenTheConnectionIsLost)
 {
     const auto combo = makeCombo();
-    auto& list = dynamic_cast<QComboBox&>(face(*combo));
+    auto& list = dynamic_cast<QComboBox&>(part(*combo));
     list.setFocus();
     QTest::keyClick(&list, Qt::Key_Space);
     ASSERT_TRUE(list.view()->isVisible());
@@ -102,15 +73,15 @@ TEST_F(ChoiceTest, TheMenuKeyOffersTheUndo)
     const std::initializer_list<controls::ChoiceControl*> both{check.get(), list.get()};
     for (controls::ChoiceControl* control : both) {
         control->ModifiedValue(1);
-        QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(1, 1), face(*control).mapToGlobal(QPoint(1, 1)));
-        QApplication::sendEvent(&face(*control), &key);
+        QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(1, 1), part(*control).mapToGlobal(QPoint(1, 1)));
+        QApplication::sendEvent(&part(*control), &key);
         ASSERT_TRUE(control->menu()->isOpen());
         QWidget* menu = QApplication::activePopupWidget();
         QTest::keyClick(menu, Qt::Key_Down);
         QTest::keyClick(menu, Qt::Key_Return);
         EXPECT_EQ(control->OutputValue(), 0);
         control->ReadOnly(true);
-        QApplication::sendEvent(&face(*control), &key);
+        QApplication::sendEvent(&part(*control), &key);
         EXPECT_FALSE(control->menu()->isOpen());
     }
 }
@@ -119,7 +90,7 @@ TEST_F(ChoiceTest, AnEmptyMarkIsSeenOnEveryField)
 {
     const auto list = make<ctx_ZorListBox>();
     list->AddBitFieldEntry(" ", 0);
-    auto& view = dynamic_cast<QListView&>(face(*list));
+    auto& view = dynamic_cast<QListView&>(part(*list));
     const auto strongest = [&] {
         QApplication::processEvents();
         const QImage picture = view.viewport()->grab().toImage();

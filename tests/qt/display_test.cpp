@@ -2,66 +2,27 @@
 
 #include "controls/display/image/ctx_ZorImage.h"
 #include "controls/display/label/ctx_ZorLabel.h"
-#include "core/frm_Container.h"
-#include "platform/qt/container.h"
+#include "tests/qt/screen_fixture.h"
 
-#include <QApplication>
 #include <QClipboard>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace zor {
 namespace {
 
-class DisplayTest : public testing::Test, public core::EventSink {
+class DisplayTest : public tests::ScreenTest {
 protected:
-    DisplayTest()
-    {
-        form.resize(600, 200);
-        form.show();
-        other.move(0, 100);
-        other.show();
-        QApplication::setActiveWindow(&form);
-        other.setFocus();
-        container.setUserMode(true);
-        container.onMessage = [this](platform::Component&, const platform::MessageBox& box) {
-            boxes.emplace_back(box.text);
-        };
-    }
-    void event(core::Control&, const core::EventRow& row, platform::EventArgs) override
-    {
-        events.append(events.empty() ? "" : " ").append(row.name);
-    }
-    template <class T>
-    core::ControlPtr<T> make()
-    {
-        core::ControlPtr<T> control = T::create(container);
-        control->initialiseProperties();
-        control->subscribe(static_cast<core::EventSink&>(*this));
-        return control;
-    }
-    static QWidget& first(core::Control& control) { return platform::qt::widgetOf(*control.widget(1)); }
-    static QLabel& captionOf(core::Control& control) { return dynamic_cast<QLabel&>(first(control)); }
-
-    QWidget form;
-    QLineEdit other{&form};
-    platform::qt::QtContainer container{form, core::pictureData};
-    std::string events;
-    std::vector<std::string> boxes;
+    static QLabel& captionOf(core::Control& control) { return dynamic_cast<QLabel&>(part(control)); }
 };
 
 TEST_F(DisplayTest, ThePictureAnswersTheKeyboardAsItAnswersTheMouse)
 {
     const auto image = make<ctx_ZorImage>();
-    QWidget& picture = first(*image);
+    QWidget& picture = part(*image);
     EXPECT_TRUE((picture.focusPolicy() & Qt::TabFocus) != 0);
     picture.setFocus(Qt::TabFocusReason);
     ASSERT_TRUE(picture.hasFocus());
@@ -81,7 +42,7 @@ TEST_F(DisplayTest, ThePictureAnswersTheKeyboardAsItAnswersTheMouse)
 TEST_F(DisplayTest, AScreenReaderHearsTheStateInWords)
 {
     const auto image = make<ctx_ZorImage>();
-    QWidget& picture = first(*image);
+    QWidget& picture = part(*image);
     image->MessageHeader("Tank 4");
     EXPECT_EQ(picture.accessibleName(), "Tank 4");
     EXPECT_EQ(picture.accessibleDescription(), "- No Information. Status OK");
@@ -98,8 +59,8 @@ TEST_F(DisplayTest, AScreenReaderHearsTheStateInWords)
     const auto label = make<ctx_ZorLabel>();
     label->DeviceTag("Name1");
     label->DataNotAvailable(true);
-    EXPECT_EQ(first(*label).accessibleName(), "Name1");
-    EXPECT_EQ(first(*label).accessibleDescription(), "Data Not Available");
+    EXPECT_EQ(part(*label).accessibleName(), "Name1");
+    EXPECT_EQ(part(*label).accessibleDescription(), "Data Not Available");
 }
 
 TEST_F(DisplayTest, ACaptionIsMarkedAndCopiedWithoutTakingAnEventOrTheFocus)
@@ -160,7 +121,7 @@ TEST_F(DisplayTest, WhateverTheDeviceSendsIsShownAsPlainText)
         format = box->textFormat();
         box->accept();
     });
-    QTest::mouseClick(&platform::qt::widgetOf(*label->widget(2)), Qt::LeftButton);
+    QTest::mouseClick(&part(*label, 2), Qt::LeftButton);
     EXPECT_EQ(text, "<h1>no</h1>\r\n");
     EXPECT_EQ(format, Qt::PlainText);
 }

@@ -1,45 +1,18 @@
 // What only a real screen has: the focus among neighbours, the mouse on what is disabled, a screen reader.
 
 #include "controls/numeric/text_box/ctx_ZorTextBox.h"
-#include "core/frm_Container.h"
-#include "platform/qt/container.h"
+#include "tests/qt/screen_fixture.h"
 
-#include <QApplication>
 #include <QTest>
-#include <gtest/gtest.h>
-
-#include <string>
 
 namespace zor {
 namespace {
 
-class TextBoxOnScreenTest : public testing::Test, public core::EventSink {
+class TextBoxOnScreenTest : public tests::ScreenTest {
 protected:
-    TextBoxOnScreenTest()
-    {
-        form.resize(600, 200);
-        form.show();
-        QApplication::setActiveWindow(&form);
-        container.setUserMode(true);
-        container.onMessage = [this](platform::Component&, const platform::MessageBox&) { ++boxes; };
-        for (const auto& box : {first.get(), second.get()})
-            box->initialiseProperties();
-        platform::qt::widgetOf(*second->widget(1)).setFocus();
-        first->subscribe(static_cast<core::EventSink&>(*this));
-    }
-    ~TextBoxOnScreenTest() override { first->unsubscribe(static_cast<core::EventSink&>(*this)); }
-    void event(core::Control&, const core::EventRow& row, platform::EventArgs) override
-    {
-        events.append(events.empty() ? "" : " ").append(row.name);
-    }
-    QWidget& part(int number) { return platform::qt::widgetOf(*first->widget(number)); }
+    QWidget& part(int number) { return ScreenTest::part(*first, number); }
 
-    QWidget form;
-    platform::qt::QtContainer container{form, core::pictureData};
-    core::ControlPtr<ctx_ZorTextBox> first = ctx_ZorTextBox::create(container);
-    core::ControlPtr<ctx_ZorTextBox> second = ctx_ZorTextBox::create(container);
-    std::string events;
-    int boxes = 0;
+    core::ControlPtr<ctx_ZorTextBox> first = make<ctx_ZorTextBox>();
 };
 
 TEST_F(TextBoxOnScreenTest, AFrozenFieldKeepsTheFocusTheEntryAndItsPlaceAmongTheOthers)
@@ -73,11 +46,11 @@ TEST_F(TextBoxOnScreenTest, TheMouseDoesNothingToWhatIsDisabled)
         QTest::mouseDClick(&part(number), Qt::LeftButton);
     }
     EXPECT_EQ(events, "");
-    EXPECT_EQ(boxes, 0);
+    EXPECT_TRUE(boxes.empty());
     first->WaitingForData(false);
     QTest::mouseClick(&part(3), Qt::LeftButton);
     EXPECT_EQ(events, "imgClick");
-    EXPECT_EQ(boxes, 1);
+    EXPECT_EQ(boxes.size(), 1U);
 }
 
 TEST_F(TextBoxOnScreenTest, AScreenReaderHearsTagUnitAndState)
