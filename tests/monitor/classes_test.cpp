@@ -21,10 +21,15 @@ Widget& widgetOf(core::Control& control)
 
 Variant get(core::Control& control, const char* property) { return control.property(property); }
 
-TEST(Classes, BitsThatShareARegisterAreWrittenTogetherAndNoOtherIsTouched)
+/// A device and a host without a window.
+struct Classes : testing::Test {
+    Peer peer;
+    Host host{peer.serverPort()};
+};
+
+TEST_F(Classes, BitsThatShareARegisterAreWrittenTogetherAndNoOtherIsTouched)
 {
-    Peer peer; // register 50 holds 50: bits 1, 4 and 5
-    Host host(peer.serverPort());
+    // register 50 holds 50: bits 1, 4 and 5
     core::Control& list = *host.add("ctx_ZorListBox", "Flags");
     core::Control& four = *host.add("ctx_ZorCheckBox", "Flags");
     core::Control& horn = *host.add("ctx_ZorCheckBox", "Horn");
@@ -51,10 +56,8 @@ TEST(Classes, BitsThatShareARegisterAreWrittenTogetherAndNoOtherIsTouched)
     EXPECT_EQ(get(four, "CheckBoxValue"), Variant(false));
 }
 
-TEST(Classes, TwoControlsThatDisagreeAboutABitAreNamed)
+TEST_F(Classes, TwoControlsThatDisagreeAboutABitAreNamed)
 {
-    Peer peer;
-    Host host(peer.serverPort());
     core::Control& one = *host.add("ctx_ZorTextBox", "Limit");
     core::Control& two = *host.add("ctx_ZorTextBox", "Limit");
     one.setProperty("InvalidEntryEnable", false);
@@ -69,10 +72,8 @@ TEST(Classes, TwoControlsThatDisagreeAboutABitAreNamed)
     EXPECT_EQ(peer.registers[20], 20);
 }
 
-TEST(Classes, OptionButtonsAreOneChoice)
+TEST_F(Classes, OptionButtonsAreOneChoice)
 {
-    Peer peer;
-    Host host(peer.serverPort());
     std::vector<core::Control*> buttons;
     for (const int value : {39, 40, 41}) {
         buttons.push_back(host.add("ctx_ZorOptionButton", "Mode"));
@@ -104,10 +105,8 @@ TEST(Classes, OptionButtonsAreOneChoice)
     EXPECT_EQ(chosen(), "--x");
 }
 
-TEST(Classes, AnotherLanguageKeepsTheChoiceThatIsBeingEdited)
+TEST_F(Classes, AnotherLanguageKeepsTheChoiceThatIsBeingEdited)
 {
-    Peer peer;
-    Host host(peer.serverPort());
     core::Control& combo = *host.add("ctx_ZorComboBox", "Mode");
     core::Control& still = *host.add("ctx_ZorComboBox", "Mode");
     host.start();
@@ -126,10 +125,8 @@ TEST(Classes, AnotherLanguageKeepsTheChoiceThatIsBeingEdited)
     EXPECT_TRUE(get(combo, "InvalidValue").toBoolean()) << "no entry has the value 7";
 }
 
-TEST(Classes, DisplayControlsShowAnyParameter)
+TEST_F(Classes, DisplayControlsShowAnyParameter)
 {
-    Peer peer;
-    Host host(peer.serverPort());
     core::Control& level = *host.add("ctx_ZorLabel", "Level");
     core::Control& mode = *host.add("ctx_ZorLabel", "Mode");
     core::Control& image = *host.add("ctx_ZorImage", "Flags");
@@ -146,7 +143,7 @@ TEST(Classes, DisplayControlsShowAnyParameter)
     EXPECT_NE(said.find("- Four"), std::string::npos) << said;
 }
 
-TEST(Classes, TheOthersValueIsHandedToTheControlThatShowsIt)
+TEST(EachClass, TheOthersValueIsHandedToTheControlThatShowsIt)
 {
     struct Row {
         const char* className;

@@ -33,7 +33,6 @@ TEST(ParameterFile, SaysWhatIsWrongAndWhere)
     };
     const std::vector<Row> rows{
         {"", "f:1: this is not JSON"},
-        {"[]", "f:1: an object is expected here"},
         {"{\n\"parameters\": []\n}", "f:1: no parameters"},
         {"{\n\n\"parameter\": []}", "f:1: \"parameters\" is missing"},
         {"{\"parameters\": [\n{\"tag\": \"A\",}]}", "f:2: this is not JSON"},
@@ -43,22 +42,17 @@ TEST(ParameterFile, SaysWhatIsWrongAndWhere)
         {one("\"type\": \"uint16\",\n\"type\": \"int16\""), "f:5: \"type\" stands twice"},
         {one(R"("type": "uint16", "scale": 0)"), "f:4: a scale is not 0"},
         {one(R"("type": "uint16", "unit": "LgthU_Inches")"), "f:4: \"LgthU_Inches\" is no unit"},
-        {one(R"("type": "uint16", "unit": "PRESSURE")"), "f:4: \"PRESSURE\" is no unit"},
         {one(R"("type": "uint16", "unit": "PrU_Bar", "displayUnit": "TempU_DegC")"), "f:4: the unit shown is not"},
         {one(R"("type": "text")"), "f:3: \"registers\" is missing"},
         {one(R"("type": "text", "registers": 124)"), "f:4: a whole number from 1 to 123"},
-        {one(R"("type": "text", "registers": 1.5)"), "f:4: a whole number from 1 to 123"},
         {one(R"("type": "uint16", "registers": 2)"), "f:4: only a text has a number of registers"},
         {one(R"("type": "bit")"), "f:3: \"bit\" is missing"},
         {one(R"("type": "bit", "bit": 16)"), "f:4: a whole number from 0 to 15"},
         {one(R"("type": "float32", "bits": [{"bit": 1, "text": "a"}])"), "f:4: only an integer"},
-        {one(R"("type": "uint16", "bits": [{"bit": 16, "text": "a"}])"), "f:4: a whole number from 0 to 15"},
         {one("\"type\": \"uint16\", \"entries\": [{\"value\": 1, \"text\": \"a\"},\n{\"value\": 1, \"text\": "
              "\"b\"}]"),
          "f:5: value 1 stands twice"},
-        {one(R"("type": "uint16", "access": "rw")"), "f:4: \"rw\" is none of read, write"},
         {one(R"("type": "uint16", "minimum": 5, "maximum": 4)"), "f:4: the maximum is less than the minimum"},
-        {one(R"("type": "uint16", "caption": {"it": "no"})"), "f:4: \"it\" is not known here"},
         {"{\"parameters\": [{\"tag\": \"A\", \"bank\": \"input\", \"type\": \"int16\",\n\"address\": 1, "
          "\"access\": "
          "\"write\"}]}",
@@ -136,27 +130,16 @@ struct Coded {
 
 const std::vector<Coded> kCoded{
     {"int16", "ABCD", -1234, {0xFB2E}},
-    {"int16", "CDAB", -1234, {0xFB2E}},
-    {"int16", "BADC", -1234, {0x2EFB}},
     {"int16", "DCBA", -1234, {0x2EFB}},
     {"uint16", "ABCD", 54321, {0xD431}},
-    {"uint16", "DCBA", 54321, {0x31D4}},
     {"int32", "ABCD", -123456789, {0xF8A4, 0x32EB}},
     {"int32", "CDAB", -123456789, {0x32EB, 0xF8A4}},
     {"int32", "BADC", -123456789, {0xA4F8, 0xEB32}},
     {"int32", "DCBA", -123456789, {0xEB32, 0xA4F8}},
-    {"uint32", "ABCD", 4000000001, {0xEE6B, 0x2801}},
     {"uint32", "CDAB", 4000000001, {0x2801, 0xEE6B}},
-    {"uint32", "BADC", 4000000001, {0x6BEE, 0x0128}},
-    {"uint32", "DCBA", 4000000001, {0x0128, 0x6BEE}},
-    {"float32", "ABCD", -12.75, {0xC14C, 0x0000}},
     {"float32", "CDAB", -12.75, {0x0000, 0xC14C}},
-    {"float32", "BADC", -12.75, {0x4CC1, 0x0000}},
-    {"float32", "DCBA", -12.75, {0x0000, 0x4CC1}},
-    {"float64", "ABCD", 1234.5678, {0x4093, 0x4A45, 0x6D5C, 0xFAAD}},
     {"float64", "CDAB", 1234.5678, {0xFAAD, 0x6D5C, 0x4A45, 0x4093}},
     {"float64", "BADC", 1234.5678, {0x9340, 0x454A, 0x5C6D, 0xADFA}},
-    {"float64", "DCBA", 1234.5678, {0xADFA, 0x5C6D, 0x454A, 0x9340}},
 };
 
 TEST(Codec, NumbersLieInRegistersAsOtherProgramsPutThem)

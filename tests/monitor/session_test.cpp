@@ -17,14 +17,18 @@ WriteOutcome only(const std::vector<Written>& results)
     return results.empty() ? WriteOutcome::NotSent : results.front().result.outcome;
 }
 
-TEST(Session, ReadsEachParameterAndTellsHowItWent)
-{
+/// A device and a host without a window.
+struct SessionTest : testing::Test {
     Peer peer;
+    Host host{peer.serverPort()};
+};
+
+TEST_F(SessionTest, ReadsEachParameterAndTellsHowItWent)
+{
     peer.registers[100] = 0x5A54;
     peer.registers[30] = 0x4162;
     peer.registers[31] = 0x6320;
     peer.registers[32] = peer.registers[33] = 0;
-    Host host(peer.serverPort());
     host.run({"Level", "Limit", "Wide", "Name", "Missing", "Nowhere"});
     EXPECT_EQ(host.text("Level"), "10");
     EXPECT_EQ(host.text("Wide"), "1441815.000") << "register 22 is the high word";
@@ -41,10 +45,8 @@ TEST(Session, ReadsEachParameterAndTellsHowItWent)
     EXPECT_EQ(host.text("Level"), "77");
 }
 
-TEST(Session, ReadsOnlyWhatIsSeenOrEdited)
+TEST_F(SessionTest, ReadsOnlyWhatIsSeenOrEdited)
 {
-    Peer peer;
-    Host host(peer.serverPort());
     std::string seen = "Level";
     host.session->isVisible = [&](core::Control& control) { return control.DeviceTag() == seen; };
     host.boxes["Level"] = host.add("ctx_ZorTextBox", "Level");
@@ -66,10 +68,8 @@ TEST(Session, ReadsOnlyWhatIsSeenOrEdited)
         << "an edit is watched unseen";
 }
 
-TEST(Session, AnEditIsKeptUntilItIsWrittenAndReadBack)
+TEST_F(SessionTest, AnEditIsKeptUntilItIsWrittenAndReadBack)
 {
-    Peer peer;
-    Host host(peer.serverPort());
     host.run({"Level", "Limit", "Wide", "Name"});
     host.type("Limit", "450");
     host.type("Wide", "70000");
@@ -94,10 +94,8 @@ TEST(Session, AnEditIsKeptUntilItIsWrittenAndReadBack)
     EXPECT_FALSE(host.session->hasEdits());
 }
 
-TEST(Session, WhatCannotBeWrittenIsNamedAndKept)
+TEST_F(SessionTest, WhatCannotBeWrittenIsNamedAndKept)
 {
-    Peer peer;
-    Host host(peer.serverPort());
     host.run({"Limit", "Far", "Name"});
     host.box("Limit").setProperty("MaxValue", 1000.0);
     for (const char* tag : {"Limit", "Far"})
@@ -122,10 +120,8 @@ TEST(Session, WhatCannotBeWrittenIsNamedAndKept)
     EXPECT_FALSE(host.session->hasEdits());
 }
 
-TEST(Session, ARefusedWriteKeepsItsEditAndTheOthersEnd)
+TEST_F(SessionTest, ARefusedWriteKeepsItsEditAndTheOthersEnd)
 {
-    Peer peer;
-    Host host(peer.serverPort());
     host.run({"Limit", "Far"});
     host.type("Limit", "5");
     host.type("Far", "6");
@@ -145,7 +141,7 @@ TEST(Session, ARefusedWriteKeepsItsEditAndTheOthersEnd)
     EXPECT_FALSE(host.get("Far", "DataModified").toBoolean());
 }
 
-TEST(Session, AWriteWithoutAnAnswerIsSentOnceAndSettledByTheNextRead)
+TEST(Sessions, AWriteWithoutAnAnswerIsSentOnceAndSettledByTheNextRead)
 {
     for (const bool carriedOut : {true, false}) {
         SCOPED_TRACE(carriedOut ? "carried out" : "not carried out");
@@ -184,10 +180,8 @@ TEST(Session, AWriteWithoutAnAnswerIsSentOnceAndSettledByTheNextRead)
     }
 }
 
-TEST(Session, AWriteWhoseAnswerIsLostButReadsBackIsWritten)
+TEST_F(SessionTest, AWriteWhoseAnswerIsLostButReadsBackIsWritten)
 {
-    Peer peer;
-    Host host(peer.serverPort());
     host.run({"Wide"});
     host.type("Wide", "5");
     peer.answer = [](QTcpSocket& socket, const QByteArray& reply) {
@@ -198,10 +192,8 @@ TEST(Session, AWriteWhoseAnswerIsLostButReadsBackIsWritten)
     EXPECT_FALSE(host.session->hasEdits());
 }
 
-TEST(Session, ADeviceThatHoldsSomethingElseKeepsTheEdit)
+TEST_F(SessionTest, ADeviceThatHoldsSomethingElseKeepsTheEdit)
 {
-    Peer peer;
-    Host host(peer.serverPort());
     host.run({"Limit"});
     host.type("Limit", "5");
     peer.answer = [&](QTcpSocket& socket, const QByteArray& reply) {
@@ -216,7 +208,7 @@ TEST(Session, ADeviceThatHoldsSomethingElseKeepsTheEdit)
     EXPECT_EQ(host.session->pending().at(0).oldText, "8");
 }
 
-TEST(Session, TwoOperatorsSeeEachOthersWrites)
+TEST(Sessions, TwoOperatorsSeeEachOthersWrites)
 {
     Peer peer;
     Host one(peer.serverPort());
@@ -243,7 +235,7 @@ TEST(Session, TwoOperatorsSeeEachOthersWrites)
 
 // --- Faults
 
-TEST(Session, EveryFaultIsACommunicationFailureAndHealsByItself)
+TEST(Sessions, EveryFaultIsACommunicationFailureAndHealsByItself)
 {
     for (const tests::Fault& fault : tests::faults()) {
         SCOPED_TRACE(fault.name);
@@ -272,10 +264,8 @@ TEST(Session, EveryFaultIsACommunicationFailureAndHealsByItself)
     }
 }
 
-TEST(Session, OneSilentParameterHoldsUpNobody)
+TEST_F(SessionTest, OneSilentParameterHoldsUpNobody)
 {
-    Peer peer;
-    Host host(peer.serverPort());
     host.boxes["Far"] = host.add("ctx_ZorTextBox", "Far");
     peer.answer = [](QTcpSocket& socket, const QByteArray& reply) {
         if (reply[7] != 4)
@@ -291,7 +281,7 @@ TEST(Session, OneSilentParameterHoldsUpNobody)
     EXPECT_FALSE(host.box("Far").CFail());
 }
 
-TEST(Session, ARestartDuringAWriteLosesNothing)
+TEST(Sessions, ARestartDuringAWriteLosesNothing)
 {
     Peer peer;
     const quint16 port = peer.serverPort();
@@ -315,11 +305,9 @@ TEST(Session, ARestartDuringAWriteLosesNothing)
     EXPECT_EQ(peer.registers[20], 5);
 }
 
-TEST(Session, ASlowDeviceIsWaitedFor)
+TEST_F(SessionTest, ASlowDeviceIsWaitedFor)
 {
-    Peer peer;
     const auto good = peer.answer;
-    Host host(peer.serverPort());
     host.run({"Level", "Limit"});
     host.session->link().setDeadline(10 * kPeriod);
     host.type("Limit", "5");
