@@ -44,6 +44,18 @@ void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); 
 namespace zor::tests {
 namespace {
 
+/// Writes a hundred values; how often that allocates.
+template <class Write>
+int allocationsOfWrites(Write&& write)
+{
+    allocations = 0;
+    counting = true;
+    for (int i = 0; i < 100; ++i)
+        write(i);
+    counting = false;
+    return allocations;
+}
+
 template <class Interface>
 struct Listener : Interface {
     void OutputValueChange() override { ++outputs; }
@@ -52,8 +64,9 @@ struct Listener : Interface {
 
 /// A class of numeric controls, its events, and what shows that a value arrives in another unit and leaves anew.
 template <class Control, class Interface>
-void expectNoAllocation(double scale)
+void expectNoAllocation(const char* name, double scale)
 {
+    SCOPED_TRACE(name);
     platform::headless::HeadlessContainer container;
     const auto control = Control::create(container);
     control->initialiseProperties();
@@ -70,12 +83,7 @@ void expectNoAllocation(double scale)
     };
     write(1.0);
     const int before = listener.outputs;
-    allocations = 0;
-    counting = true;
-    for (int i = 0; i < 100; ++i)
-        write(scale * i);
-    counting = false;
-    EXPECT_EQ(allocations, 0);
+    EXPECT_EQ(allocationsOfWrites([&](int i) { write(scale * i); }), 0);
     EXPECT_GE(listener.outputs, before + 100);
     control->unsubscribe(listener);
 }
@@ -89,12 +97,7 @@ void expectNoAllocationOfChoice(const char* name, Prepare&& prepare)
     const auto control = Control::create(container);
     control->initialiseProperties();
     prepare(*control);
-    allocations = 0;
-    counting = true;
-    for (int i = 0; i < 100; ++i)
-        control->DeviceValue(i % 2);
-    counting = false;
-    EXPECT_EQ(allocations, 0);
+    EXPECT_EQ(allocationsOfWrites([&](int i) { control->DeviceValue(i % 2); }), 0);
 }
 
 TEST(ValuePath, ShowsAChoiceWithoutAllocation)
@@ -111,23 +114,13 @@ TEST(ValuePath, ShowsAChoiceWithoutAllocation)
 
 TEST(ValuePath, ShowsAValueAndHandsItBackWithoutAllocation)
 {
-    {
-        SCOPED_TRACE("text box");
-        expectNoAllocation<ctx_ZorTextBox, __ctx_ZorTextBox>(12345.25);
-    }
-    {
-        SCOPED_TRACE("up-down");
-        expectNoAllocation<ctx_ZorUpDown, __ctx_ZorUpDown>(20'000'000);
-    }
-    {
-        SCOPED_TRACE("slider");
-        expectNoAllocation<ctx_ZorSlider, __ctx_ZorSlider>(12345.25);
-    }
-    counting = true;
-    auto* probe = new int(1);
-    counting = false;
-    delete probe;
-    EXPECT_EQ(allocations, 1) << "the counter counts";
+    expectNoAllocation<ctx_ZorTextBox, __ctx_ZorTextBox>("text box", 12345.25);
+    expectNoAllocation<ctx_ZorUpDown, __ctx_ZorUpDown>("up-down", 20'000'000);
+    expectNoAllocation<ctx_ZorSlider, __ctx_ZorSlider>("slider", 12345.25);
+    EXPECT_EQ(
+        allocationsOfWrites([](int i) { ::operator delete(::operator new(static_cast<std::size_t>(i) + 1)); }),
+        100)
+        << "the counter counts";
 }
 
 TEST(ValuePath, ShowsATextAndAStatusWordWithoutAllocation)
@@ -139,14 +132,11 @@ TEST(ValuePath, ShowsATextAndAStatusWordWithoutAllocation)
     image->initialiseProperties();
     // A new state is described to a screen reader once; after that it is values only.
     image->DeviceValue(1);
-    allocations = 0;
-    counting = true;
-    for (int i = 0; i < 100; ++i) {
-        label->DeviceValue(i % 2 == 0 ? "12.5 m" : "12.6 m");
-        image->DeviceValue(i + 1);
-    }
-    counting = false;
-    EXPECT_EQ(allocations, 0);
+    EXPECT_EQ(allocationsOfWrites([&](int i) {
+                  label->DeviceValue(i % 2 == 0 ? "12.5 m" : "12.6 m");
+                  image->DeviceValue(i + 1);
+              }),
+              0);
     EXPECT_EQ(label->LabelCaption(), "12.6 m");
     EXPECT_EQ(dynamic_cast<platform::Image&>(*image->widget(1)).picture(), 5);
 }

@@ -10,32 +10,6 @@ namespace {
 
 using platform::headless::MemoryPropertyBag;
 
-TEST_F(TextBoxTest, AWrongTypeInTheBagStopsTheReadingThere)
-{
-    MemoryPropertyBag bag;
-    bag.set("CFail", true);
-    bag.set("MaxLength", "many");
-    bag.set("DeviceTag", "read before the fault");
-    bag.set("WidthDifference", 700);
-    auto other = ctx_ZorTextBox::create(container);
-    EXPECT_EQ(errorOf([&] { other->readProperties(bag); }), 13);
-    EXPECT_TRUE(other->CFail());
-    EXPECT_EQ(other->DeviceTag(), "read before the fault");
-    EXPECT_EQ(other->MaxLength(), 10);
-    EXPECT_EQ(other->WidthDifference(), 1305) << "keys after the fault are not read";
-}
-
-TEST_F(TextBoxTest, AnEmptyBagGivesTheDefaultsAndUnknownKeysAreNobodysBusiness)
-{
-    MemoryPropertyBag bag;
-    bag.set("NoSuchKey", 12);
-    auto other = ctx_ZorTextBox::create(container);
-    other->readProperties(bag);
-    EXPECT_EQ(other->DeviceUnit(), LgthU_MM);
-    EXPECT_EQ(other->MsgDataChanged(), "Data Changed by other user ");
-    EXPECT_EQ(other->NumberOfDigits(), 3);
-}
-
 TEST_F(TextBoxTest, AnOverflowingConversionChangesNothing)
 {
     box->DeviceValue(1234);
@@ -113,19 +87,6 @@ TEST_F(TextBoxTest, LongAndBrokenTextsAreShownAsTheyAre)
         box->DeviceValue(wanted);
         EXPECT_TRUE(text() == wanted);
         EXPECT_TRUE(box->OutputValue() == Variant(wanted));
-    }
-}
-
-TEST_F(TextBoxTest, DerivedPropertiesRefuseWritesAtRunTimeAndIgnoreThemAtDesignTime)
-{
-    box->DeviceValue(55);
-    for (const char* name : {"OutputValue", "MinParamValue", "MaxParamValue", "InvalidEntry"}) {
-        const Variant before = box->property(name);
-        container.setUserMode(true);
-        EXPECT_EQ(errorOf([&] { box->setProperty(name, 1); }), 383) << name;
-        container.setUserMode(false);
-        EXPECT_EQ(errorOf([&] { box->setProperty(name, 1); }), 0) << name;
-        EXPECT_TRUE(box->property(name) == before) << name;
     }
 }
 

@@ -74,20 +74,6 @@ TEST_F(TextBoxTest, AHandlerAddedInsideAnEventHearsTheNextOne)
     box->unsubscribe(late);
 }
 
-TEST_F(TextBoxTest, AHandlerMayWriteTheValueAgain)
-{
-    Handler handler;
-    handler.onOutput = [&] {
-        if (handler.outputs == 1)
-            box->DeviceValue(500);
-    };
-    box->subscribe(handler);
-    box->DeviceValue(1234);
-    EXPECT_EQ(text(), "50");
-    EXPECT_TRUE(box->DeviceValue() == Variant(500));
-    box->unsubscribe(handler);
-}
-
 TEST_F(TextBoxTest, AHandlerMayDestroyTheControl)
 {
     Handler handler;
@@ -98,22 +84,6 @@ TEST_F(TextBoxTest, AHandlerMayDestroyTheControl)
     box->DeviceValue(1234);
     EXPECT_EQ(box, nullptr);
     EXPECT_EQ(witness.outputs, 0) << "a control that is gone says nothing more";
-}
-
-TEST_F(TextBoxTest, AKeystrokeMayDestroyTheControl)
-{
-    struct Destroyer : __ctx_ZorTextBox {
-        explicit Destroyer(core::ControlPtr<ctx_ZorTextBox>& box) : box(box) {}
-        void textKeyPress(std::int16_t& code) override
-        {
-            if (code == '2')
-                box.reset();
-        }
-        core::ControlPtr<ctx_ZorTextBox>& box;
-    } destroyer(box);
-    box->subscribe(destroyer);
-    EXPECT_EQ(hands.type(field(), "123"), platform::Refusal::None);
-    EXPECT_EQ(box, nullptr);
 }
 
 /// Ends the control at the first event and throws.

@@ -7,8 +7,6 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
-#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -108,44 +106,6 @@ TEST_F(ValueText, WhatIsANumberDependsOnTheSeparators)
     EXPECT_EQ(formatFixed(0.5, 2), "0,50");
     platform::setRegionalSettings({",", "\u202F"});
     EXPECT_EQ(platform::textToDouble("1\u202F234,5"), 1234.5);
-}
-
-TEST_F(ValueText, RandomNumbersReadBackAsTheyWere)
-{
-    const unsigned seed = std::random_device{}();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937_64 random(seed);
-    for (int i = 0; i < 20'000; ++i) {
-        const auto value = std::bit_cast<double>(random());
-        if (!std::isfinite(value) || std::fabs(value) > 1e17 || std::fabs(value) < 1e-3)
-            continue;
-        const std::string text = formatFixed(value, 25);
-        double back = 0;
-        std::from_chars(text.data(), text.data() + text.size(), back);
-        ASSERT_EQ(back, value) << text;
-    }
-}
-
-TEST(DeviceSupport, VersionsAndTypes)
-{
-    EXPECT_EQ(fi_GetDeviceTypeIndex("TYPEA, TYPEB", "typeb "), 1);
-    EXPECT_EQ(fi_GetDeviceTypeIndex("TYPEA,TYPEB", "TYPEC"), -1);
-    EXPECT_EQ(fi_GetDeviceTypeIndex("  ", ""), 0);
-    EXPECT_EQ(fi_GetDeviceTypeIndex("G\u00C4RAT", "g\u00E4rat"), 0);
-    EXPECT_FALSE(fb_VersionNotSupported("1.5", "2.10", "2.3", 0));
-    EXPECT_TRUE(fb_VersionNotSupported("1.5", "2.10", "1.4", 0));
-    EXPECT_TRUE(fb_VersionNotSupported("1.0", "", "1.0", 1));
-    EXPECT_FALSE(fb_VersionNotSupported("1.0,,2.0", "", "0.1", 1));
-    EXPECT_TRUE(fb_VersionNotSupported("", "", "1.0", -1));
-    for (auto [version, padded] : {std::pair{std::string("1.5"), "01.05"},
-                                   {"2.1.3", "02.1.3"},
-                                   {".", "0.0"},
-                                   {"12", "12"},
-                                   {"", ""},
-                                   {"10.1", "10.01"}}) {
-        s_PadVersion(version);
-        EXPECT_EQ(version, padded);
-    }
 }
 
 } // namespace
