@@ -16,7 +16,8 @@ public:
     {}
 
     [[nodiscard]] WidgetListener& listener() noexcept override { return m_listener; }
-    [[nodiscard]] const Widget* focused() const noexcept override { return m_container.focused(); }
+    [[nodiscard]] Widget* focused() const noexcept override { return m_container.focused(); }
+    void setFocused(Widget* widget) noexcept override { m_container.setFocused(widget); }
     void forget(const Widget& widget) noexcept override { m_container.forget(widget); }
 
 protected:

@@ -161,6 +161,7 @@ enum KeyCode : std::int16_t {
     kRight = 39,
     kDown = 40,
     kDelete = 46,
+    kF4 = 115,
 };
 
 void moveCaret(TextField& field, std::int16_t code)
@@ -251,7 +252,7 @@ void applyKey(Widget& widget, std::int16_t code, std::int16_t press)
     } else if (auto* combo = dynamic_cast<ComboBox*>(&widget)) {
         if (combo->isLocked())
             return;
-        if (press == ' ')
+        if (press == ' ' || code == kF4)
             base(widget).report(Notice::DropDown);
         moveInList(*combo, code);
     } else if (auto* list = dynamic_cast<ListBox*>(&widget)) {
@@ -272,9 +273,10 @@ Refusal HeadlessOperator::reach(Widget& widget)
     return widget.isEnabled() ? Refusal::None : Refusal::Disabled;
 }
 
-bool HeadlessOperator::moveFocus(Widget* widget)
+bool HeadlessOperator::moveFocus(Host& window, Widget* widget)
 {
-    Widget* old = m_container.focused();
+    const Hold held(window.listener());
+    Widget* old = window.focused();
     if (old == widget)
         return true;
     if (old != nullptr) {
@@ -291,20 +293,20 @@ bool HeadlessOperator::moveFocus(Widget* widget)
         m_validating = false;
         if (cancel)
             return false;
-        m_container.setFocused(nullptr);
+        window.setFocused(nullptr);
         base(*old).report(Notice::LostFocus);
     }
     if (widget != nullptr) {
-        m_container.setFocused(widget);
+        window.setFocused(widget);
         base(*widget).report(Notice::GotFocus);
     }
-    return m_container.focused() == widget;
+    return window.focused() == widget;
 }
 
 Refusal HeadlessOperator::approach(Widget& widget, bool& moved)
 {
     const Refusal refusal = reach(widget);
-    moved = refusal == Refusal::None && (!takesFocus(widget) || moveFocus(&widget));
+    moved = refusal == Refusal::None && (!takesFocus(widget) || moveFocus(base(widget).host(), &widget));
     return refusal;
 }
 
@@ -323,8 +325,9 @@ Refusal HeadlessOperator::blur(Widget& widget)
         raiseError(ErrorNumber::NoSuchMember);
     if (PopupMenu* menu = m_container.openMenu())
         menu->close();
-    if (m_container.focused() == &widget)
-        moveFocus(nullptr);
+    Host& window = base(widget).host();
+    if (window.focused() == &widget)
+        moveFocus(window, nullptr);
     return Refusal::None;
 }
 
@@ -454,7 +457,7 @@ Refusal HeadlessOperator::choose(ComboBox& box, std::int32_t index)
     const Hold hold(base(box).host().listener());
     static_cast<void>(box.entryText(index));
     const Refusal refusal = dropDown(box);
-    if (refusal == Refusal::None && m_container.focused() == &box && !box.isLocked() && index < box.count())
+    if (refusal == Refusal::None && base(box).host().focused() == &box && !box.isLocked() && index < box.count())
         clickEntry(box, index);
     return refusal;
 }

@@ -29,8 +29,8 @@ public:
 
 private:
     [[nodiscard]] Refusal reach(Widget& widget);
-    /// Moves the focus; false when a handler keeps it where it is.
-    bool moveFocus(Widget* widget);
+    /// Moves the focus of a window; false when a handler keeps it where it is.
+    bool moveFocus(Host& window, Widget* widget);
     /// Reaches the widget and gives it the focus; `moved` is false when the focus was kept elsewhere.
     Refusal approach(Widget& widget, bool& moved);
 

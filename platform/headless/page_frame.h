@@ -7,21 +7,19 @@
 
 namespace zor::platform::headless {
 
-/// Puts the page among the widgets of a container, which must outlive the frame.
+/// A window of its own: going there does not end the operator's work in a field of the form.
 class HeadlessPageFrame final : public PageFrame {
 public:
-    explicit HeadlessPageFrame(HeadlessContainer& container) noexcept : m_container(container) {}
-
     void setPage(PropertyPage* /*page*/) override {}
     [[nodiscard]] std::unique_ptr<Surface> createSurface(WidgetListener& listener) override
     {
-        return m_container.createSurface(listener, 0, 0);
+        return m_window.createSurface(listener, 0, 0);
     }
     [[nodiscard]] bool isChanged() const noexcept override { return m_changed; }
     void setChanged(bool changed) override { m_changed = changed; }
 
 private:
-    HeadlessContainer& m_container;
+    HeadlessContainer m_window;
     bool m_changed = false;
 };
 

@@ -12,7 +12,9 @@ namespace zor::platform::headless {
 class Host {
 public:
     [[nodiscard]] virtual WidgetListener& listener() noexcept = 0;
-    [[nodiscard]] virtual const Widget* focused() const noexcept = 0;
+    /// The widget of the window that has its focus; nullptr for none.
+    [[nodiscard]] virtual Widget* focused() const noexcept = 0;
+    virtual void setFocused(Widget* widget) noexcept = 0;
     /// The widget ends: it neither has the focus nor gets it back.
     virtual void forget(const Widget& widget) noexcept = 0;
 

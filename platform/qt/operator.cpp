@@ -85,6 +85,13 @@ void sendKey(QWidget& widget, Qt::Key key, const QString& text, Qt::KeyboardModi
         QApplication::sendEvent(&widget, &up);
 }
 
+/// Tells a widget that it has lost the focus, where Qt does not think that it had it.
+void leave(QWidget& widget)
+{
+    QFocusEvent out(QEvent::FocusOut, Qt::OtherFocusReason);
+    QApplication::sendEvent(&widget, &out);
+}
+
 QString characterOf(std::int16_t code)
 {
     constexpr std::array<std::int16_t, 3> kControlCharacters{8, 13, 27};
@@ -121,9 +128,20 @@ Refusal QtOperator::approach(Widget& widget, bool& there)
     const QPointer<QWidget> alive = &base(widget).qwidget();
     QWidget* window = alive->window();
     if (QApplication::activeWindow() != window) {
+        // A window that becomes active gives the focus back, or to its first widget where it cannot: what was
+        // frozen or hidden meanwhile is left first.
+        const QPointer<QWidget> old = window->focusWidget();
+        if (!old || !old->isVisible() || !old->isEnabled()) {
+            if (old)
+                leave(*old);
+            if (alive)
+                alive->setFocus(Qt::MouseFocusReason);
+        }
         window->activateWindow();
         QApplication::setActiveWindow(window);
     }
+    if (!alive)
+        return refusal;
     if (!base(widget).focusReported)
         alive->setFocus(Qt::MouseFocusReason);
     there = alive && base(widget).focusReported;
@@ -146,13 +164,11 @@ Refusal QtOperator::blur(Widget& widget)
     const EventScope scope(base(widget).context());
     leavePopUps();
     QWidget& target = base(widget).qwidget();
-    if (target.hasFocus()) {
-        target.clearFocus();
-    } else if (base(widget).focusReported) {
-        // A host that kept the focus could not get it back into a field that is frozen or hidden.
-        QFocusEvent out(QEvent::FocusOut, Qt::OtherFocusReason);
-        QApplication::sendEvent(&target, &out);
-    }
+    const bool hadFocus = target.hasFocus();
+    target.clearFocus();
+    // A host that kept the focus could not get it back into a field that is frozen or hidden.
+    if (!hadFocus)
+        leave(target);
     return Refusal::None;
 }
 

@@ -21,7 +21,7 @@ public:
     void setUserMode(bool userMode) override { m_container.setUserMode(userMode); }
     std::unique_ptr<platform::PageFrame> createPageFrame() override
     {
-        return std::make_unique<platform::headless::HeadlessPageFrame>(m_container);
+        return std::make_unique<platform::headless::HeadlessPageFrame>();
     }
 
 private:
