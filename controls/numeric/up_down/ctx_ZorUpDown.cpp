@@ -201,12 +201,14 @@ void ctx_ZorUpDown::s_CommitEntry()
         return;
     const std::uint32_t turn = this->turn();
     if (const std::optional<double> number = m_field.number()) {
-        const bool isBeyond = *number > m_spin->maximum() || *number < m_spin->minimum();
-        spinToNumber(*number);
-        if (isBeyond && !isOvertaken(turn))
-            showNumber(m_spin->value());
+        // As the button cuts: where the limits are the wrong way round, the lower one counts.
+        const double taken = std::max<double>(std::min<double>(*number, m_spin->maximum()), m_spin->minimum());
+        if (taken != *number)
+            showNumber(roundToInt32(taken));
         if (!isOvertaken(turn))
-            assignEntry(isBeyond ? m_spin->value() : *number);
+            spinToNumber(taken);
+        if (!isOvertaken(turn))
+            assignEntry(taken);
     } else {
         showNumber(m_spin->value());
     }
