@@ -80,7 +80,7 @@ public:
     {
         Rect fitted = geometry;
         fitted.width = m_geometry.width;
-        QtFontBase::setGeometry(fitted);
+        place(fitted);
     }
     [[nodiscard]] std::string caption() const override { return m_caption; }
     void setCaption(std::string_view caption) override
@@ -103,11 +103,23 @@ private:
         const QSize size = widget().fontMetrics().size(0, widget().text());
         Rect fitted = m_geometry;
         fitted.width = size.width() * kTwipsPerPixel;
-        fitted.height = std::max(size.height(), widget().fontMetrics().height()) * kTwipsPerPixel;
-        QtFontBase::setGeometry(fitted);
+        m_lines = std::max(size.height(), widget().fontMetrics().height());
+        // One line is as high as designed, also where the font needs a pixel more: it hangs below.
+        fitted.height = m_lines * kTwipsPerPixel;
+        if (std::abs(fitted.height - kLineHeight) <= kTwipsPerPixel)
+            fitted.height = kLineHeight;
+        place(fitted);
+    }
+    void place(const Rect& geometry)
+    {
+        QtFontBase::setGeometry(geometry);
+        if (widget().height() < m_lines)
+            widget().resize(widget().width(), m_lines);
     }
 
+    static constexpr Twips kLineHeight = 195;
     std::string m_caption;
+    int m_lines = 0; ///< what the lines of the caption need, in pixels
 };
 
 /// Paints one SVG picture in the size and sharpness of the screen; a frame shows the keyboard focus.
