@@ -153,6 +153,15 @@ public:
     void setLocked(bool locked) override { widget().setLocked(locked); }
     [[nodiscard]] bool isClick(const QMouseEvent& /*release*/, bool /*second*/) override { return false; }
     [[nodiscard]] bool isFocusNear() const override { return widget().isOpen(); }
+    void setEnabled(bool enabled) override
+    {
+        // An open list is frozen with its field and would drop the focus, which could then never be seen to leave.
+        if (!enabled && widget().isOpen())
+            widget().setFocus(Qt::PopupFocusReason);
+        QtEntryBase::setEnabled(enabled);
+        if (enabled && widget().isOpen())
+            widget().view()->setFocus(Qt::PopupFocusReason);
+    }
 
 private:
     void select(std::int32_t index) override { widget().setCurrentIndex(index); }
