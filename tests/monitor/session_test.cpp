@@ -233,6 +233,23 @@ TEST(Sessions, TwoOperatorsSeeEachOthersWrites)
     EXPECT_TRUE(two.get("Limit", "DataChanged").toBoolean()) << "what two wrote last has been changed since";
 }
 
+TEST(Sessions, AnUndoneEditShowsWhatTheDeviceHoldsByNow)
+{
+    Peer peer;
+    Host host(peer.serverPort());
+    host.run({"Limit"});
+    host.type("Limit", "5");
+    peer.registers[20] = 33;
+    EXPECT_TRUE(host.until([&] { return host.get("Limit", "DataChanged").toBoolean(); }));
+    host.hands.pointer(*host.box("Limit").widget(2), platform::Pointer::RightClick);
+    host.hands.chooseItem(*host.box("Limit").menu(), 0);
+    EXPECT_FALSE(host.get("Limit", "DataModified").toBoolean());
+    EXPECT_TRUE(host.until([&] { return host.text("Limit") == "33"; }))
+        << host.text("Limit") << " passes for live";
+    host.rounds();
+    EXPECT_FALSE(host.session->hasEdits());
+}
+
 // --- Faults
 
 TEST(Sessions, EveryFaultIsACommunicationFailureAndHealsByItself)
@@ -261,6 +278,37 @@ TEST(Sessions, EveryFaultIsACommunicationFailureAndHealsByItself)
         EXPECT_TRUE(host.untilLive());
         EXPECT_EQ(host.text("Limit"), "5") << "the edit was lost";
         EXPECT_LT(longest, 1000) << "the window would have stopped painting";
+    }
+}
+
+TEST(Sessions, AnExceptionIsWaitedForReportedOrAFailure)
+{
+    struct Row {
+        char exception;
+        bool cFail;
+        bool noData;
+        bool waiting;
+    };
+    for (const Row& row : {Row{1, false, true, false}, Row{2, false, true, false}, Row{4, false, true, false},
+                           Row{5, false, false, true}, Row{6, false, false, true}, Row{10, true, false, false},
+                           Row{11, true, false, false}}) {
+        SCOPED_TRACE("exception " + std::to_string(row.exception));
+        Peer peer;
+        const auto good = peer.answer;
+        Host host(peer.serverPort());
+        host.run({"Level"});
+        peer.answer = [&row](QTcpSocket& socket, const QByteArray& reply) {
+            socket.write(reply.left(5) + '\3' + reply[6] +
+                         static_cast<char>(static_cast<quint8>(reply[7]) | 0x80U) + row.exception);
+        };
+        core::Control& level = host.box("Level");
+        EXPECT_TRUE(host.until([&] {
+            return level.CFail() == row.cFail && level.DataNotAvailable() == row.noData &&
+                   level.WaitingForData() == row.waiting;
+        }));
+        peer.answer = good;
+        EXPECT_TRUE(
+            host.until([&] { return !level.CFail() && !level.DataNotAvailable() && !level.WaitingForData(); }));
     }
 }
 
