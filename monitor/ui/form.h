@@ -28,6 +28,8 @@ public:
     [[nodiscard]] virtual std::vector<core::Control*> controls() = 0;
     /// Shows the texts that belong to the form, not to its controls, in a language.
     virtual void translate(const std::string& language) = 0;
+    /// Hides what names a parameter that the connected device does not have, as its control hides itself.
+    virtual void showSupport() {}
     /// The tabs, if it has some.
     [[nodiscard]] virtual QTabWidget* tabs() { return nullptr; }
 };
@@ -42,13 +44,15 @@ public:
     [[nodiscard]] QWidget& widget() override { return *m_widget; }
     [[nodiscard]] std::vector<core::Control*> controls() override;
     void translate(const std::string& language) override;
+    void showSupport() override;
     [[nodiscard]] QTabWidget* tabs() override { return m_widget; }
 
 private:
-    /// A text of the form and where it comes from.
+    /// A text of the form, where it comes from, and the (first) control that it names.
     struct Caption {
         QLabel* label;
         const LocalText* text;
+        const core::Control* control;
     };
     /// A control whose caption is its own.
     struct OwnCaption {

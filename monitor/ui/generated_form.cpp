@@ -99,22 +99,25 @@ void GeneratedForm::addRow(QGridLayout& grid, const Parameter& parameter)
     const core::ClassInfo& info = classOf(parameter);
     const bool captioned = !looksOf(info).caption.empty();
     const bool choice = captioned && info.property("EnumEntryValue") != nullptr;
+    QLabel* caption = nullptr;
+    const std::size_t first = m_controls.size();
     if (!captioned || choice) {
-        auto* caption = new QLabel;
+        caption = new QLabel;
         caption->setTextFormat(Qt::PlainText);
         caption->setMinimumHeight(std::min(looksOf(info).height, kUsualLooks.height));
         grid.addWidget(caption, row, 0, Qt::AlignTop);
-        m_captions.push_back({caption, &parameter.appearance.caption});
     }
     if (!choice) {
         grid.addWidget(&addControl(parameter, info, nullptr), row, 1, Qt::AlignLeft | Qt::AlignTop);
-        return;
+    } else {
+        auto* column = new QVBoxLayout;
+        column->setSpacing(0);
+        for (const Entry& entry : parameter.entries)
+            column->addWidget(&addControl(parameter, info, &entry));
+        grid.addLayout(column, row, 1, Qt::AlignLeft | Qt::AlignTop);
     }
-    auto* column = new QVBoxLayout;
-    column->setSpacing(0);
-    for (const Entry& entry : parameter.entries)
-        column->addWidget(&addControl(parameter, info, &entry));
-    grid.addLayout(column, row, 1, Qt::AlignLeft | Qt::AlignTop);
+    if (caption != nullptr && first < m_controls.size())
+        m_captions.push_back({caption, &parameter.appearance.caption, m_controls[first].get()});
 }
 
 QWidget& GeneratedForm::addControl(const Parameter& parameter, const core::ClassInfo& info, const Entry* entry)
@@ -166,6 +169,13 @@ std::vector<core::Control*> GeneratedForm::controls()
     for (const auto& control : m_controls)
         controls.push_back(control.get());
     return controls;
+}
+
+void GeneratedForm::showSupport()
+{
+    for (const Caption& caption : m_captions)
+        caption.label->setVisible(!caption.control->DeviceTypeNotSupported() &&
+                                  !caption.control->DeviceVerNotSupported());
 }
 
 void GeneratedForm::translate(const std::string& language)

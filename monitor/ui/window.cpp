@@ -239,6 +239,7 @@ void Window::closeEvent(QCloseEvent* event)
 void Window::showRound(bool answered)
 {
     m_answered = answered;
+    m_form->showSupport();
     QString text = m_session->link().description();
     if (!m_session->deviceType().empty())
         text += QString(", %1 %2").arg(plain(m_session->deviceType()), plain(m_session->deviceVersion()));

@@ -5,6 +5,7 @@
 #include "monitor/ui/window.h"
 
 #include <QFile>
+#include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
@@ -163,6 +164,12 @@ TEST_F(Demo, AParameterThatTheFirmwareLacksIsHidden)
     open(3);
     EXPECT_TRUE(QTest::qWaitFor([&] { return binding("SelfTest").control().DeviceVerNotSupported(); }, kPatience));
     EXPECT_FALSE(binding("Supply").control().DeviceVerNotSupported());
+    const auto isShown = [&](const char* caption) {
+        const auto labels = window->findChildren<QLabel*>();
+        return std::ranges::any_of(labels, [&](QLabel* l) { return l->text() == caption && l->isVisible(); });
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !isShown("Self-test interval"); }, kPatience));
+    EXPECT_TRUE(isShown("Supply"));
 }
 
 TEST_F(Demo, ClosingWithEditsAsksAndClosingWithAReplyPendingIsSafe)
