@@ -14,7 +14,6 @@ using core::computedRow;
 using core::fieldRow;
 using core::method;
 using core::ownEvent;
-using core::PropertyRow;
 using core::Refresh;
 using core::SharedRows;
 using platform::Notice;
