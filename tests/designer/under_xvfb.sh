@@ -14,10 +14,12 @@ mkdir -p "$folder/home"
 cp "$form" "$folder/form.ui"
 export HOME=$folder/home XDG_CONFIG_HOME=$folder/home XDG_RUNTIME_DIR=$folder QT_PLUGIN_PATH=$plugins QT_QPA_PLATFORM=xcb
 chmod 700 "$folder"
-openbox >/dev/null 2>&1 &
+# A window manager that comes before the screen is ready gives up; another one takes its place.
+while :; do openbox >/dev/null 2>&1 || true; sleep 0.2; done &
+manager=$!
 QT_DEBUG_PLUGINS=1 "$designer" "$folder/form.ui" >"$folder/designer.log" 2>&1 &
 running=$!
-trap 'kill $running 2>/dev/null || true' EXIT
+trap 'kill $running $manager 2>/dev/null || true' EXIT
 
 fail() {
   echo "under_xvfb: $*" >&2
@@ -38,7 +40,7 @@ wait_for() { # WHAT COMMAND...
 designer_window() { xdotool search --onlyvisible --name '^Qt Designer$'; }
 saved() {
   # The form lies at the left edge of the work area. Its layout is broken up and the form saved.
-  xdotool windowactivate --sync "$(designer_window | tail -1)" mousemove 320 325 click 1
+  timeout 5 xdotool windowactivate --sync "$(designer_window | tail -1)" mousemove 320 325 click 1
   xdotool key --clearmodifiers ctrl+0
   xdotool key --clearmodifiers ctrl+s
   sleep 0.5
