@@ -1,8 +1,8 @@
 // Lists of 32,767 entries on the headless platform: filling them, and applying a value; and a check box's value.
 
-#include "bench/choice_cases.h"
-#include "controls/choice/check_box/ctx_ZorCheckBox.h"
-#include "platform/headless/container.h"
+#include <zor/bench/choice_cases.h>
+#include <zor/controls/choice/check_box/ctx_ZorCheckBox.h>
+#include <zor/platform/headless/container.h>
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 /// What is measured of combo box and list box on either platform.
 
-#include "controls/choice/combo_box/ctx_ZorComboBox.h"
-#include "controls/choice/list_box/ctx_ZorListBox.h"
+#include <zor/controls/choice/combo_box/ctx_ZorComboBox.h>
+#include <zor/controls/choice/list_box/ctx_ZorListBox.h>
 
 #include <benchmark/benchmark.h>
 

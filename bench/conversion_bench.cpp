@@ -1,7 +1,7 @@
 // A value from one unit to another, against UDUNITS-2. Both get a pair of units they have seen before: the
 // controls look factor and offset up for every value, UDUNITS prepares a converter once.
 
-#include "units/mod_Common.h"
+#include <zor/units/mod_Common.h>
 
 #include <benchmark/benchmark.h>
 

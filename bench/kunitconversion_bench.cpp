@@ -1,7 +1,7 @@
 // A value from one unit to another, against KUnitConversion. A program of its own, because that library stands
 // on another version of Qt than the rest.
 
-#include "units/mod_Common.h"
+#include <zor/units/mod_Common.h>
 
 #include <benchmark/benchmark.h>
 

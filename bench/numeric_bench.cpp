@@ -1,9 +1,9 @@
 // Up-down and slider on the headless platform: a device value, and ten thousand controls.
 
-#include "controls/numeric/slider/ctx_ZorSlider.h"
-#include "controls/numeric/up_down/ctx_ZorUpDown.h"
-#include "platform/headless/container.h"
-#include "platform/headless/memory_bag.h"
+#include <zor/controls/numeric/slider/ctx_ZorSlider.h>
+#include <zor/controls/numeric/up_down/ctx_ZorUpDown.h>
+#include <zor/platform/headless/container.h>
+#include <zor/platform/headless/memory_bag.h>
 
 #include <benchmark/benchmark.h>
 

@@ -1,9 +1,9 @@
 // Lists of 32,767 entries on real widgets, on Qt's offscreen platform: filling them, against Qt's own combo box
 // and list filled item by item, and applying a value.
 
-#include "bench/choice_cases.h"
-#include "core/frm_Container.h"
-#include "platform/qt/container.h"
+#include <zor/bench/choice_cases.h>
+#include <zor/core/frm_Container.h>
+#include <zor/platform/qt/container.h>
 
 #include <QApplication>
 #include <QComboBox>

@@ -2,9 +2,9 @@
 // hidden, where the value path alone counts, and shown, where a frame is painted with each. The bare line edit is
 // what the text box has under it.
 
-#include "controls/numeric/text_box/ctx_ZorTextBox.h"
-#include "core/frm_Container.h"
-#include "platform/qt/container.h"
+#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
+#include <zor/core/frm_Container.h>
+#include <zor/platform/qt/container.h>
 
 #include <QApplication>
 #include <QDoubleSpinBox>

@@ -1,8 +1,8 @@
 // Numbers to texts and back, against the standard library and QLocale. Not all peers do the same: only QLocale
 // knows the user's separators, and snprintf and to_chars round the binary value instead of the decimal one.
 
-#include "platform/number_text.h"
-#include "units/mod_Common.h"
+#include <zor/platform/number_text.h>
+#include <zor/units/mod_Common.h>
 
 #include <QLocale>
 #include <benchmark/benchmark.h>

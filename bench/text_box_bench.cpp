@@ -1,8 +1,8 @@
 // The text box on the headless platform: a device value, and ten thousand controls.
 
-#include "controls/numeric/text_box/ctx_ZorTextBox.h"
-#include "platform/headless/container.h"
-#include "platform/headless/memory_bag.h"
+#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
+#include <zor/platform/headless/container.h>
+#include <zor/platform/headless/memory_bag.h>
 
 #include <benchmark/benchmark.h>
 

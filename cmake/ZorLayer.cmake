@@ -24,14 +24,19 @@ elseif(ZOR_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-# zor_view(NAME HEADER...): a folder in the build tree that shows these headers and nothing else.
+# What programs on top of the layers see: every source as <zor/...>, the umbrella headers, and what is generated.
+file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/views/top ${PROJECT_BINARY_DIR}/generated)
+file(CREATE_LINK ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/views/top/zor SYMBOLIC)
+set(ZOR_TOP_INCLUDES ${PROJECT_SOURCE_DIR}/include ${PROJECT_BINARY_DIR}/views/top ${PROJECT_BINARY_DIR}/generated)
+
+# zor_view(NAME HEADER...): a folder in the build tree that shows these headers, as <zor/...>, and nothing else.
 function(zor_view name)
-  set(view ${CMAKE_BINARY_DIR}/views/${name})
+  set(view ${PROJECT_BINARY_DIR}/views/${name})
   file(REMOVE_RECURSE ${view})
   foreach(header IN LISTS ARGN)
     get_filename_component(folder ${header} DIRECTORY)
-    file(MAKE_DIRECTORY ${view}/${folder})
-    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${header} ${view}/${header} SYMBOLIC)
+    file(MAKE_DIRECTORY ${view}/zor/${folder})
+    file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${header} ${view}/zor/${header} SYMBOLIC)
   endforeach()
 endfunction()
 
@@ -43,7 +48,7 @@ function(zor_layer name)
     set(glob GLOB_RECURSE)
   endif()
   file(${glob} sources CONFIGURE_DEPENDS ${L_DIR}/*.cpp)
-  file(${glob} headers RELATIVE ${CMAKE_SOURCE_DIR} CONFIGURE_DEPENDS ${L_DIR}/*.h)
+  file(${glob} headers RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS ${L_DIR}/*.h)
   if(NOT sources OR NOT headers)
     message(FATAL_ERROR "layer ${name}: no sources in ${L_DIR}")
   endif()
@@ -57,9 +62,9 @@ function(zor_layer name)
   endif()
   set_target_properties(zor_${name} PROPERTIES ZOR_LAYER TRUE ZOR_HEADERS "${headers}")
   zor_view(${name} ${headers})
-  # The views serve compilation of the layers themselves; programs on top include from the source tree.
-  target_include_directories(zor_${name} PRIVATE ${CMAKE_BINARY_DIR}/views/${name}
-    INTERFACE $<$<NOT:$<BOOL:$<TARGET_PROPERTY:ZOR_LAYER>>>:${CMAKE_SOURCE_DIR}>)
+  # The views serve compilation of the layers themselves; programs on top see everything.
+  target_include_directories(zor_${name} PRIVATE ${PROJECT_BINARY_DIR}/views/${name}
+    INTERFACE "$<$<NOT:$<BOOL:$<TARGET_PROPERTY:ZOR_LAYER>>>:${ZOR_TOP_INCLUDES}>")
   set_property(GLOBAL APPEND PROPERTY ZOR_LAYERS ${name})
 endfunction()
 
@@ -78,6 +83,6 @@ function(zor_layer_tests)
     list(REMOVE_ITEM above ${headers})
     add_test(NAME layers.${layer}.SeesNothingAbove
              COMMAND ${CMAKE_COMMAND} -DCOMPILER=${CMAKE_CXX_COMPILER} "-DINCLUDES=$<TARGET_PROPERTY:zor_${layer},INCLUDE_DIRECTORIES>"
-                     "-DOWN=${headers}" "-DABOVE=${above}" -P ${CMAKE_SOURCE_DIR}/cmake/CheckLayer.cmake)
+                     "-DOWN=${headers}" "-DABOVE=${above}" -P ${PROJECT_SOURCE_DIR}/cmake/CheckLayer.cmake)
   endforeach()
 endfunction()

@@ -1,6 +1,6 @@
 # zor_pictures(OUT): a source that holds the pictures of core/pictures, in the order of their file names.
 function(zor_pictures out)
-  file(GLOB pictures CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/core/pictures/*.svg)
+  file(GLOB pictures CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/core/pictures/*.svg)
   list(LENGTH pictures count)
   if(NOT count EQUAL 8)
     message(FATAL_ERROR "core/pictures must hold eight pictures, it holds ${count}")
@@ -11,8 +11,8 @@ function(zor_pictures out)
     file(READ ${picture} svg)
     string(APPEND body "    R\"svg(${svg})svg\",\n")
   endforeach()
-  file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/generated/${out} CONTENT
-"#include \"core/frm_Container.h\"
+  file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/generated/${out} CONTENT
+"#include <zor/core/frm_Container.h>
 
 namespace zor::core {
 

@@ -1,14 +1,13 @@
-#include "controls/registration.h"
-
-#include "controls/choice/check_box/ctx_ZorCheckBox.h"
-#include "controls/choice/combo_box/ctx_ZorComboBox.h"
-#include "controls/choice/list_box/ctx_ZorListBox.h"
-#include "controls/choice/option_button/ctx_ZorOptionButton.h"
-#include "controls/display/image/ctx_ZorImage.h"
-#include "controls/display/label/ctx_ZorLabel.h"
-#include "controls/numeric/slider/ctx_ZorSlider.h"
-#include "controls/numeric/text_box/ctx_ZorTextBox.h"
-#include "controls/numeric/up_down/ctx_ZorUpDown.h"
+#include <zor/controls/choice/check_box/ctx_ZorCheckBox.h>
+#include <zor/controls/choice/combo_box/ctx_ZorComboBox.h>
+#include <zor/controls/choice/list_box/ctx_ZorListBox.h>
+#include <zor/controls/choice/option_button/ctx_ZorOptionButton.h>
+#include <zor/controls/display/image/ctx_ZorImage.h>
+#include <zor/controls/display/label/ctx_ZorLabel.h>
+#include <zor/controls/numeric/slider/ctx_ZorSlider.h>
+#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
+#include <zor/controls/numeric/up_down/ctx_ZorUpDown.h>
+#include <zor/controls/registration.h>
 
 namespace zor {
 

@@ -2,7 +2,7 @@
 
 /// All controls of the library, for programs that create them by class name.
 
-#include "core/class_info.h"
+#include <zor/core/class_info.h>
 
 namespace zor {
 

@@ -1,4 +1,4 @@
-#include "core/class_info.h"
+#include <zor/core/class_info.h>
 
 #include <algorithm>
 

@@ -2,11 +2,11 @@
 
 /// A class of controls as data: its tables, and how to make one.
 
-#include "core/event_row.h"
-#include "core/method_row.h"
-#include "core/property_row.h"
-#include "platform/container.h"
-#include "platform/error.h"
+#include <zor/core/event_row.h>
+#include <zor/core/method_row.h>
+#include <zor/core/property_row.h>
+#include <zor/platform/container.h>
+#include <zor/platform/error.h>
 
 #include <algorithm>
 #include <cstdint>

@@ -1,8 +1,7 @@
-#include "core/control.h"
-
-#include "core/shared_rows.h"
-#include "platform/error.h"
-#include "units/mod_Common.h"
+#include <zor/core/control.h>
+#include <zor/core/shared_rows.h>
+#include <zor/platform/error.h>
+#include <zor/units/mod_Common.h>
 
 #include <algorithm>
 

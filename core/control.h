@@ -2,9 +2,9 @@
 
 /// What all nine controls share: identity, container, properties by name, binding, status, messages, events.
 
-#include "core/class_info.h"
-#include "core/undo_menu.h"
-#include "platform/container.h"
+#include <zor/core/class_info.h>
+#include <zor/core/undo_menu.h>
+#include <zor/platform/container.h>
 
 #include <cstdint>
 #include <exception>

@@ -1,4 +1,4 @@
-#include "core/event_row.h"
+#include <zor/core/event_row.h>
 
 #include <algorithm>
 

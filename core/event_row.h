@@ -2,7 +2,7 @@
 
 /// Events as data, and the listeners they go to.
 
-#include "platform/notice.h"
+#include <zor/platform/notice.h>
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 
 /// A method as data: its published name, what it takes and answers, and how to call it by name.
 
-#include "core/property_row.h"
+#include <zor/core/property_row.h>
 
 #include <array>
 #include <cstddef>

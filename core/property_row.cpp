@@ -1,6 +1,5 @@
-#include "core/property_row.h"
-
-#include "platform/error.h"
+#include <zor/core/property_row.h>
+#include <zor/platform/error.h>
 
 #include <cmath>
 

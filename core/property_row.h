@@ -2,8 +2,8 @@
 
 /// A property as data: one row says everything that storing, naming, notifying and refreshing need.
 
-#include "platform/variant.h"
-#include "units/unit_types.h"
+#include <zor/platform/variant.h>
+#include <zor/units/unit_types.h>
 
 #include <array>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "core/setting_order.h"
+#include <zor/core/setting_order.h>
 
 #include <algorithm>
 

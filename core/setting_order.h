@@ -2,7 +2,7 @@
 
 /// The order in which a form sets the properties of a new control.
 
-#include "core/class_info.h"
+#include <zor/core/class_info.h>
 
 #include <vector>
 

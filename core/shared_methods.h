@@ -2,7 +2,7 @@
 
 /// The methods that all controls publish, as rows.
 
-#include "core/control.h"
+#include <zor/core/control.h>
 
 namespace zor::core {
 

@@ -2,8 +2,8 @@
 
 /// The rows that all controls share: a class's tables refer to them, so that each stands once.
 
-#include "core/control.h"
-#include "core/frm_Container.h"
+#include <zor/core/control.h>
+#include <zor/core/frm_Container.h>
 
 namespace zor::core {
 

@@ -1,4 +1,4 @@
-#include "core/undo_menu.h"
+#include <zor/core/undo_menu.h>
 
 #include <array>
 

@@ -2,7 +2,7 @@
 
 /// The menu behind the right mouse button of the editing controls: one item, "Undo Edit".
 
-#include "platform/widgets.h"
+#include <zor/platform/widgets.h>
 
 #include <memory>
 

@@ -1,6 +1,5 @@
-#include "designer/collection.h"
-
-#include "designer/control_entry.h"
+#include <zor/designer/collection.h>
+#include <zor/designer/control_entry.h>
 
 namespace zor::designer {
 

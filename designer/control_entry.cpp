@@ -1,9 +1,8 @@
-#include "designer/control_entry.h"
-
-#include "core/control.h"
-#include "core/setting_order.h"
-#include "designer/descriptions.h"
-#include "designer/extensions.h"
+#include <zor/core/control.h>
+#include <zor/core/setting_order.h>
+#include <zor/designer/control_entry.h>
+#include <zor/designer/descriptions.h>
+#include <zor/designer/extensions.h>
 
 #include <QFile>
 #include <QIcon>

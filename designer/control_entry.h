@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/zor_control.h"
+#include <zor/widgets/zor_control.h>
 
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
@@ -16,7 +16,7 @@ public:
     [[nodiscard]] QString toolTip() const override;
     [[nodiscard]] QString whatsThis() const override;
     [[nodiscard]] QIcon icon() const override;
-    [[nodiscard]] QString includeFile() const override { return QStringLiteral("zor_widgets.h"); }
+    [[nodiscard]] QString includeFile() const override { return QStringLiteral("zor/widgets.h"); }
     [[nodiscard]] QString codeTemplate() const override { return {}; }
     [[nodiscard]] bool isContainer() const override { return false; }
     [[nodiscard]] QString domXml() const override;

@@ -1,4 +1,4 @@
-#include "designer/descriptions.h"
+#include <zor/designer/descriptions.h>
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 
 /// What Designer says about controls and their properties.
 
-#include "core/class_info.h"
+#include <zor/core/class_info.h>
 
 #include <string_view>
 

@@ -1,11 +1,10 @@
-#include "designer/device_menu.h"
-
-#include "core/control.h"
-#include "pages/page.h"
-#include "pages/registration.h"
-#include "platform/qt/page_dialog.h"
-#include "widgets/conversion.h"
-#include "widgets/zor_control.h"
+#include <zor/core/control.h>
+#include <zor/designer/device_menu.h>
+#include <zor/pages/page.h>
+#include <zor/pages/registration.h>
+#include <zor/platform/qt/page_dialog.h>
+#include <zor/widgets/conversion.h>
+#include <zor/widgets/zor_control.h>
 
 #include <QtDesigner/QDesignerFormWindowCursorInterface>
 #include <QtDesigner/QDesignerFormWindowInterface>

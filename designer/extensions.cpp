@@ -1,7 +1,6 @@
-#include "designer/extensions.h"
-
-#include "designer/device_menu.h"
-#include "designer/headings.h"
+#include <zor/designer/device_menu.h>
+#include <zor/designer/extensions.h>
+#include <zor/designer/headings.h>
 
 #include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtDesigner/QDesignerPropertySheetExtension>

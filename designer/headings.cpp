@@ -1,8 +1,7 @@
-#include "designer/headings.h"
-
-#include "core/control.h"
-#include "designer/descriptions.h"
-#include "widgets/zor_control.h"
+#include <zor/core/control.h>
+#include <zor/designer/descriptions.h>
+#include <zor/designer/headings.h>
+#include <zor/widgets/zor_control.h>
 
 #include <QtDesigner/QDesignerPropertySheetExtension>
 #include <QtDesigner/QExtensionManager>

@@ -1,11 +1,10 @@
-#include "forms/document.h"
-
-#include "core/control.h"
-#include "forms/form_error.h"
-#include "forms/markup.h"
-#include "forms/values.h"
-#include "forms/xml_check.h"
-#include "platform/error.h"
+#include <zor/core/control.h>
+#include <zor/forms/document.h>
+#include <zor/forms/form_error.h>
+#include <zor/forms/markup.h>
+#include <zor/forms/values.h>
+#include <zor/forms/xml_check.h>
+#include <zor/platform/error.h>
 
 #include <algorithm>
 #include <array>

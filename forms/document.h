@@ -2,7 +2,7 @@
 
 /// A form file as it stands, and what was found in it.
 
-#include "forms/form.h"
+#include <zor/forms/form.h>
 
 #include <pugixml.hpp>
 

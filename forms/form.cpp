@@ -1,12 +1,11 @@
-#include "forms/form.h"
-
-#include "core/control.h"
-#include "forms/document.h"
-#include "forms/form_error.h"
-#include "forms/markup.h"
-#include "forms/values.h"
-#include "forms/xml_check.h"
-#include "platform/error.h"
+#include <zor/core/control.h>
+#include <zor/forms/document.h>
+#include <zor/forms/form.h>
+#include <zor/forms/form_error.h>
+#include <zor/forms/markup.h>
+#include <zor/forms/values.h>
+#include <zor/forms/xml_check.h>
+#include <zor/platform/error.h>
 
 #include <array>
 #include <fstream>

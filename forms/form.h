@@ -5,8 +5,8 @@
 /// A form sets the properties of new controls: what it does not name has the value of a fresh control. Everything
 /// in the file that is no control's (other widgets, layouts, connections) is kept as it stands and written again.
 
-#include "core/class_info.h"
-#include "platform/widgets.h"
+#include <zor/core/class_info.h>
+#include <zor/platform/widgets.h>
 
 #include <filesystem>
 #include <functional>

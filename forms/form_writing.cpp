@@ -1,11 +1,11 @@
 // Out of controls into a form.
 
-#include "core/control.h"
-#include "core/setting_order.h"
-#include "forms/document.h"
-#include "forms/form_error.h"
-#include "forms/markup.h"
-#include "forms/values.h"
+#include <zor/core/control.h>
+#include <zor/core/setting_order.h>
+#include <zor/forms/document.h>
+#include <zor/forms/form_error.h>
+#include <zor/forms/markup.h>
+#include <zor/forms/values.h>
 
 #include <algorithm>
 #include <cmath>
@@ -98,7 +98,7 @@ void declareClass(pugi::xml_node ui, const string& className)
     const pugi::xml_node entry = insertElement(list, "customwidget");
     insertText(entry, "class", className);
     insertText(entry, "extends", "QWidget");
-    insertText(entry, "header", "zor_widgets.h");
+    insertText(entry, "header", "zor/widgets.h");
 }
 
 bool isKept(const core::PropertyRow& row) { return !row.key.empty() && !followsFromOthers(row); }

@@ -1,6 +1,5 @@
-#include "forms/markup.h"
-
-#include "forms/values.h"
+#include <zor/forms/markup.h>
+#include <zor/forms/values.h>
 
 #include <sstream>
 

@@ -1,7 +1,6 @@
-#include "forms/values.h"
-
-#include "platform/text.h"
-#include "units/unit_catalogue.h"
+#include <zor/forms/values.h>
+#include <zor/platform/text.h>
+#include <zor/units/unit_catalogue.h>
 
 #include <algorithm>
 #include <array>

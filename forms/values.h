@@ -2,7 +2,7 @@
 
 /// Values as form files write them.
 
-#include "core/property_row.h"
+#include <zor/core/property_row.h>
 
 #include <optional>
 #include <string>

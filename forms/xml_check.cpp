@@ -1,7 +1,6 @@
-#include "forms/xml_check.h"
-
-#include "forms/form_error.h"
-#include "platform/text.h"
+#include <zor/forms/form_error.h>
+#include <zor/forms/xml_check.h>
+#include <zor/platform/text.h>
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // The form reader under libFuzzer: cmake -DZOR_FUZZ=ON -DCMAKE_CXX_COMPILER=clang++, then
 // build-fuzz/fuzz/fuzz-form fuzz/corpus/form
 
-#include "fuzz/form_round.h"
+#include <zor/fuzz/form_round.h>
 
 #include <cstddef>
 #include <cstdint>

@@ -2,11 +2,11 @@
 
 /// One input of the form reader: for the fuzzer, and for the test that replays its corpus.
 
-#include "controls/registration.h"
-#include "core/control.h"
-#include "forms/form.h"
-#include "forms/form_error.h"
-#include "platform/headless/container.h"
+#include <zor/controls/registration.h>
+#include <zor/core/control.h>
+#include <zor/forms/form.h>
+#include <zor/forms/form_error.h>
+#include <zor/platform/headless/container.h>
 
 #include <string>
 #include <string_view>

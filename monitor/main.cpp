@@ -1,7 +1,7 @@
-#include "controls/registration.h"
-#include "forms/form_error.h"
-#include "monitor/link/device_address.h"
-#include "monitor/ui/window.h"
+#include <zor/controls/registration.h>
+#include <zor/forms/form_error.h>
+#include <zor/monitor/link/device_address.h>
+#include <zor/monitor/ui/window.h>
 
 #include <CLI/CLI.hpp>
 #include <QApplication>

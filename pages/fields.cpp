@@ -1,7 +1,6 @@
-#include "pages/fields.h"
-
-#include "pages/page.h"
-#include "units/unit_catalogue.h"
+#include <zor/pages/fields.h>
+#include <zor/pages/page.h>
+#include <zor/units/unit_catalogue.h>
 
 #include <array>
 

@@ -2,7 +2,7 @@
 
 /// The fields that the property pages are made of. Each stands here once; a page lists those it has.
 
-#include "pages/field.h"
+#include <zor/pages/field.h>
 
 #include <span>
 

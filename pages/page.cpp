@@ -1,8 +1,7 @@
-#include "pages/page.h"
-
-#include "pages/fields.h"
-#include "platform/error.h"
-#include "units/mod_Common.h"
+#include <zor/pages/fields.h>
+#include <zor/pages/page.h>
+#include <zor/platform/error.h>
+#include <zor/units/mod_Common.h>
 
 #include <algorithm>
 #include <utility>

@@ -2,9 +2,9 @@
 
 /// A property page at work.
 
-#include "core/control.h"
-#include "pages/page_info.h"
-#include "platform/property_page.h"
+#include <zor/core/control.h>
+#include <zor/pages/page_info.h>
+#include <zor/platform/property_page.h>
 
 #include <cstdint>
 #include <functional>

@@ -2,8 +2,8 @@
 
 /// A class of property pages as data, and the registry of those a program offers.
 
-#include "core/class_info.h"
-#include "pages/field.h"
+#include <zor/core/class_info.h>
+#include <zor/pages/field.h>
 
 #include <span>
 #include <string_view>

@@ -1,6 +1,6 @@
 // The widgets of a property page: made from its fields, placed in two columns.
 
-#include "pages/page.h"
+#include <zor/pages/page.h>
 
 #include <algorithm>
 

@@ -1,6 +1,5 @@
-#include "pages/registration.h"
-
-#include "pages/fields.h"
+#include <zor/pages/fields.h>
+#include <zor/pages/registration.h>
 
 #include <algorithm>
 #include <array>

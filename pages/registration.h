@@ -2,7 +2,7 @@
 
 /// The property pages of the library.
 
-#include "pages/page_info.h"
+#include <zor/pages/page_info.h>
 
 namespace zor {
 

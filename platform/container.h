@@ -2,8 +2,8 @@
 
 /// The host's form designer or run time, as a control sees it, and a control, as its container sees it.
 
-#include "platform/property_bag.h"
-#include "platform/widgets.h"
+#include <zor/platform/property_bag.h>
+#include <zor/platform/widgets.h>
 
 #include <cstdint>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "platform/error.h"
+#include <zor/platform/error.h>
 
 #include <string>
 

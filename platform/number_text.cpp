@@ -1,8 +1,7 @@
-#include "platform/number_text.h"
-
-#include "platform/error.h"
-#include "platform/regional.h"
-#include "platform/text.h"
+#include <zor/platform/error.h>
+#include <zor/platform/number_text.h>
+#include <zor/platform/regional.h>
+#include <zor/platform/text.h>
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 /// The operator's hands: what a person can do to a widget, for the console and for tests. On a platform with
 /// real widgets every action arrives as mouse and key events.
 
-#include "platform/widgets.h"
+#include <zor/platform/widgets.h>
 
 #include <cstddef>
 #include <cstdint>

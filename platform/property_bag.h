@@ -2,7 +2,7 @@
 
 /// The container's store for a control's settings.
 
-#include "platform/variant.h"
+#include <zor/platform/variant.h>
 
 #include <string_view>
 

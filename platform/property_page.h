@@ -2,7 +2,7 @@
 
 /// A property page of a form designer, and the frame that shows it.
 
-#include "platform/widgets.h"
+#include <zor/platform/widgets.h>
 
 #include <memory>
 #include <string_view>

@@ -1,6 +1,5 @@
-#include "platform/regional.h"
-
-#include "platform/error.h"
+#include <zor/platform/error.h>
+#include <zor/platform/regional.h>
 
 #include <string_view>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "platform/text.h"
+#include <zor/platform/text.h>
 
 #include <algorithm>
 

@@ -1,7 +1,6 @@
-#include "platform/variant.h"
-
-#include "platform/error.h"
-#include "platform/number_text.h"
+#include <zor/platform/error.h>
+#include <zor/platform/number_text.h>
+#include <zor/platform/variant.h>
 
 #include <cmath>
 #include <limits>

@@ -6,8 +6,8 @@
 /// Setting a property of a widget reports what an operator's action would report where the function says
 /// "reports". Reports go to the WidgetListener the surface was created with.
 
-#include "platform/colour.h"
-#include "platform/notice.h"
+#include <zor/platform/colour.h>
+#include <zor/platform/notice.h>
 
 #include <cstddef>
 #include <cstdint>

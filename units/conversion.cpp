@@ -1,6 +1,6 @@
-#include "platform/error.h"
-#include "units/mod_Common.h"
-#include "units/unit_catalogue.h"
+#include <zor/platform/error.h>
+#include <zor/units/mod_Common.h>
+#include <zor/units/unit_catalogue.h>
 
 #include <array>
 #include <cmath>

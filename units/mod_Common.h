@@ -3,8 +3,8 @@
 /// The unit module: units, conversion, value texts, and which devices a control is for. Free functions
 /// without state; results depend on the arguments and, for texts, on the user's separators.
 
-#include "platform/variant.h"
-#include "units/unit_types.h"
+#include <zor/platform/variant.h>
+#include <zor/units/unit_types.h>
 
 #include <cstdint>
 #include <optional>

@@ -1,5 +1,5 @@
-#include "platform/text.h"
-#include "units/mod_Common.h"
+#include <zor/platform/text.h>
+#include <zor/units/mod_Common.h>
 
 #include <limits>
 

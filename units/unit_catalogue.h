@@ -2,7 +2,7 @@
 
 /// The unit catalogue as data: one row per unit type and per unit, in the order of their values.
 
-#include "units/unit_types.h"
+#include <zor/units/unit_types.h>
 
 #include <array>
 #include <cstddef>

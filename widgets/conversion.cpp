@@ -1,4 +1,4 @@
-#include "widgets/conversion.h"
+#include <zor/widgets/conversion.h>
 
 #include <limits>
 

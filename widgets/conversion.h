@@ -2,7 +2,7 @@
 
 /// Values between Qt and the controls.
 
-#include "platform/variant.h"
+#include <zor/platform/variant.h>
 
 #include <QString>
 #include <QVariant>

@@ -1,6 +1,5 @@
-#include "widgets/form_loader.h"
-
-#include "widgets/zor_control.h"
+#include <zor/widgets/form_loader.h>
+#include <zor/widgets/zor_control.h>
 
 #include <algorithm>
 

@@ -1,13 +1,12 @@
-#include "widgets/zor_control.h"
-
-#include "controls/registration.h"
-#include "core/control.h"
-#include "core/frm_Container.h"
-#include "platform/error.h"
-#include "platform/qt/container.h"
-#include "platform/qt/looks.h"
-#include "platform/qt/qt_regional.h"
-#include "widgets/conversion.h"
+#include <zor/controls/registration.h>
+#include <zor/core/control.h>
+#include <zor/core/frm_Container.h>
+#include <zor/platform/error.h>
+#include <zor/platform/qt/container.h>
+#include <zor/platform/qt/looks.h>
+#include <zor/platform/qt/qt_regional.h>
+#include <zor/widgets/conversion.h>
+#include <zor/widgets/zor_control.h>
 
 #include <QCoreApplication>
 #include <QFocusEvent>

@@ -1,11 +1,11 @@
 #pragma once
 
 /// What the ready-made QWidgets share. The widgets themselves are generated from the controls' tables, see
-/// zor_widgets.h in the build tree.
+/// zor/widgets/zor_widgets.h in the build tree.
 
-#include "platform/notice.h"
-#include "platform/variant.h"
-#include "zor_enumerations.h"
+#include <zor/platform/notice.h>
+#include <zor/platform/variant.h>
+#include <zor/widgets/zor_enumerations.h>
 
 #include <QVariant>
 

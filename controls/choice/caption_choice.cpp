@@ -1,4 +1,4 @@
-#include "controls/choice/caption_choice.h"
+#include <zor/controls/choice/caption_choice.h>
 
 namespace zor::controls {
 

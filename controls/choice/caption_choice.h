@@ -3,7 +3,7 @@
 /// What check box and option button are alike in, beside being choice controls: a button with a caption, and
 /// the control around it that follows the caption's width.
 
-#include "controls/choice/choice_rows.h"
+#include <zor/controls/choice/choice_rows.h>
 
 namespace zor::controls {
 

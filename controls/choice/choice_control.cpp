@@ -1,6 +1,5 @@
-#include "controls/choice/choice_control.h"
-
-#include "controls/choice/choice_rows.h"
+#include <zor/controls/choice/choice_control.h>
+#include <zor/controls/choice/choice_rows.h>
 
 namespace zor::controls {
 

@@ -3,7 +3,7 @@
 /// What the four choice controls are alike in: a 32-bit value that the operator changes through one widget,
 /// a state icon beside it, and an undo of the change.
 
-#include "core/control.h"
+#include <zor/core/control.h>
 
 #include <array>
 #include <cstdint>

@@ -2,9 +2,9 @@
 
 /// The table rows that choice controls share.
 
-#include "controls/choice/choice_control.h"
-#include "core/shared_methods.h"
-#include "core/shared_rows.h"
+#include <zor/controls/choice/choice_control.h>
+#include <zor/core/shared_methods.h>
+#include <zor/core/shared_rows.h>
 
 #include <algorithm>
 #include <array>

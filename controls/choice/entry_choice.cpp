@@ -1,4 +1,4 @@
-#include "controls/choice/entry_choice.h"
+#include <zor/controls/choice/entry_choice.h>
 
 namespace zor::controls {
 

@@ -3,8 +3,8 @@
 /// What combo box and list box are alike in, beside being choice controls: a list of entries that the host
 /// fills, the state of a value that no entry stands for, the field's colours, and the layout of its width.
 
-#include "controls/choice/choice_rows.h"
-#include "controls/choice/entry_list.h"
+#include <zor/controls/choice/choice_rows.h>
+#include <zor/controls/choice/entry_list.h>
 
 namespace zor::controls {
 

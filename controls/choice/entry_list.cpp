@@ -1,6 +1,5 @@
-#include "controls/choice/entry_list.h"
-
-#include "platform/error.h"
+#include <zor/controls/choice/entry_list.h>
+#include <zor/platform/error.h>
 
 namespace zor::controls {
 namespace {

@@ -2,8 +2,8 @@
 
 /// The entries of a list as hosts fill and look them up: a text and a 32-bit value each.
 
-#include "platform/variant.h"
-#include "platform/widgets.h"
+#include <zor/platform/variant.h>
+#include <zor/platform/widgets.h>
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,6 @@
-#include "controls/numeric/entry_field.h"
-
-#include "platform/text.h"
-#include "units/mod_Common.h"
+#include <zor/controls/numeric/entry_field.h>
+#include <zor/platform/text.h>
+#include <zor/units/mod_Common.h>
 
 #include <algorithm>
 #include <utility>

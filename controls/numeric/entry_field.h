@@ -3,8 +3,8 @@
 /// A text field with a unit label and a state icon beside it: what the operator sees of the text box and of the
 /// up-down, save its spin button.
 
-#include "core/control.h"
-#include "platform/widgets.h"
+#include <zor/core/control.h>
+#include <zor/platform/widgets.h>
 
 #include <cstdint>
 #include <memory>

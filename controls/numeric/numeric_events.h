@@ -2,7 +2,7 @@
 
 /// The outgoing events that numeric controls have in common.
 
-#include "core/event_row.h"
+#include <zor/core/event_row.h>
 
 #include <array>
 #include <cstdint>

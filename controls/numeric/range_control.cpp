@@ -1,6 +1,5 @@
-#include "controls/numeric/range_control.h"
-
-#include "controls/numeric/range_rows.h"
+#include <zor/controls/numeric/range_control.h>
+#include <zor/controls/numeric/range_rows.h>
 
 namespace zor::controls {
 

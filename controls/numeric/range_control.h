@@ -2,7 +2,7 @@
 
 /// What up-down and slider are alike in: a value that is moved between two ends, and judged when it comes.
 
-#include "controls/numeric/unit_control.h"
+#include <zor/controls/numeric/unit_control.h>
 
 #include <string>
 #include <string_view>

@@ -2,8 +2,8 @@
 
 /// The table rows that up-down and slider share.
 
-#include "controls/numeric/range_control.h"
-#include "controls/numeric/unit_rows.h"
+#include <zor/controls/numeric/range_control.h>
+#include <zor/controls/numeric/unit_rows.h>
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 
 /// The units of a numeric control and the range that goes with them.
 
-#include "units/mod_Common.h"
+#include <zor/units/mod_Common.h>
 
 #include <cmath>
 

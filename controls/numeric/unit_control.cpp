@@ -1,6 +1,5 @@
-#include "controls/numeric/unit_control.h"
-
-#include "controls/numeric/unit_rows.h"
+#include <zor/controls/numeric/unit_control.h>
+#include <zor/controls/numeric/unit_rows.h>
 
 #include <utility>
 

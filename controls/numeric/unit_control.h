@@ -2,8 +2,8 @@
 
 /// What the three numeric controls are alike in: units, limits, a unit label, and an undo of the edit.
 
-#include "controls/numeric/unit_binding.h"
-#include "core/control.h"
+#include <zor/controls/numeric/unit_binding.h>
+#include <zor/core/control.h>
 
 #include <cstdint>
 #include <string>

@@ -2,9 +2,9 @@
 
 /// The table rows that numeric controls share.
 
-#include "controls/numeric/unit_control.h"
-#include "core/shared_methods.h"
-#include "core/shared_rows.h"
+#include <zor/controls/numeric/unit_control.h>
+#include <zor/core/shared_methods.h>
+#include <zor/core/shared_rows.h>
 
 namespace zor::controls {
 

@@ -1,6 +1,6 @@
-#include "controls/numeric/text_box/ctx_ZorTextBox.h"
-#include "core/frm_Container.h"
-#include "platform/qt/container.h"
+#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
+#include <zor/core/frm_Container.h>
+#include <zor/platform/qt/container.h>
 
 #include <QApplication>
 #include <QWidget>

@@ -1,7 +1,7 @@
 // The same form, loaded while the program runs.
 
-#include "widgets/form_loader.h"
-#include "zor_widgets.h"
+#include <zor/widgets.h>
+#include <zor/widgets/form_loader.h>
 
 #include <QApplication>
 #include <QFile>

@@ -1,7 +1,6 @@
-#include "monitor/data/codec.h"
-
-#include "platform/text.h"
-#include "units/mod_Common.h"
+#include <zor/monitor/data/codec.h>
+#include <zor/platform/text.h>
+#include <zor/units/mod_Common.h>
 
 #include <algorithm>
 #include <array>

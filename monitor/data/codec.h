@@ -2,8 +2,8 @@
 
 /// Between values and registers.
 
-#include "monitor/data/parameter_file.h"
-#include "platform/variant.h"
+#include <zor/monitor/data/parameter_file.h>
+#include <zor/platform/variant.h>
 
 #include <cstdint>
 #include <span>

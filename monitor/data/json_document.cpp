@@ -1,4 +1,4 @@
-#include "monitor/data/json_document.h"
+#include <zor/monitor/data/json_document.h>
 
 #include <nlohmann/json.hpp>
 

@@ -1,4 +1,4 @@
-#include "monitor/data/json_fields.h"
+#include <zor/monitor/data/json_fields.h>
 
 #include <algorithm>
 #include <cmath>

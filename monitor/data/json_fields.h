@@ -2,7 +2,7 @@
 
 /// Typed access to a JSON tree; whatever is not as expected raises FileError with its line.
 
-#include "monitor/data/json_document.h"
+#include <zor/monitor/data/json_document.h>
 
 #include <optional>
 #include <set>

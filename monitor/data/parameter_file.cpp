@@ -1,8 +1,7 @@
-#include "monitor/data/parameter_file.h"
-
-#include "monitor/data/codec.h"
-#include "monitor/data/json_fields.h"
-#include "units/unit_catalogue.h"
+#include <zor/monitor/data/codec.h>
+#include <zor/monitor/data/json_fields.h>
+#include <zor/monitor/data/parameter_file.h>
+#include <zor/units/unit_catalogue.h>
 
 #include <algorithm>
 #include <array>

@@ -2,8 +2,8 @@
 
 /// The parameter file: where each parameter of a device lies, and how it is read, shown and written.
 
-#include "monitor/data/json_document.h"
-#include "units/unit_types.h"
+#include <zor/monitor/data/json_document.h>
+#include <zor/units/unit_types.h>
 
 #include <cstdint>
 #include <map>

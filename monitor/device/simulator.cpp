@@ -1,6 +1,5 @@
-#include "monitor/device/simulator.h"
-
-#include "monitor/link/modbus.h"
+#include <zor/monitor/device/simulator.h>
+#include <zor/monitor/link/modbus.h>
 
 #include <QTcpServer>
 #include <QTcpSocket>

@@ -3,7 +3,7 @@
 /// The embedded device: a Modbus TCP server on loopback that holds the parameters of a file and moves them with
 /// time as the file says.
 
-#include "monitor/data/codec.h"
+#include <zor/monitor/data/codec.h>
 
 #include <QModbusTcpServer>
 #include <QTimer>

@@ -1,7 +1,6 @@
-#include "monitor/link/device_address.h"
-
-#include "monitor/link/rtu_link.h"
-#include "monitor/link/tcp_link.h"
+#include <zor/monitor/link/device_address.h>
+#include <zor/monitor/link/rtu_link.h>
+#include <zor/monitor/link/tcp_link.h>
 
 #include <QMap>
 #include <QStringList>

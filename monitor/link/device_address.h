@@ -2,7 +2,7 @@
 
 /// The address of a device as a user writes it.
 
-#include "monitor/link/link.h"
+#include <zor/monitor/link/link.h>
 
 #include <memory>
 #include <stdexcept>

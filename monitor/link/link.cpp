@@ -1,4 +1,4 @@
-#include "monitor/link/link.h"
+#include <zor/monitor/link/link.h>
 
 #include <algorithm>
 #include <utility>

@@ -2,7 +2,7 @@
 
 /// The connection to a device: one request at a time, each with one deadline for its whole reply.
 
-#include "monitor/link/modbus.h"
+#include <zor/monitor/link/modbus.h>
 
 #include <QElapsedTimer>
 #include <QObject>

@@ -1,4 +1,4 @@
-#include "monitor/link/modbus.h"
+#include <zor/monitor/link/modbus.h>
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "monitor/link/rtu_link.h"
+#include <zor/monitor/link/rtu_link.h>
 
 #include <QVariant>
 

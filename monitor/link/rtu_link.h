@@ -2,7 +2,7 @@
 
 /// Modbus RTU over a serial line. Qt frames and checks the bytes; the fields are judged here as on TCP.
 
-#include "monitor/link/link.h"
+#include <zor/monitor/link/link.h>
 
 #include <QModbusRtuSerialClient>
 

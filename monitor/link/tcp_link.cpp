@@ -1,4 +1,4 @@
-#include "monitor/link/tcp_link.h"
+#include <zor/monitor/link/tcp_link.h>
 
 #include <algorithm>
 

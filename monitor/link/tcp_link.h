@@ -2,7 +2,7 @@
 
 /// Modbus TCP, framed here: no reply is taken that does not fit the request in every field.
 
-#include "monitor/link/link.h"
+#include <zor/monitor/link/link.h>
 
 #include <QByteArray>
 #include <QTcpSocket>

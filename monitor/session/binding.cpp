@@ -1,9 +1,8 @@
-#include "monitor/session/binding.h"
-
-#include "monitor/session/value_texts.h"
-#include "platform/error.h"
-#include "units/mod_Common.h"
-#include "units/unit_catalogue.h"
+#include <zor/monitor/session/binding.h>
+#include <zor/monitor/session/value_texts.h>
+#include <zor/platform/error.h>
+#include <zor/units/mod_Common.h>
+#include <zor/units/unit_catalogue.h>
 
 #include <array>
 #include <utility>

@@ -3,9 +3,9 @@
 /// One control and the parameter it shows. Goes by the names of the control's properties, so that it serves every
 /// class of controls.
 
-#include "core/control.h"
-#include "monitor/data/codec.h"
-#include "monitor/session/poller.h"
+#include <zor/core/control.h>
+#include <zor/monitor/data/codec.h>
+#include <zor/monitor/session/poller.h>
 
 #include <functional>
 #include <optional>

@@ -1,7 +1,6 @@
-#include "monitor/session/changes.h"
-
-#include "monitor/session/value_texts.h"
-#include "platform/error.h"
+#include <zor/monitor/session/changes.h>
+#include <zor/monitor/session/value_texts.h>
+#include <zor/platform/error.h>
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 
 /// The operator's edits as a list that he reviews before anything is written.
 
-#include "monitor/session/binding.h"
+#include <zor/monitor/session/binding.h>
 
 #include <memory>
 #include <string>

@@ -1,6 +1,5 @@
-#include "monitor/session/control_texts.h"
-
-#include "units/mod_Common.h"
+#include <zor/monitor/session/control_texts.h>
+#include <zor/units/mod_Common.h>
 
 #include <QCoreApplication>
 

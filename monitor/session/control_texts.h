@@ -2,7 +2,7 @@
 
 /// A control's texts in the language of the program: messages by their identifiers, unit labels by theirs.
 
-#include "core/control.h"
+#include <zor/core/control.h>
 
 #include <string>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "monitor/session/log.h"
+#include <zor/monitor/session/log.h>
 
 #include <QDateTime>
 #include <QDebug>

@@ -1,4 +1,4 @@
-#include "monitor/session/plan.h"
+#include <zor/monitor/session/plan.h>
 
 #include <algorithm>
 #include <tuple>

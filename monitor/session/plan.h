@@ -2,7 +2,7 @@
 
 /// Which registers are read together.
 
-#include "monitor/data/parameter_file.h"
+#include <zor/monitor/data/parameter_file.h>
 
 #include <cstddef>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "monitor/session/poller.h"
+#include <zor/monitor/session/poller.h>
 
 #include <algorithm>
 #include <utility>

@@ -2,9 +2,9 @@
 
 /// Reads the device in rounds, a round each poll period.
 
-#include "monitor/data/codec.h"
-#include "monitor/link/link.h"
-#include "monitor/session/plan.h"
+#include <zor/monitor/data/codec.h>
+#include <zor/monitor/link/link.h>
+#include <zor/monitor/session/plan.h>
 
 #include <QTimer>
 

@@ -1,8 +1,7 @@
-#include "monitor/session/session.h"
-
-#include "monitor/session/value_texts.h"
-#include "platform/error.h"
-#include "units/mod_Common.h"
+#include <zor/monitor/session/session.h>
+#include <zor/monitor/session/value_texts.h>
+#include <zor/platform/error.h>
+#include <zor/units/mod_Common.h>
 
 #include <algorithm>
 #include <array>

@@ -3,12 +3,12 @@
 /// A host's work without a window: reads the device into the bound controls, keeps the operator's edits, and
 /// writes them when told to.
 
-#include "monitor/session/changes.h"
-#include "monitor/session/control_texts.h"
-#include "monitor/session/log.h"
-#include "monitor/session/poller.h"
-#include "monitor/session/unit_system.h"
-#include "monitor/session/writer.h"
+#include <zor/monitor/session/changes.h>
+#include <zor/monitor/session/control_texts.h>
+#include <zor/monitor/session/log.h>
+#include <zor/monitor/session/poller.h>
+#include <zor/monitor/session/unit_system.h>
+#include <zor/monitor/session/writer.h>
 
 #include <QElapsedTimer>
 

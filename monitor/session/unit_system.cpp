@@ -1,4 +1,4 @@
-#include "monitor/session/unit_system.h"
+#include <zor/monitor/session/unit_system.h>
 
 #include <algorithm>
 #include <array>

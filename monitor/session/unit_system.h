@@ -2,7 +2,7 @@
 
 /// Units as people in a region use them.
 
-#include "units/unit_types.h"
+#include <zor/units/unit_types.h>
 
 #include <cstdint>
 

@@ -1,7 +1,6 @@
-#include "monitor/session/value_texts.h"
-
-#include "platform/error.h"
-#include "units/mod_Common.h"
+#include <zor/monitor/session/value_texts.h>
+#include <zor/platform/error.h>
+#include <zor/units/mod_Common.h>
 
 #include <algorithm>
 #include <array>

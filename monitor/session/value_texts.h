@@ -2,7 +2,7 @@
 
 /// A parameter's registers in words, as an operator reads them in a list.
 
-#include "monitor/data/codec.h"
+#include <zor/monitor/data/codec.h>
 
 namespace zor::monitor {
 

@@ -1,4 +1,4 @@
-#include "monitor/session/writer.h"
+#include <zor/monitor/session/writer.h>
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 
 /// Carries out a reviewed list of changes: each is written once and read back.
 
-#include "monitor/link/link.h"
-#include "monitor/session/changes.h"
+#include <zor/monitor/link/link.h>
+#include <zor/monitor/session/changes.h>
 
 #include <QObject>
 

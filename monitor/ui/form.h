@@ -2,9 +2,9 @@
 
 /// The controls that the monitor shows, on real widgets.
 
-#include "core/class_info.h"
-#include "monitor/data/parameter_file.h"
-#include "platform/qt/container.h"
+#include <zor/core/class_info.h>
+#include <zor/monitor/data/parameter_file.h>
+#include <zor/platform/qt/container.h>
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,7 +1,7 @@
-#include "core/control.h"
-#include "core/frm_Container.h"
-#include "monitor/data/codec.h"
-#include "monitor/ui/form.h"
+#include <zor/core/control.h>
+#include <zor/core/frm_Container.h>
+#include <zor/monitor/data/codec.h>
+#include <zor/monitor/ui/form.h>
 
 #include <QGridLayout>
 #include <QPointer>

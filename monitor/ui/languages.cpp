@@ -1,6 +1,5 @@
-#include "monitor/ui/languages.h"
-
-#include "platform/qt/qt_regional.h"
+#include <zor/monitor/ui/languages.h>
+#include <zor/platform/qt/qt_regional.h>
 
 #include <QCoreApplication>
 #include <QLibraryInfo>

@@ -1,6 +1,5 @@
-#include "monitor/ui/review_dialog.h"
-
-#include "units/mod_Common.h"
+#include <zor/monitor/ui/review_dialog.h>
+#include <zor/units/mod_Common.h>
 
 #include <QDialogButtonBox>
 #include <QHeaderView>

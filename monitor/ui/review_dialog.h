@@ -2,7 +2,7 @@
 
 /// What is about to be written, before it is written, and what came of it.
 
-#include "monitor/session/session.h"
+#include <zor/monitor/session/session.h>
 
 #include <QCoreApplication>
 #include <QDialog>

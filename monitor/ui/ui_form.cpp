@@ -1,7 +1,7 @@
-#include "forms/form.h"
-#include "monitor/ui/form.h"
-#include "widgets/form_loader.h"
-#include "widgets/zor_control.h"
+#include <zor/forms/form.h>
+#include <zor/monitor/ui/form.h>
+#include <zor/widgets/form_loader.h>
+#include <zor/widgets/zor_control.h>
 
 #include <QFile>
 #include <QMainWindow>

@@ -1,8 +1,7 @@
-#include "monitor/ui/window.h"
-
-#include "monitor/ui/review_dialog.h"
-#include "units/mod_Common.h"
-#include "units/unit_catalogue.h"
+#include <zor/monitor/ui/review_dialog.h>
+#include <zor/monitor/ui/window.h>
+#include <zor/units/mod_Common.h>
+#include <zor/units/unit_catalogue.h>
 
 #include <QActionGroup>
 #include <QApplication>

@@ -2,10 +2,10 @@
 
 /// The monitor's window.
 
-#include "monitor/device/simulator.h"
-#include "monitor/session/session.h"
-#include "monitor/ui/form.h"
-#include "monitor/ui/languages.h"
+#include <zor/monitor/device/simulator.h>
+#include <zor/monitor/session/session.h>
+#include <zor/monitor/ui/form.h>
+#include <zor/monitor/ui/languages.h>
 
 #include <QCoreApplication>
 #include <QDialog>

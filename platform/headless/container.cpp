@@ -1,10 +1,9 @@
-#include "platform/headless/container.h"
-
-#include "platform/headless/entry_lists.h"
-#include "platform/headless/menu.h"
-#include "platform/headless/simple_widgets.h"
-#include "platform/headless/text_field.h"
-#include "platform/headless/text_metrics.h"
+#include <zor/platform/headless/container.h>
+#include <zor/platform/headless/entry_lists.h>
+#include <zor/platform/headless/menu.h>
+#include <zor/platform/headless/simple_widgets.h>
+#include <zor/platform/headless/text_field.h>
+#include <zor/platform/headless/text_metrics.h>
 
 namespace zor::platform::headless {
 namespace {

@@ -2,8 +2,8 @@
 
 /// A form without a screen.
 
-#include "platform/container.h"
-#include "platform/headless/widget_base.h"
+#include <zor/platform/container.h>
+#include <zor/platform/headless/widget_base.h>
 
 #include <functional>
 

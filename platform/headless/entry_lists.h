@@ -2,8 +2,8 @@
 
 /// Combo box and list box.
 
-#include "platform/error.h"
-#include "platform/headless/widget_base.h"
+#include <zor/platform/error.h>
+#include <zor/platform/headless/widget_base.h>
 
 #include <string>
 #include <utility>

@@ -1,8 +1,7 @@
-#include "platform/headless/keys.h"
-
-#include "platform/headless/simple_widgets.h"
-#include "platform/headless/text_field.h"
-#include "platform/text.h"
+#include <zor/platform/headless/keys.h>
+#include <zor/platform/headless/simple_widgets.h>
+#include <zor/platform/headless/text_field.h>
+#include <zor/platform/text.h>
 
 #include <algorithm>
 

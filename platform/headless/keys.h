@@ -2,7 +2,7 @@
 
 /// What a key does to a widget that is plain memory.
 
-#include "platform/widgets.h"
+#include <zor/platform/widgets.h>
 
 #include <cstdint>
 #include <string>

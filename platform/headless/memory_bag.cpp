@@ -1,4 +1,4 @@
-#include "platform/headless/memory_bag.h"
+#include <zor/platform/headless/memory_bag.h>
 
 namespace zor::platform::headless {
 

@@ -2,7 +2,7 @@
 
 /// A property bag in memory.
 
-#include "platform/property_bag.h"
+#include <zor/platform/property_bag.h>
 
 #include <cstddef>
 #include <span>

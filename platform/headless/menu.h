@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/headless/container.h"
+#include <zor/platform/headless/container.h>
 
 namespace zor::platform::headless {
 

@@ -1,10 +1,9 @@
-#include "platform/headless/operator.h"
-
-#include "platform/error.h"
-#include "platform/headless/keys.h"
-#include "platform/headless/menu.h"
-#include "platform/headless/simple_widgets.h"
-#include "platform/text.h"
+#include <zor/platform/error.h>
+#include <zor/platform/headless/keys.h>
+#include <zor/platform/headless/menu.h>
+#include <zor/platform/headless/operator.h>
+#include <zor/platform/headless/simple_widgets.h>
+#include <zor/platform/text.h>
 
 #include <algorithm>
 #include <array>

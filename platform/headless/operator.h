@@ -2,8 +2,8 @@
 
 /// The operator's hands on a form without a screen.
 
-#include "platform/headless/container.h"
-#include "platform/operator.h"
+#include <zor/platform/headless/container.h>
+#include <zor/platform/operator.h>
 
 namespace zor::platform::headless {
 

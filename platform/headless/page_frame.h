@@ -2,8 +2,8 @@
 
 /// A property page's frame without a screen.
 
-#include "platform/headless/container.h"
-#include "platform/property_page.h"
+#include <zor/platform/headless/container.h>
+#include <zor/platform/property_page.h>
 
 namespace zor::platform::headless {
 

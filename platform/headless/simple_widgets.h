@@ -2,10 +2,10 @@
 
 /// Label, image, check box, option button, spin button, track and menu.
 
-#include "platform/headless/text_field.h"
-#include "platform/headless/text_metrics.h"
-#include "platform/headless/widget_base.h"
-#include "platform/whole_range.h"
+#include <zor/platform/headless/text_field.h>
+#include <zor/platform/headless/text_metrics.h>
+#include <zor/platform/headless/widget_base.h>
+#include <zor/platform/whole_range.h>
 
 #include <algorithm>
 #include <exception>

@@ -1,6 +1,5 @@
-#include "platform/headless/text_field.h"
-
-#include "platform/text.h"
+#include <zor/platform/headless/text_field.h>
+#include <zor/platform/text.h>
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/headless/widget_base.h"
+#include <zor/platform/headless/widget_base.h>
 
 namespace zor::platform::headless {
 

@@ -1,6 +1,5 @@
-#include "platform/headless/text_metrics.h"
-
-#include "platform/text.h"
+#include <zor/platform/headless/text_metrics.h>
+#include <zor/platform/text.h>
 
 namespace zor::platform::headless {
 namespace {

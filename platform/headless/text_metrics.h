@@ -2,7 +2,7 @@
 
 /// Text widths without a font: the same on every machine, so that a layout can be checked to the twip.
 
-#include "platform/widgets.h"
+#include <zor/platform/widgets.h>
 
 #include <string_view>
 

@@ -2,7 +2,7 @@
 
 /// What all headless widgets share: plain state behind the interfaces.
 
-#include "platform/widgets.h"
+#include <zor/platform/widgets.h>
 
 #include <string>
 

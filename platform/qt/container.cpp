@@ -1,9 +1,8 @@
-#include "platform/qt/container.h"
-
-#include "platform/qt/entry_lists.h"
-#include "platform/qt/range_widgets.h"
-#include "platform/qt/simple_widgets.h"
-#include "platform/qt/text_field.h"
+#include <zor/platform/qt/container.h>
+#include <zor/platform/qt/entry_lists.h>
+#include <zor/platform/qt/range_widgets.h>
+#include <zor/platform/qt/simple_widgets.h>
+#include <zor/platform/qt/text_field.h>
 
 #include <QContextMenuEvent>
 #include <QDebug>

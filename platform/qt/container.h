@@ -2,7 +2,7 @@
 
 /// A form of real Qt widgets.
 
-#include "platform/container.h"
+#include <zor/platform/container.h>
 
 #include <cstddef>
 #include <exception>

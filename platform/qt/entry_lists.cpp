@@ -1,4 +1,4 @@
-#include "platform/qt/entry_lists.h"
+#include <zor/platform/qt/entry_lists.h>
 
 #include <QScrollBar>
 #include <QStyledItemDelegate>

@@ -2,8 +2,8 @@
 
 /// Combo box and list box.
 
-#include "platform/qt/entry_model.h"
-#include "platform/qt/qt_widget.h"
+#include <zor/platform/qt/entry_model.h>
+#include <zor/platform/qt/qt_widget.h>
 
 #include <QComboBox>
 #include <QListView>

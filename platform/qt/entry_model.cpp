@@ -1,7 +1,6 @@
-#include "platform/qt/entry_model.h"
-
-#include "platform/error.h"
-#include "platform/qt/looks.h"
+#include <zor/platform/error.h>
+#include <zor/platform/qt/entry_model.h>
+#include <zor/platform/qt/looks.h>
 
 namespace zor::platform::qt {
 

@@ -1,7 +1,6 @@
-#include "platform/qt/keys.h"
-
-#include "platform/notice.h"
-#include "platform/operator.h"
+#include <zor/platform/notice.h>
+#include <zor/platform/operator.h>
+#include <zor/platform/qt/keys.h>
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,5 @@
-#include "platform/qt/looks.h"
-
-#include "platform/text.h"
+#include <zor/platform/qt/looks.h>
+#include <zor/platform/text.h>
 
 #include <QGuiApplication>
 #include <QPalette>

@@ -2,8 +2,8 @@
 
 /// How texts and colours from outside become what Qt paints.
 
-#include "platform/colour.h"
-#include "platform/widgets.h"
+#include <zor/platform/colour.h>
+#include <zor/platform/widgets.h>
 
 #include <QColor>
 #include <QRect>

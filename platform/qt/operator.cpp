@@ -1,12 +1,11 @@
-#include "platform/qt/operator.h"
-
-#include "platform/error.h"
-#include "platform/qt/entry_lists.h"
-#include "platform/qt/keys.h"
-#include "platform/qt/range_widgets.h"
-#include "platform/qt/simple_widgets.h"
-#include "platform/qt/text_field.h"
-#include "platform/text.h"
+#include <zor/platform/error.h>
+#include <zor/platform/qt/entry_lists.h>
+#include <zor/platform/qt/keys.h>
+#include <zor/platform/qt/operator.h>
+#include <zor/platform/qt/range_widgets.h>
+#include <zor/platform/qt/simple_widgets.h>
+#include <zor/platform/qt/text_field.h>
+#include <zor/platform/text.h>
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>

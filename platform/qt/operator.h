@@ -2,8 +2,8 @@
 
 /// The operator's hands on real Qt widgets: mouse and key events, sent as Qt itself would send them.
 
-#include "platform/operator.h"
-#include "platform/qt/container.h"
+#include <zor/platform/operator.h>
+#include <zor/platform/qt/container.h>
 
 class QWidget;
 

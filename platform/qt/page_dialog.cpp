@@ -1,6 +1,5 @@
-#include "platform/qt/page_dialog.h"
-
-#include "platform/qt/looks.h"
+#include <zor/platform/qt/looks.h>
+#include <zor/platform/qt/page_dialog.h>
 
 #include <QDialogButtonBox>
 #include <QMessageBox>

@@ -2,8 +2,8 @@
 
 /// A property page in a dialog.
 
-#include "platform/property_page.h"
-#include "platform/qt/container.h"
+#include <zor/platform/property_page.h>
+#include <zor/platform/qt/container.h>
 
 #include <QDialog>
 

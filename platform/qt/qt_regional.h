@@ -2,7 +2,7 @@
 
 /// The separators of a Qt locale.
 
-#include "platform/regional.h"
+#include <zor/platform/regional.h>
 
 #include <QLocale>
 

@@ -1,7 +1,6 @@
-#include "platform/qt/qt_widget.h"
-
-#include "platform/operator.h"
-#include "platform/qt/keys.h"
+#include <zor/platform/operator.h>
+#include <zor/platform/qt/keys.h>
+#include <zor/platform/qt/qt_widget.h>
 
 namespace zor::platform::qt {
 

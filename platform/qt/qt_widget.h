@@ -2,9 +2,9 @@
 
 /// What all widgets of the Qt platform share: the settings behind the interface, and the reports.
 
-#include "platform/qt/container.h"
-#include "platform/qt/looks.h"
-#include "platform/widgets.h"
+#include <zor/platform/qt/container.h>
+#include <zor/platform/qt/looks.h>
+#include <zor/platform/widgets.h>
 
 #include <QApplication>
 #include <QFocusEvent>

@@ -1,4 +1,4 @@
-#include "platform/qt/range_widgets.h"
+#include <zor/platform/qt/range_widgets.h>
 
 #include <QStylePainter>
 

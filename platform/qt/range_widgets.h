@@ -2,9 +2,9 @@
 
 /// Spin button and track.
 
-#include "platform/qt/qt_widget.h"
-#include "platform/qt/text_field.h"
-#include "platform/whole_range.h"
+#include <zor/platform/qt/qt_widget.h>
+#include <zor/platform/qt/text_field.h>
+#include <zor/platform/whole_range.h>
 
 #include <QSlider>
 #include <QSpinBox>

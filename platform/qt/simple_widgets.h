@@ -2,7 +2,7 @@
 
 /// Label, image, check box and option button.
 
-#include "platform/qt/qt_widget.h"
+#include <zor/platform/qt/qt_widget.h>
 
 #include <QCheckBox>
 #include <QClipboard>

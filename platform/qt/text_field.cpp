@@ -1,6 +1,5 @@
-#include "platform/qt/text_field.h"
-
-#include "platform/text.h"
+#include <zor/platform/qt/text_field.h>
+#include <zor/platform/text.h>
 
 #include <QPointer>
 #include <QWheelEvent>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/qt_widget.h"
+#include <zor/platform/qt/qt_widget.h>
 
 #include <QLineEdit>
 

@@ -1,12 +1,12 @@
 // Random hosts and operators: what always holds of the four controls for a choice.
 
-#include "controls/choice/check_box/ctx_ZorCheckBox.h"
-#include "controls/choice/combo_box/ctx_ZorComboBox.h"
-#include "controls/choice/list_box/ctx_ZorListBox.h"
-#include "controls/choice/option_button/ctx_ZorOptionButton.h"
-#include "platform/error.h"
-#include "platform/headless/container.h"
-#include "platform/headless/operator.h"
+#include <zor/controls/choice/check_box/ctx_ZorCheckBox.h>
+#include <zor/controls/choice/combo_box/ctx_ZorComboBox.h>
+#include <zor/controls/choice/list_box/ctx_ZorListBox.h>
+#include <zor/controls/choice/option_button/ctx_ZorOptionButton.h>
+#include <zor/platform/error.h>
+#include <zor/platform/headless/container.h>
+#include <zor/platform/headless/operator.h>
 
 #include <gtest/gtest.h>
 

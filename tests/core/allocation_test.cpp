@@ -1,15 +1,15 @@
 // The value path of a control allocates nothing: ten thousand controls are refreshed many times a second.
 
-#include "controls/choice/check_box/ctx_ZorCheckBox.h"
-#include "controls/choice/combo_box/ctx_ZorComboBox.h"
-#include "controls/choice/list_box/ctx_ZorListBox.h"
-#include "controls/choice/option_button/ctx_ZorOptionButton.h"
-#include "controls/display/image/ctx_ZorImage.h"
-#include "controls/display/label/ctx_ZorLabel.h"
-#include "controls/numeric/slider/ctx_ZorSlider.h"
-#include "controls/numeric/text_box/ctx_ZorTextBox.h"
-#include "controls/numeric/up_down/ctx_ZorUpDown.h"
-#include "platform/headless/container.h"
+#include <zor/controls/choice/check_box/ctx_ZorCheckBox.h>
+#include <zor/controls/choice/combo_box/ctx_ZorComboBox.h>
+#include <zor/controls/choice/list_box/ctx_ZorListBox.h>
+#include <zor/controls/choice/option_button/ctx_ZorOptionButton.h>
+#include <zor/controls/display/image/ctx_ZorImage.h>
+#include <zor/controls/display/label/ctx_ZorLabel.h>
+#include <zor/controls/numeric/slider/ctx_ZorSlider.h>
+#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
+#include <zor/controls/numeric/up_down/ctx_ZorUpDown.h>
+#include <zor/platform/headless/container.h>
 
 #include <gtest/gtest.h>
 

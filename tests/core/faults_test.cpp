@@ -1,6 +1,6 @@
 // Errors leave nothing half written; bags and numbers are not trusted.
 
-#include "tests/core/text_box_fixture.h"
+#include <zor/tests/core/text_box_fixture.h>
 
 #include <cstdint>
 #include <limits>

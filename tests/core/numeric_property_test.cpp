@@ -1,10 +1,10 @@
 // Random limits, units, values and operators: what always holds of up-down and slider.
 
-#include "controls/numeric/slider/ctx_ZorSlider.h"
-#include "controls/numeric/up_down/ctx_ZorUpDown.h"
-#include "platform/error.h"
-#include "platform/headless/container.h"
-#include "platform/headless/operator.h"
+#include <zor/controls/numeric/slider/ctx_ZorSlider.h>
+#include <zor/controls/numeric/up_down/ctx_ZorUpDown.h>
+#include <zor/platform/error.h>
+#include <zor/platform/headless/container.h>
+#include <zor/platform/headless/operator.h>
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // What a host's handler may do inside an event without harm.
 
-#include "tests/core/text_box_fixture.h"
+#include <zor/tests/core/text_box_fixture.h>
 
 #include <functional>
 #include <stdexcept>

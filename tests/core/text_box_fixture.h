@@ -1,10 +1,10 @@
 #pragma once
 
-#include "controls/numeric/text_box/ctx_ZorTextBox.h"
-#include "platform/error.h"
-#include "platform/headless/container.h"
-#include "platform/headless/memory_bag.h"
-#include "platform/headless/operator.h"
+#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
+#include <zor/platform/error.h>
+#include <zor/platform/headless/container.h>
+#include <zor/platform/headless/memory_bag.h>
+#include <zor/platform/headless/operator.h>
 
 #include <gtest/gtest.h>
 

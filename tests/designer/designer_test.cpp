@@ -1,14 +1,14 @@
 // Qt Designer's own components with the plugin: the widget box, the property editor, forms, the device menu.
 
-#include "controls/registration.h"
-#include "core/control.h"
-#include "core/setting_order.h"
-#include "forms/form.h"
-#include "platform/headless/container.h"
 #include "ui_tank.h"
-#include "widgets/conversion.h"
-#include "widgets/form_loader.h"
-#include "zor_widgets.h"
+#include <zor/controls/registration.h>
+#include <zor/core/control.h>
+#include <zor/core/setting_order.h>
+#include <zor/forms/form.h>
+#include <zor/platform/headless/container.h>
+#include <zor/widgets.h>
+#include <zor/widgets/conversion.h>
+#include <zor/widgets/form_loader.h>
 
 #include <QAction>
 #include <QApplication>

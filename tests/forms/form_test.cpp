@@ -1,13 +1,13 @@
 // Form files as files: what is refused, what is kept, byte by byte.
 
-#include "controls/registration.h"
-#include "core/control.h"
-#include "core/setting_order.h"
-#include "forms/form.h"
-#include "forms/form_error.h"
-#include "forms/xml_check.h"
-#include "fuzz/form_round.h"
-#include "platform/headless/container.h"
+#include <zor/controls/registration.h>
+#include <zor/core/control.h>
+#include <zor/core/setting_order.h>
+#include <zor/forms/form.h>
+#include <zor/forms/form_error.h>
+#include <zor/forms/xml_check.h>
+#include <zor/fuzz/form_round.h>
+#include <zor/platform/headless/container.h>
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // The session with every class of controls: it goes by the names of their properties and methods.
 
-#include "tests/monitor/session_fixture.h"
+#include <zor/tests/monitor/session_fixture.h>
 
 namespace zor::monitor {
 namespace {

@@ -1,7 +1,7 @@
 // Parameter files and the coding of values.
 
-#include "monitor/data/codec.h"
-#include "monitor/session/plan.h"
+#include <zor/monitor/data/codec.h>
+#include <zor/monitor/session/plan.h>
 
 #include <QFile>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // Against programs by others: the monitor with a server, and the simulated device with a client.
 
-#include "monitor/device/simulator.h"
-#include "tests/monitor/session_fixture.h"
+#include <zor/monitor/device/simulator.h>
+#include <zor/tests/monitor/session_fixture.h>
 
 #include <QFile>
 #include <QProcess>

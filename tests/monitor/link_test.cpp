@@ -1,8 +1,8 @@
 // The connection against a peer that misbehaves, over real TCP and over a pseudo-terminal.
 
-#include "monitor/link/device_address.h"
-#include "monitor/link/tcp_link.h"
-#include "tests/monitor/peer.h"
+#include <zor/monitor/link/device_address.h>
+#include <zor/monitor/link/tcp_link.h>
+#include <zor/tests/monitor/peer.h>
 
 #include <QElapsedTimer>
 #include <QSocketNotifier>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "monitor/data/codec.h"
+#include <zor/monitor/data/codec.h>
 
 #include <QPointer>
 #include <QTcpServer>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "controls/registration.h"
-#include "monitor/link/tcp_link.h"
-#include "monitor/session/session.h"
-#include "platform/headless/container.h"
-#include "platform/headless/operator.h"
-#include "tests/monitor/peer.h"
+#include <zor/controls/registration.h>
+#include <zor/monitor/link/tcp_link.h>
+#include <zor/monitor/session/session.h>
+#include <zor/platform/headless/container.h>
+#include <zor/platform/headless/operator.h>
+#include <zor/tests/monitor/peer.h>
 
 #include <QElapsedTimer>
 #include <QTest>

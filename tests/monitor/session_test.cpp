@@ -1,6 +1,6 @@
 // A host's work, without a window, against a device that does what it should, and against one that does not.
 
-#include "tests/monitor/session_fixture.h"
+#include <zor/tests/monitor/session_fixture.h>
 
 #include <QTemporaryDir>
 

@@ -1,8 +1,8 @@
 // The window against the simulated device, over real TCP: what an operator sees and does.
 
-#include "controls/registration.h"
-#include "monitor/link/tcp_link.h"
-#include "monitor/ui/window.h"
+#include <zor/controls/registration.h>
+#include <zor/monitor/link/tcp_link.h>
+#include <zor/monitor/ui/window.h>
 
 #include <QFile>
 #include <QLabel>

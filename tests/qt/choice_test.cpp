@@ -1,11 +1,11 @@
 // What only a real screen has: the wheel over a drop-down list, the menu key, an open list that must close, and
 // marks that must be seen.
 
-#include "controls/choice/check_box/ctx_ZorCheckBox.h"
-#include "controls/choice/combo_box/ctx_ZorComboBox.h"
-#include "controls/choice/list_box/ctx_ZorListBox.h"
-#include "platform/qt/looks.h"
-#include "tests/qt/screen_fixture.h"
+#include <zor/controls/choice/check_box/ctx_ZorCheckBox.h>
+#include <zor/controls/choice/combo_box/ctx_ZorComboBox.h>
+#include <zor/controls/choice/list_box/ctx_ZorListBox.h>
+#include <zor/platform/qt/looks.h>
+#include <zor/tests/qt/screen_fixture.h>
 
 #include <QComboBox>
 #include <QContextMenuEvent>

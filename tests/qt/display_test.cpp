@@ -1,8 +1,8 @@
 // What only a real screen has: the keyboard on a picture, marked text, what a screen reader is told.
 
-#include "controls/display/image/ctx_ZorImage.h"
-#include "controls/display/label/ctx_ZorLabel.h"
-#include "tests/qt/screen_fixture.h"
+#include <zor/controls/display/image/ctx_ZorImage.h>
+#include <zor/controls/display/label/ctx_ZorLabel.h>
+#include <zor/tests/qt/screen_fixture.h>
 
 #include <QClipboard>
 #include <QLabel>

@@ -1,11 +1,11 @@
 // The dialog around a property page: its buttons, and what a form designer hooks into.
 
-#include "controls/numeric/text_box/ctx_ZorTextBox.h"
-#include "pages/page.h"
-#include "pages/registration.h"
-#include "platform/error.h"
-#include "platform/headless/container.h"
-#include "platform/qt/page_dialog.h"
+#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
+#include <zor/pages/page.h>
+#include <zor/pages/registration.h>
+#include <zor/platform/error.h>
+#include <zor/platform/headless/container.h>
+#include <zor/platform/qt/page_dialog.h>
 
 #include <QApplication>
 #include <QDialogButtonBox>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/control.h"
-#include "core/frm_Container.h"
-#include "platform/qt/container.h"
+#include <zor/core/control.h>
+#include <zor/core/frm_Container.h>
+#include <zor/platform/qt/container.h>
 
 #include <QApplication>
 #include <QLineEdit>

@@ -1,7 +1,7 @@
 // What only a real screen has: the focus among neighbours, the mouse on what is disabled, a screen reader.
 
-#include "controls/numeric/text_box/ctx_ZorTextBox.h"
-#include "tests/qt/screen_fixture.h"
+#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
+#include <zor/tests/qt/screen_fixture.h>
 
 #include <QTest>
 

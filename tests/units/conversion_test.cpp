@@ -1,5 +1,5 @@
-#include "platform/error.h"
-#include "units/mod_Common.h"
+#include <zor/platform/error.h>
+#include <zor/units/mod_Common.h>
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "platform/error.h"
-#include "platform/number_text.h"
-#include "platform/regional.h"
-#include "units/mod_Common.h"
+#include <zor/platform/error.h>
+#include <zor/platform/number_text.h>
+#include <zor/platform/regional.h>
+#include <zor/units/mod_Common.h>
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // The ready-made QWidgets, as a Qt program meets them.
 
-#include "controls/numeric/text_box/ctx_ZorTextBox.h"
-#include "controls/registration.h"
-#include "widgets/conversion.h"
-#include "widgets/form_loader.h"
-#include "zor_widgets.h"
+#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
+#include <zor/controls/registration.h>
+#include <zor/widgets.h>
+#include <zor/widgets/conversion.h>
+#include <zor/widgets/form_loader.h>
 
 #include <QApplication>
 #include <QBuffer>

@@ -1,8 +1,8 @@
 // Values as they are written and printed, and lines cut into words.
 
-#include "platform/error.h"
-#include "platform/regional.h"
-#include "tools/zorsh/notation.h"
+#include <zor/platform/error.h>
+#include <zor/platform/regional.h>
+#include <zor/tools/zorsh/notation.h>
 
 #include <gtest/gtest.h>
 

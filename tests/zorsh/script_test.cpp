@@ -1,6 +1,6 @@
 // Expectations that do not hold must fail, and say where and why.
 
-#include "tools/zorsh/script.h"
+#include <zor/tools/zorsh/script.h>
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Writes the reference pages: what the tables of every class say, one Markdown file a class.
 
-#include "controls/registration.h"
-#include "core/control.h"
+#include <zor/controls/registration.h>
+#include <zor/core/control.h>
 
 #include <array>
 #include <filesystem>

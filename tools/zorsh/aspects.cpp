@@ -1,7 +1,7 @@
 // What can be read of a widget, as a table.
 
-#include "platform/error.h"
-#include "tools/zorsh/commands.h"
+#include <zor/platform/error.h>
+#include <zor/tools/zorsh/commands.h>
 
 #include <array>
 #include <charconv>

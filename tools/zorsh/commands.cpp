@@ -1,11 +1,10 @@
 // The commands of the console, as a table.
 
-#include "tools/zorsh/commands.h"
-
-#include "platform/error.h"
-#include "platform/headless/memory_bag.h"
-#include "platform/regional.h"
-#include "tools/zorsh/notation.h"
+#include <zor/platform/error.h>
+#include <zor/platform/headless/memory_bag.h>
+#include <zor/platform/regional.h>
+#include <zor/tools/zorsh/commands.h>
+#include <zor/tools/zorsh/notation.h>
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 
 /// The commands, aspects and actions of the console: three tables.
 
-#include "tools/zorsh/session.h"
+#include <zor/tools/zorsh/session.h>
 
 #include <cstdint>
 #include <span>

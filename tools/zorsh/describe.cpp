@@ -1,7 +1,7 @@
 // What a class's tables say, for people.
 
-#include "tools/zorsh/commands.h"
-#include "tools/zorsh/notation.h"
+#include <zor/tools/zorsh/commands.h>
+#include <zor/tools/zorsh/notation.h>
 
 namespace zor::console {
 namespace {

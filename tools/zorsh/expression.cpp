@@ -1,8 +1,8 @@
 // Sums over numbers and what can be read.
 
-#include "platform/error.h"
-#include "tools/zorsh/commands.h"
-#include "tools/zorsh/notation.h"
+#include <zor/platform/error.h>
+#include <zor/tools/zorsh/commands.h>
+#include <zor/tools/zorsh/notation.h>
 
 #include <charconv>
 #include <cmath>

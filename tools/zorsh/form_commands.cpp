@@ -1,7 +1,7 @@
 // Forms of Qt Designer, opened and saved.
 
-#include "tools/zorsh/commands.h"
-#include "tools/zorsh/notation.h"
+#include <zor/tools/zorsh/commands.h>
+#include <zor/tools/zorsh/notation.h>
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "platform/headless/operator.h"
-#include "platform/headless/page_frame.h"
-#include "tools/zorsh/stage.h"
+#include <zor/platform/headless/operator.h>
+#include <zor/platform/headless/page_frame.h>
+#include <zor/tools/zorsh/stage.h>
 
 namespace zor::console {
 namespace {

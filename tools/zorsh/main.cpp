@@ -1,8 +1,8 @@
-#include "platform/error.h"
-#include "platform/regional.h"
-#include "platform/text.h"
-#include "tools/zorsh/script.h"
-#include "tools/zorsh/terminal.h"
+#include <zor/platform/error.h>
+#include <zor/platform/regional.h>
+#include <zor/platform/text.h>
+#include <zor/tools/zorsh/script.h>
+#include <zor/tools/zorsh/terminal.h>
 
 #include <CLI/CLI.hpp>
 

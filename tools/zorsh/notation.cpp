@@ -1,8 +1,7 @@
-#include "tools/zorsh/notation.h"
-
-#include "platform/error.h"
-#include "platform/text.h"
-#include "units/mod_Common.h"
+#include <zor/platform/error.h>
+#include <zor/platform/text.h>
+#include <zor/tools/zorsh/notation.h>
+#include <zor/units/mod_Common.h>
 
 #include <array>
 #include <charconv>

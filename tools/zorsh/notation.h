@@ -2,9 +2,9 @@
 
 /// How values are written in the console, and lines are cut into words.
 
-#include "core/class_info.h"
-#include "platform/colour.h"
-#include "platform/notice.h"
+#include <zor/core/class_info.h>
+#include <zor/platform/colour.h>
+#include <zor/platform/notice.h>
 
 #include <string>
 #include <string_view>

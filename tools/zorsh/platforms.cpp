@@ -1,7 +1,7 @@
-#include "tools/zorsh/stage.h"
+#include <zor/tools/zorsh/stage.h>
 
 #ifdef ZOR_HAS_QT
-#include "tools/zorsh/qt_stage.h"
+#include <zor/tools/zorsh/qt_stage.h>
 #endif
 
 #include <array>

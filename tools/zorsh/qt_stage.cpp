@@ -1,9 +1,8 @@
-#include "tools/zorsh/qt_stage.h"
-
-#include "core/frm_Container.h"
-#include "platform/qt/container.h"
-#include "platform/qt/operator.h"
-#include "platform/qt/page_dialog.h"
+#include <zor/core/frm_Container.h>
+#include <zor/platform/qt/container.h>
+#include <zor/platform/qt/operator.h>
+#include <zor/platform/qt/page_dialog.h>
+#include <zor/tools/zorsh/qt_stage.h>
 
 #include <QApplication>
 #include <QWidget>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/zorsh/stage.h"
+#include <zor/tools/zorsh/stage.h>
 
 namespace zor::console {
 

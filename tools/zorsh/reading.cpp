@@ -1,8 +1,8 @@
 // From a name to what can be read there.
 
-#include "platform/error.h"
-#include "tools/zorsh/commands.h"
-#include "tools/zorsh/notation.h"
+#include <zor/platform/error.h>
+#include <zor/tools/zorsh/commands.h>
+#include <zor/tools/zorsh/notation.h>
 
 #include <algorithm>
 

@@ -1,7 +1,6 @@
-#include "tools/zorsh/recorder.h"
-
-#include "tools/zorsh/notation.h"
-#include "tools/zorsh/session.h"
+#include <zor/tools/zorsh/notation.h>
+#include <zor/tools/zorsh/recorder.h>
+#include <zor/tools/zorsh/session.h>
 
 #include <algorithm>
 

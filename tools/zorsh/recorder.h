@@ -2,7 +2,7 @@
 
 /// What happened to one control, and what the host's handlers do about it.
 
-#include "core/control.h"
+#include <zor/core/control.h>
 
 #include <cstddef>
 #include <memory>

@@ -1,6 +1,5 @@
-#include "tools/zorsh/script.h"
-
-#include "tools/zorsh/notation.h"
+#include <zor/tools/zorsh/notation.h>
+#include <zor/tools/zorsh/script.h>
 
 #include <algorithm>
 #include <istream>

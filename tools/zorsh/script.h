@@ -2,7 +2,7 @@
 
 /// Scripts: commands and what they are expected to print.
 
-#include "tools/zorsh/session.h"
+#include <zor/tools/zorsh/session.h>
 
 #include <iosfwd>
 #include <string>

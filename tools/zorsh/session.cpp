@@ -1,10 +1,9 @@
-#include "tools/zorsh/session.h"
-
-#include "controls/registration.h"
-#include "pages/registration.h"
-#include "platform/error.h"
-#include "tools/zorsh/commands.h"
-#include "tools/zorsh/notation.h"
+#include <zor/controls/registration.h>
+#include <zor/pages/registration.h>
+#include <zor/platform/error.h>
+#include <zor/tools/zorsh/commands.h>
+#include <zor/tools/zorsh/notation.h>
+#include <zor/tools/zorsh/session.h>
 
 #include <algorithm>
 #include <array>

@@ -2,11 +2,11 @@
 
 /// A form, its controls by name, and the commands that work on them.
 
-#include "core/control.h"
-#include "forms/form.h"
-#include "pages/page.h"
-#include "tools/zorsh/recorder.h"
-#include "tools/zorsh/stage.h"
+#include <zor/core/control.h>
+#include <zor/forms/form.h>
+#include <zor/pages/page.h>
+#include <zor/tools/zorsh/recorder.h>
+#include <zor/tools/zorsh/stage.h>
 
 #include <cstddef>
 #include <functional>

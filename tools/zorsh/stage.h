@@ -2,9 +2,9 @@
 
 /// The platform a session plays on.
 
-#include "platform/container.h"
-#include "platform/operator.h"
-#include "platform/property_page.h"
+#include <zor/platform/container.h>
+#include <zor/platform/operator.h>
+#include <zor/platform/property_page.h>
 
 #include <functional>
 #include <memory>

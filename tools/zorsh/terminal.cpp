@@ -1,6 +1,5 @@
-#include "tools/zorsh/terminal.h"
-
-#include "tools/zorsh/script.h"
+#include <zor/tools/zorsh/script.h>
+#include <zor/tools/zorsh/terminal.h>
 
 #include <iostream>
 #include <optional>

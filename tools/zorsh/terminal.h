@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/zorsh/session.h"
+#include <zor/tools/zorsh/session.h>
 
 namespace zor::console {
 

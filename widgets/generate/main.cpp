@@ -1,9 +1,9 @@
 // Writes the QWidgets out of the controls' tables: zor_enumerations.h, zor_widgets.h and zor_widgets.cpp.
 
-#include "controls/registration.h"
-#include "core/control.h"
-#include "core/setting_order.h"
-#include "units/unit_catalogue.h"
+#include <zor/controls/registration.h>
+#include <zor/core/control.h>
+#include <zor/core/setting_order.h>
+#include <zor/units/unit_catalogue.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -177,7 +177,7 @@ void declareClass(std::ostream& out, const core::ClassInfo& info)
 string header(const core::ClassRegistry& registry)
 {
     std::ostringstream out;
-    out << "#pragma once\n\n" << kNotice << "#include \"widgets/zor_control.h\"\n\nnamespace zor {\n\n";
+    out << "#pragma once\n\n" << kNotice << "#include <zor/widgets/zor_control.h>\n\nnamespace zor {\n\n";
     for (const core::ClassInfo* info : registry.classes())
         out << "class " << info->name << ";\n";
     out << '\n';
@@ -265,10 +265,10 @@ string headerOf(const core::ClassInfo& info, const std::filesystem::path& top)
 string source(const core::ClassRegistry& registry, const std::filesystem::path& top)
 {
     std::ostringstream out;
-    out << kNotice << "#include \"zor_widgets.h\"\n\n";
+    out << kNotice << "#include <zor/widgets/zor_widgets.h>\n\n";
     for (const core::ClassInfo* info : registry.classes())
-        out << "#include \"" << headerOf(*info, top) << "\"\n";
-    out << "#include \"widgets/conversion.h\"\n\n#include <array>\n\nnamespace zor {\n\n"
+        out << "#include <zor/" << headerOf(*info, top) << ">\n";
+    out << "#include <zor/widgets/conversion.h>\n\n#include <array>\n\nnamespace zor {\n\n"
            "using widgets::as;\nusing widgets::of;\n\n";
     for (const core::ClassInfo* info : registry.classes())
         defineClass(out, *info);

@@ -1,6 +1,6 @@
 // The check box as data: properties, messages, events, states, methods.
 
-#include "controls/choice/check_box/ctx_ZorCheckBox.h"
+#include <zor/controls/choice/check_box/ctx_ZorCheckBox.h>
 
 namespace zor {
 

@@ -1,6 +1,5 @@
-#include "controls/choice/check_box/ctx_ZorCheckBox.h"
-
-#include "controls/choice/bit_mask.h"
+#include <zor/controls/choice/bit_mask.h>
+#include <zor/controls/choice/check_box/ctx_ZorCheckBox.h>
 
 #include <utility>
 

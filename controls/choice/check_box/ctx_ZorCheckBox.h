@@ -2,8 +2,8 @@
 
 /// The check box: one bit of a value.
 
-#include "controls/choice/caption_choice.h"
-#include "controls/choice/check_box/check_box_events.h"
+#include <zor/controls/choice/caption_choice.h>
+#include <zor/controls/choice/check_box/check_box_events.h>
 
 namespace zor {
 

@@ -1,6 +1,6 @@
 // The combo box as data: properties, messages, events, states, methods.
 
-#include "controls/choice/combo_box/ctx_ZorComboBox.h"
+#include <zor/controls/choice/combo_box/ctx_ZorComboBox.h>
 
 namespace zor {
 

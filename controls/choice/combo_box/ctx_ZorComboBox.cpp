@@ -1,4 +1,4 @@
-#include "controls/choice/combo_box/ctx_ZorComboBox.h"
+#include <zor/controls/choice/combo_box/ctx_ZorComboBox.h>
 
 namespace zor {
 namespace {

@@ -2,8 +2,8 @@
 
 /// The combo box: one value of an enumeration, chosen from a drop-down list of named entries.
 
-#include "controls/choice/combo_box/combo_box_events.h"
-#include "controls/choice/entry_choice.h"
+#include <zor/controls/choice/combo_box/combo_box_events.h>
+#include <zor/controls/choice/entry_choice.h>
 
 namespace zor {
 

@@ -1,6 +1,5 @@
-#include "controls/choice/list_box/ctx_ZorListBox.h"
-
-#include "controls/choice/bit_mask.h"
+#include <zor/controls/choice/bit_mask.h>
+#include <zor/controls/choice/list_box/ctx_ZorListBox.h>
 
 namespace zor {
 namespace {

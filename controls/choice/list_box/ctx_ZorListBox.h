@@ -2,8 +2,8 @@
 
 /// The list box: a bit field, one entry with a check mark for each bit that has a name.
 
-#include "controls/choice/entry_choice.h"
-#include "controls/choice/list_box/list_box_events.h"
+#include <zor/controls/choice/entry_choice.h>
+#include <zor/controls/choice/list_box/list_box_events.h>
 
 namespace zor {
 

@@ -1,6 +1,6 @@
 // The list box as data: properties, messages, events, states, methods.
 
-#include "controls/choice/list_box/ctx_ZorListBox.h"
+#include <zor/controls/choice/list_box/ctx_ZorListBox.h>
 
 namespace zor {
 

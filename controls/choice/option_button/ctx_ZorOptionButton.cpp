@@ -1,4 +1,4 @@
-#include "controls/choice/option_button/ctx_ZorOptionButton.h"
+#include <zor/controls/choice/option_button/ctx_ZorOptionButton.h>
 
 #include <utility>
 

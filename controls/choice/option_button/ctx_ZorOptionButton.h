@@ -2,8 +2,8 @@
 
 /// The option button: one value of an enumeration, a button each.
 
-#include "controls/choice/caption_choice.h"
-#include "controls/choice/option_button/option_button_events.h"
+#include <zor/controls/choice/caption_choice.h>
+#include <zor/controls/choice/option_button/option_button_events.h>
 
 namespace zor {
 

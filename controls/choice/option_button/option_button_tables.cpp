@@ -1,6 +1,6 @@
 // The option button as data: properties, messages, events, states, methods.
 
-#include "controls/choice/option_button/ctx_ZorOptionButton.h"
+#include <zor/controls/choice/option_button/ctx_ZorOptionButton.h>
 
 namespace zor {
 

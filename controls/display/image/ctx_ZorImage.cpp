@@ -1,7 +1,6 @@
-#include "controls/display/image/ctx_ZorImage.h"
-
-#include "core/frm_Container.h"
-#include "platform/error.h"
+#include <zor/controls/display/image/ctx_ZorImage.h>
+#include <zor/core/frm_Container.h>
+#include <zor/platform/error.h>
 
 namespace zor {
 

@@ -2,8 +2,8 @@
 
 /// The status image: a device's status word as one picture, with a name for each bit.
 
-#include "controls/display/image/image_events.h"
-#include "core/control.h"
+#include <zor/controls/display/image/image_events.h>
+#include <zor/core/control.h>
 
 #include <array>
 #include <cstdint>

@@ -1,8 +1,8 @@
 // The status image as data: properties, messages, events, states, methods.
 
-#include "controls/display/image/ctx_ZorImage.h"
-#include "core/shared_methods.h"
-#include "core/shared_rows.h"
+#include <zor/controls/display/image/ctx_ZorImage.h>
+#include <zor/core/shared_methods.h>
+#include <zor/core/shared_rows.h>
 
 #include <array>
 

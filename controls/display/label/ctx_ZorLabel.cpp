@@ -1,4 +1,4 @@
-#include "controls/display/label/ctx_ZorLabel.h"
+#include <zor/controls/display/label/ctx_ZorLabel.h>
 
 #include <utility>
 

@@ -2,8 +2,8 @@
 
 /// The label: one device parameter as plain text, for reading only.
 
-#include "controls/display/label/label_events.h"
-#include "core/control.h"
+#include <zor/controls/display/label/label_events.h>
+#include <zor/core/control.h>
 
 #include <array>
 #include <memory>

@@ -1,8 +1,8 @@
 // The label as data: properties, messages, events, states, methods.
 
-#include "controls/display/label/ctx_ZorLabel.h"
-#include "core/shared_methods.h"
-#include "core/shared_rows.h"
+#include <zor/controls/display/label/ctx_ZorLabel.h>
+#include <zor/core/shared_methods.h>
+#include <zor/core/shared_rows.h>
 
 #include <array>
 

@@ -1,7 +1,6 @@
-#include "controls/numeric/slider/ctx_ZorSlider.h"
-
-#include "platform/error.h"
-#include "platform/number_text.h"
+#include <zor/controls/numeric/slider/ctx_ZorSlider.h>
+#include <zor/platform/error.h>
+#include <zor/platform/number_text.h>
 
 #include <algorithm>
 #include <cmath>

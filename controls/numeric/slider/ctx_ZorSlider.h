@@ -2,8 +2,8 @@
 
 /// The slider: one device parameter as a position on a track.
 
-#include "controls/numeric/range_control.h"
-#include "controls/numeric/slider/slider_events.h"
+#include <zor/controls/numeric/range_control.h>
+#include <zor/controls/numeric/slider/slider_events.h>
 
 #include <array>
 #include <cstdint>

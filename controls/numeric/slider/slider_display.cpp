@@ -1,6 +1,6 @@
 // How the slider looks: visibility and placement.
 
-#include "controls/numeric/slider/ctx_ZorSlider.h"
+#include <zor/controls/numeric/slider/ctx_ZorSlider.h>
 
 #include <algorithm>
 

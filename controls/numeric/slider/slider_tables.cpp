@@ -1,7 +1,7 @@
 // The slider as data: properties, messages, events, states, methods.
 
-#include "controls/numeric/range_rows.h"
-#include "controls/numeric/slider/ctx_ZorSlider.h"
+#include <zor/controls/numeric/range_rows.h>
+#include <zor/controls/numeric/slider/ctx_ZorSlider.h>
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "controls/numeric/text_box/ctx_ZorTextBox.h"
+#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
 
 namespace zor {
 

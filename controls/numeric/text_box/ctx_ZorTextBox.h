@@ -2,9 +2,9 @@
 
 /// The text box: one device parameter as a number in a unit, or as free text.
 
-#include "controls/numeric/entry_field.h"
-#include "controls/numeric/text_box/text_box_events.h"
-#include "controls/numeric/unit_control.h"
+#include <zor/controls/numeric/entry_field.h>
+#include <zor/controls/numeric/text_box/text_box_events.h>
+#include <zor/controls/numeric/unit_control.h>
 
 #include <cstdint>
 #include <memory>

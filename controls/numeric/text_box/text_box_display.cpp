@@ -1,6 +1,6 @@
 // How the text box looks: colours, visibility, placement.
 
-#include "controls/numeric/text_box/ctx_ZorTextBox.h"
+#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
 
 namespace zor {
 

@@ -1,8 +1,8 @@
 // What happens while the operator works in the field: selection, typing, commit, undo.
 
-#include "controls/numeric/text_box/ctx_ZorTextBox.h"
-#include "platform/error.h"
-#include "platform/text.h"
+#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
+#include <zor/platform/error.h>
+#include <zor/platform/text.h>
 
 namespace zor {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/numeric/numeric_events.h"
+#include <zor/controls/numeric/numeric_events.h>
 
 namespace zor {
 

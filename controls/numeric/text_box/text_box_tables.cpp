@@ -1,7 +1,7 @@
 // The text box as data: properties, messages, events, states, methods.
 
-#include "controls/numeric/text_box/ctx_ZorTextBox.h"
-#include "controls/numeric/unit_rows.h"
+#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
+#include <zor/controls/numeric/unit_rows.h>
 
 #include <array>
 

@@ -1,6 +1,5 @@
-#include "controls/numeric/up_down/ctx_ZorUpDown.h"
-
-#include "platform/number_text.h"
+#include <zor/controls/numeric/up_down/ctx_ZorUpDown.h>
+#include <zor/platform/number_text.h>
 
 #include <algorithm>
 #include <array>

@@ -2,9 +2,9 @@
 
 /// The up-down: one device parameter as a whole number that is typed or stepped.
 
-#include "controls/numeric/entry_field.h"
-#include "controls/numeric/range_control.h"
-#include "controls/numeric/up_down/up_down_events.h"
+#include <zor/controls/numeric/entry_field.h>
+#include <zor/controls/numeric/range_control.h>
+#include <zor/controls/numeric/up_down/up_down_events.h>
 
 #include <array>
 #include <cstdint>

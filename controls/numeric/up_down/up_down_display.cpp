@@ -1,6 +1,6 @@
 // How the up-down looks: colours, visibility, placement.
 
-#include "controls/numeric/up_down/ctx_ZorUpDown.h"
+#include <zor/controls/numeric/up_down/ctx_ZorUpDown.h>
 
 namespace zor {
 

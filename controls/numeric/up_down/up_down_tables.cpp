@@ -1,7 +1,7 @@
 // The up-down as data: properties, messages, events, states, methods.
 
-#include "controls/numeric/range_rows.h"
-#include "controls/numeric/up_down/ctx_ZorUpDown.h"
+#include <zor/controls/numeric/range_rows.h>
+#include <zor/controls/numeric/up_down/ctx_ZorUpDown.h>
 
 #include <array>
 

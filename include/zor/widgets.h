@@ -1,0 +1,6 @@
+#pragma once
+
+/// The nine controls as QWidgets, and the loader of forms that hold them.
+
+#include <zor/widgets/zor_widgets.h>
+#include <zor/widgets/form_loader.h>
