@@ -92,16 +92,21 @@ int serve(const ParameterFile& file, int port)
 
 int finish(Window& window, const Settings& settings)
 {
-    std::cout << window.session().report();
+    Session& session = window.session();
+    if (settings.runFor > 0 || !settings.screenshot.empty())
+        std::cout << session.report();
+    if (!session.recordError().isEmpty())
+        return fail(kUsage, settings.log + ": " + session.recordError().toStdString());
     if (!settings.screenshot.empty() && !window.grab().save(QString::fromStdString(settings.screenshot)))
         return fail(kUsage, "cannot write " + settings.screenshot);
     if (settings.runFor == 0)
         return kWell;
-    const Session& session = window.session();
-    const int rounds = window.session().poller().rounds();
+    const int rounds = session.poller().rounds();
     if (session.failedRounds() > 0 || rounds == 0)
         return fail(kUnhealthy, "the device did not answer in " + std::to_string(session.failedRounds()) + " of " +
-                                    std::to_string(rounds) + " rounds");
+                                    std::to_string(rounds) + " rounds: " + session.poller().failure().reason);
+    if (!session.hasValues())
+        return fail(kUnhealthy, "the device has none of the parameters");
     return kWell;
 }
 
@@ -131,19 +136,25 @@ int monitor(const Settings& settings, ParameterFile file)
         form = std::make_unique<GeneratedForm>(session->file(), classes);
     else
         form = std::make_unique<UiForm>(QString::fromStdString(settings.form), classes);
+    const int tabs = form->tabs() != nullptr ? std::max(1, form->tabs()->count()) : 1;
+    if (settings.tab >= tabs)
+        return fail(kUsage,
+                    "--tab " + std::to_string(settings.tab) + ": the last tab is " + std::to_string(tabs - 1));
     if (form->tabs() != nullptr)
         form->tabs()->setCurrentIndex(settings.tab);
     Window window(std::move(session), std::move(form), languages, device.get());
     if (settings.units != "form")
         window.setUnits(kUnitSystems.at(settings.units));
     window.show();
-    window.session().start(settings.period);
+    if (settings.runFor > 0 || log)
+        window.session().readEverything();
+    window.session().start(settings.period, settings.timeout);
     if (settings.runFor > 0) {
         constexpr int kSecond = 1000;
         QTimer::singleShot(settings.runFor * kSecond, &window, [&] { window.closeUnasked(); });
     }
     QApplication::exec();
-    return settings.runFor > 0 || !settings.screenshot.empty() ? finish(window, settings) : kWell;
+    return finish(window, settings);
 }
 
 int run(int argc, char** argv)

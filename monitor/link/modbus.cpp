@@ -1,6 +1,7 @@
 #include <zor/monitor/link/modbus.h>
 
 #include <algorithm>
+#include <array>
 
 namespace zor::monitor {
 namespace {
@@ -8,6 +9,20 @@ namespace {
 using Bytes = std::vector<std::uint8_t>;
 
 constexpr unsigned kExceptionBit = 0x80;
+
+// By code; the protocol leaves 0, 7 and 9 without a meaning for these requests.
+constexpr std::array<std::string_view, 12> kExceptions{"",
+                                                       "the device does not know this function",
+                                                       "the device does not have this address",
+                                                       "the device does not take this value",
+                                                       "the device has failed",
+                                                       "the device is still working on it",
+                                                       "the device is busy",
+                                                       "",
+                                                       "the device's memory is damaged",
+                                                       "",
+                                                       "the gateway has no path to the device",
+                                                       "the device behind the gateway does not answer"};
 
 void put(Bytes& bytes, std::uint16_t word)
 {
@@ -51,6 +66,11 @@ Reply judgeRead(const Request& request, std::span<const std::uint8_t> pdu)
 
 } // namespace
 
+std::string_view exceptionMeaning(std::uint8_t exception) noexcept
+{
+    return exception < kExceptions.size() ? kExceptions[exception] : std::string_view();
+}
+
 Request writeRequest(std::uint16_t address, Registers values)
 {
     const auto count = static_cast<std::uint16_t>(values.size());
@@ -83,6 +103,8 @@ Reply judgeReply(const Request& request, std::span<const std::uint8_t> pdu)
         reply.outcome = Outcome::Refused;
         reply.exception = pdu[1];
         reply.reason = "exception " + std::to_string(reply.exception);
+        if (const std::string_view meaning = exceptionMeaning(reply.exception); !meaning.empty())
+            reply.reason.append(": ").append(meaning);
         return reply;
     }
     if (pdu[0] != function)

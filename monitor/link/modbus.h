@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace zor::monitor {
@@ -35,7 +36,7 @@ struct Reply {
     Outcome outcome = Outcome::NoAnswer;
     std::uint8_t exception = 0; ///< of a refusal
     Registers registers{};      ///< of a read that was answered, as many as asked for
-    std::string reason{};       ///< of a failure, in English, for the log
+    std::string reason{};       ///< of a failure, in English
     int milliseconds = 0;       ///< from sending to the last byte
 };
 
@@ -49,6 +50,9 @@ struct Reply {
 {
     return exception == 5 || exception == 6;
 }
+
+/// What an exception says, in English; empty for a code without a meaning.
+[[nodiscard]] std::string_view exceptionMeaning(std::uint8_t exception) noexcept;
 
 /// Function code and data.
 [[nodiscard]] std::vector<std::uint8_t> requestPdu(const Request& request);

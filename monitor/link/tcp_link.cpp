@@ -1,6 +1,7 @@
 #include <zor/monitor/link/tcp_link.h>
 
 #include <algorithm>
+#include <array>
 
 namespace zor::monitor {
 namespace {
@@ -20,6 +21,25 @@ unsigned word(const QByteArray& bytes, int at)
     return static_cast<unsigned>(static_cast<quint8>(bytes[at])) << 8U | static_cast<quint8>(bytes[at + 1]);
 }
 
+struct ErrorRow {
+    QAbstractSocket::SocketError error;
+    const char* reason;
+};
+
+// The same words whatever language the libraries speak: they stand in the record.
+constexpr std::array kErrors{
+    ErrorRow{QAbstractSocket::ConnectionRefusedError, "the connection was refused"},
+    ErrorRow{QAbstractSocket::RemoteHostClosedError, "the device closed the connection"},
+    ErrorRow{QAbstractSocket::HostNotFoundError, "there is no such host"},
+    ErrorRow{QAbstractSocket::NetworkError, "the network does not reach the device"},
+};
+
+QString reasonOf(const QTcpSocket& socket)
+{
+    const auto* const row = std::ranges::find(kErrors, socket.error(), &ErrorRow::error);
+    return row != kErrors.end() ? QString(row->reason) : socket.errorString();
+}
+
 } // namespace
 
 TcpLink::TcpLink(QString host, quint16 port, std::uint8_t unit, int deadlineMilliseconds)
@@ -28,7 +48,7 @@ TcpLink::TcpLink(QString host, quint16 port, std::uint8_t unit, int deadlineMill
     m_socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
     connect(&m_socket, &QTcpSocket::connected, this, [this] { write(); });
     connect(&m_socket, &QTcpSocket::readyRead, this, [this] { receive(); });
-    connect(&m_socket, &QTcpSocket::errorOccurred, this, [this] { fail(m_socket.errorString()); });
+    connect(&m_socket, &QTcpSocket::errorOccurred, this, [this] { fail(reasonOf(m_socket)); });
 }
 
 TcpLink::~TcpLink()

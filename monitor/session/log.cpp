@@ -1,9 +1,7 @@
+#include <zor/monitor/data/json_document.h>
 #include <zor/monitor/session/log.h>
 
 #include <QDateTime>
-#include <QDebug>
-
-#include <stdexcept>
 
 namespace zor::monitor {
 
@@ -19,10 +17,11 @@ std::string csvField(std::string_view text)
 
 Log::Log(const QString& file) : m_file(file)
 {
-    if (!m_file.open(QIODevice::WriteOnly | QIODevice::Append))
-        throw std::runtime_error((file + ": " + m_file.errorString()).toStdString());
+    // Without a buffer: what could not be written must not be held back and come out of turn later.
+    if (!m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
+        throw FileError(file.toStdString(), 0, m_file.errorString().toStdString());
     if (m_file.size() == 0)
-        m_file.write("time,event,tag,old,new,result\n");
+        write("time,event,tag,old,new,result\n");
 }
 
 void Log::record(std::string_view event, std::string_view tag, std::string_view oldText, std::string_view newText,
@@ -32,8 +31,18 @@ void Log::record(std::string_view event, std::string_view tag, std::string_view 
     for (const std::string_view field : {event, tag, oldText, newText, result})
         line.append(",").append(csvField(field));
     line.push_back('\n');
-    if (m_file.write(line.data(), static_cast<qint64>(line.size())) < 0 || !m_file.flush())
-        qWarning("The log cannot be written: %s", qPrintable(m_file.errorString()));
+    write(std::move(line));
+}
+
+void Log::write(std::string line)
+{
+    if (m_torn)
+        line.insert(0, "\n");
+    const auto size = static_cast<qint64>(line.size());
+    const qint64 written = m_file.write(line.data(), size);
+    m_torn = written != size && (m_torn || written > 0);
+    if (written != size && m_error.isEmpty())
+        m_error = m_file.errorString();
 }
 
 } // namespace zor::monitor

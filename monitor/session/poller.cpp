@@ -104,6 +104,8 @@ void Poller::hear(const Reply& reply)
     m_todo.pop_front();
     const ReadOutcome outcome = outcomeOf(reply);
     const bool answered = outcome != ReadOutcome::NoAnswer;
+    if (!answered)
+        m_failure = reply;
     const std::optional<Cut> cut = cutOf(m_file.parameters, batch);
     if (cut && (outcome == ReadOutcome::NotAvailable || (!answered && m_answered))) {
         divide(batch, *cut);

@@ -54,6 +54,8 @@ public:
     [[nodiscard]] static Request readRequest(const Location& location);
 
     [[nodiscard]] int rounds() const { return m_rounds; }
+    /// Why the last request that failed was not answered.
+    [[nodiscard]] const Reply& failure() const { return m_failure; }
 
 private:
     void tick();
@@ -74,6 +76,7 @@ private:
     /// Parameters whose read timed out while others were answered; they come last, so that they hold up nobody.
     std::set<std::size_t> m_silent;
     std::deque<Batch> m_todo;
+    Reply m_failure;
     int m_rounds = 0;
     bool m_inRound = false;
     bool m_late = false;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 #include <utility>
 
 namespace zor::monitor {
@@ -69,19 +70,25 @@ void Session::bind(core::Control& control)
     m_bindings.push_back(std::move(binding));
 }
 
-void Session::start(int periodMilliseconds) { m_poller.start(periodMilliseconds); }
+void Session::start(int periodMilliseconds, int timeoutMilliseconds)
+{
+    m_timeout = timeoutMilliseconds;
+    setPeriod(periodMilliseconds);
+    m_poller.start(periodMilliseconds);
+}
 
 void Session::setPeriod(int milliseconds)
 {
     m_poller.setPeriod(milliseconds);
-    m_link->setDeadline(milliseconds);
+    m_link->setDeadline(m_timeout > 0 ? m_timeout : milliseconds);
 }
 
 // --- Reading
 
 std::vector<std::size_t> Session::wanted()
 {
-    std::vector<std::size_t> parameters;
+    std::vector<std::size_t> parameters(m_readsAll ? m_states.size() : 0);
+    std::iota(parameters.begin(), parameters.end(), std::size_t{0});
     for (std::size_t i = 0; i < m_bindings.size(); ++i) {
         Binding& binding = *m_bindings[i];
         if (binding.parameter() == nullptr)
@@ -300,9 +307,11 @@ bool Session::setUnit(Binding& binding, MEAS_TYPE unit)
 
 void Session::logRead(std::size_t parameter, const Reading& reading)
 {
-    const State& state = m_states[parameter];
-    if (m_log == nullptr || state.outcome == reading.outcome)
+    State& state = m_states[parameter];
+    // Waiting is not an outcome yet: a slow or a silent device would fill the record with it.
+    if (m_log == nullptr || reading.outcome == ReadOutcome::Late || state.recorded == reading.outcome)
         return;
+    state.recorded = reading.outcome;
     const Parameter& row = m_file.parameters[parameter];
     m_log->record("read", row.tag, recordText(row, state.last), recordText(row, reading.registers),
                   withReason(kReadWords[static_cast<std::size_t>(reading.outcome)], reading.reason));
@@ -315,6 +324,11 @@ void Session::logWrite(const Change& change, const WriteResult& result, std::str
     const Parameter& row = m_file.parameters[change.parameter];
     m_log->record("write", row.tag, recordText(row, change.before, change.mask),
                   recordText(row, change.target, change.mask), withReason(outcome, result.reason));
+}
+
+bool Session::hasValues() const
+{
+    return std::ranges::any_of(m_states, [](const State& state) { return !state.last.empty(); });
 }
 
 std::string Session::report() const

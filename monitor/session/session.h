@@ -31,8 +31,11 @@ public:
     /// Takes a control under the session's care: by its DeviceTag it finds its parameter. The control must
     /// outlive the session.
     void bind(core::Control& control);
-    void start(int periodMilliseconds);
+    /// A timeout of 0 is the poll period, whatever that is set to.
+    void start(int periodMilliseconds, int timeoutMilliseconds = 0);
     void setPeriod(int milliseconds);
+    /// Reads every parameter of the file, seen or not: for a record or a report that is to be whole.
+    void readEverything() { m_readsAll = true; }
 
     /// Whether the operator can see a control; without it, he sees all.
     std::function<bool(core::Control&)> isVisible;
@@ -70,6 +73,10 @@ public:
     /// Whether the device answered in the last round.
     [[nodiscard]] bool isHealthy() const { return m_healthy; }
     [[nodiscard]] int failedRounds() const { return m_failedRounds; }
+    /// Whether the device has had a value for at least one parameter.
+    [[nodiscard]] bool hasValues() const;
+    /// Why the record is not whole; empty when it is, or when there is none.
+    [[nodiscard]] QString recordError() const { return m_log != nullptr ? m_log->error() : QString(); }
     /// Device type and firmware version, once they are known.
     [[nodiscard]] const std::string& deviceType() const { return m_type; }
     [[nodiscard]] const std::string& deviceVersion() const { return m_version; }
@@ -83,6 +90,7 @@ private:
         Registers last{};    ///< as read
         Registers written{}; ///< by us, as read back; empty when somebody has changed it since
         ReadOutcome outcome = ReadOutcome::Late;
+        ReadOutcome recorded = ReadOutcome::Late; ///< the last outcome in the record; never late again
         std::optional<Change> unconfirmed{};
         qint64 readAt = -1; ///< on the session's clock
         bool wasModified = false;
@@ -121,7 +129,9 @@ private:
     std::string m_language = "en";
     std::string m_type;
     std::string m_version;
+    int m_timeout = 0;
     int m_failedRounds = 0;
+    bool m_readsAll = false;
     bool m_healthy = false;
 };
 

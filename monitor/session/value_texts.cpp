@@ -44,6 +44,30 @@ std::string describeNumber(const Parameter& parameter, double value, MEAS_TYPE s
     return formatValueText(convert(value, parameter.unitType, parameter.unit, shown), shown, digits);
 }
 
+/// The shortest text that reads back as the number, without an exponent as far as people read it so.
+template <class Number>
+std::string shortest(Number number)
+{
+    constexpr double kLeast = 1e-6;
+    constexpr double kMost = 1e15;
+    const double size = std::fabs(static_cast<double>(number));
+    const bool plain = number == 0 || (size >= kLeast && size < kMost);
+    std::array<char, 64> text{};
+    const auto format = plain ? std::chars_format::fixed : std::chars_format::scientific;
+    return {text.data(), std::to_chars(text.data(), text.data() + text.size(), number, format).ptr};
+}
+
+/// Scaling an integer leaves digits behind that neither the device nor the operator has put there.
+double withoutRest(double value)
+{
+    constexpr int kExact = 15;
+    std::array<char, 32> text{};
+    char* const end =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, kExact).ptr;
+    std::from_chars(text.data(), end, value);
+    return value;
+}
+
 } // namespace
 
 std::int32_t decodeInteger(const Location& location, std::span<const std::uint16_t> registers)
@@ -80,9 +104,11 @@ std::string recordText(const Parameter& parameter, std::span<const std::uint16_t
     const Variant value = named || registers.empty() ? Variant() : decode(parameter, registers);
     if (!value.isNumber())
         return describe(parameter, registers, parameter.unit, "en", mask).text;
-    std::array<char, 32> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value.number()).ptr;
-    return {digits.data(), end};
+    switch (parameter.location.type) {
+    case ValueType::Float32: return shortest(static_cast<float>(value.number()));
+    case ValueType::Float64: return shortest(value.number());
+    default: return shortest(withoutRest(value.number()));
+    }
 }
 
 } // namespace zor::monitor

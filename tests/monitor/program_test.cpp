@@ -38,19 +38,27 @@ TEST(Program, RunsUnattendedAndLeavesAReportAPictureAndARecord)
     EXPECT_FALSE(QImage(picture).isNull());
     QFile record(log);
     ASSERT_TRUE(record.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(QString(record.readAll()).contains(",read,Distance,?,62500,live\n"));
+    const QString lines = record.readAll();
+    EXPECT_TRUE(lines.contains(",read,TankHeight,?,125000,live\n")) << "of a tab that nobody has opened";
+    EXPECT_FALSE(good.out.contains("not read")) << good.out.toStdString();
 }
 
 TEST(Program, SaysWhyItCannotRun)
 {
     QTemporaryDir folder;
-    QFile file(folder.filePath("bad.json"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("{\n\"parameters\": [\n{\"tag\": 5}]}");
-    file.close();
-    QTcpServer taken;
-    ASSERT_TRUE(taken.listen(QHostAddress::LocalHost));
-    const QString port = QString::number(taken.serverPort());
+    const auto fileOf = [&](const char* name, const char* text) {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        return file.fileName();
+    };
+    const QString bad = fileOf("bad.json", "{\n\"parameters\": [\n{\"tag\": 5}]}");
+    const QString absent = fileOf("absent.json", R"({"parameters": [{"tag": "A", "bank": "input", "address": 0,
+        "type": "uint16", "simulation": {"absent": true}}]})");
+    QTcpServer silent;
+    ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
+    const QString port = QString::number(silent.serverPort());
+    const QString record = folder.filePath("log.csv");
     struct Row {
         QStringList arguments;
         int status;
@@ -61,12 +69,16 @@ TEST(Program, SaysWhyItCannotRun)
         {{"--period", "5"}, 2, "--period"},
         {{"--device", "tcp://"}, 2, "tcp://: not a device"},
         {{"--device", "rtu:/dev/x?baud=fast"}, 2, "baud is a number"},
-        {{"--device", "127.0.0.1:1", "--run-for", "1"}, 1, "the device did not answer in"},
+        {{"--device", "127.0.0.1:1", "--run-for", "1"}, 1, "rounds: the connection was refused"},
+        {{"--device", "127.0.0.1:" + port, "--run-for", "2", "--log", record}, 1, "no complete answer in time"},
+        {{"--parameters", absent, "--run-for", "1"}, 1, "the device has none of the parameters"},
+        {{"--tab", "4"}, 2, "--tab 4: the last tab is 3"},
         {{"--device", "rtu:/dev/there-is-none", "--run-for", "1"}, 1, "the device did not answer in"},
-        {{"--parameters", file.fileName()}, 2, file.fileName() + ":3: a text is expected here"},
+        {{"--parameters", bad}, 2, bad + ":3: a text is expected here"},
         {{"--parameters", folder.filePath("none.json")}, 2, "none.json: "},
-        {{"--form", file.fileName()}, 2, "bad.json:1: "},
-        {{"--log", folder.filePath("no/log.csv")}, 1, "no/log.csv: "},
+        {{"--form", bad}, 2, "bad.json:1: "},
+        {{"--log", folder.filePath("no/log.csv")}, 2, "no/log.csv: "},
+        {{"--log", "/dev/full", "--run-for", "1"}, 2, "/dev/full: No space left on device"},
         {{"--screenshot", folder.filePath("no/a.png"), "--run-for", "1"}, 2, "cannot write"},
         {{"--serve", port}, 2, "port " + port + ": "},
     };
@@ -77,6 +89,9 @@ TEST(Program, SaysWhyItCannotRun)
             << row.arguments.join(' ').toStdString() << ": " << bad.error.toStdString();
     }
     EXPECT_EQ(run({"--help"}).status, 0);
+    QFile lines(record);
+    ASSERT_TRUE(lines.open(QIODevice::ReadOnly));
+    EXPECT_EQ(lines.readAll().count('\n'), 25) << "a heading, and once for each parameter that nobody answers";
 }
 
 } // namespace

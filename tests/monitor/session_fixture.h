@@ -74,7 +74,7 @@ struct Host {
     {
         for (const auto& control : controls)
             session->bind(*control);
-        session->start(kPeriod);
+        session->start(kPeriod, kDeadline);
         EXPECT_TRUE(untilLive());
     }
     bool untilLive()
