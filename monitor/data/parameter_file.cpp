@@ -1,6 +1,7 @@
 #include <zor/monitor/data/codec.h>
 #include <zor/monitor/data/json_fields.h>
 #include <zor/monitor/data/parameter_file.h>
+#include <zor/monitor/data/parameter_rules.h>
 #include <zor/units/unit_catalogue.h>
 
 #include <algorithm>
@@ -164,16 +165,6 @@ void readAppearance(Fields& fields, Parameter& parameter)
         readSupported(*supported, appearance.supported);
 }
 
-/// The class that shows a parameter when the file names none.
-std::string usualControl(const Parameter& parameter)
-{
-    if (!parameter.entries.empty())
-        return "ctx_ZorComboBox";
-    if (!parameter.bits.empty())
-        return parameter.writable ? "ctx_ZorListBox" : "ctx_ZorImage";
-    return parameter.location.type == ValueType::Bit ? "ctx_ZorCheckBox" : "ctx_ZorTextBox";
-}
-
 Parameter readParameter(const Value& value)
 {
     Parameter parameter;
@@ -219,6 +210,7 @@ Parameter readParameter(const Value& value)
     readAppearance(fields, parameter);
     if (parameter.appearance.control.empty())
         parameter.appearance.control = usualControl(parameter);
+    checkParameter(parameter, fields);
     if (const auto simulation = fields.take("simulation"))
         parameter.simulation = readSimulation(*simulation, location.type);
     fields.finish();

@@ -106,8 +106,14 @@ TEST(Interop, TheSchemaAgreesWithTheReader)
          {Row{"", ""}, Row{"\"address\": 1", "\"address\": 65536"}, Row{"uint16\"", "text\""},
           Row{"uint16\"", "uint16\", \"access\": \"always\""}, Row{"\"tag\"", "\"tga\""},
           Row{"holding\"", "input\", \"access\": \"write\""}, Row{"uint16\"", "bit\", \"scale\": 2"},
-          Row{"uint16\"", "uint16\", \"unit\": \"LgthU_MM\""},
-          Row{"uint16\"", "uint16\", \"unit\": \"Length\""}}) {
+          Row{"uint16\"", "uint16\", \"unit\": \"LgthU_MM\""}, Row{"uint16\"", "uint16\", \"unit\": \"Length\""},
+          Row{"uint16\"", "uint16\", \"unit\": \"LgthU_MM\", \"digits\": 2"},
+          Row{"uint16\"", "bit\", \"bit\": 1, \"minimum\": 0"},
+          Row{"uint16\"", "uint16\", \"control\": \"ctx_ZorKnob\""},
+          Row{"uint16\"", "uint16\", \"control\": \"ctx_ZorComboBox\""},
+          Row{"uint16\"", "uint16\", \"control\": \"ctx_ZorSlider\", \"minimum\": 1"},
+          Row{"uint16\"", "uint16\", \"control\": \"ctx_ZorSlider\", \"minimum\": 1, \"maximum\": 2"},
+          Row{"uint16\"", "int16\", \"entries\": [{\"value\": 40000, \"text\": \"a\"}]"}}) {
         std::string text = good;
         text.replace(text.find(row.from), std::string_view(row.from).size(), row.to);
         QFile file(folder.filePath("test.json"));
