@@ -1,14 +1,15 @@
 #include <zor/platform/error.h>
 #include <zor/platform/number_text.h>
+#include <zor/platform/powers_of_ten.h>
 #include <zor/platform/regional.h>
-#include <zor/platform/text.h>
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
-#include <limits>
+#include <optional>
+#include <utility>
 
 namespace zor::platform {
 namespace {
@@ -85,160 +86,72 @@ void dropTrailingZeros(Decimal& decimal)
         --decimal.count;
 }
 
-bool isDigit(char c) noexcept { return c >= '0' && c <= '9'; }
-
-/// Reads a number text; `out` receives the same number in the form from_chars reads, byte by byte.
-template <class Out>
-bool scanNumber(std::string_view text, Out&& out) noexcept
+/// The value in whole units of 10^-decimals, rounded as its shortest decimal, where that needs no shortest
+/// decimal: the middle between two such numbers of 14 digits has 15, so it is a shortest decimal itself, and a
+/// value has reached it when it has reached the double nearest to it. Nothing for larger numbers.
+std::optional<std::uint64_t> roundedShort(double magnitude, int decimals) noexcept
 {
-    const RegionalSettings& regional = regionalSettings();
-    text = trimmed(text);
-    if (!text.empty() && (text.front() == '-' || text.front() == '+')) {
-        if (text.front() == '-')
-            out('-');
-        text.remove_prefix(1);
-    }
-    bool digits = false;
-    while (!text.empty()) {
-        if (isDigit(text.front())) {
-            digits = true;
-            out(text.front());
-            text.remove_prefix(1);
-        } else if (digits && !regional.group.empty() && text.starts_with(regional.group) &&
-                   text.size() > regional.group.size() && isDigit(text[regional.group.size()])) {
-            text.remove_prefix(regional.group.size());
-        } else {
-            break;
-        }
-    }
-    if (text.starts_with(regional.decimal)) {
-        text.remove_prefix(regional.decimal.size());
-        out(digits ? '.' : '0');
-        if (!digits)
-            out('.');
-        while (!text.empty() && isDigit(text.front())) {
-            digits = true;
-            out(text.front());
-            text.remove_prefix(1);
-        }
-    }
-    if (!digits)
-        return false;
-    if (text.empty())
-        return true;
-    if (text.front() != 'e' && text.front() != 'E')
-        return false;
-    text.remove_prefix(1);
-    out('e');
-    if (!text.empty() && (text.front() == '-' || text.front() == '+')) {
-        if (text.front() == '-')
-            out('-');
-        text.remove_prefix(1);
-    }
-    if (text.empty())
-        return false;
-    for (const char c : text) {
-        if (!isDigit(c))
-            return false;
-        out(c);
-    }
-    return true;
-}
-
-constexpr std::array kPowersOfTen{1.0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
-
-/// A number of few digits without an exponent, as the form shows it: digits and power of ten are exact, so is the
-/// rounding of their quotient. False for all others.
-bool parseShort(const char* begin, const char* end, double& value) noexcept
-{
-    constexpr std::ptrdiff_t kMost = 17; // sign, point and 15 digits
-    if (end - begin > kMost)
-        return false;
-    const bool negative = *begin == '-';
-    std::uint64_t digits = 0;
-    const char* point = end;
-    for (const char* at = begin + (negative ? 1 : 0); at != end; ++at) {
-        if (*at == '.')
-            point = at + 1;
-        else if (isDigit(*at))
-            digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
-        else
-            return false;
-    }
-    const auto decimals = static_cast<std::size_t>(end - point);
-    if (digits > 999'999'999'999'999 || decimals >= kPowersOfTen.size())
-        return false;
-    const double magnitude = static_cast<double>(digits) / kPowersOfTen[decimals];
-    value = negative ? -magnitude : magnitude;
-    return true;
-}
-
-bool parse(const char* begin, const char* end, double& value) noexcept
-{
-    if (parseShort(begin, end, value))
-        return true;
-    double result = 0;
-    const auto [at, error] = std::from_chars(begin, end, result);
-    if (error == std::errc::result_out_of_range) {
-        // Too small is 0; too large has no value. from_chars tells neither, so the exponent must.
-        std::string_view text(begin, static_cast<std::size_t>(end - begin));
-        const auto exponent = text.find('e');
-        const std::string_view mantissa = text.substr(0, exponent);
-        long long power = 0;
-        if (exponent != std::string_view::npos &&
-            std::from_chars(begin + exponent + 1, end, power).ec == std::errc::result_out_of_range)
-            power = text[exponent + 1] == '-' ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
-        const auto first = mantissa.find_first_of("123456789");
-        const auto dot = std::min(mantissa.find('.'), mantissa.size());
-        const long long magnitude = static_cast<long long>(dot) - static_cast<long long>(first) + power;
-        if (magnitude > 0)
-            return false;
-        value = text.front() == '-' ? -0.0 : 0.0;
-        return true;
-    }
-    if (error != std::errc())
-        return false;
-    value = result;
-    return true;
-}
-
-/// Most values by far are small and not close to a half: then the value and its shortest decimal round alike, and
-/// whole numbers do. False for all others, and `text` is as it was.
-bool formatSmall(double value, int decimals, std::string& text)
-{
-    constexpr int kMostDecimals = 3;
-    constexpr double kLimit = 1e9;
-    constexpr double kCloseToHalf = 1e-6; // scaling errs by less than 1e9 x 2^-52
-    if (decimals < 0 || decimals > kMostDecimals)
-        return false;
-    const double scaled = std::fabs(value) * kPowersOfTen[static_cast<std::size_t>(decimals)];
+    constexpr double kLimit = 1e14;
+    if (decimals < 0 || std::cmp_greater_equal(decimals, kPowersOfTen.size()))
+        return std::nullopt;
+    const double power = kPowersOfTen[static_cast<std::size_t>(decimals)];
+    const double scaled = magnitude * power;
     if (!(scaled < kLimit))
-        return false;
-    auto number = static_cast<std::uint32_t>(scaled);
-    const double fraction = scaled - number;
-    if (std::fabs(fraction - 0.5) <= kCloseToHalf)
-        return false;
-    number += fraction > 0.5 ? 1 : 0;
-    std::array<char, 16> digits{};
-    char* const end = digits.data() + digits.size();
-    char* at = end;
-    for (; number != 0 || end - at <= decimals; number /= 10)
-        *--at = static_cast<char>('0' + number % 10);
-    if (std::signbit(value))
-        text.push_back('-');
-    text.append(at, end - decimals);
-    if (decimals > 0)
-        text.append(regionalSettings().decimal).append(end - decimals, end);
-    return true;
+        return std::nullopt;
+    const auto whole = static_cast<std::int64_t>(scaled);
+    const double middle = (static_cast<double>(whole) + 0.5) / power;
+    return static_cast<std::uint64_t>(magnitude >= middle ? whole + 1 : whole);
+}
+
+/// "00" to "99": every division yields two digits.
+constexpr auto kPairs = [] {
+    std::array<std::array<char, 2>, 100> pairs{};
+    for (std::size_t i = 0; i < pairs.size(); ++i)
+        pairs[i] = {static_cast<char>('0' + i / 10), static_cast<char>('0' + i % 10)};
+    return pairs;
+}();
+
+std::size_t digitCount(std::uint64_t number) noexcept
+{
+    std::size_t count = 1;
+    for (std::uint64_t next = 10; number >= next; next *= 10)
+        ++count;
+    return count;
+}
+
+/// The text of a number of units of 10^-decimals, of 15 digits at the most.
+std::string shortText(bool isNegative, std::uint64_t number, std::size_t decimals, std::string_view point)
+{
+    const std::size_t digits = std::max(digitCount(number), decimals + 1);
+    std::string text(digits + (isNegative ? 1 : 0) + (decimals > 0 ? point.size() : 0), '-');
+    char* at = text.data() + text.size();
+    const auto putDigits = [&](std::size_t count) {
+        for (; count > 1; count -= 2) {
+            at -= 2;
+            std::copy_n(kPairs[number % 100].data(), 2, at);
+            number /= 100;
+        }
+        if (count == 1) {
+            *--at = static_cast<char>('0' + number % 10);
+            number /= 10;
+        }
+    };
+    if (decimals > 0) {
+        putDigits(decimals);
+        at = std::copy_backward(point.begin(), point.end(), at);
+    }
+    putDigits(digits - decimals);
+    return text;
 }
 
 } // namespace
 
 std::string formatFixed(double value, int decimals)
 {
+    const std::string& point = regionalSettings().decimal;
+    if (const std::optional<std::uint64_t> number = roundedShort(std::fabs(value), decimals))
+        return shortText(std::signbit(value), *number, static_cast<std::size_t>(decimals), point);
     std::string text;
-    if (formatSmall(value, decimals, text))
-        return text;
     Decimal decimal = shortest(value);
     roundTo(decimal, decimal.point + decimals);
     if (decimal.negative)
@@ -248,7 +161,7 @@ std::string formatFixed(double value, int decimals)
     else
         text.push_back('0');
     if (decimals > 0) {
-        text += regionalSettings().decimal;
+        text += point;
         const int from = decimal.count > 0 ? decimal.point : 0;
         appendDigits(text, decimal, from, from + decimals);
     }
@@ -289,54 +202,6 @@ std::string doubleToText(double value)
         appendDigits(text, decimal, decimal.point, decimal.count);
     }
     return text;
-}
-
-bool isNumericText(std::string_view text) noexcept
-{
-    return scanNumber(text, [](char) {});
-}
-
-bool tryTextToDouble(std::string_view text, double& value) noexcept
-{
-    std::array<char, 64> buffer;
-    std::size_t length = 0;
-    if (!scanNumber(text, [&](char c) {
-            if (length < buffer.size())
-                buffer[length] = c;
-            ++length;
-        }))
-        return false;
-    if (length <= buffer.size())
-        return parse(buffer.data(), buffer.data() + length, value);
-    // A longer number than any that is shown: worth an allocation.
-    std::string whole;
-    whole.reserve(length);
-    scanNumber(text, [&](char c) { whole.push_back(c); });
-    return parse(whole.data(), whole.data() + whole.size(), value);
-}
-
-double textToDouble(std::string_view text)
-{
-    double value = 0;
-    if (tryTextToDouble(text, value))
-        return value;
-    raiseError(isNumericText(text) ? ErrorNumber::Overflow : ErrorNumber::TypeMismatch);
-}
-
-double leadingNumber(std::string_view text) noexcept
-{
-    while (!text.empty() && (text.front() == ' ' || text.front() == '\t'))
-        text.remove_prefix(1);
-    if (text.size() > 1 && text.front() == '+' && text[1] != '-')
-        text.remove_prefix(1);
-    if (text.empty() || !(isDigit(text.front()) || text.front() == '-' || text.front() == '.'))
-        return 0;
-    const std::size_t sign = text.front() == '-' ? 1 : 0;
-    if (sign == 1 && (text.size() < 2 || !(isDigit(text[1]) || text[1] == '.')))
-        return 0;
-    double value = 0;
-    std::from_chars(text.data(), text.data() + text.size(), value);
-    return value;
 }
 
 } // namespace zor::platform

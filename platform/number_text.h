@@ -3,6 +3,8 @@
 /// Numbers and their texts, with the user's separators. Nothing here depends on setlocale, and nothing
 /// allocates when the result fits a small string.
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -29,8 +31,15 @@ namespace zor::platform {
 /// beyond the range of a double raises Overflow; one too small to represent is 0.
 [[nodiscard]] double textToDouble(std::string_view text);
 
-/// As textToDouble(), without raising: false, and `value` unchanged, for what it would raise.
-[[nodiscard]] bool tryTextToDouble(std::string_view text, double& value) noexcept;
+/// A text that is a number, as it was read.
+struct NumberReading {
+    double value = 0;
+    std::size_t mantissa = 0; ///< bytes of the text in front of its exponent; all of them when it has none
+    bool isGrouped = false;   ///< the user's grouping separator stands in it
+};
+
+/// As textToDouble(), without raising: nothing for what it would raise.
+[[nodiscard]] std::optional<NumberReading> readNumber(std::string_view text) noexcept;
 
 /// The number a text starts with, independent of the user's settings: blanks are skipped, "." is the
 /// decimal point, reading stops at the first character that cannot continue a number; 0 when there is none.

@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 
 namespace zor {
 namespace {
@@ -102,55 +103,88 @@ constexpr Table<5> kTemperatureOffsets = {{
 }};
 // clang-format on
 
-struct Factors {
-    const double* cells;
-    std::size_t size;
+struct Cell {
+    double factor = 1.0;
+    double offset = 0.0;
 };
 
+constexpr std::size_t kMostUnits = 8; // of one type
+
+/// Which type a unit is of, and the first unit of that type.
+struct Kind {
+    UNIT_TYPE type;
+    std::uint32_t first;
+};
+
+constexpr auto kKinds = [] {
+    std::array<Kind, units::kUnits.size()> kinds{};
+    for (const units::UnitTypeRow& type : units::kUnitTypes)
+        for (std::int32_t unit = type.first; unit <= type.last; ++unit)
+            kinds[static_cast<std::size_t>(unit)] = {type.type, static_cast<std::uint32_t>(type.first)};
+    return kinds;
+}();
+
+/// For each unit the conversions to the units of its type, in the order of their values.
+using Cells = std::array<std::array<Cell, kMostUnits>, units::kUnits.size()>;
+
 template <std::size_t N>
-constexpr Factors factors(const Table<N>& table)
+constexpr void fill(Cells& cells, MEAS_TYPE first, const Table<N>& table, double Cell::*field)
 {
-    return {table.front().data(), N};
+    for (std::size_t from = 0; from < N; ++from)
+        for (std::size_t to = 0; to < N; ++to)
+            cells[static_cast<std::size_t>(first) + from][to].*field = table[from][to];
 }
 
-// By unit type; a type without a table converts nothing.
-constexpr std::array<Factors, units::kUnitTypes.size()> kFactors{
-    factors(kLength),   factors(kVELOCITY), factors(kTEMPERATURE),
-    factors(kVOLUMEE),  factors(kPRESSURE), factors(kVOLUMETRICFLOW),
-    Factors{},          Factors{},          factors(kTIMEUNITS),
-    factors(kFREQUENCY)};
+/// All tables in one, so that a conversion reads one cell. A type without a table converts nothing.
+constexpr Cells kCells = [] {
+    Cells cells{};
+    fill(cells, LgthU_MM, kLength, &Cell::factor);
+    fill(cells, VelU_MtrPerSec, kVELOCITY, &Cell::factor);
+    fill(cells, TempU_DegC, kTEMPERATURE, &Cell::factor);
+    fill(cells, TempU_DegC, kTemperatureOffsets, &Cell::offset);
+    fill(cells, VolU_m3, kVOLUMEE, &Cell::factor);
+    fill(cells, PrU_Bar, kPRESSURE, &Cell::factor);
+    fill(cells, VolFlowU_m3PerHr, kVOLUMETRICFLOW, &Cell::factor);
+    fill(cells, TimeU_s, kTIMEUNITS, &Cell::factor);
+    fill(cells, FreqU_Hz, kFREQUENCY, &Cell::factor);
+    return cells;
+}();
+
+/// What takes a value of one unit to another. The factor belongs to the unit type that is asked for, the offset to
+/// the units alone. Units of two types have neither.
+Cell cellOf(UNIT_TYPE type, MEAS_TYPE fromUnit, MEAS_TYPE toUnit) noexcept
+{
+    // As unsigned numbers, what lies below a range lies beyond its end.
+    const auto from = static_cast<std::uint32_t>(fromUnit);
+    if (from >= kCells.size()) [[unlikely]]
+        return {};
+    const std::uint32_t to = static_cast<std::uint32_t>(toUnit) - kKinds[from].first;
+    if (to >= kMostUnits) [[unlikely]]
+        return {};
+    Cell cell = kCells[from][to];
+    if (kKinds[from].type != type) [[unlikely]]
+        cell.factor = 1.0;
+    return cell;
+}
 
 } // namespace
 
 double fd_GetConversionFactor(const UNIT_TYPE& i_UnitType, MEAS_TYPE i_FromUnit,
                               const MEAS_TYPE& i_ToUnit) noexcept
 {
-    const units::UnitTypeRow* type = units::rowOf(i_UnitType);
-    if (type == nullptr)
-        return 1.0;
-    const auto from = static_cast<std::int32_t>(i_FromUnit);
-    const auto to = static_cast<std::int32_t>(i_ToUnit);
-    const auto& [cells, size] = kFactors[static_cast<std::size_t>(i_UnitType)];
-    if (from < type->first || from > type->last || to < type->first || to > type->last || cells == nullptr)
-        return 1.0;
-    return cells[static_cast<std::size_t>(from - type->first) * size + static_cast<std::size_t>(to - type->first)];
+    return cellOf(i_UnitType, i_FromUnit, i_ToUnit).factor;
 }
 
 double fd_GetOffset(MEAS_TYPE i_FromUnit, const MEAS_TYPE& i_ToUnit) noexcept
 {
-    const auto first = static_cast<std::int32_t>(TempU_DegC);
-    const auto last = static_cast<std::int32_t>(TempU_1By10_DegF);
-    const auto from = static_cast<std::int32_t>(i_FromUnit);
-    const auto to = static_cast<std::int32_t>(i_ToUnit);
-    if (from < first || from > last || to < first || to > last)
-        return 0.0;
-    return kTemperatureOffsets[static_cast<std::size_t>(from - first)][static_cast<std::size_t>(to - first)];
+    return cellOf(None, i_FromUnit, i_ToUnit).offset;
 }
 
 double convert(double value, UNIT_TYPE type, MEAS_TYPE from, MEAS_TYPE to)
 {
-    const double scaled = value * fd_GetConversionFactor(type, from, to);
-    const double result = scaled + fd_GetOffset(from, to);
+    const Cell cell = cellOf(type, from, to);
+    const double scaled = value * cell.factor;
+    const double result = scaled + cell.offset;
     if (!std::isfinite(result))
         raiseError(ErrorNumber::Overflow);
     return result;

@@ -39,25 +39,24 @@ Variant fc_FormatValue(const Variant& v_Value, MEAS_TYPE i_Unit, std::int16_t i_
 
 std::optional<double> validNumber(std::string_view text) noexcept
 {
-    double number = 0;
-    if (!platform::tryTextToDouble(text, number))
+    const std::optional<platform::NumberReading> number = platform::readNumber(text);
+    if (!number)
         return std::nullopt;
-    std::string_view mantissa = text;
-    double read = number;
-    const auto exponent = std::min(text.find('e'), text.find('E'));
-    if (exponent != std::string_view::npos) {
-        mantissa = text.substr(0, exponent);
-        if (!platform::tryTextToDouble(mantissa, read))
+    const std::string_view mantissa = text.substr(0, number->mantissa);
+    double read = number->value;
+    if (mantissa.size() < text.size()) {
+        const std::optional<platform::NumberReading> alone = platform::readNumber(mantissa);
+        if (!alone)
             return std::nullopt;
+        read = alone->value;
     }
-    // A separator that changes the magnitude for one reader but not for the other makes the text ambiguous. Where
-    // the user's decimal separator is the point and nothing is grouped, there is but one reading.
-    const platform::RegionalSettings& regional = platform::regionalSettings();
-    if (regional.decimal == "." && (regional.group.empty() || mantissa.find(regional.group) == text.npos))
-        return number;
-    if (!(std::fabs(platform::leadingNumber(mantissa) - read) <= 1.0))
+    // A separator that changes the magnitude for one reader but not for the other makes the text ambiguous.
+    // Without groups the other reader sees at least the whole number, and up to here exactly that.
+    constexpr double kWholeNumbersAreExact = 1e15;
+    const bool agree = !number->isGrouped && std::fabs(read) < kWholeNumbersAreExact;
+    if (!agree && !(std::fabs(platform::leadingNumber(mantissa) - read) <= 1.0))
         return std::nullopt;
-    return number;
+    return number->value;
 }
 
 std::optional<double> validNumber(const Variant& value) noexcept
