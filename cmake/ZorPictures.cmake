@@ -1,5 +1,5 @@
-# zor_pictures(OUT): a source that holds the pictures of core/pictures, in the order of their file names.
-function(zor_pictures out)
+# zor_pictures(OUT FILE): writes a source that holds the pictures of core/pictures, in the order of their file names.
+function(zor_pictures out source)
   file(GLOB pictures CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/core/pictures/*.svg)
   list(LENGTH pictures count)
   if(NOT count EQUAL 8)
@@ -11,7 +11,7 @@ function(zor_pictures out)
     file(READ ${picture} svg)
     string(APPEND body "    R\"svg(${svg})svg\",\n")
   endforeach()
-  file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/generated/${out} CONTENT
+  file(CONFIGURE OUTPUT ${source} CONTENT
 "#include <zor/core/frm_Container.h>
 
 namespace zor::core {
@@ -21,4 +21,5 @@ const std::array<std::string_view, 8> pictureData{
 
 } // namespace zor::core
 " @ONLY)
+  set(${out} ${source} PARENT_SCOPE)
 endfunction()

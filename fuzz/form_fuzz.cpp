@@ -1,4 +1,4 @@
-// The form reader under libFuzzer: cmake -DZOR_FUZZ=ON -DCMAKE_CXX_COMPILER=clang++, then
+// The form reader under libFuzzer: cmake -DZOR_BUILD_FUZZ=ON -DCMAKE_CXX_COMPILER=clang++, then
 // build-fuzz/fuzz/fuzz-form fuzz/corpus/form
 
 #include <zor/fuzz/form_round.h>

@@ -2,6 +2,7 @@
 #include <zor/forms/form_error.h>
 #include <zor/monitor/link/device_address.h>
 #include <zor/monitor/ui/window.h>
+#include <zor/platform/version.h>
 
 #include <CLI/CLI.hpp>
 #include <QApplication>
@@ -161,6 +162,7 @@ int run(int argc, char** argv)
 {
     Settings settings;
     CLI::App app{"Shows and edits the parameters of a Modbus device."};
+    app.set_version_flag("--version", "zor-monitor " + std::string(zor::version()));
     addOptions(app, settings);
     try {
         app.parse(argc, argv);

@@ -13,8 +13,10 @@ int main(int argc, char** argv)
     const auto level = zor::ctx_ZorTextBox::create(container);
     level->initialiseProperties();
     container.setUserMode(true);
-    level->OutputUnit(zor::LgthU_Mtr); // what the operator reads and types
-    level->DeviceValue(12345);         // what the device sent, in tenths of a millimetre
+    level->OutputUnit(zor::LgthU_Mtr);  // what the operator reads and types
+    level->DefaultUnit(zor::LgthU_Mtr); // the unit of the limits
+    level->MaxValue(20);
+    level->DeviceValue(12345); // what the device sent, in tenths of a millimetre
     form.show();
     return QApplication::exec();
 }

@@ -1,6 +1,7 @@
 #include <zor/platform/error.h>
 #include <zor/platform/regional.h>
 #include <zor/platform/text.h>
+#include <zor/platform/version.h>
 #include <zor/tools/zorsh/script.h>
 #include <zor/tools/zorsh/terminal.h>
 
@@ -107,6 +108,7 @@ int runProgram(int argc, char** argv)
     Settings settings;
     CLI::App app{"The control console: creates controls, plays host and operator, and prints what they see. "
                  "The command `help` lists the commands."};
+    app.set_version_flag("--version", "zorsh " + std::string(version()));
     std::vector<std::string> platforms;
     for (const console::PlatformRow& row : console::platforms())
         platforms.emplace_back(row.name);
