@@ -21,9 +21,9 @@ set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 
 file(READ ${PROJECT_SOURCE_DIR}/LICENSE license)
 string(REGEX REPLACE "^.*\n\n(Permission)" "\\1" license "${license}")
-string(REGEX REPLACE "\n\n" "\n.\n" license "${license}")
-string(REGEX REPLACE "\n$" "" license "${license}")
-string(REGEX REPLACE "(^|\n)" "\\1 " license "${license}")
+string(STRIP "${license}" license)
+string(REPLACE "\n\n" "\n.\n" license "${license}")
+string(REPLACE "\n" "\n " license " ${license}")
 configure_file(copyright.in ${generated}/copyright @ONLY)
 
 # Debian's form of the change log; what changed stands in the project's own.
