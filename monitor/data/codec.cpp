@@ -46,6 +46,8 @@ double fromDouble(std::uint64_t raw) { return std::bit_cast<double>(raw); }
 struct TypeRow {
     std::uint16_t registers;
     bool integer;
+    double lowest;
+    double highest;
     double (*from)(std::uint64_t);
     std::optional<std::uint64_t> (*to)(double);
 };
@@ -53,15 +55,17 @@ struct TypeRow {
 // In the order of ValueType.
 constexpr std::array<std::string_view, 8> kTypeNames{"int16",   "uint16",  "int32", "uint32",
                                                      "float32", "float64", "text",  "bit"};
+constexpr double kFloat = std::numeric_limits<float>::max();
+constexpr double kDouble = 1e300; ///< leaves room for the factor of any unit
 constexpr std::array<TypeRow, 8> kTypes{{
-    {1, true, fromRaw<std::int16_t>, toRaw<std::int16_t>},
-    {1, true, fromRaw<std::uint16_t>, toRaw<std::uint16_t>},
-    {2, true, fromRaw<std::int32_t>, toRaw<std::int32_t>},
-    {2, true, fromRaw<std::uint32_t>, toRaw<std::uint32_t>},
-    {2, false, fromFloat, toFloat},
-    {4, false, fromDouble, toDouble},
-    {0, false, nullptr, nullptr},
-    {1, false, nullptr, nullptr},
+    {1, true, INT16_MIN, INT16_MAX, fromRaw<std::int16_t>, toRaw<std::int16_t>},
+    {1, true, 0, UINT16_MAX, fromRaw<std::uint16_t>, toRaw<std::uint16_t>},
+    {2, true, INT32_MIN, INT32_MAX, fromRaw<std::int32_t>, toRaw<std::int32_t>},
+    {2, true, 0, UINT32_MAX, fromRaw<std::uint32_t>, toRaw<std::uint32_t>},
+    {2, false, -kFloat, kFloat, fromFloat, toFloat},
+    {4, false, -kDouble, kDouble, fromDouble, toDouble},
+    {0, false, 0, 0, nullptr, nullptr},
+    {1, false, 0, 1, nullptr, nullptr},
 }};
 
 struct OrderRow {
@@ -155,6 +159,41 @@ Variant decode(const Parameter& parameter, std::span<const std::uint16_t> regist
         return static_cast<double>(decodeBits(location, registers));
     const double value = rowOf(location.type).from(join(location, registers)) * parameter.scale;
     return std::isfinite(value) ? Variant(value) : Variant();
+}
+
+Range rangeOf(const Parameter& parameter)
+{
+    const TypeRow& row = rowOf(parameter.location.type);
+    const auto [lowest, highest] = std::minmax({row.lowest * parameter.scale, row.highest * parameter.scale});
+    return {lowest, highest};
+}
+
+std::optional<std::int16_t> decimalsOf(const Parameter& parameter)
+{
+    if (!isInteger(parameter.location.type))
+        return std::nullopt;
+    constexpr std::int16_t kMost = 9;
+    constexpr double kRounding = 1e-9;
+    double step = std::fabs(parameter.scale);
+    std::int16_t decimals = 0;
+    while (decimals < kMost && std::fabs(step - std::round(step)) > kRounding * step) {
+        step *= 10;
+        ++decimals;
+    }
+    return decimals;
+}
+
+bool isWithinLimits(const Parameter& parameter, std::span<const std::uint16_t> registers)
+{
+    const Variant value = decode(parameter, registers);
+    // A limit counts as the registers would hold it, or rounding would part an entry from the limit it equals.
+    const auto held = [&](double limit) {
+        const Encoded encoded = encode(parameter, limit);
+        return encoded.unfit == Unfit::No ? decode(parameter, encoded.registers).number() : limit;
+    };
+    const Appearance& limits = parameter.appearance;
+    return !value.isNumber() || ((!limits.minimum || value.number() >= held(*limits.minimum)) &&
+                                 (!limits.maximum || value.number() <= held(*limits.maximum)));
 }
 
 std::uint32_t decodeBits(const Location& location, std::span<const std::uint16_t> registers)

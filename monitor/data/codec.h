@@ -6,6 +6,7 @@
 #include <zor/platform/variant.h>
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -26,6 +27,19 @@ using Registers = std::vector<std::uint16_t>;
 /// The value in `parameter.unit`: a number (double), a text, or Empty for a float that is no number, by which
 /// devices say that they have no value. `registers` must be as many as the location has.
 [[nodiscard]] Variant decode(const Parameter& parameter, std::span<const std::uint16_t> registers);
+
+/// What the type can hold, in `parameter.unit`.
+struct Range {
+    double lowest;
+    double highest;
+};
+[[nodiscard]] Range rangeOf(const Parameter& parameter);
+
+/// Decimals that tell an integer's neighbouring values apart; nothing for other types.
+[[nodiscard]] std::optional<std::int16_t> decimalsOf(const Parameter& parameter);
+
+/// Whether the registers hold a value between the file's limits, each of which may be missing.
+[[nodiscard]] bool isWithinLimits(const Parameter& parameter, std::span<const std::uint16_t> registers);
 
 /// The bits of an integer or of a single bit, as they lie in the device, without scale or unit.
 [[nodiscard]] std::uint32_t decodeBits(const Location& location, std::span<const std::uint16_t> registers);

@@ -12,6 +12,7 @@ namespace zor::monitor {
 namespace {
 
 constexpr int kLastAddress = 65535;
+constexpr int kHighestNamedBit = 30; ///< that a control can show
 
 LocalText readText(const Value& value)
 {
@@ -206,7 +207,7 @@ Parameter readParameter(const Value& value)
     if (const auto entries = named("entries", integer || location.type == ValueType::Bit))
         parameter.entries = readEntries(*entries, "value", INT32_MIN, INT32_MAX);
     if (const auto bits = named("bits", integer))
-        parameter.bits = readEntries(*bits, "bit", 0, location.registers * 16 - 1);
+        parameter.bits = readEntries(*bits, "bit", 0, std::min(location.registers * 16 - 1, kHighestNamedBit));
     readAppearance(fields, parameter);
     if (parameter.appearance.control.empty())
         parameter.appearance.control = usualControl(parameter);

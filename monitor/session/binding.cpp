@@ -1,14 +1,18 @@
 #include <zor/monitor/session/binding.h>
+#include <zor/monitor/session/control_values.h>
 #include <zor/monitor/session/value_texts.h>
 #include <zor/platform/error.h>
 #include <zor/units/mod_Common.h>
 #include <zor/units/unit_catalogue.h>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
 namespace zor::monitor {
 namespace {
+
+constexpr std::int32_t kHighestBit = 30; ///< that a control knows
 
 /// How the outcome of a read shows: {communication failure, no data, waiting}.
 struct OutcomeRow {
@@ -18,17 +22,19 @@ struct OutcomeRow {
 };
 
 // In the order of ReadOutcome. What a row leaves open stays as it was.
-constexpr std::array<OutcomeRow, 5> kOutcomes{{
-    {false, false, false},             // Live
-    {false, true, false},              // NotAvailable
-    {false, std::nullopt, true},       // Busy
-    {true, std::nullopt, false},       // NoAnswer
-    {std::nullopt, std::nullopt, true} // Late
+constexpr std::array<OutcomeRow, 6> kOutcomes{{
+    {false, false, false},              // Live
+    {false, true, false},               // NotAvailable
+    {false, true, true},                // Busy
+    {true, std::nullopt, false},        // NoAnswer
+    {std::nullopt, std::nullopt, true}, // Late
+    {false, true, false}                // NoValue
 }};
 
 } // namespace
 
-Binding::Binding(core::Control& control, const Parameter* parameter) : m_control(control), m_parameter(parameter)
+Binding::Binding(core::Control& control, const Parameter* parameter)
+    : m_control(control), m_parameter(parameter), m_texts(control), m_typed(control)
 {
     const core::ClassInfo& info = control.info();
     m_row = {info.property("DeviceValue"),        info.property("OutputValue"),    info.property("DataModified"),
@@ -94,19 +100,28 @@ void Binding::applyFile()
     putIfThere("RegisterType", static_cast<std::int32_t>(m_parameter->location.bank));
     if (!m_parameter->writable)
         putIfThere("ReadOnly", true);
+    // Nothing is known of the device: a control that some devices do not have waits until there is one that has
+    // it.
+    quietly([&] {
+        m_control.DeviceType(m_control.DeviceType());
+        m_control.DeviceVersion(m_control.DeviceVersion());
+    });
     if (m_parameter->location.type == ValueType::Text) {
         putIfThere("EntryType", static_cast<std::int32_t>(ENTRY_TYPE::Text));
         putIfThere("MaxLength", static_cast<std::int32_t>(m_parameter->location.registers) * 2);
-        return;
+        return showNothing();
     }
     // The form chooses the unit that the operator sees; one of another kind than the parameter's makes no sense.
-    const MEAS_TYPE wanted = shownUnit();
+    // Without one it shows the device's numbers, with the decimals that it was given.
+    const MEAS_TYPE wanted = outputUnit();
     putIfThere("UnitType", static_cast<std::int32_t>(m_parameter->unitType));
     putIfThere("DeviceUnit", static_cast<std::int32_t>(m_parameter->unit));
     const auto* type = units::rowOf(m_parameter->unitType);
     const auto number = static_cast<std::int32_t>(wanted);
-    if (type == nullptr || number < type->first || number > type->last)
+    if (wanted != NoneU && (type == nullptr || number < type->first || number > type->last))
         putIfThere("OutputUnit", static_cast<std::int32_t>(m_parameter->unit));
+    quietly([&] { applyLimits(m_control, *m_parameter); });
+    showNothing();
 }
 
 void Binding::applyEntries(const std::string& language)
@@ -120,6 +135,7 @@ void Binding::applyEntries(const std::string& language)
         quietly([&] { m_control.call(method, std::span<const Variant>(arguments.begin(), arguments.size())); });
     };
     if (addValue != nullptr) {
+        m_stranger.reset();
         call("ClearEnumList", {});
         for (const Entry& entry : m_parameter->entries)
             call("AddEnumEntry", {entry.text.in(language), entry.value});
@@ -144,12 +160,47 @@ void Binding::applyEntries(const std::string& language)
 void Binding::showOutcome(ReadOutcome outcome)
 {
     const OutcomeRow& row = kOutcomes[static_cast<std::size_t>(outcome)];
+    explain(outcome == ReadOutcome::Busy);
     if (row.cFail)
         setFlag(m_row.cFail, *row.cFail);
     if (row.noData)
         setFlag(m_row.noData, *row.noData || (m_unfit && outcome == ReadOutcome::Live));
-    // Waiting freezes a control; an operator in the middle of an edit is not thrown out of it.
-    setFlag(m_row.waiting, row.waiting && !isModified());
+    // Waiting freezes a control. Nobody is thrown out of a field that he works in, nor kept out of one whose value
+    // is known only because the device is slow.
+    const bool keepsOpen = outcome == ReadOutcome::Late && m_parameter->writable && !shown.empty();
+    setFlag(m_row.waiting, row.waiting && !keepsOpen && !isInHand() && !m_typed.hasFocus());
+    // Leaving a field of whole numbers fills it.
+    if (shown.empty() && !isInHand() && m_row.value->field.kind == core::ValueKind::Int32)
+        showNothing();
+}
+
+void Binding::await()
+{
+    setFlag(m_row.cFail, false);
+    setFlag(m_row.waiting, !isInHand() && !m_typed.hasFocus());
+}
+
+void Binding::explain(bool busy)
+{
+    const bool strange = m_stranger && isChoice();
+    m_texts.explainNoData(busy      ? "MSG_DEVICEBUSY"
+                          : strange ? "MSG_NOENTRY"
+                                    : "",
+                          strange && !busy ? std::to_string(*m_stranger) : std::string());
+}
+
+void Binding::showNothing()
+{
+    shown.clear();
+    seen.clear();
+    m_typed.forget();
+    m_unfit = false;
+    quietly([&] {
+        dropStranger();
+        monitor::showNothing(m_control);
+    });
+    if (!isChoice())
+        setFlag(m_row.modified, false);
 }
 
 Variant Binding::valueFor(std::span<const std::uint16_t> registers, const std::string& language) const
@@ -169,18 +220,50 @@ Variant Binding::valueFor(std::span<const std::uint16_t> registers, const std::s
 bool Binding::showValue(std::span<const std::uint16_t> registers, const std::string& language)
 {
     shown = seen = Registers(registers.begin(), registers.end());
+    m_typed.forget();
     m_unfit = true;
-    try {
-        const Variant value = valueFor(registers, language);
-        if (!value.isEmpty()) {
-            quietly([&] { m_control.put(*m_row.value, value); });
-            m_unfit = false;
+    quietly([&] {
+        dropStranger();
+        try {
+            const Variant value = valueFor(registers, language);
+            if (!value.isEmpty()) {
+                m_control.put(*m_row.value, value);
+                m_unfit = false;
+                nameStranger(value);
+            }
+        } catch (const RunTimeError&) {
+            // A device may send what is no number of this unit, or more than the control can hold.
         }
-    } catch (const RunTimeError&) {
-        // A device may send what is no number of this unit, or more than the control can hold.
-    }
+        if (m_unfit && !m_stranger)
+            monitor::showNothing(m_control);
+    });
+    explain(false);
     setFlag(m_row.noData, m_unfit);
     return !m_unfit;
+}
+
+void Binding::nameStranger(const Variant& value)
+{
+    const bool isList = m_control.info().method("AddEnumEntry") != nullptr;
+    if (m_parameter->entries.empty() || !(isList || isChoice()))
+        return;
+    const std::int32_t number = value.toInt32();
+    if (std::ranges::find(m_parameter->entries, number, &Entry::value) != m_parameter->entries.end())
+        return;
+    m_stranger = number;
+    // A list shows the number, with the control's own sign that it is none of the entries; buttons have no place
+    // for one but their explanation.
+    if (isList)
+        m_control.call("AddEnumEntry", std::array<Variant, 2>{std::to_string(number), number});
+    else
+        m_unfit = true;
+}
+
+void Binding::dropStranger()
+{
+    if (m_stranger && m_control.info().method("RemoveEnumEntry") != nullptr)
+        m_control.call("RemoveEnumEntry", std::array<Variant, 1>{*m_stranger});
+    m_stranger.reset();
 }
 
 void Binding::tellOther(std::span<const std::uint16_t> registers)
@@ -211,7 +294,7 @@ Registers Binding::relevant(std::span<const std::uint16_t> registers) const
         mask = 1;
     } else if (m_row.bitIndex != nullptr) {
         const std::int32_t bit = m_control.get(*m_row.bitIndex).toInt32();
-        mask = bit >= 0 && bit < 31 ? 1U << static_cast<unsigned>(bit) : 0;
+        mask = bit >= 0 && bit <= kHighestBit ? 1U << static_cast<unsigned>(bit) : 0;
     } else {
         return {registers.begin(), registers.end()};
     }
@@ -234,7 +317,7 @@ bool Binding::isBitwise() const
 
 Edit Binding::edit() const
 {
-    Edit edit{m_control.get(*m_row.output)};
+    Edit edit{entry()};
     if (!isBitwise() || isInvalid())
         return edit;
     edit.bits = static_cast<std::uint32_t>(edit.value.toInt32());
@@ -242,7 +325,34 @@ Edit Binding::edit() const
     return edit;
 }
 
+Variant Binding::entry() const { return m_typed.value().value_or(m_control.get(*m_row.output)); }
+
+void Binding::showEntry(const Variant& value)
+{
+    putIfThere("ModifiedValue", value);
+    // Where both look the same, the control takes it for none.
+    setFlag(m_row.modified, true);
+}
+
+void Binding::takeTyped()
+{
+    if (isModified() || shown.empty() || m_parameter->location.type == ValueType::Bit)
+        return;
+    // The control compares with what it shows; what the device holds may be something else.
+    const Encoded typed = encode(*m_parameter, entry());
+    if (typed.unfit == Unfit::No && typed.registers != seen)
+        setFlag(m_row.modified, true);
+    else
+        showValue(Registers(shown), {});
+}
+
 MEAS_TYPE Binding::shownUnit() const
+{
+    const MEAS_TYPE unit = outputUnit();
+    return unit == NoneU && m_parameter != nullptr ? m_parameter->unit : unit;
+}
+
+MEAS_TYPE Binding::outputUnit() const
 {
     if (m_row.unit != nullptr)
         return MEAS_TYPE{m_control.get(*m_row.unit).toInt32()};
@@ -253,8 +363,11 @@ void Binding::showIn(MEAS_TYPE unit, const std::string& language)
 {
     m_textUnit = unit;
     putIfThere("OutputUnit", static_cast<std::int32_t>(unit));
+    quietly([&] { renewLimits(m_control); });
     // The control converts the text that it shows; from the value itself no rounding adds up.
-    if (!isModified() && !shown.empty())
+    if (isModified() && !isInvalid())
+        showEntry(entry());
+    else if (!isModified() && !shown.empty())
         showValue(Registers(shown), language);
 }
 
@@ -264,12 +377,14 @@ void Binding::refresh(const std::string& language)
         return;
     // Filling a list anew moves its selection, and that must not become the operator's choice.
     const bool modified = isModified();
-    const Variant output = modified ? m_control.get(*m_row.output) : Variant();
+    const Variant output = modified ? entry() : Variant();
     const bool valid = !isInvalid();
     applyEntries(language);
     if (modified && valid)
-        putIfThere("ModifiedValue", output);
-    else if (!modified && !shown.empty())
+        showEntry(output);
+    else if (!modified && shown.empty())
+        showNothing();
+    else if (!modified)
         showValue(Registers(shown), language);
 }
 
@@ -279,6 +394,11 @@ void Binding::event(core::Control& control, const core::EventRow& row, platform:
 {
     if (m_quiet > 0)
         return;
+    bool typed = false;
+    if (m_parameter != nullptr)
+        quietly([&] { typed = m_typed.hear(row); });
+    if (typed)
+        takeTyped();
     const bool chosen = row.name == "OutputValueChange";
     if (chosen || row.name == "textChange" || row.name == "DataModifiedSetTrue" || row.name == "DataModifiedReset")
         ++m_actions;

@@ -5,7 +5,9 @@
 
 #include <zor/core/control.h>
 #include <zor/monitor/data/codec.h>
+#include <zor/monitor/session/control_texts.h>
 #include <zor/monitor/session/poller.h>
+#include <zor/monitor/session/typed_entry.h>
 
 #include <functional>
 #include <optional>
@@ -32,13 +34,19 @@ public:
     /// Of the choice between several buttons, of which one edit takes all.
     [[nodiscard]] bool isChoice() const { return m_row.entryValue != nullptr; }
 
-    /// Tells the control what the file says: bank, unit, access, entries, names of bits.
+    /// Tells the control what the file says: bank, unit, limits, access, entries, names of bits.
     void applyFile();
+    /// The control's texts in the language of the program.
+    [[nodiscard]] ControlTexts& texts() { return m_texts; }
 
     /// @name The device's side
     /// @{
     /// How the last read went; leaves the value as it is.
     void showOutcome(ReadOutcome outcome);
+    /// The value is not to be trusted any more, and not known to be wrong: it is read when it is next seen.
+    void await();
+    /// As if nothing had been read yet; ends an edit.
+    void showNothing();
     /// Shows a value and so ends an edit. False when the control cannot show it.
     bool showValue(std::span<const std::uint16_t> registers, const std::string& language);
     /// The value has been changed by somebody else.
@@ -52,12 +60,16 @@ public:
     /// @name The operator's side
     /// @{
     [[nodiscard]] bool isModified() const;
+    /// An edit, or the beginning of one: nothing else may be shown now.
+    [[nodiscard]] bool isInHand() const { return isModified() || m_typed.isTyping(); }
     [[nodiscard]] bool isInvalid() const;
     [[nodiscard]] Edit edit() const;
     /// Counts what the operator has done to the control.
     [[nodiscard]] std::uint64_t actions() const { return m_actions; }
     /// The unit in which the operator sees numbers.
     [[nodiscard]] MEAS_TYPE shownUnit() const;
+    /// The control's own: none where it shows the device's numbers with decimals of its own.
+    [[nodiscard]] MEAS_TYPE outputUnit() const;
     /// Changes it and shows the value anew; an edit stays. Raises what the control raises when the value cannot be
     /// expressed in the unit.
     void showIn(MEAS_TYPE unit, const std::string& language);
@@ -86,6 +98,12 @@ private:
     [[nodiscard]] Variant valueFor(std::span<const std::uint16_t> registers, const std::string& language) const;
     [[nodiscard]] bool isBitwise() const;
     void applyEntries(const std::string& language);
+    void nameStranger(const Variant& value);
+    void dropStranger();
+    void explain(bool busy);
+    void takeTyped();
+    [[nodiscard]] Variant entry() const;
+    void showEntry(const Variant& value);
     template <class Action>
     void quietly(Action&& action);
     void setFlag(const core::PropertyRow* row, bool value);
@@ -108,11 +126,14 @@ private:
 
     core::Control& m_control;
     const Parameter* m_parameter;
+    ControlTexts m_texts;
+    TypedEntry m_typed;
     Rows m_row;
     std::uint64_t m_actions = 0;
     int m_quiet = 0;
-    MEAS_TYPE m_textUnit = NoneU; ///< of a control that shows numbers as texts
-    bool m_unfit = false;         ///< the last value could not be shown
+    MEAS_TYPE m_textUnit = NoneU;           ///< of a control that shows numbers as texts
+    bool m_unfit = false;                   ///< the last value could not be shown
+    std::optional<std::int32_t> m_stranger; ///< the last value, when no entry has it
 };
 
 } // namespace zor::monitor

@@ -19,6 +19,8 @@ void takeValue(Change& change, const Parameter& parameter, const Variant& value)
         change.problem = Problem::Conflict;
     else if (encoded.unfit != Unfit::No)
         change.problem = kProblemOf[static_cast<std::size_t>(encoded.unfit)];
+    else if (!isWithinLimits(parameter, encoded.registers))
+        change.problem = Problem::OutsideLimits;
     change.target = encoded.registers;
 }
 
@@ -64,7 +66,7 @@ void describeChange(Change& change, const Parameter& parameter, const std::strin
             change.target = mergeBits(parameter.location, change.before, change.mask, change.bits);
     }
     const MEAS_TYPE shown = change.unit;
-    change.oldText = describe(parameter, change.before, shown, language, change.mask).text;
+    change.oldText = describeExactly(parameter, change.before, shown, language, change.mask).text;
     if (change.target.empty()) {
         // An entry that is no valid value has none that could be shown.
         if (change.problem != Problem::InvalidEntry)
@@ -72,7 +74,7 @@ void describeChange(Change& change, const Parameter& parameter, const std::strin
                 change.origins.front().binding->getIfThere("OutputValue").value_or(Variant()).toText();
         return;
     }
-    const ShownValue value = describe(parameter, change.target, shown, language, change.mask);
+    const ShownValue value = describeExactly(parameter, change.target, shown, language, change.mask);
     change.newText = value.text;
     change.unit = value.unit;
 }

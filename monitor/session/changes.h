@@ -16,6 +16,7 @@ enum class Problem : std::uint8_t {
     InvalidEntry,
     NotANumber,
     OutOfRange,
+    OutsideLimits, ///< of the parameter file
     TextTooLong,
     CharactersUnknown,
     ReadOnly,

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace zor::monitor {
 namespace {
@@ -12,6 +13,12 @@ namespace {
 /// Texts that are properties only.
 constexpr std::array<std::string_view, 5> kUnnumbered{"MsgInvalidEntryForText", "MsgStatusOK", "MsgUndefined",
                                                       "MsgBit", "StatusText"};
+
+/// Why there is no value, where a control knows only that there is none.
+constexpr std::array<std::pair<std::string_view, std::string_view>, 2> kReasons{
+    {{"MSG_DEVICEBUSY", "The device is busy. It is asked again."},
+     {"MSG_NOENTRY", "is what the device holds; no entry has this value."}}};
+constexpr std::string_view kNoData = "MSG_DATANOTAVAILABLE";
 
 /// Empty when there is no translation.
 std::string translation(const char* context, const std::string& identifier, std::string_view comment)
@@ -50,9 +57,32 @@ void ControlTexts::apply()
         else
             m_control.setProperty(original.identifier, text);
     }
+    applyNoData();
+    applyUnitLabel();
+}
+
+void ControlTexts::explainNoData(std::string_view identifier, const std::string& detail)
+{
+    if (m_reason == identifier && m_detail == detail)
+        return;
+    m_reason = identifier;
+    m_detail = detail;
+    applyNoData();
+}
+
+void ControlTexts::applyNoData()
+{
+    const auto original = std::ranges::find(m_originals, kNoData, &Original::identifier);
+    if (original == m_originals.end())
+        return;
+    const auto* const reason = std::ranges::find(kReasons, m_reason, &decltype(kReasons)::value_type::first);
+    const bool usual = reason == kReasons.end();
+    std::string text = translation("messages", usual ? original->identifier : m_reason, m_control.info().name);
+    if (text.empty())
+        text = usual ? original->text : std::string(reason->second);
+    m_control.fb_SetMessage(original->number, m_detail.empty() ? text : m_detail + ' ' + text);
     // A replaced message is shown from the next refresh of the status on.
     m_control.DataNotAvailable(m_control.DataNotAvailable());
-    applyUnitLabel();
 }
 
 void ControlTexts::applyUnitLabel()

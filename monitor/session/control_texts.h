@@ -5,6 +5,7 @@
 #include <zor/core/control.h>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace zor::monitor {
@@ -17,6 +18,9 @@ public:
     explicit ControlTexts(core::Control& control);
 
     void apply();
+    /// Says why there is no value, by the identifier of a text ("MSG_DEVICEBUSY"), or with an empty one that there
+    /// is none; `detail` comes before it.
+    void explainNoData(std::string_view identifier, const std::string& detail = {});
     /// The label of the unit that the control shows now.
     void applyUnitLabel();
 
@@ -27,8 +31,12 @@ private:
         std::string text;
     };
 
+    void applyNoData();
+
     core::Control& m_control;
     std::vector<Original> m_originals;
+    std::string m_reason;
+    std::string m_detail;
 };
 
 } // namespace zor::monitor

@@ -22,6 +22,7 @@ enum class ReadOutcome : std::uint8_t {
     Busy,         ///< the device asks to be asked again
     NoAnswer,     ///< communication failed
     Late,         ///< the answer has been awaited for longer than a poll period
+    NoValue,      ///< the device answers that it has none: the registers hold no number
 };
 
 struct Reading {

@@ -12,8 +12,8 @@ namespace zor::monitor {
 namespace {
 
 // In the order of ReadOutcome.
-constexpr std::array<std::string_view, 5> kReadWords{"live", "not available", "busy", "communication failure",
-                                                     "waiting"};
+constexpr std::array<std::string_view, 6> kReadWords{"live",    "not available", "busy", "communication failure",
+                                                     "waiting", "no value"};
 // In the order of WriteOutcome.
 constexpr std::array<std::string_view, 5> kWriteWords{"written", "refused", "not sent", "unconfirmed", "differs"};
 
@@ -66,7 +66,7 @@ void Session::bind(core::Control& control)
         Binding* chooser = binding.get();
         chooser->onChosen = [this, chooser](const Variant& value) { chosen(*chooser, value); };
     }
-    m_views.push_back({ControlTexts(control), binding->shownUnit()});
+    m_views.push_back({binding->outputUnit()});
     m_bindings.push_back(std::move(binding));
 }
 
@@ -101,7 +101,7 @@ std::vector<std::size_t> Session::wanted()
         // What has not been read for a while does not pass for live while its first read is under way.
         const bool stale = state.readAt < 0 || m_clock.elapsed() - state.readAt > m_poller.period();
         if (visible && !m_views[i].visible && stale)
-            binding.showOutcome(ReadOutcome::Late);
+            binding.await();
         m_views[i].visible = visible;
     }
     return parameters;
@@ -109,15 +109,17 @@ std::vector<std::size_t> Session::wanted()
 
 void Session::hear(std::size_t parameter, const Reading& reading)
 {
-    logRead(parameter, reading);
     State& state = m_states[parameter];
-    state.outcome = reading.outcome;
-    forEach(parameter, [&](Binding& binding) { binding.showOutcome(reading.outcome); });
-    if (reading.outcome == ReadOutcome::NotAvailable)
+    const bool live = reading.outcome == ReadOutcome::Live;
+    const bool none = live && decode(m_file.parameters[parameter], reading.registers).isEmpty();
+    const ReadOutcome outcome = none ? ReadOutcome::NoValue : reading.outcome;
+    logRead(parameter, {outcome, reading.registers, reading.reason});
+    state.outcome = outcome;
+    forEach(parameter, [&](Binding& binding) { binding.showOutcome(outcome); });
+    if (live || outcome == ReadOutcome::NotAvailable)
         state.readAt = m_clock.elapsed();
-    if (reading.outcome != ReadOutcome::Live)
+    if (!live)
         return;
-    state.readAt = m_clock.elapsed();
     // Between a write and its reading back every answer is about our own change.
     if (!m_writer.isWriting(parameter))
         hearValue(parameter, reading.registers);
@@ -140,8 +142,8 @@ void Session::hearValue(std::size_t parameter, const Registers& registers)
 
 bool Session::isInEdit(const Binding& binding) const
 {
-    if (binding.isModified() || !binding.isChoice())
-        return binding.isModified();
+    if (binding.isInHand() || !binding.isChoice())
+        return binding.isInHand();
     return std::ranges::any_of(m_bindings, [&](const auto& other) {
         return other->parameter() == binding.parameter() && other->isChoice() && other->isModified();
     });
@@ -176,7 +178,7 @@ void Session::hearRound(bool answered)
         if (!answered)
             binding.showOutcome(ReadOutcome::NoAnswer);
         else if (recovered && !m_views[i].visible && binding.control().CFail() && !binding.isModified())
-            binding.showOutcome(ReadOutcome::Busy); // it is read when it is next seen
+            binding.await();
     }
     if (onRound)
         onRound(answered);
@@ -255,11 +257,16 @@ void Session::undoAll()
     for (std::size_t i = 0; i < m_states.size(); ++i) {
         bool modified = false;
         forEach(i, [&](const Binding& binding) { modified = modified || binding.isModified(); });
-        if (!modified || m_states[i].last.empty())
+        if (!modified)
             continue;
         m_states[i].unconfirmed.reset();
         m_states[i].wasModified = false;
-        forEach(i, [&](Binding& binding) { binding.showValue(m_states[i].last, m_language); });
+        forEach(i, [&](Binding& binding) {
+            if (m_states[i].last.empty())
+                binding.showNothing();
+            else
+                binding.showValue(m_states[i].last, m_language);
+        });
     }
 }
 
@@ -278,7 +285,7 @@ void Session::setLanguage(const std::string& language)
     m_language = language;
     for (std::size_t i = 0; i < m_bindings.size(); ++i) {
         m_bindings[i]->refresh(language);
-        m_views[i].texts.apply();
+        m_bindings[i]->texts().apply();
     }
 }
 
@@ -298,8 +305,7 @@ bool Session::setUnit(Binding& binding, MEAS_TYPE unit)
     } catch (const RunTimeError&) {
         return false;
     }
-    const auto found = std::ranges::find(m_bindings, &binding, &std::unique_ptr<Binding>::get);
-    m_views[static_cast<std::size_t>(found - m_bindings.begin())].texts.applyUnitLabel();
+    binding.texts().applyUnitLabel();
     return true;
 }
 

@@ -4,7 +4,6 @@
 /// writes them when told to.
 
 #include <zor/monitor/session/changes.h>
-#include <zor/monitor/session/control_texts.h>
 #include <zor/monitor/session/log.h>
 #include <zor/monitor/session/poller.h>
 #include <zor/monitor/session/unit_system.h>
@@ -96,7 +95,6 @@ private:
         bool wasModified = false;
     };
     struct View {
-        ControlTexts texts;
         MEAS_TYPE formUnit;
         bool visible = false;
     };

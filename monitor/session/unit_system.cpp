@@ -55,7 +55,7 @@ constexpr std::array kRows{
 
 MEAS_TYPE unitIn(UnitSystem system, MEAS_TYPE form, MEAS_TYPE device) noexcept
 {
-    if (system == UnitSystem::Form)
+    if (system == UnitSystem::Form || form == NoneU)
         return form;
     if (system == UnitSystem::Device)
         return device;

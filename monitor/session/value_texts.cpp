@@ -36,12 +36,33 @@ std::string describeBits(const Parameter& parameter, std::uint32_t bits, const s
     return text.empty() ? "-" : text;
 }
 
+/// A number of the device in the unit `shown`.
+using DescribeNumber = std::string (*)(const Parameter&, double value, MEAS_TYPE shown);
+
 std::string describeNumber(const Parameter& parameter, double value, MEAS_TYPE shown)
 {
     const bool unitless = shown == NoneU;
     const bool whole = unitless && !parameter.appearance.digits && value == std::floor(value);
     const std::int16_t digits = whole ? std::int16_t{0} : parameter.appearance.digits.value_or(kUsualDigits);
     return formatValueText(convert(value, parameter.unitType, parameter.unit, shown), shown, digits);
+}
+
+std::string describeNumberExactly(const Parameter& parameter, double value, MEAS_TYPE shown)
+{
+    constexpr std::int16_t kMostDigits = 15;
+    const Encoded wanted = encode(parameter, value);
+    const double number = convert(value, parameter.unitType, parameter.unit, shown);
+    std::string usual = describeNumber(parameter, value, shown);
+    const std::size_t point = usual.find_last_not_of("0123456789");
+    const bool whole = point == std::string::npos || point == 0;
+    for (std::size_t digits = whole ? 0 : usual.size() - point - 1; digits <= kMostDigits; ++digits) {
+        std::string text = formatValueText(number, NoneU, static_cast<std::int16_t>(digits));
+        const std::optional<double> read = validNumber(std::string_view(text));
+        if (read && encode(parameter, convert(*read, parameter.unitType, shown, parameter.unit)).registers ==
+                        wanted.registers)
+            return text;
+    }
+    return usual;
 }
 
 /// The shortest text that reads back as the number, without an exponent as far as people read it so.
@@ -68,16 +89,9 @@ double withoutRest(double value)
     return value;
 }
 
-} // namespace
-
-std::int32_t decodeInteger(const Location& location, std::span<const std::uint16_t> registers)
-{
-    const std::uint32_t raw = decodeBits(location, registers);
-    return location.type == ValueType::Int16 ? static_cast<std::int16_t>(raw) : static_cast<std::int32_t>(raw);
-}
-
-ShownValue describe(const Parameter& parameter, std::span<const std::uint16_t> registers, MEAS_TYPE shown,
-                    const std::string& language, std::uint32_t mask)
+ShownValue describeWith(DescribeNumber number, const Parameter& parameter,
+                        std::span<const std::uint16_t> registers, MEAS_TYPE shown, const std::string& language,
+                        std::uint32_t mask)
 {
     if (registers.empty())
         return {"?", NoneU};
@@ -92,10 +106,30 @@ ShownValue describe(const Parameter& parameter, std::span<const std::uint16_t> r
     if (!value.isNumber())
         return {value.isEmpty() ? "?" : value.text(), NoneU};
     try {
-        return {describeNumber(parameter, value.number(), shown), shown};
+        return {number(parameter, value.number(), shown), shown};
     } catch (const RunTimeError&) {
         return {value.toText(), parameter.unit};
     }
+}
+
+} // namespace
+
+std::int32_t decodeInteger(const Location& location, std::span<const std::uint16_t> registers)
+{
+    const std::uint32_t raw = decodeBits(location, registers);
+    return location.type == ValueType::Int16 ? static_cast<std::int16_t>(raw) : static_cast<std::int32_t>(raw);
+}
+
+ShownValue describe(const Parameter& parameter, std::span<const std::uint16_t> registers, MEAS_TYPE shown,
+                    const std::string& language, std::uint32_t mask)
+{
+    return describeWith(describeNumber, parameter, registers, shown, language, mask);
+}
+
+ShownValue describeExactly(const Parameter& parameter, std::span<const std::uint16_t> registers, MEAS_TYPE shown,
+                           const std::string& language, std::uint32_t mask)
+{
+    return describeWith(describeNumberExactly, parameter, registers, shown, language, mask);
 }
 
 std::string recordText(const Parameter& parameter, std::span<const std::uint16_t> registers, std::uint32_t mask)

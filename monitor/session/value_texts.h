@@ -19,6 +19,11 @@ struct ShownValue {
 [[nodiscard]] ShownValue describe(const Parameter& parameter, std::span<const std::uint16_t> registers,
                                   MEAS_TYPE shown, const std::string& language, std::uint32_t mask = 0);
 
+/// The same for a review: a number with as many decimals as it takes to tell it from any other that the registers
+/// could hold, whatever its unit is usually shown with.
+[[nodiscard]] ShownValue describeExactly(const Parameter& parameter, std::span<const std::uint16_t> registers,
+                                         MEAS_TYPE shown, const std::string& language, std::uint32_t mask = 0);
+
 /// For a record: a number in the device's unit with all its digits and a decimal point, whatever the language.
 [[nodiscard]] std::string recordText(const Parameter& parameter, std::span<const std::uint16_t> registers,
                                      std::uint32_t mask = 0);

@@ -7,6 +7,8 @@
 const char* const kMessages[] = {
     QT_TRANSLATE_NOOP("messages", "MSG_CFAIL"),
     QT_TRANSLATE_NOOP("messages", "MSG_DATANOTAVAILABLE"),
+    QT_TRANSLATE_NOOP("messages", "MSG_DEVICEBUSY"),
+    QT_TRANSLATE_NOOP("messages", "MSG_NOENTRY"),
     QT_TRANSLATE_NOOP("messages", "MSG_DATACHANGED"),
     QT_TRANSLATE_NOOP("messages", "MSG_INVALIDENTRY"),
     QT_TRANSLATE_NOOP("messages", "MSG_DEVICETAGNOTFOUND"),

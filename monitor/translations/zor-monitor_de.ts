@@ -177,6 +177,10 @@
         <translation>nicht geschrieben: das Gerät fasst keine Zahl dieser Größe</translation>
     </message>
     <message>
+        <source>not written: the number is outside the limits</source>
+        <translation>nicht geschrieben: die Zahl liegt außerhalb der Grenzen</translation>
+    </message>
+    <message>
         <source>not written: the text is too long for the device</source>
         <translation>nicht geschrieben: der Text ist zu lang für das Gerät</translation>
     </message>
@@ -230,6 +234,14 @@
     <message>
         <source>MSG_DATANOTAVAILABLE</source>
         <translation>Keine Daten verfügbar</translation>
+    </message>
+    <message>
+        <source>MSG_DEVICEBUSY</source>
+        <translation>Das Gerät ist beschäftigt. Es wird erneut gefragt.</translation>
+    </message>
+    <message>
+        <source>MSG_NOENTRY</source>
+        <translation>steht im Gerät; kein Eintrag hat diesen Wert.</translation>
     </message>
     <message>
         <source>MSG_DATACHANGED</source>

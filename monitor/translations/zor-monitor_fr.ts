@@ -177,6 +177,10 @@
         <translation>non écrit : l&apos;appareil ne peut contenir un nombre de cette taille</translation>
     </message>
     <message>
+        <source>not written: the number is outside the limits</source>
+        <translation>non écrit : le nombre est hors limites</translation>
+    </message>
+    <message>
         <source>not written: the text is too long for the device</source>
         <translation>non écrit : le texte est trop long pour l&apos;appareil</translation>
     </message>
@@ -230,6 +234,14 @@
     <message>
         <source>MSG_DATANOTAVAILABLE</source>
         <translation>Données non disponibles</translation>
+    </message>
+    <message>
+        <source>MSG_DEVICEBUSY</source>
+        <translation>L'appareil est occupé. Il sera interrogé à nouveau.</translation>
+    </message>
+    <message>
+        <source>MSG_NOENTRY</source>
+        <translation>est dans l'appareil ; aucune entrée n'a cette valeur.</translation>
     </message>
     <message>
         <source>MSG_DATACHANGED</source>

@@ -2,11 +2,13 @@
 #include <zor/core/frm_Container.h>
 #include <zor/monitor/data/codec.h>
 #include <zor/monitor/ui/form.h>
+#include <zor/units/unit_catalogue.h>
 
 #include <QGridLayout>
 #include <QPointer>
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <climits>
 
 #include <algorithm>
 #include <array>
@@ -43,6 +45,15 @@ const LooksRow& looksOf(const core::ClassInfo& info)
 }
 
 QString text(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+constexpr std::int16_t kUsualDigits = 3;
+
+/// Decimals that a unit is shown with; any number without a unit.
+int decimalsIn(MEAS_TYPE unit)
+{
+    const auto* const row = std::ranges::find(units::kUnits, unit, &units::UnitRow::unit);
+    return row == units::kUnits.end() || unit == NoneU ? INT_MAX : row->decimals;
+}
 
 void putIfThere(core::Control& control, std::string_view name, const Variant& value)
 {
@@ -145,16 +156,12 @@ void GeneratedForm::prepare(core::Control& control, const Parameter& parameter)
     control.DeviceMaxVersionSupported(appearance.supported.maxVersions);
     putIfThere(control, "UnitType", static_cast<std::int32_t>(parameter.unitType));
     putIfThere(control, "DeviceUnit", static_cast<std::int32_t>(parameter.unit));
-    putIfThere(control, "OutputUnit", static_cast<std::int32_t>(appearance.unit));
-    putIfThere(control, "DefaultUnit", static_cast<std::int32_t>(parameter.unit));
-    const bool whole = isInteger(parameter.location.type) && parameter.scale == 1;
-    putIfThere(control, "NumberOfDigits", appearance.digits.value_or(whole ? 0 : 3));
-    putIfThere(control, "InvalidEntryEnable", appearance.minimum && appearance.maximum);
-    // The upper limit first: a track takes no lower end beyond its upper one.
-    if (appearance.maximum)
-        putIfThere(control, "MaxValue", *appearance.maximum);
-    if (appearance.minimum)
-        putIfThere(control, "MinValue", *appearance.minimum);
+    // A unit brings its own decimals; where they are too few for the register, its numbers are shown without it.
+    const std::int16_t digits = decimalsOf(parameter).value_or(kUsualDigits);
+    const bool coarse = appearance.unit == parameter.unit && isInteger(parameter.location.type) &&
+                        digits > decimalsIn(appearance.unit);
+    putIfThere(control, "OutputUnit", static_cast<std::int32_t>(coarse ? NoneU : appearance.unit));
+    putIfThere(control, "NumberOfDigits", appearance.digits.value_or(digits));
 }
 
 const core::ClassInfo& GeneratedForm::classOf(const Parameter& parameter) const

@@ -20,6 +20,7 @@ constexpr std::array kProblems{
     QT_TRANSLATE_NOOP("Words", "not written: the entry is not valid"),
     QT_TRANSLATE_NOOP("Words", "not written: the entry is not a number"),
     QT_TRANSLATE_NOOP("Words", "not written: the device cannot hold a number of this size"),
+    QT_TRANSLATE_NOOP("Words", "not written: the number is outside the limits"),
     QT_TRANSLATE_NOOP("Words", "not written: the text is too long for the device"),
     QT_TRANSLATE_NOOP("Words", "not written: the device has no such characters"),
     QT_TRANSLATE_NOOP("Words", "not written: the parameter can only be read"),

@@ -109,9 +109,12 @@ TEST_F(Classes, AnotherLanguageKeepsTheChoiceThatIsBeingEdited)
 {
     core::Control& combo = *host.add("ctx_ZorComboBox", "Mode");
     core::Control& still = *host.add("ctx_ZorComboBox", "Mode");
+    core::Control& steps = *host.add("ctx_ZorUpDown", "Gone");
     host.start();
     auto& box = widgetOf<platform::ComboBox>(combo);
     EXPECT_EQ(box.selectedText(), "Forty");
+    EXPECT_EQ(widgetOf<platform::TextField>(steps).text(), "") << "never read";
+    EXPECT_EQ(get(steps, "MaxValue"), Variant(65535.0));
     host.hands.choose(box, 1);
     host.session->setLanguage("de");
     EXPECT_EQ(box.selectedText(), "Mehr");
@@ -123,6 +126,10 @@ TEST_F(Classes, AnotherLanguageKeepsTheChoiceThatIsBeingEdited)
     peer.registers[40] = 7;
     host.rounds();
     EXPECT_TRUE(get(combo, "InvalidValue").toBoolean()) << "no entry has the value 7";
+    EXPECT_EQ(box.selectedText(), "7");
+    peer.registers[40] = 40;
+    host.rounds();
+    EXPECT_EQ(box.selectedText() + std::to_string(box.count()), "Forty2");
 }
 
 TEST_F(Classes, DisplayControlsShowAnyParameter)

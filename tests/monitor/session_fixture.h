@@ -37,6 +37,10 @@ inline constexpr const char* kParameters = R"({
      "bits": [{"bit": 1, "text": "One"}, {"bit": 4, "text": "Four"}, {"bit": 6, "text": "Six"}]},
     {"tag": "Horn", "bank": "holding", "address": 50, "type": "bit", "bit": 0, "access": "write"},
     {"tag": "Missing", "bank": "holding", "address": 300, "type": "uint16"},
+    {"tag": "Gone", "bank": "holding", "address": 301, "type": "uint16", "access": "write"},
+    {"tag": "Damping", "bank": "holding", "address": 60, "type": "uint16", "scale": 0.1, "unit": "TimeU_s",
+     "access": "write", "maximum": 10},
+    {"tag": "Ratio", "bank": "holding", "address": 70, "type": "float32", "access": "write", "minimum": 0},
     {"tag": "Far", "bank": "holding", "address": 150, "type": "int16", "access": "write"}
   ]})";
 

@@ -29,11 +29,16 @@ TEST_F(SessionTest, ReadsEachParameterAndTellsHowItWent)
     peer.registers[30] = 0x4162;
     peer.registers[31] = 0x6320;
     peer.registers[32] = peer.registers[33] = 0;
-    host.run({"Level", "Limit", "Wide", "Name", "Missing", "Nowhere"});
+    peer.registers[70] = 0x7FC0; // no number
+    host.run({"Level", "Limit", "Wide", "Name", "Missing", "Ratio", "Nowhere"});
     EXPECT_EQ(host.text("Level"), "10");
     EXPECT_EQ(host.text("Wide"), "1441815.000") << "register 22 is the high word";
     EXPECT_EQ(host.text("Name"), "Abc");
-    EXPECT_TRUE(host.box("Missing").DataNotAvailable());
+    for (const char* tag : {"Missing", "Ratio"}) {
+        EXPECT_TRUE(host.box(tag).DataNotAvailable()) << tag;
+        EXPECT_EQ(host.text(tag), "") << "a number that nobody has read";
+    }
+    EXPECT_NE(host.session->report().find("Ratio  ?  no value\n"), std::string::npos) << host.session->report();
     EXPECT_FALSE(host.box("Limit").DataNotAvailable()) << "a neighbour's refusal";
     EXPECT_TRUE(host.box("Nowhere").DeviceTagNotFound());
     EXPECT_EQ(host.get("Level", "RegisterType"), Variant(1));
@@ -96,28 +101,68 @@ TEST_F(SessionTest, AnEditIsKeptUntilItIsWrittenAndReadBack)
 
 TEST_F(SessionTest, WhatCannotBeWrittenIsNamedAndKept)
 {
-    host.run({"Limit", "Far", "Name"});
-    host.box("Limit").setProperty("MaxValue", 1000.0);
+    host.run({"Limit", "Far", "Name", "Gone"});
     for (const char* tag : {"Limit", "Far"})
         host.box(tag).setProperty("InvalidEntryEnable", true);
     host.type("Limit", "1001");
     host.type("Far", "40000");
     host.type("Name", "\u20ACuro");
+    host.type("Gone", "5");
     const std::vector<Change> changes = host.session->pending();
-    ASSERT_EQ(changes.size(), 3U);
+    ASSERT_EQ(changes.size(), 4U);
     EXPECT_EQ(changes[0].problem, Problem::InvalidEntry);
     EXPECT_EQ(changes[1].problem, Problem::CharactersUnknown);
-    EXPECT_EQ(changes[2].problem, Problem::InvalidEntry) << "limits of 0 and 0";
+    EXPECT_EQ(changes[2].oldText, "?") << "an edit of what was never read";
+    EXPECT_EQ(changes[3].problem, Problem::InvalidEntry) << "beyond the type";
     host.box("Far").setProperty("InvalidEntryEnable", false);
     host.type("Far", "40001");
-    EXPECT_EQ(host.session->pending()[2].problem, Problem::OutOfRange);
+    EXPECT_EQ(host.session->pending()[3].problem, Problem::OutOfRange);
     peer.functions.clear();
-    EXPECT_TRUE(host.write().empty());
-    EXPECT_EQ(std::ranges::count(peer.functions, 6) + std::ranges::count(peer.functions, 16), 0);
+    EXPECT_EQ(only(host.write()), WriteOutcome::Refused) << "Gone";
+    EXPECT_EQ(std::ranges::count(peer.functions, 6) + std::ranges::count(peer.functions, 16), 1);
     EXPECT_EQ(host.text("Limit"), "1001");
     host.session->undoAll();
-    EXPECT_EQ(host.text("Limit") + host.text("Far"), "20150.000");
+    EXPECT_EQ(host.text("Limit") + host.text("Far") + host.text("Gone"), "20150.000");
     EXPECT_FALSE(host.session->hasEdits());
+}
+
+TEST_F(SessionTest, WhatIsTypedIsWrittenWhateverTheUnitShows)
+{
+    struct Row {
+        const char* tag;
+        const char* typed;
+        const char* review; // old and new value, or why there is none
+        int held;
+    };
+    peer.registers[60] = 45; // 4.5 s, shown as 5
+    host.run({"Damping", "Ratio"});
+    for (const Row& row : {Row{"Damping", "5", "4.5 5", 50}, Row{"Damping", "4.5", "5 4.5", 45},
+                           Row{"Damping", "4.52", "", 45}, Row{"Damping", "10.04", "4.5 10", 100},
+                           Row{"Damping", "11", "outside", 100}, Row{"Damping", "-7", "range", 100},
+                           Row{"Ratio", "-7", "outside", 70}, Row{"Ratio", "0.1234567", "", 0x3DFC}}) {
+        SCOPED_TRACE(std::string(row.tag) + ' ' + row.typed);
+        host.type(row.tag, row.typed);
+        // Neither another unit nor passing through the field changes what has been typed.
+        for (const MEAS_TYPE unit : {TimeU_hr, TimeU_s}) {
+            host.session->setUnit(
+                **std::ranges::find_if(host.session->bindings(),
+                                       [](const auto& one) { return one->control().DeviceTag() == "Damping"; }),
+                unit);
+            host.hands.focus(host.field(row.tag));
+            host.hands.blur(host.field(row.tag));
+        }
+        const std::vector<Change> changes = host.session->pending();
+        ASSERT_EQ(changes.size(), 1U);
+        const Change& change = changes.front();
+        const std::string said = change.problem == Problem::None            ? change.oldText + ' ' + change.newText
+                                 : change.problem == Problem::OutsideLimits ? "outside"
+                                 : change.problem == Problem::OutOfRange    ? "range"
+                                                                            : "?";
+        EXPECT_TRUE(*row.review == '\0' || said == row.review) << said;
+        host.write();
+        EXPECT_EQ(peer.registers[host.session->file().parameters[change.parameter].location.address], row.held);
+        host.session->undoAll();
+    }
 }
 
 TEST_F(SessionTest, ARefusedWriteKeepsItsEditAndTheOthersEnd)
@@ -290,7 +335,7 @@ TEST(Sessions, AnExceptionIsWaitedForReportedOrAFailure)
         bool waiting;
     };
     for (const Row& row : {Row{1, false, true, false}, Row{2, false, true, false}, Row{4, false, true, false},
-                           Row{5, false, false, true}, Row{6, false, false, true}, Row{10, true, false, false},
+                           Row{5, false, true, true}, Row{6, false, true, true}, Row{10, true, false, false},
                            Row{11, true, false, false}}) {
         SCOPED_TRACE("exception " + std::to_string(row.exception));
         Peer peer;
