@@ -143,7 +143,10 @@ int monitor(const Settings& settings, ParameterFile file)
                     "--tab " + std::to_string(settings.tab) + ": the last tab is " + std::to_string(tabs - 1));
     if (form->tabs() != nullptr)
         form->tabs()->setCurrentIndex(settings.tab);
+    QSettings sizes("ZorSmartControls", "zor-monitor");
     Window window(std::move(session), std::move(form), languages, device.get());
+    if (settings.runFor == 0 && settings.screenshot.empty())
+        window.remember(sizes); // what nobody watches leaves no traces and looks the same each time
     if (settings.units != "form")
         window.setUnits(kUnitSystems.at(settings.units));
     window.show();

@@ -392,6 +392,11 @@ void Binding::follow(const Variant& chosen) { putIfThere("ModifiedValue", chosen
 
 void Binding::event(core::Control& control, const core::EventRow& row, platform::EventArgs /*args*/)
 {
+    const bool chosen = row.name == "OutputValueChange";
+    const bool edited =
+        chosen || row.name == "textChange" || row.name == "DataModifiedSetTrue" || row.name == "DataModifiedReset";
+    if (edited && onEdit)
+        onEdit();
     if (m_quiet > 0)
         return;
     bool typed = false;
@@ -399,8 +404,7 @@ void Binding::event(core::Control& control, const core::EventRow& row, platform:
         quietly([&] { typed = m_typed.hear(row); });
     if (typed)
         takeTyped();
-    const bool chosen = row.name == "OutputValueChange";
-    if (chosen || row.name == "textChange" || row.name == "DataModifiedSetTrue" || row.name == "DataModifiedReset")
+    if (edited)
         ++m_actions;
     if (chosen && isChoice() && onChosen)
         onChosen(control.get(*m_row.output));

@@ -76,6 +76,8 @@ public:
     /// Fills the entries in a language and shows the edit anew, or the value when there is none. An entry that
     /// is no valid value stays as it was typed.
     void refresh(const std::string& language);
+    /// Called when an edit may have begun, changed or ended, by the operator or by the device.
+    std::function<void()> onEdit;
     /// Called when the operator has chosen this button of several.
     std::function<void(const Variant& value)> onChosen;
     void follow(const Variant& chosen);

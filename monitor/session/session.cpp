@@ -62,6 +62,10 @@ void Session::bind(core::Control& control)
     auto binding = std::make_unique<Binding>(control, index ? &m_file.parameters[*index] : nullptr);
     binding->applyFile();
     binding->refresh(m_language);
+    binding->onEdit = [this] {
+        if (onEdit)
+            onEdit();
+    };
     if (binding->isChoice()) {
         Binding* chooser = binding.get();
         chooser->onChosen = [this, chooser](const Variant& value) { chosen(*chooser, value); };

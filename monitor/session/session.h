@@ -42,6 +42,8 @@ public:
     std::function<void(bool answered)> onRound;
     /// When a list of changes has been dealt with.
     std::function<void(const std::vector<Written>&)> onWritten;
+    /// An edit may have begun, changed or ended. Often: whoever shows it waits until all has been heard.
+    std::function<void()> onEdit;
 
     /// @name Editing
     /// @{

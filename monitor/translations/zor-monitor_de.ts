@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>GeneratedForm</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>%1 (edited)</source>
+        <translation>%1 (geändert)</translation>
+    </message>
+</context>
+<context>
     <name>ReviewDialog</name>
     <message>
         <source>Write to the device</source>
@@ -24,10 +35,6 @@
         <translation>Neuer Wert</translation>
     </message>
     <message>
-        <source>Unit</source>
-        <translation>Einheit</translation>
-    </message>
-    <message>
         <source>Remark</source>
         <translation>Bemerkung</translation>
     </message>
@@ -38,6 +45,49 @@
     <message>
         <source>&amp;Write</source>
         <translation>&amp;Schreiben</translation>
+    </message>
+    <message>
+        <source>These cannot be written, and stay in their fields:</source>
+        <translation>Diese können nicht geschrieben werden und bleiben in ihren Feldern:</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Kennung</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>The record cannot be written: %1</source>
+        <translation>Die Aufzeichnung kann nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>%1: connected, read at %2</source>
+        <translation>%1: verbunden, gelesen um %2</translation>
+    </message>
+    <message>
+        <source>%1: not read yet</source>
+        <translation>%1: noch nicht gelesen</translation>
+    </message>
+    <message>
+        <source>No answer: %1 (%2, tried at %3)</source>
+        <translation>Keine Antwort: %1 (%2, versucht um %3)</translation>
+    </message>
+    <message>
+        <source>Reads</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>Writes</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>%1: %2/s, %3 ms</source>
+        <translation>%1: %2/s, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1: %2 requests, %3 failed, round trip %4 ms on average, %5 ms at most</source>
+        <translation>%1: %2 Anfragen, %3 fehlgeschlagen, Antwortzeit im Mittel %4 ms, höchstens %5 ms</translation>
     </message>
 </context>
 <context>
@@ -107,10 +157,6 @@
         <translation>&amp;Einheiten</translation>
     </message>
     <message>
-        <source>The value cannot be shown in that unit</source>
-        <translation>Der Wert lässt sich in dieser Einheit nicht anzeigen</translation>
-    </message>
-    <message>
         <source>&amp;Language</source>
         <translation>&amp;Sprache</translation>
     </message>
@@ -121,26 +167,6 @@
     <message>
         <source>There are edits that have not been written. Close all the same?</source>
         <translation>Es gibt Änderungen, die nicht geschrieben sind. Trotzdem schließen?</translation>
-    </message>
-    <message>
-        <source>%1: connected, read at %2</source>
-        <translation>%1: verbunden, gelesen um %2</translation>
-    </message>
-    <message>
-        <source>%1: no answer, tried at %2</source>
-        <translation>%1: keine Antwort, versucht um %2</translation>
-    </message>
-    <message>
-        <source>%1: %2 requests, %3 failed, round trip %4 ms on average, %5 ms at most</source>
-        <translation>%1: %2 Anfragen, %3 fehlgeschlagen, Umlauf %4 ms im Mittel, %5 ms höchstens</translation>
-    </message>
-    <message>
-        <source>Reads</source>
-        <translation>Lesen</translation>
-    </message>
-    <message>
-        <source>Writes</source>
-        <translation>Schreiben</translation>
     </message>
     <message numerus="yes">
         <source>%n value(s) written and read back</source>
@@ -158,48 +184,16 @@
         <translation>Diese Änderungen bleiben erhalten:</translation>
     </message>
     <message>
-        <source>%1: %2/s, %3 ms</source>
-        <translation>%1: %2/s, %3 ms</translation>
+        <source>Not every value can be shown in that unit</source>
+        <translation>Nicht jeder Wert kann in dieser Einheit angezeigt werden</translation>
+    </message>
+    <message>
+        <source>Holds edits that have not been written</source>
+        <translation>Enthält Änderungen, die nicht geschrieben sind</translation>
     </message>
 </context>
 <context>
     <name>Words</name>
-    <message>
-        <source>not written: the entry is not valid</source>
-        <translation>nicht geschrieben: die Eingabe ist nicht gültig</translation>
-    </message>
-    <message>
-        <source>not written: the entry is not a number</source>
-        <translation>nicht geschrieben: die Eingabe ist keine Zahl</translation>
-    </message>
-    <message>
-        <source>not written: the device cannot hold a number of this size</source>
-        <translation>nicht geschrieben: das Gerät fasst keine Zahl dieser Größe</translation>
-    </message>
-    <message>
-        <source>not written: the number is outside the limits</source>
-        <translation>nicht geschrieben: die Zahl liegt außerhalb der Grenzen</translation>
-    </message>
-    <message>
-        <source>not written: the text is too long for the device</source>
-        <translation>nicht geschrieben: der Text ist zu lang für das Gerät</translation>
-    </message>
-    <message>
-        <source>not written: the device has no such characters</source>
-        <translation>nicht geschrieben: das Gerät kennt solche Zeichen nicht</translation>
-    </message>
-    <message>
-        <source>not written: the parameter can only be read</source>
-        <translation>nicht geschrieben: der Parameter ist nur lesbar</translation>
-    </message>
-    <message>
-        <source>not written: the device has not been read yet</source>
-        <translation>nicht geschrieben: das Gerät ist noch nicht gelesen</translation>
-    </message>
-    <message>
-        <source>not written: two fields hold different values</source>
-        <translation>nicht geschrieben: zwei Felder enthalten verschiedene Werte</translation>
-    </message>
     <message>
         <source>written and read back</source>
         <translation>geschrieben und zurückgelesen</translation>
@@ -223,6 +217,42 @@
     <message>
         <source>exception %1</source>
         <translation>Ausnahme %1</translation>
+    </message>
+    <message>
+        <source>the entry is not valid</source>
+        <translation>die Eingabe ist nicht gültig</translation>
+    </message>
+    <message>
+        <source>the entry is not a number</source>
+        <translation>die Eingabe ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>the device cannot hold a number of this size</source>
+        <translation>das Gerät kann eine Zahl dieser Größe nicht aufnehmen</translation>
+    </message>
+    <message>
+        <source>the number is outside the limits</source>
+        <translation>die Zahl liegt außerhalb der Grenzen</translation>
+    </message>
+    <message>
+        <source>the text is too long for the device</source>
+        <translation>der Text ist für das Gerät zu lang</translation>
+    </message>
+    <message>
+        <source>the device has no such characters</source>
+        <translation>das Gerät kennt diese Zeichen nicht</translation>
+    </message>
+    <message>
+        <source>the parameter can only be read</source>
+        <translation>der Parameter kann nur gelesen werden</translation>
+    </message>
+    <message>
+        <source>the device has not been read yet</source>
+        <translation>das Gerät ist noch nicht gelesen worden</translation>
+    </message>
+    <message>
+        <source>two fields hold different values</source>
+        <translation>zwei Felder enthalten verschiedene Werte</translation>
     </message>
 </context>
 <context>
@@ -303,6 +333,105 @@
     </message>
 </context>
 <context>
+    <name>reasons</name>
+    <message>
+        <source>no complete answer in time</source>
+        <translation>keine vollständige Antwort in der vorgesehenen Zeit</translation>
+    </message>
+    <message>
+        <source>the connection was refused</source>
+        <translation>die Verbindung wurde abgelehnt</translation>
+    </message>
+    <message>
+        <source>the device closed the connection</source>
+        <translation>das Gerät hat die Verbindung geschlossen</translation>
+    </message>
+    <message>
+        <source>there is no such host</source>
+        <translation>diesen Rechner gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the network does not reach the device</source>
+        <translation>das Netz erreicht das Gerät nicht</translation>
+    </message>
+    <message>
+        <source>a reply to another transaction</source>
+        <translation>eine Antwort auf eine andere Transaktion</translation>
+    </message>
+    <message>
+        <source>a reply in another protocol</source>
+        <translation>eine Antwort in einem anderen Protokoll</translation>
+    </message>
+    <message>
+        <source>a reply of an impossible length</source>
+        <translation>eine Antwort unmöglicher Länge</translation>
+    </message>
+    <message>
+        <source>a reply from another unit</source>
+        <translation>eine Antwort von einem anderen Gerät der Linie</translation>
+    </message>
+    <message>
+        <source>more bytes than the reply has</source>
+        <translation>mehr Bytes als die Antwort hat</translation>
+    </message>
+    <message>
+        <source>a reply of another length than was asked for</source>
+        <translation>eine Antwort anderer Länge als angefragt</translation>
+    </message>
+    <message>
+        <source>an empty reply</source>
+        <translation>eine leere Antwort</translation>
+    </message>
+    <message>
+        <source>an exception of the wrong length</source>
+        <translation>eine Ausnahme falscher Länge</translation>
+    </message>
+    <message>
+        <source>a reply to another function</source>
+        <translation>eine Antwort auf eine andere Funktion</translation>
+    </message>
+    <message>
+        <source>a reply to another write</source>
+        <translation>eine Antwort auf ein anderes Schreiben</translation>
+    </message>
+    <message>
+        <source>the device does not know this function</source>
+        <translation>das Gerät kennt diese Funktion nicht</translation>
+    </message>
+    <message>
+        <source>the device does not have this address</source>
+        <translation>das Gerät hat diese Adresse nicht</translation>
+    </message>
+    <message>
+        <source>the device does not take this value</source>
+        <translation>das Gerät nimmt diesen Wert nicht an</translation>
+    </message>
+    <message>
+        <source>the device has failed</source>
+        <translation>das Gerät hat einen Fehler</translation>
+    </message>
+    <message>
+        <source>the device is still working on it</source>
+        <translation>das Gerät arbeitet noch daran</translation>
+    </message>
+    <message>
+        <source>the device is busy</source>
+        <translation>das Gerät ist beschäftigt</translation>
+    </message>
+    <message>
+        <source>the device&apos;s memory is damaged</source>
+        <translation>der Speicher des Geräts ist beschädigt</translation>
+    </message>
+    <message>
+        <source>the gateway has no path to the device</source>
+        <translation>das Gateway hat keinen Weg zum Gerät</translation>
+    </message>
+    <message>
+        <source>the device behind the gateway does not answer</source>
+        <translation>das Gerät hinter dem Gateway antwortet nicht</translation>
+    </message>
+</context>
+<context>
     <name>units</name>
     <message>
         <source>UNIT_LENGTH_1/256_INCH</source>
@@ -375,6 +504,38 @@
     <message>
         <source>UNIT_OTHER_OHM</source>
         <translation>Ohm</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>Pressure</source>
+        <translation>Druck</translation>
+    </message>
+    <message>
+        <source>Volumetric Flow</source>
+        <translation>Volumenstrom</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequenz</translation>
     </message>
 </context>
 </TS>

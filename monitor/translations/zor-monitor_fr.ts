@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr">
 <context>
+    <name>GeneratedForm</name>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>%1 (edited)</source>
+        <translation>%1 (modifié)</translation>
+    </message>
+</context>
+<context>
     <name>ReviewDialog</name>
     <message>
         <source>Write to the device</source>
@@ -24,10 +35,6 @@
         <translation>Nouvelle valeur</translation>
     </message>
     <message>
-        <source>Unit</source>
-        <translation>Unité</translation>
-    </message>
-    <message>
         <source>Remark</source>
         <translation>Remarque</translation>
     </message>
@@ -38,6 +45,49 @@
     <message>
         <source>&amp;Write</source>
         <translation>É&amp;crire</translation>
+    </message>
+    <message>
+        <source>These cannot be written, and stay in their fields:</source>
+        <translation>Celles-ci ne peuvent pas être écrites et restent dans leurs champs :</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Repère</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>The record cannot be written: %1</source>
+        <translation>L&apos;enregistrement ne peut pas être écrit : %1</translation>
+    </message>
+    <message>
+        <source>%1: connected, read at %2</source>
+        <translation>%1 : connecté, lu à %2</translation>
+    </message>
+    <message>
+        <source>%1: not read yet</source>
+        <translation>%1 : pas encore lu</translation>
+    </message>
+    <message>
+        <source>No answer: %1 (%2, tried at %3)</source>
+        <translation>Pas de réponse : %1 (%2, essayé à %3)</translation>
+    </message>
+    <message>
+        <source>Reads</source>
+        <translation>Lectures</translation>
+    </message>
+    <message>
+        <source>Writes</source>
+        <translation>Écritures</translation>
+    </message>
+    <message>
+        <source>%1: %2/s, %3 ms</source>
+        <translation>%1 : %2/s, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1: %2 requests, %3 failed, round trip %4 ms on average, %5 ms at most</source>
+        <translation>%1 : %2 requêtes, %3 échouées, aller-retour %4 ms en moyenne, %5 ms au plus</translation>
     </message>
 </context>
 <context>
@@ -107,10 +157,6 @@
         <translation>&amp;Unités</translation>
     </message>
     <message>
-        <source>The value cannot be shown in that unit</source>
-        <translation>La valeur ne peut pas être affichée dans cette unité</translation>
-    </message>
-    <message>
         <source>&amp;Language</source>
         <translation>&amp;Langue</translation>
     </message>
@@ -121,26 +167,6 @@
     <message>
         <source>There are edits that have not been written. Close all the same?</source>
         <translation>Des modifications n&apos;ont pas été écrites. Fermer quand même ?</translation>
-    </message>
-    <message>
-        <source>%1: connected, read at %2</source>
-        <translation>%1 : connecté, lu à %2</translation>
-    </message>
-    <message>
-        <source>%1: no answer, tried at %2</source>
-        <translation>%1 : pas de réponse, essayé à %2</translation>
-    </message>
-    <message>
-        <source>%1: %2 requests, %3 failed, round trip %4 ms on average, %5 ms at most</source>
-        <translation>%1 : %2 requêtes, %3 échouées, aller-retour %4 ms en moyenne, %5 ms au plus</translation>
-    </message>
-    <message>
-        <source>Reads</source>
-        <translation>Lectures</translation>
-    </message>
-    <message>
-        <source>Writes</source>
-        <translation>Écritures</translation>
     </message>
     <message numerus="yes">
         <source>%n value(s) written and read back</source>
@@ -158,48 +184,16 @@
         <translation>Ces modifications sont conservées :</translation>
     </message>
     <message>
-        <source>%1: %2/s, %3 ms</source>
-        <translation>%1 : %2/s, %3 ms</translation>
+        <source>Not every value can be shown in that unit</source>
+        <translation>Toutes les valeurs ne peuvent pas être affichées dans cette unité</translation>
+    </message>
+    <message>
+        <source>Holds edits that have not been written</source>
+        <translation>Contient des modifications non écrites</translation>
     </message>
 </context>
 <context>
     <name>Words</name>
-    <message>
-        <source>not written: the entry is not valid</source>
-        <translation>non écrit : la saisie n&apos;est pas valide</translation>
-    </message>
-    <message>
-        <source>not written: the entry is not a number</source>
-        <translation>non écrit : la saisie n&apos;est pas un nombre</translation>
-    </message>
-    <message>
-        <source>not written: the device cannot hold a number of this size</source>
-        <translation>non écrit : l&apos;appareil ne peut contenir un nombre de cette taille</translation>
-    </message>
-    <message>
-        <source>not written: the number is outside the limits</source>
-        <translation>non écrit : le nombre est hors limites</translation>
-    </message>
-    <message>
-        <source>not written: the text is too long for the device</source>
-        <translation>non écrit : le texte est trop long pour l&apos;appareil</translation>
-    </message>
-    <message>
-        <source>not written: the device has no such characters</source>
-        <translation>non écrit : l&apos;appareil n&apos;a pas ces caractères</translation>
-    </message>
-    <message>
-        <source>not written: the parameter can only be read</source>
-        <translation>non écrit : le paramètre ne peut qu’être lu</translation>
-    </message>
-    <message>
-        <source>not written: the device has not been read yet</source>
-        <translation>non écrit : l&apos;appareil n&apos;a pas encore été lu</translation>
-    </message>
-    <message>
-        <source>not written: two fields hold different values</source>
-        <translation>non écrit : deux champs contiennent des valeurs différentes</translation>
-    </message>
     <message>
         <source>written and read back</source>
         <translation>écrit et relu</translation>
@@ -223,6 +217,42 @@
     <message>
         <source>exception %1</source>
         <translation>exception %1</translation>
+    </message>
+    <message>
+        <source>the entry is not valid</source>
+        <translation>la saisie n&apos;est pas valide</translation>
+    </message>
+    <message>
+        <source>the entry is not a number</source>
+        <translation>la saisie n&apos;est pas un nombre</translation>
+    </message>
+    <message>
+        <source>the device cannot hold a number of this size</source>
+        <translation>l&apos;appareil ne peut pas contenir un nombre de cette taille</translation>
+    </message>
+    <message>
+        <source>the number is outside the limits</source>
+        <translation>le nombre est hors limites</translation>
+    </message>
+    <message>
+        <source>the text is too long for the device</source>
+        <translation>le texte est trop long pour l&apos;appareil</translation>
+    </message>
+    <message>
+        <source>the device has no such characters</source>
+        <translation>l&apos;appareil ne connaît pas ces caractères</translation>
+    </message>
+    <message>
+        <source>the parameter can only be read</source>
+        <translation>le paramètre est en lecture seule</translation>
+    </message>
+    <message>
+        <source>the device has not been read yet</source>
+        <translation>l&apos;appareil n&apos;a pas encore été lu</translation>
+    </message>
+    <message>
+        <source>two fields hold different values</source>
+        <translation>deux champs contiennent des valeurs différentes</translation>
     </message>
 </context>
 <context>
@@ -303,6 +333,105 @@
     </message>
 </context>
 <context>
+    <name>reasons</name>
+    <message>
+        <source>no complete answer in time</source>
+        <translation>pas de réponse complète dans le délai</translation>
+    </message>
+    <message>
+        <source>the connection was refused</source>
+        <translation>la connexion a été refusée</translation>
+    </message>
+    <message>
+        <source>the device closed the connection</source>
+        <translation>l&apos;appareil a fermé la connexion</translation>
+    </message>
+    <message>
+        <source>there is no such host</source>
+        <translation>cet hôte n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>the network does not reach the device</source>
+        <translation>le réseau n&apos;atteint pas l&apos;appareil</translation>
+    </message>
+    <message>
+        <source>a reply to another transaction</source>
+        <translation>une réponse à une autre transaction</translation>
+    </message>
+    <message>
+        <source>a reply in another protocol</source>
+        <translation>une réponse dans un autre protocole</translation>
+    </message>
+    <message>
+        <source>a reply of an impossible length</source>
+        <translation>une réponse d&apos;une longueur impossible</translation>
+    </message>
+    <message>
+        <source>a reply from another unit</source>
+        <translation>une réponse d&apos;un autre esclave</translation>
+    </message>
+    <message>
+        <source>more bytes than the reply has</source>
+        <translation>plus d&apos;octets que la réponse n&apos;en a</translation>
+    </message>
+    <message>
+        <source>a reply of another length than was asked for</source>
+        <translation>une réponse d&apos;une autre longueur que demandé</translation>
+    </message>
+    <message>
+        <source>an empty reply</source>
+        <translation>une réponse vide</translation>
+    </message>
+    <message>
+        <source>an exception of the wrong length</source>
+        <translation>une exception de longueur incorrecte</translation>
+    </message>
+    <message>
+        <source>a reply to another function</source>
+        <translation>une réponse à une autre fonction</translation>
+    </message>
+    <message>
+        <source>a reply to another write</source>
+        <translation>une réponse à une autre écriture</translation>
+    </message>
+    <message>
+        <source>the device does not know this function</source>
+        <translation>l&apos;appareil ne connaît pas cette fonction</translation>
+    </message>
+    <message>
+        <source>the device does not have this address</source>
+        <translation>l&apos;appareil n&apos;a pas cette adresse</translation>
+    </message>
+    <message>
+        <source>the device does not take this value</source>
+        <translation>l&apos;appareil n&apos;accepte pas cette valeur</translation>
+    </message>
+    <message>
+        <source>the device has failed</source>
+        <translation>l&apos;appareil est en défaut</translation>
+    </message>
+    <message>
+        <source>the device is still working on it</source>
+        <translation>l&apos;appareil y travaille encore</translation>
+    </message>
+    <message>
+        <source>the device is busy</source>
+        <translation>l&apos;appareil est occupé</translation>
+    </message>
+    <message>
+        <source>the device&apos;s memory is damaged</source>
+        <translation>la mémoire de l&apos;appareil est endommagée</translation>
+    </message>
+    <message>
+        <source>the gateway has no path to the device</source>
+        <translation>la passerelle n&apos;a pas de chemin vers l&apos;appareil</translation>
+    </message>
+    <message>
+        <source>the device behind the gateway does not answer</source>
+        <translation>l&apos;appareil derrière la passerelle ne répond pas</translation>
+    </message>
+</context>
+<context>
     <name>units</name>
     <message>
         <source>UNIT_LENGTH_1/256_INCH</source>
@@ -375,6 +504,38 @@
     <message>
         <source>UNIT_OTHER_OHM</source>
         <translation>ohm</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longueur</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Pressure</source>
+        <translation>Pression</translation>
+    </message>
+    <message>
+        <source>Volumetric Flow</source>
+        <translation>Débit volumique</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Temps</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Fréquence</translation>
     </message>
 </context>
 </TS>

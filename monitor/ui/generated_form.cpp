@@ -2,47 +2,25 @@
 #include <zor/core/frm_Container.h>
 #include <zor/monitor/data/codec.h>
 #include <zor/monitor/ui/form.h>
+#include <zor/monitor/ui/row_looks.h>
 #include <zor/units/unit_catalogue.h>
 
 #include <QGridLayout>
 #include <QPointer>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QTabBar>
 #include <QVBoxLayout>
 #include <climits>
 
 #include <algorithm>
-#include <array>
 
 namespace zor::monitor {
 namespace {
 
-/// The size that a class needs, in pixels, and the property that carries its own caption.
-struct LooksRow {
-    std::string_view name;
-    int width;
-    int height;
-    std::string_view caption{};
-};
-
-constexpr std::array kLooks{
-    LooksRow{"ctx_ZorTextBox", 280, 27},
-    LooksRow{"ctx_ZorUpDown", 280, 27},
-    LooksRow{"ctx_ZorSlider", 280, 64},
-    LooksRow{"ctx_ZorComboBox", 280, 27},
-    LooksRow{"ctx_ZorListBox", 280, 96},
-    LooksRow{"ctx_ZorCheckBox", 280, 24, "CheckBoxCaption"},
-    LooksRow{"ctx_ZorOptionButton", 280, 24, "OptionButtonCaption"},
-    LooksRow{"ctx_ZorLabel", 280, 22},
-    LooksRow{"ctx_ZorImage", 40, 32},
-};
-constexpr LooksRow kUsualLooks{"", 280, 27};
 constexpr std::string_view kUsualClass = "ctx_ZorTextBox";
-
-const LooksRow& looksOf(const core::ClassInfo& info)
-{
-    const auto* const row = std::ranges::find(kLooks, info.name, &LooksRow::name);
-    return row == kLooks.end() ? kUsualLooks : *row;
-}
+constexpr int kWidestCaption = 260;
+constexpr int kFrame = 4; ///< around what stands beside a caption
 
 QString text(const std::string& utf8) { return QString::fromStdString(utf8); }
 
@@ -81,7 +59,7 @@ GeneratedForm::GeneratedForm(const ParameterFile& file, const core::ClassRegistr
 GeneratedForm::~GeneratedForm()
 {
     // The controls' widgets are children of the tabs; they go before those do.
-    m_controls.clear();
+    m_rows.clear();
     if (m_widget->parent() == nullptr)
         delete m_widget;
 }
@@ -106,45 +84,41 @@ void GeneratedForm::addTab(const ParameterFile& file, const LocalText& group)
 
 void GeneratedForm::addRow(QGridLayout& grid, const Parameter& parameter)
 {
-    const int row = grid.rowCount();
+    const int line = grid.rowCount();
     const core::ClassInfo& info = classOf(parameter);
-    const bool captioned = !looksOf(info).caption.empty();
-    const bool choice = captioned && info.property("EnumEntryValue") != nullptr;
-    QLabel* caption = nullptr;
-    const std::size_t first = m_controls.size();
-    if (!captioned || choice) {
-        caption = new QLabel;
-        caption->setTextFormat(Qt::PlainText);
-        caption->setMinimumHeight(std::min(looksOf(info).height, kUsualLooks.height));
-        grid.addWidget(caption, row, 0, Qt::AlignTop);
+    const LooksRow& looks = looksOf(info);
+    const Qt::Alignment level = looks.tall ? Qt::AlignTop : Qt::AlignVCenter;
+    Row row{&parameter, m_tabTexts.size(), new QLabel, new QLabel, {}};
+    for (QLabel* label : {row.caption, row.note})
+        label->setTextFormat(Qt::PlainText);
+    row.caption->setWordWrap(true);
+    for (QLabel* label : {row.caption, row.note})
+        label->setContentsMargins(0, looks.tall ? kFrame : 0, 0, 0);
+    auto* column = new QVBoxLayout;
+    column->setSpacing(0);
+    const bool choice = info.property("EnumEntryValue") != nullptr;
+    for (std::size_t i = 0; i < (choice ? parameter.entries.size() : 1); ++i) {
+        core::Control& control = addControl(row, info, choice ? &parameter.entries[i] : nullptr);
+        column->addWidget(&platform::qt::widgetOf(control.surface()), 0, Qt::AlignLeft);
     }
-    if (!choice) {
-        grid.addWidget(&addControl(parameter, info, nullptr), row, 1, Qt::AlignLeft | Qt::AlignTop);
-    } else {
-        auto* column = new QVBoxLayout;
-        column->setSpacing(0);
-        for (const Entry& entry : parameter.entries)
-            column->addWidget(&addControl(parameter, info, &entry));
-        grid.addLayout(column, row, 1, Qt::AlignLeft | Qt::AlignTop);
-    }
-    if (caption != nullptr && first < m_controls.size())
-        m_captions.push_back({caption, &parameter.appearance.caption, m_controls[first].get()});
+    auto* field = new QHBoxLayout;
+    field->addLayout(column);
+    field->addWidget(row.note, 0, level);
+    grid.addWidget(row.caption, line, 0, level);
+    grid.addLayout(field, line, 1, Qt::AlignLeft | level);
+    m_rows.push_back(std::move(row));
 }
 
-QWidget& GeneratedForm::addControl(const Parameter& parameter, const core::ClassInfo& info, const Entry* entry)
+core::Control& GeneratedForm::addControl(Row& row, const core::ClassInfo& info, const Entry* entry)
 {
     core::ControlPtr<> control = info.create(m_container);
     control->initialiseProperties();
-    prepare(*control, parameter);
-    const LooksRow& looks = looksOf(info);
+    prepare(*control, *row.parameter);
     if (entry != nullptr)
         putIfThere(*control, "EnumEntryValue", entry->value);
-    if (!looks.caption.empty())
-        m_ownCaptions.push_back({control.get(), entry != nullptr ? &entry->text : &parameter.appearance.caption});
-    QWidget& widget = platform::qt::widgetOf(control->surface());
-    widget.setFixedSize(looks.width, looks.height);
-    m_controls.push_back(std::move(control));
-    return widget;
+    giveSize(*control);
+    row.controls.push_back(std::move(control));
+    return *row.controls.back();
 }
 
 void GeneratedForm::prepare(core::Control& control, const Parameter& parameter)
@@ -173,28 +147,76 @@ const core::ClassInfo& GeneratedForm::classOf(const Parameter& parameter) const
 std::vector<core::Control*> GeneratedForm::controls()
 {
     std::vector<core::Control*> controls;
-    for (const auto& control : m_controls)
-        controls.push_back(control.get());
+    for (const Row& row : m_rows) {
+        for (const auto& control : row.controls)
+            controls.push_back(control.get());
+    }
     return controls;
 }
 
-void GeneratedForm::showSupport()
+void GeneratedForm::arrange()
 {
-    for (const Caption& caption : m_captions)
-        caption.label->setVisible(!caption.control->DeviceTypeNotSupported() &&
-                                  !caption.control->DeviceVerNotSupported());
+    const auto front = static_cast<std::size_t>(std::max(m_widget->currentIndex(), 0));
+    for (Row& row : m_rows) {
+        if (row.tab != front)
+            continue;
+        for (const auto& control : row.controls)
+            fitSize(*control);
+        if (row.controls.empty())
+            continue;
+        core::Control& first = *row.controls.front();
+        const bool hidden = platform::qt::widgetOf(first.surface()).isHidden();
+        row.caption->setHidden(hidden);
+        row.note->setHidden(hidden);
+        if (!hidden)
+            showNote(*row.note, first, *row.parameter, !isKnown || isKnown(first), m_language);
+    }
+}
+
+QSize GeneratedForm::wholeSize()
+{
+    QSize size = m_widget->sizeHint();
+    for (int i = 0; i < m_widget->count(); ++i) {
+        const auto* scroll = qobject_cast<const QScrollArea*>(m_widget->widget(i));
+        const QSize bars(scroll->verticalScrollBar()->sizeHint().width(), m_widget->tabBar()->sizeHint().height());
+        size = size.expandedTo(scroll->widget()->sizeHint() + bars);
+    }
+    return size;
 }
 
 void GeneratedForm::translate(const std::string& language)
 {
-    for (const Caption& caption : m_captions)
-        caption.label->setText(text(caption.text->in(language)));
-    for (const OwnCaption& caption : m_ownCaptions)
-        putIfThere(*caption.control, looksOf(caption.control->info()).caption, caption.text->in(language));
+    m_language = language;
+    for (const Row& row : m_rows) {
+        const Appearance& appearance = row.parameter->appearance;
+        row.caption->setText(breakable(text(appearance.caption.in(language))));
+        for (std::size_t i = 0; i < row.controls.size(); ++i) {
+            core::Control& control = *row.controls[i];
+            if (control.info().property("EnumEntryValue") != nullptr)
+                setOwnCaption(control, text(row.parameter->entries[i].text.in(language)));
+            else if (!looksOf(control.info()).caption.empty())
+                setOwnCaption(control, {});
+            else if (control.info().name == "ctx_ZorListBox")
+                giveRoomForBits(control, *row.parameter, language);
+        }
+    }
     for (std::size_t i = 0; i < m_tabTexts.size(); ++i) {
         const QString name = text(m_tabTexts[i]->in(language)).replace('&', "&&");
-        m_widget->setTabText(static_cast<int>(i), name.isEmpty() ? QString("-") : name);
+        m_widget->setTabText(static_cast<int>(i), name.isEmpty() ? tr("General") : name);
     }
+    arrangeCaptions();
+    arrange();
+}
+
+void GeneratedForm::arrangeCaptions()
+{
+    std::vector<int> widths(m_tabTexts.size(), 0);
+    for (const Row& row : m_rows) {
+        const int width = row.caption->fontMetrics().horizontalAdvance(row.caption->text()) + 2;
+        widths[row.tab] = std::max(widths[row.tab], std::min(width, kWidestCaption));
+    }
+    for (const Row& row : m_rows)
+        row.caption->setFixedWidth(widths[row.tab]);
 }
 
 bool isInSight(core::Control& control)

@@ -1,5 +1,5 @@
 #include <zor/monitor/ui/review_dialog.h>
-#include <zor/units/mod_Common.h>
+#include <zor/monitor/ui/words.h>
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -9,91 +9,98 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <array>
 
 namespace zor::monitor {
 namespace {
 
-// In the order of Problem.
-constexpr std::array kProblems{
-    "",
-    QT_TRANSLATE_NOOP("Words", "not written: the entry is not valid"),
-    QT_TRANSLATE_NOOP("Words", "not written: the entry is not a number"),
-    QT_TRANSLATE_NOOP("Words", "not written: the device cannot hold a number of this size"),
-    QT_TRANSLATE_NOOP("Words", "not written: the number is outside the limits"),
-    QT_TRANSLATE_NOOP("Words", "not written: the text is too long for the device"),
-    QT_TRANSLATE_NOOP("Words", "not written: the device has no such characters"),
-    QT_TRANSLATE_NOOP("Words", "not written: the parameter can only be read"),
-    QT_TRANSLATE_NOOP("Words", "not written: the device has not been read yet"),
-    QT_TRANSLATE_NOOP("Words", "not written: two fields hold different values"),
-};
-
-// In the order of WriteOutcome.
-constexpr std::array kOutcomes{
-    QT_TRANSLATE_NOOP("Words", "written and read back"),
-    QT_TRANSLATE_NOOP("Words", "refused by the device"),
-    QT_TRANSLATE_NOOP("Words", "not sent: no connection"),
-    QT_TRANSLATE_NOOP("Words", "unconfirmed: the device did not answer; it is settled by the next read"),
-    QT_TRANSLATE_NOOP("Words", "the device holds another value than was written"),
-};
-
 QString shown(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+/// A value that is not known has no unit either.
+QString withUnit(const std::string& value, MEAS_TYPE unit)
+{
+    const QString label = Words::unit(unit);
+    return value.empty() || value == "?" || label.isEmpty() ? shown(value) : shown(value) + ' ' + label;
+}
 
 } // namespace
 
-QString Words::problem(Problem problem) { return tr(kProblems[static_cast<std::size_t>(problem)]); }
-
-QString Words::outcome(const WriteResult& result)
-{
-    const QString text = tr(kOutcomes[static_cast<std::size_t>(result.outcome)]);
-    return result.exception == 0 ? text : text + QString(" (%1)").arg(tr("exception %1").arg(result.exception));
-}
-
-QString Words::unit(MEAS_TYPE unit)
-{
-    const std::string identifier(fc_GetUnitID(unit));
-    const QString label = QCoreApplication::translate("units", identifier.c_str());
-    const std::string_view usual = fc_GetUnitLabel(unit);
-    return label != QString::fromStdString(identifier)
-               ? label
-               : QString::fromUtf8(usual.data(), static_cast<qsizetype>(usual.size()));
-}
-
-ReviewDialog::ReviewDialog(std::vector<Change> changes, QWidget* parent)
-    : QDialog(parent), m_changes(std::move(changes))
+ReviewDialog::ReviewDialog(std::vector<Change> changes, const ParameterFile& file, std::string language,
+                           QWidget* parent)
+    : QDialog(parent), m_file(file), m_language(std::move(language))
 {
     setWindowTitle(tr("Write to the device"));
     auto* column = new QVBoxLayout(this);
-    column->addWidget(new QLabel(tr("These values will be written:"), this));
-    const QStringList headings{tr("Parameter"), tr("Old value"), tr("New value"), tr("Unit"), tr("Remark")};
-    auto* table = new QTableWidget(static_cast<int>(m_changes.size()), static_cast<int>(headings.size()), this);
-    table->setHorizontalHeaderLabels(headings);
-    table->verticalHeader()->hide();
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setSelectionMode(QAbstractItemView::NoSelection);
-    for (int row = 0; row < table->rowCount(); ++row) {
-        const Change& change = m_changes[static_cast<std::size_t>(row)];
-        QString remark = Words::problem(change.problem);
-        if (change.changedByOther)
-            remark += (remark.isEmpty() ? "" : "; ") + tr("changed by another user in the meantime");
-        const std::array texts{shown(change.tag), shown(change.oldText), shown(change.newText),
-                               Words::unit(change.unit), remark};
-        for (int column_ = 0; column_ < table->columnCount(); ++column_)
-            table->setItem(row, column_, new QTableWidgetItem(texts[static_cast<std::size_t>(column_)]));
+    m_parts = {addPart(tr("These values will be written:"), true),
+               addPart(tr("These cannot be written, and stay in their fields:"), false)};
+    for (const Part& part : m_parts) {
+        column->addWidget(part.heading);
+        column->addWidget(part.table, 1);
     }
-    table->resizeColumnsToContents();
-    table->horizontalHeader()->setStretchLastSection(true);
-    column->addWidget(table);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
-    auto* write = buttons->addButton(tr("&Write"), QDialogButtonBox::AcceptRole);
-    write->setEnabled(
-        std::ranges::any_of(m_changes, [](const Change& change) { return change.problem == Problem::None; }));
+    m_write = buttons->addButton(tr("&Write"), QDialogButtonBox::AcceptRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     column->addWidget(buttons);
-    constexpr int kWidth = 640;
-    constexpr int kHeight = 320;
+    constexpr int kWidth = 760;
+    constexpr int kHeight = 360;
     resize(kWidth, kHeight);
+    show(std::move(changes));
+}
+
+ReviewDialog::Part ReviewDialog::addPart(const QString& heading, bool writable)
+{
+    const QStringList headings{tr("Parameter"), tr("Tag"), tr("Old value"), tr("New value"), tr("Remark")};
+    auto* table = new QTableWidget(0, static_cast<int>(headings.size()), this);
+    table->setHorizontalHeaderLabels(headings);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->verticalHeader()->hide();
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setSelectionMode(QAbstractItemView::NoSelection);
+    table->setFocusPolicy(Qt::NoFocus);
+    return {new QLabel(heading, this), table, writable};
+}
+
+void ReviewDialog::show(std::vector<Change> changes)
+{
+    m_changes = std::move(changes);
+    for (const Part& part : m_parts)
+        fill(part);
+    m_write->setEnabled(
+        std::ranges::any_of(m_changes, [](const Change& change) { return change.problem == Problem::None; }));
+}
+
+void ReviewDialog::fill(const Part& part)
+{
+    part.table->setRowCount(0);
+    for (const Change& change : m_changes) {
+        if ((change.problem == Problem::None) != part.writable)
+            continue;
+        const int row = part.table->rowCount();
+        part.table->insertRow(row);
+        int column = 0;
+        for (const QString& text : textsOf(change))
+            part.table->setItem(row, column++, new QTableWidgetItem(text));
+    }
+    const bool used = part.table->rowCount() > 0;
+    part.heading->setVisible(used);
+    part.table->setVisible(used);
+    // A caption or a text of any length leaves the others their room.
+    constexpr int kWidest = 260;
+    part.table->resizeColumnsToContents();
+    for (int column = 0; column < part.table->columnCount() - 1; ++column)
+        part.table->setColumnWidth(column, std::min(part.table->columnWidth(column), kWidest));
+    part.table->resizeRowsToContents();
+}
+
+QStringList ReviewDialog::textsOf(const Change& change) const
+{
+    const Parameter& parameter = m_file.parameters[change.parameter];
+    QString remark = Words::problem(change.problem);
+    if (change.changedByOther)
+        remark += (remark.isEmpty() ? "" : "; ") + tr("changed by another user in the meantime");
+    return {shown(parameter.appearance.caption.in(m_language)), shown(change.tag),
+            withUnit(change.oldText, change.unit), withUnit(change.newText, change.unit), remark};
 }
 
 } // namespace zor::monitor

@@ -1,6 +1,6 @@
 #include <zor/monitor/ui/review_dialog.h>
 #include <zor/monitor/ui/window.h>
-#include <zor/units/mod_Common.h>
+#include <zor/monitor/ui/words.h>
 #include <zor/units/unit_catalogue.h>
 
 #include <QActionGroup>
@@ -9,17 +9,17 @@
 #include <QInputDialog>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QStatusBar>
-#include <QTime>
+#include <QPainter>
+#include <QScreen>
 #include <QToolBar>
 
 #include <array>
+#include <set>
 #include <utility>
 
 namespace zor::monitor {
 namespace {
 
-constexpr int kMessageMilliseconds = 8000;
 constexpr int kShortestPeriod = 100;
 constexpr int kLongestPeriod = 60000;
 
@@ -40,31 +40,83 @@ QString plain(const std::string& utf8) { return QString::fromStdString(utf8); }
 /// In a menu an ampersand marks a key.
 QString inMenu(QString text) { return text.replace('&', "&&"); }
 
+/// The mark of a tab that holds edits.
+QIcon dot(QSize size)
+{
+    constexpr double kRatio = 4;
+    QPixmap pixmap(size * kRatio);
+    pixmap.setDevicePixelRatio(kRatio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QColor(0x80, 0x60, 0));
+    painter.setBrush(QColor(0xFF, 0xD0, 0));
+    const double radius = size.height() / kRatio;
+    painter.drawEllipse(QRectF(QPointF(), QSizeF(size)).center(), radius, radius);
+    return pixmap;
+}
+
 } // namespace
 
 Window::Window(std::unique_ptr<Session> session, std::unique_ptr<Form> form, Languages& languages,
                Simulator* device)
     : m_form(std::move(form)), m_session(std::move(session)), m_languages(languages), m_device(device),
-      m_bar(addToolBar(QString())), m_state(new QLabel(this)), m_traffic(new QLabel(this))
+      m_bar(addToolBar(QString())), m_status(*statusBar(), *m_session)
 {
     setCentralWidget(&m_form->widget());
     m_bar->setMovable(false);
-    for (QLabel* label : {m_state, m_traffic}) {
-        label->setTextFormat(Qt::PlainText);
-        statusBar()->addPermanentWidget(label, label == m_state ? 1 : 0);
-    }
+    m_soon.setSingleShot(true);
+    connect(&m_soon, &QTimer::timeout, this, [this] { showEdits(); });
     m_session->isVisible = isInSight;
     for (core::Control* control : m_form->controls())
         m_session->bind(*control);
     m_session->onRound = [this](bool answered) { showRound(answered); };
     m_session->onWritten = [this](const std::vector<Written>& results) { showResults(results); };
-    if (QTabWidget* tabs = m_form->tabs())
-        connect(tabs, &QTabWidget::currentChanged, this, [this] { m_session->poller().pollNow(); });
-    m_clock.start();
+    m_session->onEdit = [this] { m_soon.start(0); };
+    m_form->isKnown = [this](const core::Control& control) {
+        const auto all = m_session->bindings();
+        const auto at = std::ranges::find_if(all, [&](const auto& one) { return &one->control() == &control; });
+        return at != all.end() && !(*at)->shown.empty();
+    };
+    keepFrozenReadable();
+    m_soon.start(0);
+    if (QTabWidget* tabs = m_form->tabs()) {
+        connect(tabs, &QTabWidget::currentChanged, this, [this] {
+            m_form->arrange();
+            m_session->poller().pollNow();
+        });
+    }
     setLanguage(m_languages.current());
-    // Wide enough for the state of the connection.
-    constexpr int kUsualWidth = 720;
-    resize(sizeHint().expandedTo({kUsualWidth, 0}));
+    resize(usualSize());
+}
+
+QSize Window::usualSize() const
+{
+    // All of the form, and the state of the connection, if the screen has room
+    // for it.
+    constexpr int kUsualWidth = 800;
+    constexpr double kOfTheScreen = 0.9;
+    const QSize bars = sizeHint() - centralWidget()->sizeHint();
+    const QSize room = (QSizeF(screen()->availableSize()) * kOfTheScreen).toSize();
+    return (m_form->wholeSize() + bars).boundedTo(room).expandedTo({kUsualWidth, 0});
+}
+
+void Window::remember(QSettings& settings)
+{
+    m_settings = &settings;
+    restore(*this, "window");
+}
+
+void Window::restore(QWidget& window, const QString& name)
+{
+    if (m_settings != nullptr)
+        window.restoreGeometry(m_settings->value(name).toByteArray());
+}
+
+void Window::keep(const QWidget& window, const QString& name)
+{
+    if (m_settings != nullptr)
+        m_settings->setValue(name, window.saveGeometry());
 }
 
 Window::~Window()
@@ -81,8 +133,8 @@ void Window::setLanguage(const QString& code)
     commitEntry();
     m_languages.use(code);
     const std::string language = m_languages.current().toStdString();
-    m_form->translate(language);
     m_session->setLanguage(language);
+    m_form->translate(language);
     const QString title = plain(m_session->file().title.in(language));
     setWindowTitle(title.isEmpty() ? tr("ZorSmartControls Monitor") : tr("%1 - Monitor").arg(title));
     buildMenus();
@@ -94,7 +146,21 @@ void Window::setUnits(UnitSystem system)
     commitEntry();
     m_units = system;
     m_session->setUnits(system);
+    m_form->arrange();
     buildMenus();
+}
+
+void Window::setUnit(UNIT_TYPE type, MEAS_TYPE unit)
+{
+    commitEntry();
+    bool shown = true;
+    for (const auto& binding : m_session->bindings()) {
+        if (binding->parameter() != nullptr && binding->parameter()->unitType == type)
+            shown = m_session->setUnit(*binding, unit) && shown;
+    }
+    m_form->arrange();
+    if (!shown)
+        m_status.say(tr("Not every value can be shown in that unit"));
 }
 
 // --- Menus
@@ -110,25 +176,7 @@ void Window::buildMenus()
     QAction* write = device->addAction(tr("&Write..."), QKeySequence("Ctrl+Return"), this, [this] { review(); });
     QAction* undo = device->addAction(tr("&Undo all"), QKeySequence("Ctrl+Shift+Z"), this, [this] { undoAll(); });
     device->addSeparator();
-    device->addAction(tr("&Poll period..."), this, [this] {
-        bool accepted = false;
-        const int period = QInputDialog::getInt(this, tr("Poll period"), tr("Milliseconds from read to read:"),
-                                                m_session->poller().period(), kShortestPeriod, kLongestPeriod,
-                                                kShortestPeriod, &accepted);
-        if (accepted)
-            m_session->setPeriod(period);
-    });
-    if (m_device != nullptr) {
-        QAction* runs = device->addAction(tr("&Simulated device runs"));
-        runs->setCheckable(true);
-        runs->setChecked(m_device->isRunning());
-        connect(runs, &QAction::toggled, this, [this](bool on) {
-            if (!on)
-                m_device->stop();
-            else if (!m_device->start())
-                say(m_device->error());
-        });
-    }
+    addDeviceActions(*device);
     device->addSeparator();
     device->addAction(tr("&Quit"), QKeySequence::Quit, this, [this] { close(); });
     m_bar->setWindowTitle(tr("Device"));
@@ -136,6 +184,29 @@ void Window::buildMenus()
     m_bar->addAction(undo);
     buildUnitMenu();
     buildLanguageMenu();
+}
+
+void Window::addDeviceActions(QMenu& menu)
+{
+    menu.addAction(tr("&Poll period..."), this, [this] {
+        bool accepted = false;
+        const int period = QInputDialog::getInt(this, tr("Poll period"), tr("Milliseconds from read to read:"),
+                                                m_session->poller().period(), kShortestPeriod, kLongestPeriod,
+                                                kShortestPeriod, &accepted);
+        if (accepted)
+            m_session->setPeriod(period);
+    });
+    if (m_device == nullptr)
+        return;
+    QAction* runs = menu.addAction(tr("&Simulated device runs"));
+    runs->setCheckable(true);
+    runs->setChecked(m_device->isRunning());
+    connect(runs, &QAction::toggled, this, [this](bool on) {
+        if (!on)
+            m_device->stop();
+        else if (!m_device->start())
+            m_status.say(m_device->error());
+    });
 }
 
 void Window::buildUnitMenu()
@@ -149,21 +220,26 @@ void Window::buildUnitMenu()
         action->setChecked(row.system == m_units);
     }
     menu->addSeparator();
-    for (const auto& bound : m_session->bindings()) {
-        Binding* binding = bound.get();
-        const Parameter* parameter = binding->parameter();
-        const auto* type = parameter != nullptr ? units::rowOf(parameter->unitType) : nullptr;
-        if (type == nullptr || type->first >= type->last || !binding->has("OutputUnit"))
-            continue;
-        QMenu* own = menu->addMenu(inMenu(captionOf(*parameter)));
-        for (std::int32_t unit = type->first; unit <= type->last; ++unit) {
-            own->addAction(inMenu(Words::unit(MEAS_TYPE{unit})), this, [this, binding, unit] {
-                commitEntry();
-                if (!m_session->setUnit(*binding, MEAS_TYPE{unit}))
-                    say(tr("The value cannot be shown in that unit"));
-            });
-        }
+    // A device has thousands of parameters, but few kinds of unit.
+    std::set<UNIT_TYPE> types;
+    for (const auto& binding : m_session->bindings()) {
+        if (binding->parameter() != nullptr && binding->has("OutputUnit"))
+            types.insert(binding->parameter()->unitType);
     }
+    for (const UNIT_TYPE type : types)
+        addUnits(*menu, type);
+}
+
+void Window::addUnits(QMenu& menu, UNIT_TYPE type)
+{
+    const auto* row = units::rowOf(type);
+    // Units of the type OTHERS have nothing in common but their place in the
+    // list.
+    if (row == nullptr || row->first >= row->last || type == OTHERS)
+        return;
+    QMenu* own = menu.addMenu(inMenu(Words::unitType(type)));
+    for (std::int32_t unit = row->first; unit <= row->last; ++unit)
+        own->addAction(inMenu(Words::unit(MEAS_TYPE{unit})), this, [=, this] { setUnit(type, MEAS_TYPE{unit}); });
 }
 
 void Window::buildLanguageMenu()
@@ -202,9 +278,12 @@ void Window::review()
     commitEntry();
     std::vector<Change> changes = m_session->pending();
     if (changes.empty())
-        return say(tr("Nothing to write"));
-    auto* dialog = new ReviewDialog(std::move(changes), this);
+        return m_status.say(tr("Nothing to write"));
+    auto* dialog =
+        new ReviewDialog(std::move(changes), m_session->file(), m_languages.current().toStdString(), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    restore(*dialog, "review");
+    connect(dialog, &QDialog::finished, this, [this, dialog] { keep(*dialog, "review"); });
     connect(dialog, &QDialog::accepted, this, [this, dialog] { m_session->write(dialog->changes()); });
     m_review = dialog;
     dialog->open();
@@ -225,6 +304,7 @@ void Window::closeUnasked()
 void Window::closeEvent(QCloseEvent* event)
 {
     commitEntry();
+    keep(*this, "window");
     if (m_unasked || !m_session->hasEdits())
         return event->accept();
     const auto answer = QMessageBox::question(
@@ -233,47 +313,66 @@ void Window::closeEvent(QCloseEvent* event)
     event->setAccepted(answer == QMessageBox::Close);
 }
 
+// --- Looks
+
+void Window::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && centralWidget() != nullptr)
+        keepFrozenReadable();
+}
+
+void Window::keepFrozenReadable()
+{
+    // Themes paint what is disabled so that nobody reads it. Here it is the last
+    // value of a device that is slow.
+    constexpr float kText = 0.65F;
+    QPalette palette;
+    const QPalette own = this->palette();
+    const auto mixed = [&](QPalette::ColorRole text, QPalette::ColorRole ground) {
+        const QColor front = own.color(QPalette::Active, text);
+        const QColor back = own.color(QPalette::Active, ground);
+        const auto mix = [](float one, float other) { return kText * one + (1 - kText) * other; };
+        palette.setColor(QPalette::Disabled, text,
+                         QColor::fromRgbF(mix(front.redF(), back.redF()), mix(front.greenF(), back.greenF()),
+                                          mix(front.blueF(), back.blueF())));
+    };
+    mixed(QPalette::Text, QPalette::Base);
+    mixed(QPalette::WindowText, QPalette::Window);
+    mixed(QPalette::ButtonText, QPalette::Button);
+    centralWidget()->setPalette(palette);
+}
+
 // --- Status
 
 void Window::showRound(bool answered)
 {
     m_answered = answered;
-    m_form->showSupport();
-    QString text = m_session->link().description();
-    if (!m_session->deviceType().empty())
-        text += QString(", %1 %2").arg(plain(m_session->deviceType()), plain(m_session->deviceVersion()));
-    const QString time = QTime::currentTime().toString("HH:mm:ss");
-    m_state->setText(
-        (answered ? tr("%1: connected, read at %2") : tr("%1: no answer, tried at %2")).arg(text, time));
-    showTraffic();
+    m_status.showRound(answered);
+    showEdits();
 }
 
-void Window::showTraffic()
+void Window::showEdits()
 {
-    constexpr qint64 kSecond = 1000;
-    if (m_clock.elapsed() < kSecond)
+    m_form->arrange();
+    QTabWidget* tabs = m_form->tabs();
+    if (tabs == nullptr)
         return;
-    const double seconds = static_cast<double>(m_clock.restart()) / kSecond;
-    const QLocale locale;
-    const auto number = [&](double value) { return locale.toString(value, 'f', 1); };
-    const std::array<const Traffic*, 2> kinds{&m_session->link().reads(), &m_session->link().writes()};
-    const std::array names{tr("Reads"), tr("Writes")};
-    QStringList line;
-    QStringList table;
-    for (std::size_t i = 0; i < kinds.size(); ++i) {
-        const Traffic& traffic = *kinds[i];
-        const auto now = static_cast<double>(traffic.requests - std::exchange(m_counted[i], traffic.requests));
-        const QString rate = number(now / seconds);
-        const QString mean = number(traffic.meanMilliseconds());
-        line.append(tr("%1: %2/s, %3 ms").arg(names[i], rate, mean));
-        table.append(tr("%1: %2 requests, %3 failed, round trip %4 ms on average, %5 ms at most")
-                         .arg(names[i])
-                         .arg(traffic.requests)
-                         .arg(traffic.failures)
-                         .arg(mean, number(traffic.longestMilliseconds)));
+    std::set<const QWidget*> edited;
+    for (const auto& binding : m_session->bindings()) {
+        if (!binding->isModified())
+            continue;
+        for (const QWidget* w = &platform::qt::widgetOf(binding->control().surface()); w != nullptr;
+             w = w->parentWidget())
+            edited.insert(w);
     }
-    m_traffic->setText(line.join("  |  "));
-    m_traffic->setToolTip(table.join('\n'));
+    for (int i = 0; i < tabs->count(); ++i) {
+        const bool holds = edited.contains(tabs->widget(i));
+        if (tabs->tabIcon(i).isNull() == !holds)
+            continue;
+        tabs->setTabIcon(i, holds ? dot(tabs->iconSize()) : QIcon());
+        tabs->setTabToolTip(i, holds ? tr("Holds edits that have not been written") : QString());
+    }
 }
 
 void Window::showResults(const std::vector<Written>& results)
@@ -281,10 +380,11 @@ void Window::showResults(const std::vector<Written>& results)
     QStringList failures;
     for (const Written& written : results) {
         if (written.result.outcome != WriteOutcome::Written)
-            failures.append(plain(written.change.tag) + ": " + Words::outcome(written.result));
+            failures.append(captionOf(m_session->file().parameters[written.change.parameter]) + ": " +
+                            Words::outcome(written.result));
     }
     if (failures.isEmpty())
-        return say(tr("%n value(s) written and read back", nullptr, static_cast<int>(results.size())));
+        return m_status.say(tr("%n value(s) written and read back", nullptr, static_cast<int>(results.size())));
     auto* box =
         new QMessageBox(QMessageBox::Warning, tr("Not everything was written"), QString(), QMessageBox::Ok, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
@@ -292,7 +392,5 @@ void Window::showResults(const std::vector<Written>& results)
     box->setText(tr("These edits are kept:") + "\n\n" + failures.join('\n'));
     box->open();
 }
-
-void Window::say(const QString& text) { statusBar()->showMessage(text, kMessageMilliseconds); }
 
 } // namespace zor::monitor

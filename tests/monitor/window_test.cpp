@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -84,6 +85,12 @@ struct Demo : testing::Test {
         QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
         QTest::keyClicks(&edit, text);
     }
+    /// Whether a label that can be seen has the text in it.
+    bool says(const QString& text)
+    {
+        const auto labels = window->findChildren<QLabel*>();
+        return std::ranges::any_of(labels, [&](QLabel* l) { return l->isVisible() && l->text().contains(text); });
+    }
     QAbstractButton* button(QWidget& dialog, const QString& text)
     {
         const auto buttons = dialog.findChildren<QAbstractButton*>();
@@ -127,20 +134,26 @@ TEST_F(Demo, WritesWhatHasBeenReviewed)
 {
     open(1);
     type("HighAlarm", "91.26");
+    const auto dotted = [&](int tab) { return !window->form().tabs()->tabIcon(tab).isNull(); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return dotted(1) && !dotted(0) && says("connected"); }, kPatience));
     window->review();
     ASSERT_NE(window->openReview(), nullptr);
     auto* table = window->openReview()->findChild<QTableWidget*>();
     QString row;
     for (int column = 0; column < table->columnCount(); ++column)
         row += table->item(0, column)->text() + '|';
-    EXPECT_EQ(row, "HighAlarm|85.0|91.3|\u00B0C||") << "what is shown is what the registers will hold";
+    EXPECT_EQ(row, "High temperature alarm|HighAlarm|85.0 \u00B0C|91.3 \u00B0C||")
+        << "what is shown is what the registers will hold";
     EXPECT_EQ(device.registers(HoldingRegister, 2, 1), (Registers{850})) << "written before the review has ended";
     button(*window->openReview(), "&Write")->click();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window->session().hasEdits(); }, kPatience));
     EXPECT_EQ(device.registers(HoldingRegister, 2, 1), (Registers{913}));
     EXPECT_EQ(field("HighAlarm").text(), "91.3");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !dotted(1); }, kPatience));
     window->review();
     EXPECT_EQ(window->openReview(), nullptr) << "nothing to write";
+    EXPECT_EQ(window->statusBar()->currentMessage(), "Nothing to write");
+    EXPECT_FALSE(says("connected")) << "the message has no room";
 }
 
 TEST_F(Demo, ADeadDeviceFailsEveryControlWithinTwoPeriodsAndARevivedOneRecovers)
@@ -152,6 +165,7 @@ TEST_F(Demo, ADeadDeviceFailsEveryControlWithinTwoPeriodsAndARevivedOneRecovers)
     EXPECT_TRUE(QTest::qWaitFor([&] { return all([](core::Control& c) { return c.CFail(); }); }, kPatience));
     EXPECT_LE(window->session().poller().rounds() - rounds, 2);
     EXPECT_TRUE(binding("Distance").control().CFail()) << "on the other tabs as well";
+    EXPECT_TRUE(says("No answer: the connection was refused"));
     ASSERT_TRUE(device.start());
     EXPECT_TRUE(untilLive());
     EXPECT_EQ(field("TankHeight").text(), "13") << "the edit was lost";
@@ -164,12 +178,9 @@ TEST_F(Demo, AParameterThatTheFirmwareLacksIsHidden)
     open(3);
     EXPECT_TRUE(QTest::qWaitFor([&] { return binding("SelfTest").control().DeviceVerNotSupported(); }, kPatience));
     EXPECT_FALSE(binding("Supply").control().DeviceVerNotSupported());
-    const auto isShown = [&](const char* caption) {
-        const auto labels = window->findChildren<QLabel*>();
-        return std::ranges::any_of(labels, [&](QLabel* l) { return l->text() == caption && l->isVisible(); });
-    };
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !isShown("Self-test interval"); }, kPatience));
-    EXPECT_TRUE(isShown("Supply"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !says("Self-test interval"); }, kPatience));
+    EXPECT_FALSE(isInSight(binding("SelfTest").control())) << "a hole in its place";
+    EXPECT_TRUE(says("Supply"));
 }
 
 TEST_F(Demo, ClosingWithEditsAsksAndClosingWithAReplyPendingIsSafe)

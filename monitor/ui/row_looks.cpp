@@ -1,0 +1,187 @@
+#include <zor/monitor/data/codec.h>
+#include <zor/monitor/session/value_texts.h>
+#include <zor/monitor/ui/row_looks.h>
+#include <zor/monitor/ui/words.h>
+#include <zor/platform/error.h>
+#include <zor/platform/qt/container.h>
+#include <zor/platform/qt/looks.h>
+
+#include <QLineEdit>
+#include <QLocale>
+#include <QStyle>
+
+#include <algorithm>
+#include <array>
+
+namespace zor::monitor {
+namespace {
+
+constexpr int kField = 200;   ///< pixels: of a text field, a list, a track
+constexpr int kIconRoom = 28; ///< right of a list or a track
+constexpr int kUsualWidth = kField + kIconRoom;
+constexpr int kWidest = 420;  ///< of a control with texts of its own
+constexpr int kMostLines = 8; ///< of a list
+constexpr int kMark = 32;     ///< before each
+
+constexpr std::array kLooks{
+    LooksRow{"ctx_ZorTextBox", kUsualWidth, 27},
+    LooksRow{"ctx_ZorUpDown", kUsualWidth, 27},
+    LooksRow{"ctx_ZorSlider", kUsualWidth, 52, true},
+    LooksRow{"ctx_ZorComboBox", kUsualWidth, 21},
+    LooksRow{"ctx_ZorListBox", kUsualWidth, 0, true},
+    LooksRow{"ctx_ZorCheckBox", 60, 24, false, "CheckBoxCaption"},
+    LooksRow{"ctx_ZorOptionButton", 60, 24, true, "OptionButtonCaption"},
+    LooksRow{"ctx_ZorLabel", kUsualWidth, 22},
+    LooksRow{"ctx_ZorImage", 34, 32},
+};
+constexpr LooksRow kUsualLooks{"", kUsualWidth, 27};
+
+QWidget& surfaceOf(core::Control& control) { return platform::qt::widgetOf(control.surface()); }
+
+/// The right end of what is on the control, shown or not: the icon comes and
+/// goes.
+int rightEnd(const QWidget& surface)
+{
+    int end = 0;
+    for (const QObject* child : surface.children()) {
+        const auto* widget = qobject_cast<const QWidget*>(child);
+        if (widget != nullptr && !widget->isWindow())
+            end = std::max(end, widget->geometry().right() + 1);
+    }
+    return end;
+}
+
+void setWidth(core::Control& control, int width)
+{
+    QWidget& surface = surfaceOf(control);
+    if (surface.width() != width)
+        surface.setFixedWidth(width);
+    // What is right of the field belongs to unit and icon.
+    const core::PropertyRow* row = control.info().property("WidthDifference");
+    const auto room = static_cast<std::int16_t>((width - kField) * platform::qt::kTwipsPerPixel);
+    if (row != nullptr && control.get(*row) != Variant(room))
+        control.put(*row, room);
+}
+
+/// The value of a control without a text for it.
+QString valueText(core::Control& control, const Parameter& parameter, const std::string& language)
+{
+    const Encoded encoded = encode(parameter, control.property("OutputValue"));
+    const MEAS_TYPE unit{control.property("OutputUnit").toInt32()};
+    const ShownValue value = describe(parameter, encoded.registers, unit, language);
+    return QString::fromStdString(value.text) + ' ' + Words::unit(value.unit);
+}
+
+/// As a field with an edit in it looks.
+void markEdited(QLabel& note, bool edited)
+{
+    QPalette palette;
+    if (edited) {
+        palette.setColor(QPalette::Window, Qt::yellow);
+        palette.setColor(QPalette::WindowText, Qt::black);
+    }
+    note.setPalette(palette);
+    note.setAutoFillBackground(edited);
+}
+
+/// A text that is wider than its field, in short.
+QString overflowText(const QLineEdit& field)
+{
+    constexpr int kFrame = 10;
+    constexpr int kDigits = 6;
+    if (field.fontMetrics().horizontalAdvance(field.text()) <= field.width() - kFrame)
+        return {};
+    bool number = false;
+    const double value = QLocale().toDouble(field.text(), &number);
+    return number ? "= " + QLocale().toString(value, 'g', kDigits) : QString(QChar(0x2026));
+}
+
+} // namespace
+
+const LooksRow& looksOf(const core::ClassInfo& info)
+{
+    const auto* const row = std::ranges::find(kLooks, info.name, &LooksRow::name);
+    return row == kLooks.end() ? kUsualLooks : *row;
+}
+
+void giveSize(core::Control& control)
+{
+    QWidget& surface = surfaceOf(control);
+    const LooksRow& looks = looksOf(control.info());
+    if (looks.height > 0)
+        surface.setFixedHeight(looks.height);
+    setWidth(control, looks.width);
+    if (control.info().name == "ctx_ZorSlider")
+        control.setProperty("UnitEnable", false); // the note beside it has the unit
+}
+
+void giveRoomForBits(core::Control& list, const Parameter& parameter, const std::string& language)
+{
+    QWidget& surface = surfaceOf(list);
+    const QFontMetrics metrics = surface.fontMetrics();
+    int widest = 0;
+    for (const Entry& bit : parameter.bits)
+        widest = std::max(widest, metrics.horizontalAdvance(QString::fromStdString(bit.text.in(language))));
+    constexpr int kSpace = 4;
+    const int wanted = widest + kMark + kIconRoom + surface.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const auto lines = std::clamp(static_cast<int>(parameter.bits.size()), 2, kMostLines);
+    // What is still too wide is scrolled; the bar for it takes a line.
+    surface.setFixedHeight((lines + (wanted > kWidest ? 1 : 0)) * (metrics.height() + kSpace) + kSpace);
+    setWidth(list, std::clamp(wanted, kUsualWidth, kWidest));
+}
+
+void setOwnCaption(core::Control& control, const QString& caption)
+{
+    QWidget& surface = surfaceOf(control);
+    const QString shown = surface.fontMetrics().elidedText(caption, Qt::ElideRight, kWidest - kMark - kIconRoom);
+    control.setProperty(looksOf(control.info()).caption, shown.toStdString());
+    surface.setToolTip(shown == caption ? QString() : platform::qt::plainToolTip(caption.toStdString()));
+}
+
+void fitSize(core::Control& control)
+{
+    QWidget& surface = surfaceOf(control);
+    const bool fixed = control.info().name == "ctx_ZorListBox";
+    const bool lacks = control.DeviceTypeNotSupported() || control.DeviceVerNotSupported();
+    if (surface.isHidden() != lacks)
+        surface.setHidden(lacks);
+    if (surface.isVisible() && !fixed)
+        setWidth(control, std::max(looksOf(control.info()).width, rightEnd(surface) + 1));
+}
+
+void showNote(QLabel& note, core::Control& control, const Parameter& parameter, bool known,
+              const std::string& language)
+{
+    const bool slider = control.info().name == "ctx_ZorSlider";
+    const bool edited = slider && control.property("DataModified").toBoolean();
+    QString text;
+    if (const auto* field = surfaceOf(control).findChild<QLineEdit*>(); field != nullptr) {
+        text = overflowText(*field);
+        note.setToolTip(text.isEmpty() ? QString() : field->text());
+    } else if (slider && (known || edited)) {
+        text = valueText(control, parameter, language);
+        if (edited)
+            text = QCoreApplication::translate("GeneratedForm", "%1 (edited)").arg(text);
+    }
+    if (note.text() != text)
+        note.setText(text);
+    note.setEnabled(!control.WaitingForData());
+    if (note.autoFillBackground() != edited)
+        markEdited(note, edited);
+}
+
+QString breakable(const QString& text)
+{
+    constexpr int kLongWord = 20;
+    QString result;
+    int length = 0;
+    for (const QChar character : text) {
+        length = character.isSpace() ? 0 : length + 1;
+        if (length > kLongWord && character.isLetterOrNumber())
+            result.append(QChar(0x200B));
+        result.append(character);
+    }
+    return result;
+}
+
+} // namespace zor::monitor

@@ -1,0 +1,48 @@
+#pragma once
+
+/// How much room a control takes in a row of the generated form, and what
+/// stands beside it.
+
+#include <zor/core/control.h>
+#include <zor/monitor/data/parameter_file.h>
+
+#include <QLabel>
+
+namespace zor::monitor {
+
+/// What the generated form must know of a class.
+struct LooksRow {
+    std::string_view name;
+    int width;                  ///< pixels; the least
+    int height;                 ///< pixels; 0: as many as its list has lines
+    bool tall = false;          ///< reaches over more than a line of text
+    std::string_view caption{}; ///< the property that carries its own caption
+};
+
+[[nodiscard]] const LooksRow& looksOf(const core::ClassInfo& info);
+
+/// The first size of a control: its field is as wide as all others.
+void giveSize(core::Control& control);
+
+/// A list shows the names of its bits, as far as that is possible.
+void giveRoomForBits(core::Control& list, const Parameter& parameter, const std::string& language);
+
+/// Of a check box or an option button; what is too long is cut and stands in
+/// the tooltip.
+void setOwnCaption(core::Control& control, const QString& caption);
+
+/// Widens or narrows a control to what it shows, so that neither a long unit
+/// nor a long caption pushes the state icon over its edge, and hides it while
+/// the device does not have the parameter.
+void fitSize(core::Control& control);
+
+/// Beside a control: the value where it has no text for it, or one that its
+/// field is too narrow for. A value that is not known has no text.
+void showNote(QLabel& note, core::Control& control, const Parameter& parameter, bool known,
+              const std::string& language);
+
+/// A text that a label can break into lines of the width, however long its
+/// words are.
+[[nodiscard]] QString breakable(const QString& text);
+
+} // namespace zor::monitor

@@ -1,0 +1,103 @@
+#include <zor/monitor/ui/status_line.h>
+#include <zor/monitor/ui/words.h>
+
+#include <QLocale>
+#include <QPainter>
+#include <QTime>
+
+#include <utility>
+
+namespace zor::monitor {
+namespace {
+
+constexpr int kMessageMilliseconds = 8000;
+
+} // namespace
+
+void ElidedLabel::show(const QString& text)
+{
+    if (text == this->text())
+        return;
+    setText(text);
+    setToolTip("<span>" + text.toHtmlEscaped() + "</span>");
+}
+
+void ElidedLabel::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+    painter.drawText(contentsRect(), static_cast<int>(Qt::AlignVCenter) | Qt::TextSingleLine, shown);
+}
+
+StatusLine::StatusLine(QStatusBar& bar, Session& session)
+    : m_bar(bar), m_session(session), m_state(new ElidedLabel(&bar)), m_traffic(new QLabel(&bar))
+{
+    m_traffic->setTextFormat(Qt::PlainText);
+    // A message takes the place of what is not permanent.
+    m_bar.addWidget(m_state, 1);
+    m_bar.addPermanentWidget(m_traffic);
+    m_clock.start();
+}
+
+void StatusLine::showRound(bool answered)
+{
+    if (std::exchange(m_answered, answered) != answered)
+        m_bar.clearMessage();
+    const QString record = m_session.recordError();
+    QFont font = m_bar.font();
+    font.setBold(!answered || !record.isEmpty());
+    m_state->setFont(font);
+    const QString state = connection(answered);
+    m_state->show(record.isEmpty() ? state : tr("The record cannot be written: %1").arg(record) + "  |  " + state);
+    // Who does not answer has no speed, and the reason needs the room.
+    m_traffic->setVisible(answered);
+    showTraffic();
+}
+
+QString StatusLine::connection(bool answered) const
+{
+    QString device = m_session.link().description();
+    if (!m_session.deviceType().empty())
+        device += QString(", %1 %2").arg(QString::fromStdString(m_session.deviceType()),
+                                         QString::fromStdString(m_session.deviceVersion()));
+    const QString time = QTime::currentTime().toString("HH:mm:ss");
+    if (answered)
+        return tr("%1: connected, read at %2").arg(device, time);
+    if (m_session.poller().rounds() == 0)
+        return tr("%1: not read yet").arg(device);
+    // What is wrong comes first, and so is not what a narrow window cuts off.
+    return tr("No answer: %1 (%2, tried at %3)").arg(Words::reason(m_session.poller().failure()), device, time);
+}
+
+void StatusLine::showTraffic()
+{
+    constexpr qint64 kSecond = 1000;
+    if (m_clock.elapsed() < kSecond)
+        return;
+    const double seconds = static_cast<double>(m_clock.restart()) / kSecond;
+    const QLocale locale;
+    const auto number = [&](double value) { return locale.toString(value, 'f', 1); };
+    const std::array<const Traffic*, 2> kinds{&m_session.link().reads(), &m_session.link().writes()};
+    const std::array names{tr("Reads"), tr("Writes")};
+    QStringList line;
+    QStringList table;
+    for (std::size_t i = 0; i < kinds.size(); ++i) {
+        const Traffic& traffic = *kinds[i];
+        const auto now = static_cast<double>(traffic.requests - std::exchange(m_counted[i], traffic.requests));
+        const QString rate = number(now / seconds);
+        const QString mean = number(traffic.meanMilliseconds());
+        line.append(tr("%1: %2/s, %3 ms").arg(names[i], rate, mean));
+        table.append(tr("%1: %2 requests, %3 failed, round trip %4 ms on average, "
+                        "%5 ms at most")
+                         .arg(names[i])
+                         .arg(traffic.requests)
+                         .arg(traffic.failures)
+                         .arg(mean, number(traffic.longestMilliseconds)));
+    }
+    m_traffic->setText(line.join("  |  "));
+    m_traffic->setToolTip(table.join('\n'));
+}
+
+void StatusLine::say(const QString& text) { m_bar.showMessage(text, kMessageMilliseconds); }
+
+} // namespace zor::monitor

@@ -1,0 +1,42 @@
+#pragma once
+
+/// What the status bar says: how the connection stands, what has just been
+/// done, how fast the device answers.
+
+#include <zor/monitor/session/session.h>
+#include <zor/monitor/ui/elided_label.h>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QStatusBar>
+
+#include <array>
+
+namespace zor::monitor {
+
+class StatusLine final {
+    Q_DECLARE_TR_FUNCTIONS(StatusLine)
+public:
+    /// Both must outlive the line.
+    StatusLine(QStatusBar& bar, Session& session);
+
+    /// After a round, and after a change of language.
+    void showRound(bool answered);
+    /// For some seconds, in place of the state of the connection.
+    void say(const QString& text);
+
+private:
+    [[nodiscard]] QString connection(bool answered) const;
+    void showTraffic();
+
+    QStatusBar& m_bar;
+    Session& m_session;
+    ElidedLabel* m_state;
+    QLabel* m_traffic;
+    QElapsedTimer m_clock;
+    /// Reads and writes counted so far, for how many came since.
+    std::array<std::uint64_t, 2> m_counted{};
+    bool m_answered = false;
+};
+
+} // namespace zor::monitor

@@ -1,0 +1,78 @@
+#include <zor/monitor/ui/words.h>
+#include <zor/units/mod_Common.h>
+#include <zor/units/unit_catalogue.h>
+
+#include <array>
+
+namespace zor::monitor {
+namespace {
+
+// In the order of Problem.
+constexpr std::array kProblems{
+    "",
+    QT_TRANSLATE_NOOP("Words", "the entry is not valid"),
+    QT_TRANSLATE_NOOP("Words", "the entry is not a number"),
+    QT_TRANSLATE_NOOP("Words", "the device cannot hold a number of this size"),
+    QT_TRANSLATE_NOOP("Words", "the number is outside the limits"),
+    QT_TRANSLATE_NOOP("Words", "the text is too long for the device"),
+    QT_TRANSLATE_NOOP("Words", "the device has no such characters"),
+    QT_TRANSLATE_NOOP("Words", "the parameter can only be read"),
+    QT_TRANSLATE_NOOP("Words", "the device has not been read yet"),
+    QT_TRANSLATE_NOOP("Words", "two fields hold different values"),
+};
+
+// In the order of WriteOutcome.
+constexpr std::array kOutcomes{
+    QT_TRANSLATE_NOOP("Words", "written and read back"),
+    QT_TRANSLATE_NOOP("Words", "refused by the device"),
+    QT_TRANSLATE_NOOP("Words", "not sent: no connection"),
+    QT_TRANSLATE_NOOP("Words", "unconfirmed: the device did not answer; it is settled by the next read"),
+    QT_TRANSLATE_NOOP("Words", "the device holds another value than was written"),
+};
+
+} // namespace
+
+QString Words::problem(Problem problem) { return tr(kProblems[static_cast<std::size_t>(problem)]); }
+
+QString Words::outcome(const WriteResult& result)
+{
+    const QString text = tr(kOutcomes[static_cast<std::size_t>(result.outcome)]);
+    if (result.exception == 0)
+        return text;
+    Reply reply;
+    reply.exception = result.exception;
+    return text + QString(" (%1)").arg(reason(reply));
+}
+
+QString Words::reason(const Reply& reply)
+{
+    // The link's own words are translated by themselves; what the operating
+    // system says stays as it is.
+    const auto translated = [](std::string_view text) {
+        return QCoreApplication::translate("reasons", std::string(text).c_str());
+    };
+    if (reply.exception == 0)
+        return translated(reply.reason);
+    const QString text = tr("exception %1").arg(reply.exception);
+    const std::string_view meaning = exceptionMeaning(reply.exception);
+    return meaning.empty() ? text : text + ": " + translated(meaning);
+}
+
+QString Words::unit(MEAS_TYPE unit)
+{
+    const std::string identifier(fc_GetUnitID(unit));
+    const QString label = QCoreApplication::translate("units", identifier.c_str());
+    const std::string_view usual = fc_GetUnitLabel(unit);
+    return label != QString::fromStdString(identifier)
+               ? label
+               : QString::fromUtf8(usual.data(), static_cast<qsizetype>(usual.size()));
+}
+
+QString Words::unitType(UNIT_TYPE type)
+{
+    const auto* const row = units::rowOf(type);
+    return row != nullptr ? QCoreApplication::translate("units", std::string(row->displayName).c_str())
+                          : QString();
+}
+
+} // namespace zor::monitor

@@ -1,0 +1,22 @@
+#pragma once
+
+/// Words for people, in the language of the program.
+
+#include <zor/monitor/session/session.h>
+
+#include <QCoreApplication>
+
+namespace zor::monitor {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Words)
+public:
+    [[nodiscard]] static QString problem(Problem problem);
+    [[nodiscard]] static QString outcome(const WriteResult& result);
+    /// Why a request was not answered, or refused.
+    [[nodiscard]] static QString reason(const Reply& reply);
+    [[nodiscard]] static QString unit(MEAS_TYPE unit);
+    [[nodiscard]] static QString unitType(UNIT_TYPE type);
+};
+
+} // namespace zor::monitor
