@@ -95,6 +95,10 @@ struct ZorControl::Inner final : QObject, core::EventSink {
     const core::ClassInfo* info = nullptr;
     core::ControlPtr<> control;
     QSize designed;
+    Qt::FocusPolicy focusPolicy = Qt::NoFocus; ///< of the focus proxy, while it can be reached
+    bool isAbsent = false;                     ///< hidden because the device does not offer the parameter
+    bool isShown = true;                       ///< whether it is to be seen where the device does
+    bool keepsFocus = false;                   ///< while the control itself hides its widget
     int tellings = 0;
 };
 
@@ -133,7 +137,11 @@ ZorControl::~ZorControl()
 core::Control& ZorControl::control() const noexcept { return *m_inner->control; }
 const core::ClassInfo& ZorControl::info() const noexcept { return *m_inner->info; }
 bool ZorControl::isUserMode() const noexcept { return m_inner->container.userMode(); }
-void ZorControl::setUserMode(bool userMode) noexcept { m_inner->container.setUserMode(userMode); }
+void ZorControl::setUserMode(bool userMode)
+{
+    m_inner->container.setUserMode(userMode);
+    followFace();
+}
 
 // --- Properties and methods
 
@@ -235,10 +243,50 @@ void ZorControl::takeFocusProxy()
         if ((widget.focusPolicy() & Qt::TabFocus) == 0)
             continue;
         setFocusProxy(&widget);
+        m_inner->focusPolicy = widget.focusPolicy();
         setFocusPolicy(widget.focusPolicy());
         widget.installEventFilter(this);
-        return;
+        break;
     }
+    if (&face() != focusProxy())
+        face().installEventFilter(this);
+    followFace();
+}
+
+/// The part that a control shows where the device offers its parameter, and never else.
+QWidget& ZorControl::face() const { return platform::qt::widgetOf(*control().widget(1)); }
+
+void ZorControl::followFace()
+{
+    // Qt hands the focus on to a proxy without asking whether it can be reached, and Tab would lead no further.
+    if (QWidget* proxy = focusProxy()) {
+        const bool isReachable = proxy->isEnabled() && !proxy->isHidden();
+        proxy->setFocusPolicy(isReachable ? m_inner->focusPolicy : Qt::NoFocus);
+    }
+    const bool isAbsent = isUserMode() && face().isHidden();
+    if (std::exchange(m_inner->isAbsent, isAbsent) == isAbsent)
+        return;
+    if (isAbsent)
+        m_inner->isShown = !(isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide));
+    // A window of its own that nobody has shown yet stays where it is.
+    m_inner->keepsFocus = true;
+    if (isAbsent || (m_inner->isShown && parentWidget() != nullptr))
+        ZorWidget::setVisible(!isAbsent);
+    m_inner->keepsFocus = false;
+}
+
+void ZorControl::setVisible(bool visible)
+{
+    if (m_inner->isAbsent)
+        m_inner->isShown = visible;
+    else
+        ZorWidget::setVisible(visible);
+}
+
+bool ZorControl::focusNextPrevChild(bool next)
+{
+    // The operator has not left a field because the device does not have it any more.
+    return m_inner->keepsFocus || ZorWidget::focusNextPrevChild(next);
 }
 
 bool ZorControl::hasList() const
@@ -250,6 +298,12 @@ bool ZorControl::hasList() const
 
 bool ZorControl::eventFilter(QObject* watched, QEvent* event)
 {
+    switch (event->type()) {
+    case QEvent::EnabledChange:
+    case QEvent::ShowToParent:
+    case QEvent::HideToParent: followFace(); break;
+    default: break;
+    }
     // Who watches this widget for its focus (a data mapper) would see nothing of the part that has it.
     if (watched == focusProxy() && event->type() == QEvent::FocusOut) {
         const auto reason = static_cast<QFocusEvent*>(event)->reason();

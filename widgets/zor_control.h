@@ -49,7 +49,7 @@ public:
 
     /// Whether the program runs (true) or a form is being designed.
     [[nodiscard]] bool isUserMode() const noexcept;
-    void setUserMode(bool userMode) noexcept;
+    void setUserMode(bool userMode);
 
     /// OutputValue of an editing control, DeviceValue of any other.
     [[nodiscard]] QVariant value() const;
@@ -59,6 +59,10 @@ public:
     /// The size in which the control was designed.
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+    /// While the device does not offer the parameter, a control in user mode is hidden as any hidden widget is: a
+    /// layout closes the gap. What the program asks for meanwhile counts once the device offers it.
+    void setVisible(bool visible) override;
 
 signals:
     void valueChanged();
@@ -85,6 +89,7 @@ protected:
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     struct Inner;
@@ -93,6 +98,8 @@ private:
     void guarded(std::string_view member, Action&& action) const;
     void layOut();
     void takeFocusProxy();
+    [[nodiscard]] QWidget& face() const;
+    void followFace();
     /// A list grows with the form; everything else has the height of a line.
     [[nodiscard]] bool hasList() const;
 

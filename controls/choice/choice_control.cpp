@@ -7,17 +7,18 @@ using platform::Notice;
 
 ChoiceControl::ChoiceControl(const core::ClassInfo& info, platform::Container& container, platform::Rect designed,
                              std::size_t outputValueChange, UndoAt undoAt)
-    : Control(info, container, designed.width, designed.height), m_icon(surface().createImage(kState)),
-      m_undo(surface()), m_outputValueChange(outputValueChange), m_undoAt(undoAt)
-{
-    constexpr platform::Twips kIconSize = 285;
-    constexpr platform::Twips kIconTop = 25;
-    m_icon->setGeometry({0, kIconTop, kIconSize, kIconSize});
-    m_icon->setVisible(false);
-}
+    : Control(info, container, designed.width, designed.height), m_undo(surface()),
+      m_outputValueChange(outputValueChange), m_undoAt(undoAt)
+{}
 
 void ChoiceControl::adopt(platform::FontWidget& face)
 {
+    constexpr platform::Twips kIconSize = 285;
+    constexpr platform::Twips kIconTop = 25;
+    // After the face: the keyboard goes from one to the other in the order in which they are made.
+    m_icon = surface().createImage(kState);
+    m_icon->setGeometry({0, kIconTop, kIconSize, kIconSize});
+    m_icon->setVisible(false);
     m_face = &face;
     m_body = {&face};
     s_Layout();

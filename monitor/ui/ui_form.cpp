@@ -5,8 +5,36 @@
 
 #include <QFile>
 #include <QMainWindow>
+#include <QScreen>
+#include <QScrollArea>
 
 namespace zor::monitor {
+namespace {
+
+/// Shows a drawn form in the size it was drawn in, and scrolls where there is less room. Designer saves a form
+/// without a layout unless somebody lays it out: such a form has a size, but no size that it asks for.
+class DrawnArea final : public QScrollArea {
+public:
+    DrawnArea(QWidget& form, QSize drawn) : m_drawn(drawn)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        if (form.layout() == nullptr)
+            form.setMinimumSize(drawn);
+        setWidget(&form);
+    }
+    [[nodiscard]] QSize sizeHint() const override
+    {
+        // Beside the bars of the window and what else is on the screen.
+        constexpr double kShare = 0.8;
+        return m_drawn.boundedTo(screen()->availableSize() * kShare);
+    }
+
+private:
+    QSize m_drawn;
+};
+
+} // namespace
 
 UiForm::UiForm(const QString& file, const core::ClassRegistry& classes)
 {
@@ -27,6 +55,7 @@ UiForm::UiForm(const QString& file, const core::ClassRegistry& classes)
     QWidget* loaded = loader.load(&source);
     if (loaded == nullptr)
         throw FileError(name, 0, loader.errorString().toStdString());
+    const QSize drawn = loaded->size().expandedTo(loaded->minimumSizeHint());
     // A form drawn as a window would bring its own frame, menus and status bar.
     if (auto* window = qobject_cast<QMainWindow*>(loaded);
         window != nullptr && window->centralWidget() != nullptr) {
@@ -35,7 +64,7 @@ UiForm::UiForm(const QString& file, const core::ClassRegistry& classes)
         delete window;
     }
     loaded->setWindowFlags(Qt::Widget);
-    m_widget = loaded;
+    m_widget = new DrawnArea(*loaded, drawn);
 }
 
 UiForm::~UiForm()
@@ -49,8 +78,6 @@ std::vector<core::Control*> UiForm::controls()
     std::vector<core::Control*> controls;
     for (ZorControl* control : m_widget->findChildren<ZorControl*>())
         controls.push_back(&control->control());
-    if (auto* own = qobject_cast<ZorControl*>(m_widget.data()))
-        controls.push_back(&own->control());
     return controls;
 }
 

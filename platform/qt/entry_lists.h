@@ -6,6 +6,7 @@
 #include <zor/platform/qt/qt_widget.h>
 
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QListView>
 
 #include <functional>
@@ -27,6 +28,8 @@ public:
     void showPopup() override;
 
 protected:
+    // The menu key is for the surface; a list without typed text has no menu of its own.
+    void contextMenuEvent(QContextMenuEvent* event) override { event->ignore(); }
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 

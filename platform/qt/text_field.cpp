@@ -1,6 +1,7 @@
 #include <zor/platform/qt/text_field.h>
 #include <zor/platform/text.h>
 
+#include <QContextMenuEvent>
 #include <QPointer>
 #include <QWheelEvent>
 
@@ -14,6 +15,18 @@ namespace {
 constexpr int kShownLimit = 32767;
 
 } // namespace
+
+void FieldEdit::contextMenuEvent(QContextMenuEvent* event)
+{
+    const QPointer<FieldEdit> alive = this;
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        QContextMenuEvent key(event->reason(), mapToParent(event->pos()), event->globalPos());
+        QCoreApplication::sendEvent(parentWidget(), &key);
+        if (!alive || QApplication::activePopupWidget() != nullptr)
+            return;
+    }
+    QLineEdit::contextMenuEvent(event);
+}
 
 void FieldEdit::keyPressEvent(QKeyEvent* event)
 {

@@ -15,6 +15,8 @@ public:
     std::function<void(bool up)> onStep;
 
 protected:
+    /// The menu key is for the surface, which offers the undo; where it has no menu, the line edit's own opens.
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QStatusBar>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -239,6 +240,36 @@ TEST(DrawnForm, ShowsAllNineClassesAndWritesThroughThem)
     window.openReview()->accept();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window.session().hasEdits(); }, kPatience));
     EXPECT_EQ(device.registers(HoldingRegister, 3, 1), (Registers{42}));
+}
+
+// As Designer saves a form that nobody has laid out.
+TEST(DrawnForm, KeepsTheSizeItWasDrawnInAndScrollsInLessRoom)
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath("plain.ui"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(R"(<ui version="4.0"><class>F</class><widget class="QWidget" name="F"><property name="geometry">
+        <rect><x>0</x><y>0</y><width>500</width><height>400</height></rect></property>
+        <widget class="zor::ZorTextBox" name="box"><property name="geometry">
+        <rect><x>20</x><y>340</y><width>301</width><height>21</height></rect></property></widget></widget></ui>)");
+    file.close();
+    core::ClassRegistry classes;
+    registerControls(classes);
+    Languages languages;
+    const ParameterFile parameters = demoFile();
+    auto link = std::make_unique<TcpLink>("127.0.0.1", std::uint16_t{1}, 1, kPeriod);
+    Window window(std::make_unique<Session>(std::move(link), parameters),
+                  std::make_unique<UiForm>(file.fileName(), classes), languages, nullptr);
+    window.show();
+    QWidget& box = platform::qt::widgetOf(window.form().controls().front()->surface());
+    EXPECT_GE(window.form().widget().height(), 400);
+    EXPECT_EQ(box.visibleRegion().boundingRect().size(), QSize(301, 21));
+    window.resize(200, 200);
+    QApplication::processEvents();
+    EXPECT_EQ(box.parentWidget()->parentWidget()->size(), QSize(500, 400));
+    auto& area = dynamic_cast<QScrollArea&>(window.form().widget());
+    area.ensureWidgetVisible(&box);
+    EXPECT_FALSE(box.visibleRegion().isEmpty());
 }
 
 TEST(DrawnForm, WhatIsNoFormIsRefusedWithFileAndLine)

@@ -1,14 +1,12 @@
-// What only a real screen has: the wheel over a drop-down list, the menu key, an open list that must close, and
+// What only a real screen has: the wheel over a drop-down list, an open list that must close, and
 // marks that must be seen.
 
-#include <zor/controls/choice/check_box/ctx_ZorCheckBox.h>
 #include <zor/controls/choice/combo_box/ctx_ZorComboBox.h>
 #include <zor/controls/choice/list_box/ctx_ZorListBox.h>
 #include <zor/platform/qt/looks.h>
 #include <zor/tests/qt/screen_fixture.h>
 
 #include <QComboBox>
-#include <QContextMenuEvent>
 #include <QListView>
 #include <QTest>
 #include <QWheelEvent>
@@ -63,27 +61,6 @@ TEST_F(ChoiceTest, AnOpenListClosesWhenTheConnectionIsLost)
     EXPECT_FALSE(list.view()->isVisible());
     QTest::mouseClick(&list, Qt::LeftButton);
     EXPECT_FALSE(list.view()->isVisible());
-}
-
-TEST_F(ChoiceTest, TheMenuKeyOffersTheUndo)
-{
-    const auto check = make<ctx_ZorCheckBox>();
-    const auto list = make<ctx_ZorListBox>();
-    list->AddBitFieldEntry("bit", 0);
-    const std::initializer_list<controls::ChoiceControl*> both{check.get(), list.get()};
-    for (controls::ChoiceControl* control : both) {
-        control->ModifiedValue(1);
-        QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(1, 1), part(*control).mapToGlobal(QPoint(1, 1)));
-        QApplication::sendEvent(&part(*control), &key);
-        ASSERT_TRUE(control->menu()->isOpen());
-        QWidget* menu = QApplication::activePopupWidget();
-        QTest::keyClick(menu, Qt::Key_Down);
-        QTest::keyClick(menu, Qt::Key_Return);
-        EXPECT_EQ(control->OutputValue(), 0);
-        control->ReadOnly(true);
-        QApplication::sendEvent(&part(*control), &key);
-        EXPECT_FALSE(control->menu()->isOpen());
-    }
 }
 
 TEST_F(ChoiceTest, AnEmptyMarkIsSeenOnEveryField)

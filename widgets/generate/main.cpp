@@ -154,7 +154,7 @@ void declareClass(std::ostream& out, const core::ClassInfo& info)
 {
     const string name = widgetName(info);
     out << "/// " << info.name << " as a QWidget; what each member means stands there.\nclass " << name
-        << " final : public ZorControl {\n    Q_OBJECT\n";
+        << " : public ZorControl {\n    Q_OBJECT\n";
     declareProperties(out, info);
     out << "\npublic:\n    explicit " << name << "(QWidget* parent = nullptr);\n    [[nodiscard]] " << info.name
         << "& control() const noexcept;\n\n";
