@@ -38,7 +38,7 @@ Variant Control::property(std::string_view name)
 {
     const PropertyRow* row = m_info.property(name);
     if (row == nullptr)
-        raiseError(ErrorNumber::NoSuchMember);
+        raiseError(ErrorNumber::NoSuchMember, name);
     return get(*row);
 }
 
@@ -46,7 +46,7 @@ void Control::setProperty(std::string_view name, const Variant& value)
 {
     const PropertyRow* row = m_info.property(name);
     if (row == nullptr)
-        raiseError(ErrorNumber::NoSuchMember);
+        raiseError(ErrorNumber::NoSuchMember, name);
     put(*row, value);
 }
 
@@ -54,9 +54,9 @@ MethodResult Control::call(std::string_view method, std::span<const Variant> arg
 {
     const MethodRow* row = m_info.method(method);
     if (row == nullptr)
-        raiseError(ErrorNumber::NoSuchMember);
+        raiseError(ErrorNumber::NoSuchMember, method);
     if (row->argumentCount != arguments.size())
-        raiseError(ErrorNumber::WrongArguments);
+        raiseError(ErrorNumber::WrongArguments, method);
     MethodResult result;
     run([&] { result = row->call(*this, arguments); });
     return result;
@@ -67,7 +67,7 @@ Variant Control::get(const PropertyRow& row)
     if (row.get != nullptr)
         return row.get(*this);
     if (row.field.at == nullptr)
-        raiseError(ErrorNumber::NoSuchMember);
+        raiseError(ErrorNumber::NoSuchMember, row.name);
     return valueOf(row.field.at(*this));
 }
 
@@ -91,7 +91,7 @@ void Control::put(const PropertyRow& row, const Variant& value)
 bool Control::refusesWrite(const PropertyRow& row) const
 {
     if (row.access == Access::ReadOnly || (row.access == Access::Derived && m_container.userMode()))
-        raiseError(ErrorNumber::ReadOnly);
+        raiseError(ErrorNumber::ReadOnly, row.name);
     return row.access == Access::Derived;
 }
 
@@ -318,7 +318,7 @@ void Control::readProperties(const platform::PropertyBag& bag)
     run([&] {
         for (const PropertyRow* row : m_info.readOrder.empty() ? m_info.properties : m_info.readOrder) {
             if (!row->key.empty())
-                load(*row, bag.ReadProperty(row->key, toVariant(row->bagDefault)));
+                naming(row->key, [&] { load(*row, bag.ReadProperty(row->key, toVariant(row->bagDefault))); });
         }
         s_AfterLoading();
         describeForReaders();

@@ -4,6 +4,7 @@
 #include <zor/units/mod_Common.h>
 
 #include <algorithm>
+#include <string>
 #include <utility>
 
 namespace zor::pages {
@@ -41,6 +42,9 @@ void Page::select(std::span<core::Control* const> controls)
     core::Control* control = controls.empty() ? nullptr : controls.front();
     std::vector<Variant> values;
     if (control != nullptr) {
+        if (std::ranges::find(m_info.controls, control->info().name) == m_info.controls.end())
+            raiseError(ErrorNumber::NoSuchMember,
+                       std::string(m_info.name) + " is no page of a " + std::string(control->info().name));
         for (const Entry& entry : m_entries)
             values.push_back(control->property(entry.field->property));
     }

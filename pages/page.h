@@ -31,7 +31,7 @@ public:
     [[nodiscard]] platform::Surface& surface() noexcept override { return *m_surface; }
 
     /// The selection changed: reads the first control; what was not applied is dropped. Raises NoSuchMember, and
-    /// leaves the page as it is, when that control has not every property of the page. The page notices when the
+    /// leaves the page as it is, when the page is not made for that control's class. The page notices when the
     /// control ends: nothing is selected then.
     void select(std::span<core::Control* const> controls);
     /// The control that is shown; nullptr when nothing is selected.

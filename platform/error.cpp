@@ -3,6 +3,15 @@
 #include <string>
 
 namespace zor {
+namespace {
+
+std::string fullText(ErrorNumber number, std::string_view what)
+{
+    std::string text(errorText(number));
+    return what.empty() ? text : text.append(": ").append(what);
+}
+
+} // namespace
 
 std::string_view errorText(ErrorNumber number) noexcept
 {
@@ -20,10 +29,10 @@ std::string_view errorText(ErrorNumber number) noexcept
     return "unknown error";
 }
 
-RunTimeError::RunTimeError(ErrorNumber number)
-    : std::runtime_error(std::string(errorText(number))), m_number(number)
+RunTimeError::RunTimeError(ErrorNumber number, std::string_view what)
+    : std::runtime_error(fullText(number, what)), m_number(number)
 {}
 
-void raiseError(ErrorNumber number) { throw RunTimeError(number); }
+void raiseError(ErrorNumber number, std::string_view what) { throw RunTimeError(number, what); }
 
 } // namespace zor

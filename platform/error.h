@@ -27,7 +27,8 @@ enum class ErrorNumber : std::int32_t {
 /// Thrown to the caller of a property, a method or a bag. After it nothing is half written.
 class RunTimeError : public std::runtime_error {
 public:
-    explicit RunTimeError(ErrorNumber number);
+    /// `what` names what is missing or wrong, where that is known: "object required: level2".
+    explicit RunTimeError(ErrorNumber number, std::string_view what = {});
 
     [[nodiscard]] ErrorNumber number() const noexcept { return m_number; }
 
@@ -35,6 +36,19 @@ private:
     ErrorNumber m_number;
 };
 
-[[noreturn]] void raiseError(ErrorNumber number);
+[[noreturn]] void raiseError(ErrorNumber number, std::string_view what = {});
+
+/// Runs an action on what goes by a name; an error that names nothing yet names it.
+template <class Action>
+decltype(auto) naming(std::string_view what, Action&& action)
+{
+    try {
+        return action();
+    } catch (const RunTimeError& error) {
+        if (error.what() != errorText(error.number()))
+            throw;
+        raiseError(error.number(), what);
+    }
+}
 
 } // namespace zor

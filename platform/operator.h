@@ -5,6 +5,7 @@
 
 #include <zor/platform/widgets.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -30,6 +31,32 @@ enum class Refusal : std::uint8_t { None, Hidden, Disabled, Locked, Closed };
     default: return 0;
     }
 }
+
+/// Where on a widget the operator points, in twips. One rule for all platforms, because events carry it.
+struct Spot {
+    Twips x = 0;
+    Twips y = 0;
+};
+
+/// Behind the text of a text field, so that the caret comes to its end; on the indicator of a check box or option
+/// button, however wide the caption is; at the start of a label, whose size is a matter of the font; else the
+/// centre.
+[[nodiscard]] inline Spot spotOn(const Widget& widget)
+{
+    constexpr Twips kBehindText = 30;
+    constexpr Twips kOnIndicator = 120;
+    constexpr Twips kOnText = 60;
+    if (dynamic_cast<const TextField*>(&widget) != nullptr)
+        return {widget.width() - kBehindText, widget.height() / 2};
+    if (dynamic_cast<const ToggleButton*>(&widget) != nullptr)
+        return {kOnIndicator, widget.height() / 2};
+    if (dynamic_cast<const Label*>(&widget) != nullptr)
+        return {std::min(kOnText, widget.width() / 2), std::min(kOnText, widget.height() / 2)};
+    return {widget.width() / 2, widget.height() / 2};
+}
+
+/// How far from the left edge the text of a list box's entries is clicked: behind the mark.
+inline constexpr Twips kListText = 450;
 
 enum class Pointer : std::uint8_t { Click, DoubleClick, RightClick };
 

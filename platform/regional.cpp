@@ -13,9 +13,14 @@ RegionalSettings& current() noexcept
     return settings;
 }
 
-bool canSeparate(std::string_view separator) noexcept
+/// Why a text cannot separate; nothing when it can.
+std::string_view objection(std::string_view separator) noexcept
 {
-    return separator.find_first_of("0123456789+-eE") == std::string_view::npos && separator != " ";
+    if (separator.find_first_of("0123456789+-eE") != std::string_view::npos)
+        return "a digit, a sign or an E belongs to the number and separates nothing";
+    if (separator == " ")
+        return "a blank separates nothing; regions group with a no-break space (U+00A0 or U+202F)";
+    return {};
 }
 
 } // namespace
@@ -24,9 +29,14 @@ const RegionalSettings& regionalSettings() noexcept { return current(); }
 
 void setRegionalSettings(RegionalSettings settings)
 {
-    if (settings.decimal.empty() || settings.decimal == settings.group || !canSeparate(settings.decimal) ||
-        !canSeparate(settings.group))
-        raiseError(ErrorNumber::InvalidCall);
+    if (settings.decimal.empty())
+        raiseError(ErrorNumber::InvalidCall, "there must be a decimal separator");
+    if (settings.decimal == settings.group)
+        raiseError(ErrorNumber::InvalidCall, "one character cannot separate both decimals and groups");
+    for (const std::string& separator : {settings.decimal, settings.group}) {
+        if (const std::string_view why = objection(separator); !why.empty())
+            raiseError(ErrorNumber::InvalidCall, why);
+    }
     current() = std::move(settings);
 }
 

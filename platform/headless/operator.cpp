@@ -22,17 +22,31 @@ bool takesFocus(const Widget& widget)
 /// A handler may have frozen or hidden the widget under the operator's hands: then it hears of no key any more.
 bool isReachable(const Widget& widget) { return widget.isVisible() && widget.isEnabled(); }
 
-void reportMouse(Widget& widget, Notice notice, std::int16_t button)
+/// On the mark or the text of an entry, with the rows as high as on a screen in the usual font.
+Spot spotOnEntry(std::int32_t index, bool isMark)
+{
+    constexpr Twips kRowHeight = 270;
+    constexpr Twips kFirstRow = 120;
+    constexpr Twips kMark = 135;
+    return {isMark ? kMark : kListText, kFirstRow + kRowHeight * index};
+}
+
+Spot spotOfClick(const Widget& widget)
+{
+    const auto* list = dynamic_cast<const ListBox*>(&widget);
+    if (list == nullptr)
+        return spotOn(widget);
+    return list->count() > 0 ? spotOnEntry(std::max(list->current(), 0), false) : Spot{};
+}
+
+void reportMouse(Widget& widget, Notice notice, std::int16_t button, Spot spot)
 {
     // A click may hide what it acknowledges, and is one all the same; what it freezes hears of nothing more.
     if (!widget.isEnabled())
         return;
-    // A text field is clicked behind its text: the caret comes to the end.
-    constexpr Twips kInset = 30;
     std::int16_t shift = 0;
-    const bool isField = dynamic_cast<const TextField*>(&widget) != nullptr;
-    auto x = static_cast<float>(isField ? widget.width() - kInset : widget.width() / 2);
-    auto y = static_cast<float>(widget.height() / 2);
+    auto x = static_cast<float>(spot.x);
+    auto y = static_cast<float>(spot.y);
     const std::array<ArgRef, 4> args{&button, &shift, &x, &y};
     base(widget).report(notice, args);
 }
@@ -47,17 +61,17 @@ void clickEntry(EntryWidget& list, std::int32_t index)
 }
 
 /// A press and release: what it does to the widget follows.
-void pressAndRelease(Widget& widget)
+void pressAndRelease(Widget& widget, Spot spot)
 {
     if (auto* field = dynamic_cast<TextField*>(&widget))
         field->select(characterCount(field->text()), 0);
-    reportMouse(widget, Notice::MouseDown, kLeftButton);
-    reportMouse(widget, Notice::MouseUp, kLeftButton);
+    reportMouse(widget, Notice::MouseDown, kLeftButton, spot);
+    reportMouse(widget, Notice::MouseUp, kLeftButton, spot);
 }
 
 void click(Widget& widget)
 {
-    pressAndRelease(widget);
+    pressAndRelease(widget, spotOfClick(widget));
     if (!widget.isEnabled())
         return;
     if (auto* button = dynamic_cast<ToggleButton*>(&widget)) {
@@ -196,8 +210,9 @@ Refusal HeadlessOperator::pointer(Widget& widget, Pointer action)
     if (!moved)
         return refusal;
     if (action == Pointer::RightClick) {
-        reportMouse(widget, Notice::MouseDown, kRightButton);
-        reportMouse(widget, Notice::MouseUp, kRightButton);
+        const Spot spot = spotOfClick(widget);
+        reportMouse(widget, Notice::MouseDown, kRightButton, spot);
+        reportMouse(widget, Notice::MouseUp, kRightButton, spot);
         return refusal;
     }
     click(widget);
@@ -205,7 +220,7 @@ Refusal HeadlessOperator::pointer(Widget& widget, Pointer action)
         if (auto* field = dynamic_cast<TextField*>(&widget))
             selectLastWord(*field);
         base(widget).report(Notice::DblClick);
-        reportMouse(widget, Notice::MouseUp, kLeftButton);
+        reportMouse(widget, Notice::MouseUp, kLeftButton, spotOfClick(widget));
         // The second press is one more for a button, and no click of its own for anything else.
         if (auto* button = dynamic_cast<ToggleButton*>(&widget))
             pushToggle(*button);
@@ -327,7 +342,7 @@ Refusal HeadlessOperator::toggle(ListBox& box, std::int32_t index)
     const Refusal refusal = approach(box, moved);
     if (!moved)
         return refusal;
-    pressAndRelease(box);
+    pressAndRelease(box, spotOnEntry(index, true));
     if (index < box.count())
         box.setSelected(index, !box.isSelected(index));
     return refusal;

@@ -1,8 +1,11 @@
+#include <zor/platform/operator.h>
 #include <zor/platform/qt/entry_lists.h>
 
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QWheelEvent>
+
+#include <algorithm>
 
 namespace zor::platform::qt {
 namespace {
@@ -166,7 +169,8 @@ QPoint CheckList::textOf(const QModelIndex& index)
 {
     scrollTo(index);
     const QRect place = visualRect(index);
-    return {place.right() - 1, place.center().y()};
+    return {std::min(place.left() + static_cast<int>(kListText / kTwipsPerPixel), place.right() - 1),
+            place.center().y()};
 }
 
 bool CheckList::viewportEvent(QEvent* event)

@@ -51,18 +51,12 @@ struct Aim {
 Aim aimAt(Widget& widget)
 {
     QWidget& target = base(widget).qwidget();
-    // The indicator at the left edge is what a person aims at, however wide the caption is.
-    if (dynamic_cast<ToggleButton*>(&widget) != nullptr)
-        return {target, QPointF(8, centre(target).y())};
     if (auto* list = dynamic_cast<QtListBox*>(&widget)) {
         const bool hasEntries = list->count() > 0;
         return {list->viewport(), hasEntries ? list->textOf(std::max(list->current(), 0)) : QPoint(0, 0)};
     }
-    // A text field is clicked behind its text: the caret comes to the end.
-    constexpr double kInset = 2;
-    if (dynamic_cast<TextField*>(&widget) != nullptr)
-        return {target, QPointF(target.width() - kInset, centre(target).y())};
-    return {target, centre(target)};
+    const Spot spot = spotOn(widget);
+    return {target, QPointF(spot.x, spot.y) / kTwipsPerPixel};
 }
 
 /// Actions follow one another faster than a person's: the next click is not the third of a triple click.

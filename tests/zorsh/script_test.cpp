@@ -34,21 +34,24 @@ TEST(Script, AFailureNamesLineExpectationAndOutput)
         std::string script;
         std::string failure;
     } rows[]{
-        {"another value", "calc 2\n\n# a comment\n= 3\n", "s:4: expected 3 got 2\n"},
-        {"something instead of nothing", "calc 2\n=\n", "s:2: expected nothing got 2\n"},
-        {"nothing instead of something", "usermode on\n= 3\n", "s:2: expected 3 got nothing\n"},
+        {"another value", "calc 2\n\n# a comment\n= 3\n", "s:4: calc 2: expected 3 got 2\n"},
+        {"something instead of nothing", "calc 2\n=\n", "s:2: calc 2: expected nothing got 2\n"},
+        {"nothing instead of something", "usermode on\n= 3\n", "s:2: usermode on: expected 3 got nothing\n"},
         {"more than expected", "help quit\n= quit\n",
-         "s:2: expected no further line got ends the session, or this file\n"},
-        {"less than expected", "calc 2\n= 2\n= 2\n", "s:3: expected 2 got nothing\n"},
-        {"another error", "get a.b\n= error 438\n", "s:2: expected error 438 got error 424 object required\n"},
+         "s:2: help quit: expected no further line got ends the session, or this file\n"},
+        {"less than expected", "calc 2\n= 2\n= 2\n", "s:3: calc 2: expected 2 got nothing\n"},
+        {"another error", "get a.b\n= error 438\n",
+         "s:2: get a.b: expected error 438 got error 424 object required: a\n"},
         {"an error number cut short", "get a.b\n= error 42\n",
-         "s:2: expected error 42 got error 424 object required\n"},
-        {"another error text", "get a.b\n= error 424 no\n",
-         "s:2: expected error 424 no got error 424 object required\n"},
-        {"an error nobody named", "calc 1\nget a.b\n", "s:2: expected no error got error 424 object required\n"},
-        {"an error where a value is named", "get a.b\n= 1\n", "s:2: expected 1 got error 424 object required\n"},
+         "s:2: get a.b: expected error 42 got error 424 object required: a\n"},
+        {"an error text cut short", "get a.b\n= error 424 object\n",
+         "s:2: get a.b: expected error 424 object got error 424 object required: a\n"},
+        {"an error nobody named", "calc 1\nget a.b # why\n",
+         "s:2: get a.b: expected no error got error 424 object required: a\n"},
+        {"a refusal nobody named", "new ctx_ZorTextBox a\nput a.EnableControl False\ndo a.txt_TextBox focus\n",
+         "s:3: do a.txt_TextBox focus: expected no refusal got refused disabled\n"},
         {"an expectation without a command", "= 1\n", "s:1: expected a command in front of this line got none\n"},
-        {"an unfinished last command", "calc 2\n= 3", "s:2: expected 3 got 2\n"},
+        {"an unfinished last command", "calc 2\n= 3", "s:2: calc 2: expected 3 got 2\n"},
     };
     for (const auto& [what, script, failure] : rows) {
         const Outcome outcome = play(script);
@@ -61,7 +64,7 @@ TEST(Script, WhatHoldsIsSilent)
 {
     for (const std::string script :
          {"calc 2\n= 2\n", "calc 2\n=2 # two\n", "usermode on\n=\n", "get a.b\n= error 424\n",
-          "get a.b\n= error 424 object required\n",
+          "get a.b\n= error 424 object required\n", "get a.b\n= error 424 object required: a\n",
           "\xEF\xBB\xBF"
           "calc 2\r\n= 2\r\n",
           "new ctx_ZorTextBox a\nput a.DeviceTag \"°  x\"\nget a.DeviceTag\n= \"\\u{B0}  x\"\n",

@@ -57,7 +57,7 @@ std::size_t position(std::string_view word)
 {
     const std::int32_t value = number(word);
     if (value < 0)
-        raiseError(ErrorNumber::InvalidCall);
+        raiseError(ErrorNumber::InvalidCall, word);
     return static_cast<std::size_t>(value);
 }
 
@@ -65,7 +65,7 @@ std::string string(std::string_view word)
 {
     const Variant value = parseValue(word);
     if (!value.isText())
-        raiseError(ErrorNumber::TypeMismatch);
+        raiseError(ErrorNumber::TypeMismatch, word);
     return value.text();
 }
 
@@ -99,18 +99,19 @@ void report(Session& session, Refusal refusal)
 {
     constexpr std::array<std::string_view, 5> kNames{"", "hidden", "disabled", "locked", "closed"};
     if (refusal != Refusal::None)
-        session.print("refused " + std::string(kNames[static_cast<std::size_t>(refusal)]));
+        session.print("refused " + std::string(kNames[static_cast<std::size_t>(refusal)]),
+                      OutputLine::Kind::Refusal);
 }
 
 void actOnMenu(Session& session, PopupMenu& menu, Arguments arguments)
 {
     if (arguments[0] != "choose")
-        raiseError(ErrorNumber::NoSuchMember);
+        raiseError(ErrorNumber::NoSuchMember, arguments[0]);
     if (arguments.size() != 2)
-        raiseError(ErrorNumber::WrongArguments);
+        raiseError(ErrorNumber::WrongArguments, "choose ITEM");
     const auto item = std::ranges::find(menu.items(), arguments[1], &MenuItem::name);
     if (item == menu.items().end())
-        raiseError(ErrorNumber::ObjectRequired);
+        raiseError(ErrorNumber::ObjectRequired, arguments[1]);
     const auto index = static_cast<std::size_t>(item - menu.items().begin());
     report(session, session.stage().hands().chooseItem(menu, index));
 }
@@ -130,10 +131,11 @@ void act(Session& session, Widget& widget, Arguments arguments)
         return candidate.name == arguments[0] && candidate.fits(widget);
     });
     if (row == kActions.end())
-        raiseError(ErrorNumber::NoSuchMember);
+        raiseError(ErrorNumber::NoSuchMember, arguments[0]);
     if (row->arguments != arguments.size() - 1)
-        raiseError(ErrorNumber::WrongArguments);
-    report(session, row->act(session.stage().hands(), widget, arguments.subspan(1)));
+        raiseError(ErrorNumber::WrongArguments, row->name);
+    report(session,
+           naming(row->name, [&] { return row->act(session.stage().hands(), widget, arguments.subspan(1)); }));
 }
 
 } // namespace zor::console

@@ -95,9 +95,9 @@ std::int32_t indexIn(std::string_view brackets)
     const char* end = brackets.data() + brackets.size() - 1;
     const auto [at, error] = std::from_chars(brackets.data() + 1, end, index);
     if (error == std::errc::result_out_of_range)
-        raiseError(ErrorNumber::Overflow);
+        raiseError(ErrorNumber::Overflow, brackets);
     if (brackets.size() < 3 || brackets.back() != ')' || error != std::errc() || at != end)
-        raiseError(ErrorNumber::InvalidCall);
+        raiseError(ErrorNumber::InvalidCall, brackets);
     return index;
 }
 
@@ -114,11 +114,11 @@ Reading aspect(const Widget& widget, std::string_view name)
         if (row.name != plain)
             continue;
         if (row.isIndexed != isIndexed)
-            raiseError(ErrorNumber::WrongArguments);
-        if (std::optional<Reading> value = row.read(widget, index))
+            raiseError(ErrorNumber::WrongArguments, name);
+        if (std::optional<Reading> value = naming(name, [&] { return row.read(widget, index); }))
             return *value;
     }
-    raiseError(ErrorNumber::NoSuchMember);
+    raiseError(ErrorNumber::NoSuchMember, name);
 }
 
 } // namespace zor::console

@@ -23,7 +23,7 @@ std::pair<std::string_view, Variant> assignment(std::string_view word)
 {
     const auto equals = word.find('=');
     if (equals == std::string_view::npos || equals == 0)
-        raiseError(ErrorNumber::InvalidCall);
+        raiseError(ErrorNumber::InvalidCall, word);
     return {word.substr(0, equals), parseValue(word.substr(equals + 1))};
 }
 
@@ -32,7 +32,7 @@ std::pair<std::string_view, Variant> assignment(std::string_view word)
 void userMode(Session& session, const Call& call)
 {
     if (call[0] != "on" && call[0] != "off")
-        raiseError(ErrorNumber::InvalidCall);
+        raiseError(ErrorNumber::InvalidCall, call[0]);
     session.stage().setUserMode(call[0] == "on");
 }
 
@@ -86,14 +86,16 @@ void destroy(Session& session, const Call& call) { session.destroy(call[0]); }
 void resize(Session& session, const Call& call)
 {
     core::Control& control = session.control(call[0]);
-    const double width = parseValue(call[1]).toDouble();
-    const double height = parseValue(call[2]).toDouble();
-    constexpr double kLargest = 245745; // twips; a form of the platform goes no further
-    if (!(width >= 0 && height >= 0 && width <= kLargest && height <= kLargest))
-        raiseError(ErrorNumber::InvalidCall);
+    const auto length = [](std::string_view word) {
+        constexpr double kLargest = 245745; // twips; a form of the platform goes no further
+        const double twips = naming(word, [&] { return parseValue(word).toDouble(); });
+        if (!(twips >= 0 && twips <= kLargest))
+            raiseError(ErrorNumber::InvalidCall, word);
+        return twips;
+    };
     platform::Rect area = control.surface().geometry();
-    area.width = width;
-    area.height = height;
+    area.width = length(call[1]);
+    area.height = length(call[2]);
     place(control, area);
 }
 
@@ -109,26 +111,53 @@ void list(Session& session, const Call&)
 
 // --- The host
 
-void put(Session& session, const Call& call)
+void put(core::Control& control, std::string_view member, std::string_view value)
 {
-    const auto [object, member] = resolve(session, call[0]);
     // A member that does not exist is reported before a value that cannot be read.
-    const core::PropertyRow* row = object.control->info().property(member);
+    const core::PropertyRow* row = control.info().property(member);
     if (row == nullptr)
-        raiseError(ErrorNumber::NoSuchMember);
-    object.control->put(*row, parseValue(call[1]));
+        raiseError(ErrorNumber::NoSuchMember, member);
+    const Variant read = parseValue(value);
+    naming(member, [&] { control.put(*row, read); });
 }
 
-void get(Session& session, const Call& call) { session.print(print(read(session, call[0]))); }
+/// Several properties of a control in one line; the first that fails ends it. The control may end on the way.
+void putAll(Session& session, const Call& call)
+{
+    for (const std::string_view word : call.words.subspan(1)) {
+        const auto equals = word.find('=');
+        if (equals == std::string_view::npos)
+            raiseError(ErrorNumber::InvalidCall, word);
+        put(session.control(call[0]), word.substr(0, equals), word.substr(equals + 1));
+    }
+}
+
+void put(Session& session, const Call& call)
+{
+    if (call[0].find('.') == std::string_view::npos)
+        return putAll(session, call);
+    const auto [object, member] = resolve(session, call[0]);
+    if (call.words.size() != 2)
+        raiseError(ErrorNumber::WrongArguments, member);
+    put(*object.control, member, call[1]);
+}
+
+void get(Session& session, const Call& call)
+{
+    std::string line;
+    for (const std::string_view path : call.words)
+        line.append(line.empty() ? "" : " ").append(print(read(session, path)));
+    session.print(std::move(line));
+}
 
 void callMethod(Session& session, const Call& call)
 {
     const auto [object, method] = resolve(session, call[0]);
     if (object.control->info().method(method) == nullptr)
-        raiseError(ErrorNumber::NoSuchMember);
+        raiseError(ErrorNumber::NoSuchMember, method);
     std::vector<Variant> values;
     std::ranges::transform(call.words.subspan(1), std::back_inserter(values), parseValue);
-    const core::MethodResult result = object.control->call(method, values);
+    const core::MethodResult result = naming(method, [&] { return object.control->call(method, values); });
     if (!std::holds_alternative<std::monostate>(result))
         session.print(print(result));
 }
@@ -139,16 +168,16 @@ void addHandler(Recorder& recorder, const core::EventRow& event, const Call& cal
 {
     if (call[1] == "run") {
         if (call.words.size() < 3)
-            raiseError(ErrorNumber::WrongArguments);
+            raiseError(ErrorNumber::WrongArguments, call[1]);
         return recorder.addHandler({event.name, 0, {}, std::string(call.from(2))});
     }
     const auto [name, value] = assignment(call[1]);
     if (call.words.size() != 2)
-        raiseError(ErrorNumber::WrongArguments);
+        raiseError(ErrorNumber::WrongArguments, call[2]);
     const auto names = std::span(event.arguments).first(event.argumentCount);
     const auto argument = std::ranges::find(names, name);
     if (argument == names.end())
-        raiseError(ErrorNumber::NoSuchMember);
+        raiseError(ErrorNumber::NoSuchMember, name);
     recorder.addHandler({event.name, static_cast<std::size_t>(argument - names.begin()), value, {}});
 }
 
@@ -157,24 +186,39 @@ void host(Session& session, const Call& call)
     const auto [object, eventName] = resolve(session, call[0]);
     const core::EventRow* event = object.control->info().event(eventName);
     if (event == nullptr)
-        raiseError(ErrorNumber::NoSuchMember);
+        raiseError(ErrorNumber::NoSuchMember, eventName);
     if (call[1] != "off")
         return addHandler(*object.recorder, *event, call);
     if (call.words.size() != 2)
-        raiseError(ErrorNumber::WrongArguments);
+        raiseError(ErrorNumber::WrongArguments, call[1]);
     object.recorder->removeHandlers(event->name);
 }
 
-void events(Session& session, const Call& call) { session.print(session.object(call[0]).recorder->events.take()); }
-
-void notices(Session& session, const Call& call)
+/// Whether the word behind says that what is taken is not to be printed.
+bool isQuiet(const Call& call, std::size_t at)
 {
-    session.print(session.object(call[0]).recorder->notices.take());
+    if (call.words.size() <= at)
+        return false;
+    if (call[at] != "quiet")
+        raiseError(ErrorNumber::InvalidCall, call[at]);
+    return true;
 }
 
-void boxes(Session& session, const Call&)
+template <Log Recorder::*TheLog>
+void take(Session& session, const Call& call)
 {
+    const bool quiet = isQuiet(call, 1);
+    std::string items = ((*session.object(call[0]).recorder).*TheLog).take();
+    if (!quiet)
+        session.print(std::move(items));
+}
+
+void boxes(Session& session, const Call& call)
+{
+    const bool quiet = isQuiet(call, 0);
     std::vector<std::string> shown = session.takeBoxes();
+    if (quiet)
+        return;
     if (shown.empty())
         shown.emplace_back("-");
     for (std::string& box : shown)
@@ -211,7 +255,7 @@ pages::Page& pageNamed(Session& session, std::string_view name)
 {
     pages::Page* page = session.page(name);
     if (page == nullptr)
-        raiseError(ErrorNumber::ObjectRequired);
+        raiseError(ErrorNumber::ObjectRequired, name);
     return *page;
 }
 
@@ -225,11 +269,21 @@ void select(Session& session, const Call& call)
     pageNamed(session, call[0]).select(controlsNamed(session, call.words.subspan(1)));
 }
 
-void apply(Session& session, const Call& call) { pageNamed(session, call[0]).apply(); }
+void apply(Session& session, const Call& call)
+{
+    naming(call[0], [&] { pageNamed(session, call[0]).apply(); });
+}
 
 // --- Help
 
-void describeClass(Session& session, const Call& call) { describe(session, session.classNamed(call[0])); }
+void describeClass(Session& session, const Call& call)
+{
+    if (call.words.empty())
+        return describeAll(session);
+    if (const pages::PageInfo* page = session.pageClasses().find(call[0]))
+        return describe(session, *page);
+    describe(session, session.classNamed(call[0]));
+}
 
 void help(Session& session, const Call& call)
 {
@@ -240,7 +294,7 @@ void help(Session& session, const Call& call)
     }
     const auto command = std::ranges::find(commands(), call[0], &Command::name);
     if (command == commands().end())
-        raiseError(ErrorNumber::InvalidCall);
+        raiseError(ErrorNumber::InvalidCall, std::string(call[0]) + " is no command");
     session.print(std::string(command->usage));
     session.print(std::string(command->help));
 }
@@ -253,29 +307,36 @@ constexpr std::array kCommands{
             1, 2, locale},
     Command{"new", "new CLASS NAME", "creates a control and initialises it", 2, 2, create},
     Command{"restore", "restore CLASS NAME KEY=VALUE ...",
-            "creates a control and reads the keys; after an error the control stays, with what was read", 2, kAny,
-            restore},
+            "creates a control and reads the keys; after an error there is no control", 2, kAny, restore},
     Command{"clone", "clone NAME NEWNAME", "stores a control and restores another from it", 2, 2, clone},
     Command{"bag", "bag NAME", "prints what a control stores", 1, 1, printBag},
     Command{"destroy", "destroy NAME", "destroys a control, or closes a page", 1, 1, destroy},
     Command{"size", "size NAME WIDTH HEIGHT", "the container resizes a control (twips)", 3, 3, resize},
-    Command{"put", "put NAME.PROPERTY VALUE", "the host writes a property", 2, 2, put},
-    Command{"get", "get NAME.PROPERTY or NAME.WIDGET.ASPECT", "prints a property, or what the operator sees", 1, 1,
-            get},
+    Command{"put", "put NAME.PROPERTY VALUE | NAME PROPERTY=VALUE ...", "the host writes properties", 2, kAny,
+            put},
+    Command{"get", "get NAME.PROPERTY or NAME.WIDGET.ASPECT ...",
+            "prints properties, or what the operator sees, in one line", 1, kAny, get},
     Command{"call", "call NAME.METHOD VALUE ...", "the host calls a method; prints its result", 1, kAny,
             callMethod},
     Command{"calc", "calc EXPRESSION", "evaluates + - * / ( ) over numbers and what get prints", 1, kAny,
             calculate},
     Command{"do", "do NAME.WIDGET ACTION ...", "the operator acts on a widget", 2, kAny, operate},
     Command{"menu", "menu", "prints the menu that is open, or none", 0, 0, menu},
-    Command{"events", "events NAME",
-            "prints the events since it was last asked, or since the control stood on the form", 1, 1, events},
-    Command{"notices", "notices NAME",
-            "prints the properties notified since it was last asked, or since the control stood on the form", 1, 1,
-            notices},
-    Command{"boxes", "boxes", "prints the message boxes shown since it was last asked", 0, 0, boxes},
-    Command{"host", "host NAME.EVENT ARGUMENT=VALUE | run COMMAND | off", "what the host's handler does", 2, kAny,
-            host},
+    Command{
+        "events", "events NAME [quiet]",
+        "prints the events since it was last asked, or since the control stood on the form; quiet forgets them", 1,
+        2, take<&Recorder::events>},
+    Command{
+        "notices", "notices NAME [quiet]",
+        "prints the properties notified since it was last asked, or since the control stood on the form; quiet "
+        "forgets them",
+        1, 2, take<&Recorder::notices>},
+    Command{"boxes", "boxes [quiet]", "prints the message boxes shown since it was last asked; quiet forgets them",
+            0, 1, boxes},
+    Command{
+        "host", "host NAME.EVENT ARGUMENT=VALUE | run COMMAND | off",
+        "what the host's handler does from now on; several add up and happen in their order, off takes all away",
+        2, kAny, host},
     Command{"open", "open FILE", "opens a form of Qt Designer: its controls under their object names", 1, 1,
             openForm},
     Command{"save", "save FILE",
@@ -285,8 +346,10 @@ constexpr std::array kCommands{
     Command{"select", "select NAME CONTROL ...", "the frame tells a page of a new selection", 2, kAny, select},
     Command{"apply", "apply NAME", "Apply: the page writes into the first selected control", 1, 1, apply},
     Command{"list", "list", "the controls on the form, oldest first", 0, 0, list},
-    Command{"describe", "describe CLASS", "a class's properties, methods, events, messages and widgets", 1, 1,
-            describeClass},
+    Command{
+        "describe", "describe [CLASS]",
+        "the classes of controls and pages, or what a class has: properties, methods, events, messages, widgets",
+        0, 1, describeClass},
     Command{"help", "help [COMMAND]", "the commands, or what one does", 0, 1, help},
     Command{"quit", "quit", "ends the session, or this file", 0, 0, quit},
 };

@@ -66,8 +66,10 @@ void saveForm(Session& session, const Call& call);
 /// Evaluates a sum over numbers and paths.
 [[nodiscard]] double evaluate(std::string_view expression, Session& session);
 
-/// Prints the tables of a class.
+/// Prints the tables of a class of controls or pages, or the names of all.
 void describe(Session& session, const core::ClassInfo& info);
+void describe(Session& session, const pages::PageInfo& info);
+void describeAll(Session& session);
 
 /// NAME and what stands behind the first point. Raises ObjectRequired for an unknown NAME, InvalidCall when
 /// there is nothing behind it.

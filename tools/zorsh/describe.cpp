@@ -3,8 +3,19 @@
 #include <zor/tools/zorsh/commands.h>
 #include <zor/tools/zorsh/notation.h>
 
+#include <array>
+
 namespace zor::console {
 namespace {
+
+std::string_view accessNote(const core::PropertyRow& row)
+{
+    if (row.access == core::Access::Derived)
+        return " read-only at run time";
+    if (row.access == core::Access::ReadOnly)
+        return " read-only";
+    return row.get == nullptr && row.field.at == nullptr ? " write-only" : "";
+}
 
 std::string propertyLine(const core::PropertyRow& row)
 {
@@ -19,9 +30,7 @@ std::string propertyLine(const core::PropertyRow& row)
         line += " default " + literal(row.bagDefault);
     if (!std::holds_alternative<std::monostate>(row.initial))
         line += " initially " + literal(row.initial);
-    if (row.access == core::Access::Derived)
-        line += " read-only at run time";
-    return line;
+    return line + std::string(accessNote(row));
 }
 
 std::string eventLine(std::size_t number, const core::EventRow& row)
@@ -40,7 +49,38 @@ std::string methodLine(const core::MethodRow& row)
     return line;
 }
 
+std::string fieldLine(const pages::Field& field)
+{
+    constexpr std::array<std::string_view, 4> kKinds{"text", "list", "number", "check"};
+    std::string line = "field " + std::string(field.widget) + ' ' +
+                       std::string(kKinds.at(static_cast<std::size_t>(field.kind))) + ' ' +
+                       printText(field.caption) + " edits " + std::string(field.property);
+    for (const std::string_view item : field.items)
+        line.append(" ").append(printText(item));
+    if (field.kind == pages::FieldKind::Number)
+        line += ' ' + std::to_string(field.minimum) + " to " + std::to_string(field.maximum) + " by " +
+                std::string(field.spinButton);
+    return line;
+}
+
 } // namespace
+
+void describeAll(Session& session)
+{
+    for (const core::ClassInfo* info : session.classes().classes())
+        session.print("class " + std::string(info->name));
+    for (const pages::PageInfo* info : session.pageClasses().rows())
+        session.print("page " + std::string(info->name));
+}
+
+void describe(Session& session, const pages::PageInfo& info)
+{
+    session.print("page " + std::string(info.name) + ' ' + printText(info.caption));
+    for (const std::string_view control : info.controls)
+        session.print("for " + std::string(control));
+    for (const pages::Field* field : info.fields)
+        session.print(fieldLine(*field));
+}
 
 void describe(Session& session, const core::ClassInfo& info)
 {

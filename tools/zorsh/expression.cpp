@@ -22,7 +22,7 @@ public:
         const double value = sum();
         skip();
         if (!m_rest.empty())
-            raiseError(ErrorNumber::InvalidCall);
+            raiseError(ErrorNumber::InvalidCall, m_rest);
         if (!std::isfinite(value))
             raiseError(ErrorNumber::Overflow);
         return value;
@@ -77,7 +77,7 @@ private:
     double factor()
     {
         if (++m_depth > kDeepest)
-            raiseError(ErrorNumber::InvalidCall);
+            raiseError(ErrorNumber::InvalidCall, "too many brackets and signs within each other");
         double value = 0;
         if (take('-'))
             value = -factor();
@@ -93,7 +93,7 @@ private:
     {
         const double value = sum();
         if (!take(')'))
-            raiseError(ErrorNumber::InvalidCall);
+            raiseError(ErrorNumber::InvalidCall, "a bracket is not closed");
         return value;
     }
 
@@ -112,27 +112,33 @@ private:
         auto length = m_rest.find_first_of(kEndsOperand);
         const std::string_view name = m_rest.substr(0, length);
         if (name.find('.') == std::string_view::npos)
-            return parseValue(takeWord(length)).toDouble();
+            return toDouble(takeWord(length));
         // An index belongs to the aspect in front of it.
         if (length != std::string_view::npos && m_rest[length] == '(') {
             const auto close = m_rest.find(')', length);
             length = close == std::string_view::npos ? close : close + 1;
         }
-        const Reading reading = read(m_session, takeWord(length));
+        const std::string_view path = takeWord(length);
+        const Reading reading = read(m_session, path);
         if (reading.form == Reading::Form::Word)
-            raiseError(ErrorNumber::TypeMismatch);
-        return reading.value.toDouble();
+            raiseError(ErrorNumber::TypeMismatch, path);
+        return naming(path, [&] { return reading.value.toDouble(); });
+    }
+
+    static double toDouble(std::string_view word)
+    {
+        return naming(word, [&] { return parseValue(word).toDouble(); });
     }
 
     /// An exponent's sign belongs to the number, so a number does not end where a name does.
     double takeNumber()
     {
         if (m_rest.starts_with("0x") || m_rest.starts_with("0X"))
-            return parseValue(takeWord(m_rest.find_first_of(kEndsOperand))).toDouble();
+            return toDouble(takeWord(m_rest.find_first_of(kEndsOperand)));
         double number = 0;
         const char* begin = m_rest.data();
         const auto [end, error] = std::from_chars(begin, begin + m_rest.size(), number);
-        return parseValue(takeWord(static_cast<std::size_t>(end - begin))).toDouble();
+        return toDouble(takeWord(static_cast<std::size_t>(end - begin)));
     }
 
     std::string_view m_rest;

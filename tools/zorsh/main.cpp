@@ -125,8 +125,9 @@ int runProgram(int argc, char** argv)
     std::unique_ptr<Program> program;
     try {
         program = std::make_unique<Program>(settings);
-    } catch (const RunTimeError&) {
-        std::cerr << "zorsh: --locale takes one decimal separator and, behind it, one for grouping\n";
+    } catch (const RunTimeError& error) {
+        std::cerr << "zorsh: --locale takes one decimal separator and, behind it, one for grouping: "
+                  << error.what() << '\n';
         return kUsage;
     }
     return program->run();

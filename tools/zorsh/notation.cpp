@@ -97,6 +97,7 @@ std::string parseText(std::string_view word)
     return text;
 }
 
+/// 32 bits are an integer as they stand: 0xFFFFFFFF is -1. More make a double.
 std::optional<Variant> parseHexadecimal(std::string_view digits, bool negative)
 {
     std::uint64_t bits = 0;
@@ -106,10 +107,13 @@ std::optional<Variant> parseHexadecimal(std::string_view digits, bool negative)
         raiseError(ErrorNumber::Overflow);
     if (error != std::errc() || at != end)
         return std::nullopt;
-    const double value = negative ? -static_cast<double>(bits) : static_cast<double>(bits);
-    if (bits <= static_cast<std::uint64_t>(std::numeric_limits<std::int32_t>::max()))
-        return Variant(static_cast<std::int32_t>(value));
-    return Variant(value);
+    constexpr std::uint64_t kMost = std::numeric_limits<std::uint32_t>::max();
+    if (bits > kMost)
+        return Variant(negative ? -static_cast<double>(bits) : static_cast<double>(bits));
+    const auto value = static_cast<std::int32_t>(static_cast<std::uint32_t>(bits));
+    if (negative && value == std::numeric_limits<std::int32_t>::min())
+        return Variant(-static_cast<double>(value));
+    return Variant(negative ? -value : value);
 }
 
 /// Nothing when the word does not start like a number; InvalidCall when it does and goes on otherwise.
@@ -240,7 +244,7 @@ std::vector<std::string_view> words(std::string_view line)
     return result;
 }
 
-Variant parseValue(std::string_view word)
+static Variant parseWord(std::string_view word)
 {
     if (word.starts_with('"'))
         return parseText(word);
@@ -257,6 +261,11 @@ Variant parseValue(std::string_view word)
             return static_cast<std::int32_t>(colour.colour);
     }
     raiseError(ErrorNumber::InvalidCall);
+}
+
+Variant parseValue(std::string_view word)
+{
+    return naming(word, [&] { return parseWord(word); });
 }
 
 std::string canonical(std::string_view line)

@@ -23,7 +23,7 @@ std::pair<Session::Object&, std::string_view> resolve(Session& session, std::str
     const auto point = path.find('.');
     Session::Object& object = session.object(path.substr(0, point));
     if (point == std::string_view::npos || point + 1 == path.size())
-        raiseError(ErrorNumber::InvalidCall);
+        raiseError(ErrorNumber::InvalidCall, path);
     return {object, path.substr(point + 1)};
 }
 
@@ -32,7 +32,7 @@ platform::Widget& widgetNamed(core::Control& control, std::string_view name)
     const auto row = std::ranges::find(control.info().widgets, name, &core::WidgetRow::name);
     platform::Widget* widget = row == control.info().widgets.end() ? nullptr : control.widget(row->widget);
     if (widget == nullptr)
-        raiseError(ErrorNumber::ObjectRequired);
+        raiseError(ErrorNumber::ObjectRequired, name);
     return *widget;
 }
 
@@ -40,7 +40,7 @@ platform::Widget& widgetNamed(pages::Page& page, std::string_view name)
 {
     platform::Widget* widget = page.widget(name);
     if (widget == nullptr)
-        raiseError(ErrorNumber::ObjectRequired);
+        raiseError(ErrorNumber::ObjectRequired, name);
     return *widget;
 }
 
@@ -51,7 +51,7 @@ std::pair<pages::Page*, std::string_view> resolvePage(Session& session, std::str
     if (page == nullptr)
         return {nullptr, {}};
     if (point == std::string_view::npos || point + 1 == path.size())
-        raiseError(ErrorNumber::InvalidCall);
+        raiseError(ErrorNumber::InvalidCall, path);
     return {page, path.substr(point + 1)};
 }
 
@@ -61,7 +61,7 @@ static Reading readPage(pages::Page& page, std::string_view member)
     if (point != std::string_view::npos)
         return aspect(widgetNamed(page, member.substr(0, point)), member.substr(point + 1));
     if (member != "Changed")
-        raiseError(ErrorNumber::NoSuchMember);
+        raiseError(ErrorNumber::NoSuchMember, member);
     return {page.isChanged()};
 }
 
@@ -72,7 +72,7 @@ Reading read(Session& session, std::string_view path)
     const auto [object, member] = resolve(session, path);
     const auto point = member.find('.');
     if (point == std::string_view::npos)
-        return {object.control->property(member)};
+        return {naming(path, [&] { return object.control->property(member); })};
     return aspect(widgetNamed(*object.control, member.substr(0, point)), member.substr(point + 1));
 }
 

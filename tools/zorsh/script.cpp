@@ -37,10 +37,12 @@ bool matches(std::string_view expected, const OutputLine& came)
     const std::string text = canonical(came.text);
     if (expected == text)
         return true;
-    // The text of an error is for people; its number alone is enough.
-    const bool isNumberOnly = expected.starts_with(kErrorWord) && expected.size() > kErrorWord.size() &&
-                              expected.find_first_not_of(kDigits, kErrorWord.size()) == std::string_view::npos;
-    return came.isError && isNumberOnly && text.starts_with(expected) && text[expected.size()] == ' ';
+    // The text of an error is for people: its number alone is enough, and so is the text without what it names.
+    if (came.kind != OutputLine::Kind::Error || !text.starts_with(expected) || !expected.starts_with(kErrorWord) ||
+        expected.size() == kErrorWord.size())
+        return false;
+    const bool isNumberOnly = expected.find_first_not_of(kDigits, kErrorWord.size()) == std::string_view::npos;
+    return text[expected.size()] == (isNumberOnly ? ' ' : ':');
 }
 
 /// A failure is read by a person: what is longer than a screen is cut.
@@ -73,6 +75,7 @@ bool Script::feed(std::string_view line)
         return false;
     judge();
     m_commandLine = m_line;
+    m_command = content;
     m_came = m_session.run(content);
     if (m_options.echoAll) {
         for (const OutputLine& came : m_came)
@@ -114,13 +117,15 @@ void Script::judge()
         else
             compare();
     } else {
-        const auto error = std::ranges::find(m_came, true, &OutputLine::isError);
+        const auto failure = std::ranges::find_if(
+            m_came, [](const OutputLine& line) { return line.kind != OutputLine::Kind::Answer; });
         if (!m_options.echoAll) {
             for (const OutputLine& came : m_came)
                 m_output << came.text << '\n';
         }
-        if (error != m_came.end() && !m_options.errorsAllowed)
-            fail(m_commandLine, "no error", error->text);
+        if (failure != m_came.end() && !m_options.errorsAllowed)
+            fail(m_commandLine, failure->kind == OutputLine::Kind::Error ? "no error" : "no refusal",
+                 failure->text);
     }
     m_expected.clear();
     m_came.clear();
@@ -144,8 +149,10 @@ void Script::fail(int line, std::string_view expected, std::string_view got)
 {
     ++m_failureCount;
     m_output.flush();
-    m_failures << m_name << ':' << line << ": expected " << shortened(expected) << " got " << shortened(got)
-               << '\n';
+    m_failures << m_name << ':' << line << ": ";
+    if (m_commandLine != 0)
+        m_failures << shortened(m_command) << ": ";
+    m_failures << "expected " << shortened(expected) << " got " << shortened(got) << '\n';
 }
 
 } // namespace zor::console

@@ -14,7 +14,7 @@ namespace zor::console {
 struct ScriptOptions {
     /// Print what a command prints at once, for someone who waits for it; else only what no `=` line names.
     bool echoAll = false;
-    /// An error is something to look at, not a failure.
+    /// An error or a refusal is something to look at, not a failure.
     bool errorsAllowed = false;
 };
 
@@ -54,6 +54,7 @@ private:
     std::ostream& m_failures;
     std::vector<OutputLine> m_came;
     std::vector<Expected> m_expected;
+    std::string m_command;
     int m_line = 0;
     int m_commandLine = 0; ///< 0 before the first command
     int m_failureCount = 0;

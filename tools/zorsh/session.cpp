@@ -106,17 +106,17 @@ void Session::dispatch(std::string_view line)
         return;
     const auto command = std::ranges::find(commands(), parts.front(), &Command::name);
     if (command == commands().end())
-        raiseError(ErrorNumber::InvalidCall);
+        raiseError(ErrorNumber::InvalidCall, std::string(parts.front()) + " is no command");
     const auto arguments = std::span(parts).subspan(1);
     if (arguments.size() < command->least || arguments.size() > command->most)
-        raiseError(ErrorNumber::WrongArguments);
+        raiseError(ErrorNumber::WrongArguments, command->usage);
     command->run(*this, {arguments, line});
     m_stage->passOnError();
 }
 
 void Session::printError(int number, std::string_view text)
 {
-    m_output.push_back({"error " + std::to_string(number) + ' ' + std::string(text), true});
+    print("error " + std::to_string(number) + ' ' + std::string(text), OutputLine::Kind::Error);
 }
 
 // --- Controls by name
@@ -125,7 +125,7 @@ Session::Object& Session::object(std::string_view name)
 {
     const auto at = m_objects.find(name);
     if (at == m_objects.end())
-        raiseError(ErrorNumber::ObjectRequired);
+        raiseError(ErrorNumber::ObjectRequired, name);
     return at->second;
 }
 
@@ -133,13 +133,23 @@ const core::ClassInfo& Session::classNamed(std::string_view name) const
 {
     const core::ClassInfo* info = m_registry.find(name);
     if (info == nullptr)
-        raiseError(ErrorNumber::ObjectRequired);
+        raiseError(ErrorNumber::ObjectRequired, name);
     return *info;
 }
 
-bool Session::isFree(std::string_view name) const
+std::string Session::objection(std::string_view name) const
 {
-    return isName(name) && !m_objects.contains(name) && !m_pages.contains(name);
+    if (!isName(name))
+        return std::string(name) + " is no name";
+    if (m_objects.contains(name) || m_pages.contains(name))
+        return std::string(name) + " is the name of another";
+    return {};
+}
+
+void Session::requireFree(std::string_view name) const
+{
+    if (const std::string why = objection(name); !why.empty())
+        raiseError(ErrorNumber::InvalidCall, why);
 }
 
 forms::Form& Session::form()
@@ -152,24 +162,13 @@ forms::Form& Session::form()
 void Session::create(const core::ClassInfo& info, std::string_view name,
                      const std::function<void(core::Control&)>& prepare)
 {
-    if (!isFree(name))
-        raiseError(ErrorNumber::InvalidCall);
+    requireFree(name);
     core::ControlPtr<> created = info.create(m_stage->container());
-    core::Control& control = *created;
-    Object& object = m_objects.emplace(name, Object{std::move(created), nullptr, m_created++}).first->second;
-    // The host connects itself once the control stands: what came before is not its business. A control whose
-    // stored properties could not be read stays on the form, so that it can be looked at.
-    const auto connect = [&] {
-        object.recorder = std::make_shared<Recorder>(*this, control);
-        m_recorders.emplace(&control, object.recorder);
-    };
-    try {
-        prepare(control);
-    } catch (...) {
-        connect();
-        throw;
-    }
-    connect();
+    prepare(*created);
+    // The host connects itself once the control stands: what came before is not its business.
+    auto recorder = std::make_shared<Recorder>(*this, *created);
+    m_recorders.emplace(created.get(), recorder);
+    m_objects.emplace(name, Object{std::move(created), std::move(recorder), m_created++});
 }
 
 void Session::destroy(std::string_view name)
@@ -180,13 +179,12 @@ void Session::destroy(std::string_view name)
     }
     const auto at = m_objects.find(name);
     if (at == m_objects.end())
-        raiseError(ErrorNumber::ObjectRequired);
+        raiseError(ErrorNumber::ObjectRequired, name);
     // The name is free before the control ends, whatever its end brings about.
     const Object object = std::move(at->second);
     m_objects.erase(at);
     m_recorders.erase(object.control.get());
-    if (object.recorder)
-        object.recorder->detach();
+    object.recorder->detach();
 }
 
 // --- Property pages
@@ -195,9 +193,8 @@ void Session::openPage(std::string_view pageClass, std::string_view name, std::s
 {
     const pages::PageInfo* info = m_pageRegistry.find(pageClass);
     if (info == nullptr)
-        raiseError(ErrorNumber::ObjectRequired);
-    if (!isFree(name))
-        raiseError(ErrorNumber::InvalidCall);
+        raiseError(ErrorNumber::ObjectRequired, pageClass);
+    requireFree(name);
     OpenPage open{m_stage->createPageFrame(), nullptr};
     open.page = std::make_unique<pages::Page>(*info, *open.frame);
     open.page->select(controls);

@@ -9,6 +9,7 @@
 #include <zor/tools/zorsh/stage.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -23,8 +24,10 @@ namespace zor::console {
 
 /// One line that a command printed.
 struct OutputLine {
+    enum class Kind : std::uint8_t { Answer, Error, Refusal };
+
     std::string text;
-    bool isError = false;
+    Kind kind = Kind::Answer;
 };
 
 /// Runs commands. An error is a line "error NUMBER text" of the command's output.
@@ -52,7 +55,10 @@ public:
     };
     using Objects = std::map<std::string, Object, std::less<>>;
 
-    void print(std::string line) { m_output.push_back({std::move(line), false}); }
+    void print(std::string line, OutputLine::Kind kind = OutputLine::Kind::Answer)
+    {
+        m_output.push_back({std::move(line), kind});
+    }
     /// Runs a command inside another; its output joins the other's.
     void runInside(std::string_view line);
     /// Runs something and prints the error it raises.
@@ -62,17 +68,18 @@ public:
     [[nodiscard]] Object& object(std::string_view name);
     [[nodiscard]] core::Control& control(std::string_view name) { return *object(name).control; }
     [[nodiscard]] const core::ClassInfo& classNamed(std::string_view name) const;
-    /// Creates a control under a new name; `prepare` initialises or reads it.
+    /// Creates a control under a new name; `prepare` initialises or reads it. When that fails there is no control.
     void create(const core::ClassInfo& info, std::string_view name,
                 const std::function<void(core::Control&)>& prepare);
     /// Destroys a control or closes a page.
     void destroy(std::string_view name);
     /// Whether a control or a page may have the name.
-    [[nodiscard]] bool isFree(std::string_view name) const;
+    [[nodiscard]] bool isFree(std::string_view name) const { return objection(name).empty(); }
     /// The form that was opened last, or an empty one.
     [[nodiscard]] forms::Form& form();
     void setForm(forms::Form form) { m_form = std::move(form); }
     [[nodiscard]] const core::ClassRegistry& classes() const noexcept { return m_registry; }
+    [[nodiscard]] const pages::PageRegistry& pageClasses() const noexcept { return m_pageRegistry; }
 
     /// Opens a property page under a new name on some controls.
     void openPage(std::string_view pageClass, std::string_view name, std::span<core::Control* const> controls);
@@ -93,6 +100,9 @@ private:
     };
 
     void dispatch(std::string_view line);
+    /// Why a name cannot be had; nothing when it can.
+    [[nodiscard]] std::string objection(std::string_view name) const;
+    void requireFree(std::string_view name) const;
     void printError(int number, std::string_view text);
 
     std::unique_ptr<Stage> m_stage;
