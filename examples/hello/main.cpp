@@ -1,9 +1,24 @@
-#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
-#include <zor/core/frm_Container.h>
-#include <zor/platform/qt/container.h>
+#include <zor/controls.h>
+#include <zor/qt.h>
 
 #include <QApplication>
+#include <QPushButton>
 #include <QWidget>
+
+#include <iostream>
+
+/// Hears what the field has to say, and would write to the device.
+class Host final : public zor::__ctx_ZorTextBox {
+public:
+    explicit Host(zor::ctx_ZorTextBox& level) : m_level(level) {}
+    void OutputValueChange() override
+    {
+        std::cout << "OutputValue " << m_level.OutputValue().toText() << std::endl;
+    }
+
+private:
+    zor::ctx_ZorTextBox& m_level;
+};
 
 int main(int argc, char** argv)
 {
@@ -15,8 +30,14 @@ int main(int argc, char** argv)
     container.setUserMode(true);
     level->OutputUnit(zor::LgthU_Mtr);  // what the operator reads and types
     level->DefaultUnit(zor::LgthU_Mtr); // the unit of the limits
-    level->MaxValue(20);
-    level->DeviceValue(12345); // what the device sent, in tenths of a millimetre
+    level->MaxValue(20);                // without limits a fresh field admits nothing but 0
+    level->DeviceValue(12345);          // what the device sent, in tenths of a millimetre
+    Host host(*level);
+    level->subscribe(host);
+    QPushButton next("Next", &form); // somewhere to go on to
+    next.move(0, 40);
     form.show();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    level->unsubscribe(host);
+    return status;
 }
