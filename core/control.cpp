@@ -307,10 +307,13 @@ void Control::initialiseProperties()
 
 void Control::load(const PropertyRow& row, const Variant& value)
 {
-    if (row.field.at != nullptr)
-        storeInto(row.field.at(*this), value);
-    else
-        row.put(*this, value);
+    if (row.field.at == nullptr)
+        return row.put(*this, value);
+    // Published with 32 bits, stored with 16.
+    const ValueKind kind = row.field.kind;
+    const bool isShort =
+        kind == ValueKind::UnitType || kind == ValueKind::MeasType || kind == ValueKind::RegisterType;
+    storeInto(row.field.at(*this), isShort ? Variant(value.toInt16()) : value);
 }
 
 void Control::readProperties(const platform::PropertyBag& bag)

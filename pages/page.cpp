@@ -49,6 +49,7 @@ void Page::select(std::span<core::Control* const> controls)
             values.push_back(control->property(entry.field->property));
     }
     setControl(control);
+    m_accepted = nullptr;
     m_isShowing = true;
     for (std::size_t i = 0; i < values.size(); ++i)
         show(m_entries[i], values[i]);
@@ -100,8 +101,10 @@ void Page::apply()
     core::Control& control = *m_control;
     // Apply by a key leaves the focus in the field; what was typed there counts all the same.
     for (const Entry& entry : m_entries) {
-        if (entry.spin && entry.text->hasFocus())
+        if (entry.spin && entry.text->hasFocus() && m_accepted != &entry) {
             acceptNumber(entry);
+            m_accepted = &entry;
+        }
     }
     for (const Field* field : writeOrder()) {
         if (const Entry* at = entry(*field))
@@ -151,7 +154,11 @@ void Page::notice(int widget, Notice notice, platform::EventArgs /*args*/)
         return;
     const Entry& entry = m_entries[static_cast<std::size_t>(part / kParts)];
     switch (notice) {
-    case Notice::Change: m_frame.setChanged(true); break;
+    case Notice::Change:
+        if (m_accepted == &entry)
+            m_accepted = nullptr;
+        m_frame.setChanged(true);
+        break;
     case Notice::Click:
         if (entry.field->kind != FieldKind::List && entry.field->kind != FieldKind::Check)
             break;
@@ -165,7 +172,7 @@ void Page::notice(int widget, Notice notice, platform::EventArgs /*args*/)
     case Notice::SpinUp:
     case Notice::SpinDown: entry.text->setText(std::to_string(entry.spin->value())); break;
     case Notice::LostFocus:
-        if (entry.spin)
+        if (entry.spin && std::exchange(m_accepted, nullptr) != &entry)
             acceptNumber(entry);
         break;
     default: break;

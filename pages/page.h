@@ -96,6 +96,8 @@ private:
     std::unique_ptr<platform::Surface> m_surface;
     std::vector<Entry> m_entries;
     core::Control* m_control = nullptr;
+    /// The number field that Apply has taken over as it was left: leaving it after that is no second time.
+    const Entry* m_accepted = nullptr;
     bool m_isShowing = false;
 };
 

@@ -68,6 +68,7 @@ void ChoiceControl::s_UpdateDeviceSupportDisplay()
 
 void ChoiceControl::s_AfterLoading()
 {
+    m_reference = m_deviceValue;
     s_UpdateColors();
     s_UpdateEnabledState();
     s_Layout();

@@ -73,6 +73,8 @@ protected:
 
     std::int32_t m_deviceValue = 0;
     std::int32_t m_outputValue = 0;
+    /// The device value last applied, or read: an edit is judged against it and undo returns to it.
+    std::int32_t m_reference = 0;
 
 private:
     friend struct ChoiceRows;

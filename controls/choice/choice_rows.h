@@ -27,8 +27,8 @@ struct ChoiceRows {
             .written<[](C& control, std::int32_t value) { control.ModifiedValue(value); }>();
     /// The value that another user wrote, for the text that tells of it: the host's, never the control's.
     template <auto Field>
-    static constexpr PropertyRow
-        OtherUserValue = core::fieldRow<Field>("OtherUserValue").with(core::Access::Silent);
+    static constexpr PropertyRow OtherUserValue =
+        core::fieldRow<Field>("OtherUserValue").with(core::Access::Silent).refreshing({core::Refresh::Status});
 
     // --- The order in which properties are stored, and in which a new control sets them
     static constexpr std::array kFirst{&S::CFail};

@@ -35,21 +35,38 @@ struct UnitBinding {
         return convert(value, unitType, previousOutputUnit, outputUnit);
     }
 
+    /// Both limits. The lower one is the new one also where the upper one has no finite result.
+    void reExpressLimits()
+    {
+        minParam = reExpress(minParam);
+        maxParam = reExpress(maxParam);
+    }
+
     void updateMinParam() { minParam = limitToOutput(minValue); }
     void updateMaxParam() { maxParam = limitToOutput(maxValue); }
 
-    /// Whether a value in the device unit lies outside the limits taken back to that unit. What differs from a
-    /// limit by rounding alone lies on it.
+    /// Whether a value in the device unit lies outside the limits taken back to that unit, and again where it is
+    /// itself taken to the limits: the ways there and back round differently, and between temperatures they do not
+    /// meet. What differs from a limit by rounding alone lies on it.
     [[nodiscard]] bool isOutside(double deviceValue) const noexcept
     {
-        constexpr double kRounding = 1e-9;
-        const double factor = fd_GetConversionFactor(unitType, outputUnit, deviceUnit);
-        const double offset = fd_GetOffset(outputUnit, deviceUnit);
         // A limit beyond every number of the device unit becomes infinite, and limits nothing.
-        const double lower = minParam * factor + offset;
-        const double upper = maxParam * factor + offset;
-        return (deviceValue < lower && lower - deviceValue > kRounding * std::fabs(lower)) ||
-               (deviceValue > upper && deviceValue - upper > kRounding * std::fabs(upper));
+        return isBeyond(deviceValue, taken(minParam, outputUnit, deviceUnit),
+                        taken(maxParam, outputUnit, deviceUnit)) &&
+               isBeyond(taken(deviceValue, deviceUnit, outputUnit), minParam, maxParam);
+    }
+
+private:
+    /// A conversion whose result may be infinite.
+    [[nodiscard]] double taken(double value, MEAS_TYPE from, MEAS_TYPE to) const noexcept
+    {
+        return value * fd_GetConversionFactor(unitType, from, to) + fd_GetOffset(from, to);
+    }
+    [[nodiscard]] static bool isBeyond(double value, double lower, double upper) noexcept
+    {
+        constexpr double kRounding = 1e-9;
+        return (value < lower && lower - value > kRounding * std::fabs(lower)) ||
+               (value > upper && value - upper > kRounding * std::fabs(upper));
     }
 };
 

@@ -177,7 +177,9 @@ bool HeadlessOperator::moveFocus(Host& window, Widget* widget)
 Refusal HeadlessOperator::approach(Widget& widget, bool& moved)
 {
     const Refusal refusal = reach(widget);
-    moved = refusal == Refusal::None && (!takesFocus(widget) || moveFocus(base(widget).host(), &widget));
+    // A handler that freezes or hides the widget when the focus comes ends the action.
+    moved = refusal == Refusal::None &&
+            (!takesFocus(widget) || (moveFocus(base(widget).host(), &widget) && isReachable(widget)));
     return refusal;
 }
 
@@ -329,7 +331,8 @@ Refusal HeadlessOperator::choose(ComboBox& box, std::int32_t index)
     const Hold hold(base(box).host().listener());
     static_cast<void>(box.entryText(index));
     const Refusal refusal = dropDown(box);
-    if (refusal == Refusal::None && base(box).host().focused() == &box && !box.isLocked() && index < box.count())
+    if (refusal == Refusal::None && base(box).host().focused() == &box && isReachable(box) && !box.isLocked() &&
+        index < box.count())
         clickEntry(box, index);
     return refusal;
 }
@@ -343,7 +346,7 @@ Refusal HeadlessOperator::toggle(ListBox& box, std::int32_t index)
     if (!moved)
         return refusal;
     pressAndRelease(box, spotOnEntry(index, true));
-    if (index < box.count())
+    if (box.isEnabled() && index < box.count())
         box.setSelected(index, !box.isSelected(index));
     return refusal;
 }

@@ -58,8 +58,8 @@ void DropDownList::showPopup()
         return;
     if (onDropDown)
         onDropDown();
-    // A handler may have locked it just now.
-    if (m_locked)
+    // A handler may have locked, frozen or hidden it just now.
+    if (m_locked || !isEnabled() || isHidden())
         return;
     if (!std::exchange(m_hasOpened, true)) {
         if (auto* list = dynamic_cast<QListView*>(view()))
@@ -100,8 +100,12 @@ QtComboBox::QtComboBox(const Context& context, int number) : QtEntryBase(context
     QObject::connect(&widget(), &QComboBox::currentIndexChanged, &widget(), [this] {
         if (isQuiet())
             return;
+        const EventScope scope(this->context());
         m_isChoiceReported = true;
         report(Notice::Click);
+        // Qt activates nothing where a handler has taken the choice away.
+        if (widget().currentIndex() < 0)
+            m_isChoiceReported = false;
     });
     // Choosing the entry that is chosen already is a click all the same.
     QObject::connect(&widget(), &QComboBox::activated, &widget(), [this] {
@@ -242,7 +246,11 @@ QtListBox::QtListBox(const Context& context, int number) : QtEntryBase(context, 
         changed();
     };
     QObject::connect(widget().selectionModel(), &QItemSelectionModel::currentChanged, &widget(),
-                     [this] { changed(); });
+                     [this](const QModelIndex& /*current*/, const QModelIndex& previous) {
+                         if (!isQuiet() && !m_isChangePending)
+                             m_before = previous;
+                         changed();
+                     });
     onMovedByOperator(*widget().verticalScrollBar(), [this] { report(Notice::Scroll); });
 }
 
@@ -268,6 +276,16 @@ void QtListBox::setSelected(std::int32_t index, bool selected)
         widget().makeCurrent(model().index(index), false);
     }
     report(Notice::Click);
+}
+
+void QtListBox::setEnabled(bool enabled)
+{
+    QtEntryBase::setEnabled(enabled);
+    // A click that is cut off leaves no trace.
+    if (!enabled && std::exchange(m_isChangePending, false)) {
+        const Quiet quiet(*this);
+        widget().makeCurrent(m_before, false);
+    }
 }
 
 void QtListBox::changed()

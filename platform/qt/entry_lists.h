@@ -185,7 +185,9 @@ public:
     [[nodiscard]] bool isSelected(std::int32_t index) const override { return model().isMarked(index); }
     void setSelected(std::int32_t index, bool selected) override;
     [[nodiscard]] std::int32_t selectedCount() const override { return model().markedCount(); }
+    void setEnabled(bool enabled) override;
     [[nodiscard]] bool isClick(const QMouseEvent& release, bool second) override;
+    [[nodiscard]] bool changesOnRelease() const override { return true; }
 
     /// @name For the operator's hands
     /// An index outside the list is nobody's.
@@ -202,6 +204,8 @@ private:
 
     /// The mouse changed something and is not released yet.
     bool m_isChangePending = false;
+    /// The entry that was the current one before.
+    QPersistentModelIndex m_before;
 };
 
 } // namespace zor::platform::qt

@@ -137,7 +137,8 @@ Refusal QtOperator::approach(Widget& widget, bool& there)
         return refusal;
     if (!base(widget).focusReported)
         alive->setFocus(Qt::MouseFocusReason);
-    there = alive && base(widget).focusReported;
+    // A handler that freezes or hides the widget when the focus comes ends the action.
+    there = alive && base(widget).focusReported && base(widget).isReachable();
     return refusal;
 }
 

@@ -230,19 +230,25 @@ private:
     {
         const std::string entry = below(5) == 0 ? "x" : std::to_string(whole());
         const bool leaves = below(4) != 0;
-        // An entry that was under way when the connection broke still counts when the field is left.
-        if (!leaves || text.text() == entry || (control->CFail() && !control->ReadOnly()))
+        // An entry that was under way when the operator was locked out still counts when the field is left.
+        const bool isBroken = control->CFail() && !control->ReadOnly();
+        if (!leaves || text.text() == entry || isBroken || (isLocked() && m_hasEntry))
             return static_cast<void>(overflows([&] { enter(entry, leaves); }));
         expectTaken(control->ReadOnly(), entry != "x", [&] { enter(entry, leaves); });
     }
     void enter(const std::string& entry, bool leaves)
     {
         hands.select(text, 0, text.text().size());
+        m_hasEntry |= !isLocked();
         hands.paste(text, entry);
         // Leaving the field would commit what the host has just written: another act.
-        if (leaves && !host.hasWritten)
+        if (leaves && !host.hasWritten) {
             hands.blur(text);
+            m_hasEntry = false;
+        }
     }
+
+    bool m_hasEntry = false;
 };
 
 class SliderHistory : public History<ctx_ZorSlider> {

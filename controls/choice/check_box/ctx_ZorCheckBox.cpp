@@ -77,7 +77,6 @@ void ctx_ZorCheckBox::setChecked(bool checked)
 
 void ctx_ZorCheckBox::s_HandleClick()
 {
-    const bool isChecked = m_check->isOn();
     if (isInputLocked()) {
         // The operator's change is undone, the control's own is not.
         if (!m_isSetting)
@@ -85,11 +84,11 @@ void ctx_ZorCheckBox::s_HandleClick()
         return;
     }
     const auto before = turn();
-    m_status.dataModified = isChecked != m_loaded;
+    m_status.dataModified = m_check->isOn() != m_loaded;
     raise(m_status.dataModified ? kDataModifiedSetTrue : kDataModifiedReset);
     // The bit alone: the others are the device's, or other check boxes'.
     if (!isOvertaken(before))
-        assignOutput(controls::withBits(m_outputValue, controls::bitMask(m_bit), isChecked));
+        assignOutput(controls::withBits(m_outputValue, controls::bitMask(m_bit), m_check->isOn()));
     s_UpdateColors();
     raise(kCheckClick);
 }
@@ -104,8 +103,14 @@ void ctx_ZorCheckBox::s_UndoEdit()
         s_HandleClick();
     else
         setChecked(m_loaded);
-    if (!isOvertaken(turn))
-        assignOutput(m_deviceValue);
+    if (isOvertaken(turn))
+        return;
+    // Where the operator is locked out, no click ends his edit.
+    if (isInputLocked()) {
+        m_status.dataModified = false;
+        s_UpdateColors();
+    }
+    assignOutput(m_deviceValue);
 }
 
 } // namespace zor

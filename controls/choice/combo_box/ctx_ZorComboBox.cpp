@@ -85,8 +85,9 @@ void ctx_ZorComboBox::s_HandleClick()
     m_status.dataModified = *value != m_reference;
     if (m_status.dataModified)
         raise(kDataModifiedSetTrue);
+    // A handler may have added an entry, which is the selected one then.
     if (!isOvertaken(before))
-        assignOutput(*value);
+        assignOutput(m_entries.currentValue().value_or(*value));
     s_UpdateColors();
     raise(kComboClick);
 }

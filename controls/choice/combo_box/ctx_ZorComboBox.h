@@ -82,8 +82,6 @@ private:
     std::unique_ptr<platform::ComboBox> m_combo;
     controls::EntryList m_entries;
     controls::InvalidMark m_invalid;
-    /// The device value last applied: the choice is judged against it and undo returns to it.
-    std::int32_t m_reference = 0;
     std::int16_t m_otherUser = 0;
     bool m_isAdding = false;
 };

@@ -1,6 +1,8 @@
 #include <zor/controls/choice/bit_mask.h>
 #include <zor/controls/choice/list_box/ctx_ZorListBox.h>
 
+#include <algorithm>
+
 namespace zor {
 namespace {
 
@@ -66,7 +68,9 @@ bool ctx_ZorListBox::s_MarkList(std::int32_t value)
 {
     const auto turn = this->turn();
     ++m_markings;
-    for (std::int32_t i = 0; i < m_list->count() && !isOvertaken(turn); ++i)
+    // An entry that a handler adds meanwhile waits for the next value, as every later one does.
+    const std::int32_t last = m_list->count();
+    for (std::int32_t i = 0; i < std::min(last, m_list->count()) && !isOvertaken(turn); ++i)
         m_list->setSelected(i, (value & controls::bitMask(m_list->datum(i))) != 0);
     if (!m_entries.isEmpty() && !isOvertaken(turn))
         m_list->setCurrent(0);

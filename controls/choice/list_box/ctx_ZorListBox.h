@@ -84,8 +84,6 @@ private:
     std::unique_ptr<platform::ListBox> m_list;
     controls::EntryList m_entries;
     controls::InvalidMark m_invalid;
-    /// The device value last applied: the marks are judged against it and undo returns to it.
-    std::int32_t m_reference = 0;
     std::int32_t m_otherUser = 0;
     /// How many markings are under way: the reports they cause are not the operator's.
     int m_markings = 0;

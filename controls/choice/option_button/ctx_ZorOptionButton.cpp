@@ -70,7 +70,8 @@ void ctx_ZorOptionButton::s_Select(bool selected)
     const bool wasOn = m_option->isOn();
     m_option->setOn(selected);
     // A button that has come to stand for another value is selected anew, though it looks the same.
-    if (std::exchange(m_isEntryNew, false) && wasOn && selected)
+    const bool isAnother = std::exchange(m_stoodFor, m_entryValue) != m_entryValue;
+    if (isAnother && wasOn && selected)
         m_isArmed = true;
 }
 

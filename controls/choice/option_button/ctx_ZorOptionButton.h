@@ -61,14 +61,12 @@ private:
     std::unique_ptr<platform::OptionButton> m_option;
     std::int32_t m_entryValue = 0;
     std::int32_t m_enumValue = 0;
-    /// The device value last applied: the choice is judged against it and undo returns to it.
-    std::int32_t m_reference = 0;
     std::int32_t m_otherUser = 0;
     /// A click does its work only when armed. A value disarms it, so that the report of a button that the value
     /// selects, which may or may not come, only arms it, and the work is done once, at the end.
     bool m_isArmed = false;
-    /// EnumEntryValue was written since the last value.
-    bool m_isEntryNew = false;
+    /// EnumEntryValue when the last value came.
+    std::int32_t m_stoodFor = 0;
 };
 
 } // namespace zor

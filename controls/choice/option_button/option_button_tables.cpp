@@ -22,9 +22,7 @@ struct ctx_ZorOptionButton::Rows
     static constexpr PropertyRow OptionButtonCaption =
         fieldRow<&This::m_caption>("OptionButtonCaption").stored("option").then<&This::s_ShowCaption>();
     // A form says what its button stands for, even when that is 0.
-    static constexpr PropertyRow EnumEntryValue = fieldRow<&This::m_entryValue>("EnumEntryValue")
-                                                      .alwaysStored(0)
-                                                      .then<[](This& button) { button.m_isEntryNew = true; }>();
+    static constexpr PropertyRow EnumEntryValue = fieldRow<&This::m_entryValue>("EnumEntryValue").alwaysStored(0);
     static constexpr PropertyRow OptionButtonValue =
         core::computedRow<[](This& button) { return button.OptionButtonValue(); }>("OptionButtonValue")
             .written<[](This& button, bool value) { button.OptionButtonValue(value); }>();

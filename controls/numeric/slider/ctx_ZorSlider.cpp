@@ -89,11 +89,10 @@ void ctx_ZorSlider::assignOutput(double value)
 void ctx_ZorSlider::s_TrackMoved()
 {
     const std::uint32_t turn = this->turn();
-    const std::int32_t position = m_track->value();
-    judge(position != roundToInt32(m_reference));
+    judge(m_track->value() != roundToInt32(m_reference));
     if (isOvertaken(turn))
         return;
-    assignOutput(m_units.toDevice(position));
+    assignOutput(m_units.toDevice(m_track->value()));
     raise(kShownChange);
 }
 
@@ -107,10 +106,13 @@ void ctx_ZorSlider::undoEdit()
 {
     if (!m_status.dataModified)
         return;
+    const std::uint32_t turn = newTurn();
     setPosition(roundToInt32(m_reference));
-    assignOutput(m_deviceValue);
+    if (isOvertaken(turn))
+        return;
     // Also where the track cannot go back as far as the device value lies.
     m_status.dataModified = false;
+    assignOutput(m_deviceValue);
 }
 
 void ctx_ZorSlider::onNotice(int widget, Notice notice, platform::EventArgs args)

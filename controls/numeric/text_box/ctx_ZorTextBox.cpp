@@ -9,13 +9,16 @@ using platform::Alignment;
 void ctx_ZorTextBox::s_ApplyDeviceValue()
 {
     const std::uint32_t turn = newTurn();
+    showsFrom(m_deviceValue);
+    m_deviceValueUnit = m_units.deviceUnit;
+    m_shownDisplay.reset();
     const std::optional<double> number = isNumeric() ? validNumber(m_deviceValue) : std::nullopt;
     if (number) {
         m_displayValue = fc_FormatValue(m_units.toOutput(*number), m_units.outputUnit, m_numberOfDigits);
         if (m_displayValue.isText()) {
             // What has been formatted formats to itself: ten thousand fields are refreshed many times a second.
             m_field.text().setAlignment(Alignment::Right);
-            m_field.text().setText(m_displayValue.text());
+            setText(m_displayValue.text());
         } else {
             show(m_displayValue);
         }
@@ -48,9 +51,22 @@ void ctx_ZorTextBox::show(const Variant& value)
 {
     const Variant shown = fv_FormatDisplayValue(value, m_units.outputUnit);
     if (shown.isText())
-        m_field.text().setText(shown.text());
+        setText(shown.text());
     else
-        m_field.text().setText(shown.toText());
+        setText(shown.toText());
+}
+
+void ctx_ZorTextBox::setText(std::string_view text)
+{
+    m_isShowing = true;
+    m_field.text().setText(text);
+    m_isShowing = false;
+}
+
+void ctx_ZorTextBox::showsFrom(const Variant& value)
+{
+    m_shownFrom = {value, m_units.deviceUnit};
+    m_isEdited = false;
 }
 
 void ctx_ZorTextBox::assignOutput(Variant value)
@@ -64,11 +80,23 @@ bool ctx_ZorTextBox::showsDisplayValue() const
     return m_displayValue.isText() && m_displayValue.text() == m_field.text().text();
 }
 
+bool ctx_ZorTextBox::equalsDisplayValue() const
+{
+    if (!isNumeric())
+        return m_displayValue.isText() ? showsDisplayValue() : m_displayValue.toText() == m_field.text().text();
+    const std::optional<double> text = m_field.number();
+    if (!text)
+        return false;
+    return showsDisplayValue() || text == validNumber(m_displayValue) ||
+           (m_shownDisplay && text == validNumber(std::string_view(*m_shownDisplay)));
+}
+
 void ctx_ZorTextBox::ModifiedValue(const Variant& value)
 {
     core::requireFinite(value);
     run([&] {
         const std::uint32_t turn = newTurn();
+        showsFrom(value);
         const std::optional<double> number = validNumber(value);
         show(number ? Variant(m_units.toOutput(*number)) : value);
         if (isOvertaken(turn))
@@ -98,15 +126,21 @@ void ctx_ZorTextBox::s_OutputUnitChanged()
     const double newDisplay = m_units.reExpress(*display);
     const double newMinimum = m_units.reExpress(m_units.minParam);
     const double newMaximum = m_units.reExpress(m_units.maxParam);
-    m_displayValue = newDisplay;
-    // Showing the same value in another unit is no edit, even though rounding may part text and value.
-    const bool modified = m_status.dataModified;
-    show(newText);
-    m_status.dataModified = modified;
-    s_UpdateColors();
+    // The limits before the text: who hears of the text must find both in one unit.
     m_units.minParam = newMinimum;
     m_units.maxParam = newMaximum;
     m_units.previousOutputUnit = m_units.outputUnit;
+    m_displayValue = newDisplay;
+    m_shownDisplay.reset();
+    // Showing the same value in another unit is no edit, even though rounding may part text and value.
+    const bool modified = m_status.dataModified;
+    const std::uint32_t turn = this->turn();
+    show(newText);
+    if (isOvertaken(turn))
+        return;
+    m_status.dataModified = modified;
+    m_shownDisplay = fc_FormatValue(m_displayValue, m_units.outputUnit, m_numberOfDigits).toText();
+    s_UpdateColors();
 }
 
 void ctx_ZorTextBox::s_AfterOutputUnit()

@@ -115,6 +115,12 @@ private:
         std::string tooLong = "Text is too long. Please enter a shorter text.";
     };
 
+    /// A value of the host's, and the device unit that it came in.
+    struct Origin {
+        Variant value;
+        MEAS_TYPE unit;
+    };
+
     explicit ctx_ZorTextBox(platform::Container& container);
     ~ctx_ZorTextBox() override = default;
 
@@ -126,9 +132,14 @@ private:
     void s_UpdateLimits() override;
     [[nodiscard]] Variant fv_FormatDisplayValue(const Variant& value, MEAS_TYPE unit);
     void show(const Variant& value);
+    void setText(std::string_view text);
+    /// What is shown from now on is this value of the host's.
+    void showsFrom(const Variant& value);
     void assignOutput(Variant value);
     /// Whether the text is, letter for letter, what was last shown from the device.
     [[nodiscard]] bool showsDisplayValue() const;
+    /// Whether the text is the display value, or what the operator reads of it.
+    [[nodiscard]] bool equalsDisplayValue() const;
     [[nodiscard]] bool isNumeric() const noexcept { return m_entryType == Numeric; }
 
     // Editing
@@ -136,6 +147,9 @@ private:
     void s_CommitEntry(bool reformat);
     void validateEntry(bool reformat);
     void assignEntry();
+    /// What the text hands back, in DeviceUnit.
+    [[nodiscard]] Variant entry() const;
+    [[nodiscard]] Variant inDeviceUnit(const Origin& origin) const;
     void setInvalidEntry();
     [[nodiscard]] std::string rangeText() const;
     void appendDisplayValue(std::string& text) const;
@@ -164,9 +178,15 @@ private:
     Variant m_outputValue = 0;
     /// What was last shown from the device, in OutputUnit: the edit is judged against it and undo returns to it.
     Variant m_displayValue = 0.0;
+    /// What the operator reads of the display value, where that says less: after a change of OutputUnit.
+    std::optional<std::string> m_shownDisplay;
+    /// Where the text came from, until somebody edits it; nothing after loading.
+    std::optional<Origin> m_shownFrom;
     EntryMessages m_entryMessages;
     /// What s_ChangeBackColor gave the field.
     std::optional<Colour> m_customBackColour;
+    /// The unit in which m_deviceValue came.
+    MEAS_TYPE m_deviceValueUnit = LgthU_1By10_MM;
     ENTRY_TYPE m_entryType = Numeric;
     std::int16_t m_numberOfDigits = 3;
     std::int16_t m_numberOfDecimals = 3;
@@ -175,6 +195,11 @@ private:
     bool m_invalidEntry = false;
     bool m_textFontBold = false;
     bool m_editPending = false;
+    /// Somebody has changed the text since a value of the host's was shown.
+    bool m_isEdited = false;
+    /// The next report of the text is the control's own doing, or the undo's.
+    bool m_isShowing = false;
+    bool m_isUndoing = false;
 };
 
 } // namespace zor

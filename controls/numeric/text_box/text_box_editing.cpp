@@ -22,18 +22,9 @@ void ctx_ZorTextBox::onNotice(int widget, Notice notice, platform::EventArgs arg
 void ctx_ZorTextBox::onTextChanged()
 {
     m_editPending = true;
-    bool same = false;
-    if (isNumeric()) {
-        const std::optional<double> text = m_field.number();
-        const std::optional<double> display = !text                 ? std::nullopt
-                                              : showsDisplayValue() ? text
-                                                                    : validNumber(m_displayValue);
-        same = display && *text == *display;
-    } else {
-        same = m_displayValue.isText() ? m_displayValue.text() == m_field.text().text()
-                                       : m_displayValue.toText() == m_field.text().text();
-    }
-    judge(!same);
+    if (!std::exchange(m_isShowing, false))
+        m_isEdited = true;
+    judge(!std::exchange(m_isUndoing, false) && !equalsDisplayValue());
     s_UpdateColors();
     raise(kShownChange);
 }
@@ -89,19 +80,34 @@ void ctx_ZorTextBox::assignEntry()
 {
     if (m_invalidEntry)
         return;
-    const std::optional<double> number = isNumeric() ? m_field.number() : std::nullopt;
-    if (!number)
-        return assignOutput(m_field.text().text());
-    double output = 0;
+    Variant output;
     try {
-        output = m_units.toDevice(*number);
+        output = entry();
     } catch (const RunTimeError&) {
         // The operator must see that this entry will not reach the device.
         setInvalidEntry();
         s_UpdateStatusDisplay();
         throw;
     }
-    assignOutput(output);
+    assignOutput(std::move(output));
+}
+
+Variant ctx_ZorTextBox::entry() const
+{
+    // What nobody has edited is handed back as it came: the display rounds.
+    if (!m_isEdited)
+        return m_shownFrom ? inDeviceUnit(*m_shownFrom) : m_outputValue;
+    if (equalsDisplayValue())
+        return inDeviceUnit({m_deviceValue, m_deviceValueUnit});
+    const std::optional<double> number = isNumeric() ? m_field.number() : std::nullopt;
+    return number ? Variant(m_units.toDevice(*number)) : Variant(m_field.text().text());
+}
+
+Variant ctx_ZorTextBox::inDeviceUnit(const Origin& origin) const
+{
+    const bool isConverted = isNumeric() && origin.unit != m_units.deviceUnit;
+    const std::optional<double> number = isConverted ? validNumber(origin.value) : std::nullopt;
+    return number ? Variant(convert(*number, m_units.unitType, origin.unit, m_units.deviceUnit)) : origin.value;
 }
 
 void ctx_ZorTextBox::s_ForceOutputValueUpdate()
@@ -115,7 +121,17 @@ void ctx_ZorTextBox::undoEdit()
 {
     if (!m_status.dataModified)
         return;
+    const std::uint32_t turn = newTurn();
+    showsFrom(m_deviceValue);
+    m_shownFrom->unit = m_deviceValueUnit;
+    m_isUndoing = true;
     show(m_displayValue);
+    m_isUndoing = false;
+    if (isOvertaken(turn))
+        return;
+    // A field that shows the device's value already does not report: the flag came from elsewhere.
+    m_status.dataModified = false;
+    s_UpdateColors();
     assignOutput(m_deviceValue);
 }
 

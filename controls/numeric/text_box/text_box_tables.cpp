@@ -54,10 +54,9 @@ struct ctx_ZorTextBox::Rows : UnitRows {
             .stored(1305)
             .then<&This::s_Layout>();
     static constexpr PropertyRow TextFontBold =
-        fieldRow<&This::m_textFontBold>("TextFontBold").initially(false).then<[](This& box) {
-            box.m_field.text().setBold(box.m_textFontBold);
-            box.s_UpdateColors();
-        }>();
+        fieldRow<&This::m_textFontBold>("TextFontBold")
+            .initially(false)
+            .then<[](This& box) { box.m_field.text().setBold(box.m_textFontBold); }>();
     static constexpr PropertyRow UnitsFontBold =
         computedRow<[](This& box) { return box.UnitsFontBold(); }>("UnitsFontBold")
             .written<[](This& box, bool bold) { box.UnitsFontBold(bold); }>();

@@ -1,16 +1,30 @@
 #include <zor/controls/numeric/up_down/ctx_ZorUpDown.h>
+#include <zor/platform/error.h>
 #include <zor/platform/number_text.h>
 
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <exception>
 #include <limits>
+#include <string>
 #include <utility>
 
 namespace zor {
 
 using controls::EntryField;
 using platform::Notice;
+
+namespace {
+
+/// The nearest number of 32 bits, which for a number beyond them is the last one.
+std::int32_t nearestWhole(double number)
+{
+    using Limits = std::numeric_limits<std::int32_t>;
+    return roundToInt32(std::clamp<double>(number, Limits::min(), Limits::max()));
+}
+
+} // namespace
 
 // --- From the device to the operator
 
@@ -35,6 +49,7 @@ void ctx_ZorUpDown::ModifiedValue(std::int32_t value)
         const std::uint32_t turn = newTurn();
         testValue(value);
         showText(platform::doubleToText(m_units.toOutput(value)));
+        m_isEntry = false;
         if (const std::optional<double> number = m_field.number()) {
             spinToNumber(*number);
             if (isOvertaken(turn))
@@ -48,7 +63,9 @@ void ctx_ZorUpDown::ModifiedValue(std::int32_t value)
 
 void ctx_ZorUpDown::showText(std::string_view text)
 {
+    m_isShowing = true;
     settle([&] { m_field.text().setText(text); });
+    m_isShowing = false;
 }
 
 void ctx_ZorUpDown::showNumber(std::int32_t number)
@@ -59,6 +76,7 @@ void ctx_ZorUpDown::showNumber(std::int32_t number)
     m_written = number;
     showText({digits.data(), static_cast<std::size_t>(end - digits.data())});
     m_written.reset();
+    m_isEntry = false;
 }
 
 void ctx_ZorUpDown::assignOutput(std::int32_t value)
@@ -85,15 +103,36 @@ void ctx_ZorUpDown::s_OutputUnitChanged()
     if (const std::optional<double> number = m_field.number()) {
         m_reference = roundToInt32(m_units.reExpress(m_reference));
         m_otherUser = roundToInt32(m_units.reExpress(m_otherUser));
-        showText(platform::doubleToText(m_units.reExpress(*number)));
-        m_units.minParam = m_units.reExpress(m_units.minParam);
-        m_units.maxParam = m_units.reExpress(m_units.maxParam);
-        // The new limits first: the old ones would hold back the same value in the new unit.
-        spinLimits(roundToInt32(m_units.minParam), roundToInt32(m_units.maxParam));
-        if (const std::optional<double> shown = m_field.number())
-            spinTo(roundToInt32(*shown));
+        const std::string text = platform::doubleToText(m_units.reExpress(*number));
+        // The limits before the text: who hears of the text must find both in one unit. What does not fit is told
+        // when the text is there.
+        std::exception_ptr failure;
+        try {
+            m_units.reExpressLimits();
+        } catch (const RunTimeError&) {
+            failure = std::current_exception();
+        }
+        showText(text);
+        if (failure)
+            std::rethrow_exception(failure);
+        s_UpdateSpin();
     }
     m_units.previousOutputUnit = m_units.outputUnit;
+}
+
+void ctx_ZorUpDown::s_UpdateSpin()
+{
+    const std::optional<double> number = m_field.number();
+    if (!number)
+        return;
+    const std::int32_t value = roundToInt32(*number);
+    const std::int32_t target =
+        std::max(std::min(value, nearestWhole(m_units.maxParam)), nearestWhole(m_units.minParam));
+    // Widen, set, narrow: the button makes one step, and what comes before an end that does not fit stays.
+    spinLimits(std::min(m_spin->minimum(), target), std::max(m_spin->maximum(), target));
+    spinTo(target);
+    spinLimits(roundToInt32(m_units.minParam), m_spin->maximum());
+    spinLimits(m_spin->minimum(), roundToInt32(m_units.maxParam));
 }
 
 void ctx_ZorUpDown::s_UpdateMinParamValue()
@@ -118,9 +157,8 @@ void ctx_ZorUpDown::spinTo(std::int32_t value)
 
 void ctx_ZorUpDown::spinToNumber(double number)
 {
-    using Limits = std::numeric_limits<std::int32_t>;
     // The button cuts to its own limits, which are never wider.
-    spinTo(roundToInt32(std::clamp<double>(number, Limits::min(), Limits::max())));
+    spinTo(nearestWhole(number));
 }
 
 void ctx_ZorUpDown::spinLimits(std::int32_t minimum, std::int32_t maximum)
@@ -181,6 +219,8 @@ void ctx_ZorUpDown::onNotice(int widget, Notice notice, platform::EventArgs args
 void ctx_ZorUpDown::onTextChanged()
 {
     m_editPending = true;
+    if (!std::exchange(m_isShowing, false))
+        m_isEntry = true;
     const std::optional<std::int32_t> written = std::exchange(m_written, std::nullopt);
     if (written) {
         judge(*written != m_reference);
@@ -195,8 +235,9 @@ void ctx_ZorUpDown::onTextChanged()
 
 void ctx_ZorUpDown::s_CommitEntry()
 {
-    // A device value counts as an edit, too; but to a read-only parameter nobody hands anything back.
-    if (!m_editPending || isReadOnlyForOperator())
+    // A text of the control's own counts as an edit, too; but to a read-only parameter only the operator hands
+    // something back, who was at work before it became one.
+    if (!m_editPending || (isReadOnlyForOperator() && !m_isEntry))
         return;
     const std::uint32_t turn = this->turn();
     if (const std::optional<double> number = m_field.number()) {
@@ -212,14 +253,21 @@ void ctx_ZorUpDown::s_CommitEntry()
         showNumber(m_spin->value());
     }
     m_editPending = false;
+    m_isEntry = false;
 }
 
 void ctx_ZorUpDown::undoEdit()
 {
     if (!m_status.dataModified)
         return;
+    const std::uint32_t turn = newTurn();
     showNumber(m_reference);
     spinTo(m_reference);
+    if (isOvertaken(turn))
+        return;
+    // A field that shows the device's value already does not report: the flag came from elsewhere.
+    m_status.dataModified = false;
+    s_UpdateColors();
     assignOutput(m_deviceValue);
 }
 

@@ -96,6 +96,8 @@ private:
     void spinToNumber(double number);
     void spinLimits(std::int32_t minimum, std::int32_t maximum);
     void settleSpin();
+    /// The button's value and ends anew, from the text and the limits.
+    void s_UpdateSpin();
     void onSpin();
 
     // Editing
@@ -133,6 +135,10 @@ private:
     std::optional<std::int32_t> m_written;
     std::int16_t m_numberOfDigits = 3;
     bool m_editPending = false;
+    /// The pending edit is the operator's.
+    bool m_isEntry = false;
+    /// The next report of the text is the control's own doing.
+    bool m_isShowing = false;
     bool m_spinningBack = false;
     /// The host wrote a new value between the step of the button and its click.
     bool m_stepOvertaken = false;
