@@ -32,6 +32,11 @@ using ControlPtr = std::unique_ptr<T, ControlDeleter>;
 
 /// A numbered message: hosts look its text up by the identifier and replace it by the number.
 struct MessageRow {
+    template <class C>
+    constexpr MessageRow(std::string_view id, const Row<C, std::string>* text) noexcept
+        : identifier(id), property(text)
+    {}
+
     std::string_view identifier;
     const PropertyRow* property;
 };
@@ -48,6 +53,16 @@ struct StatusRow {
     platform::BoxIcon boxIcon = platform::BoxIcon::Information;
     /// The click acknowledges the state: DataChanged is cleared.
     bool acknowledged = false;
+};
+
+/// The events that a control raises by itself; nullptr for one that the class never raises. `named` finds them in
+/// the class's table.
+struct RaisedEvents {
+    const EventRow* invalid = nullptr; ///< the class's invalid flag came out true
+    const EventRow* dataModifiedSetTrue = nullptr;
+    const EventRow* dataModifiedReset = nullptr;
+    const EventRow* outputValueChange = nullptr;
+    const EventRow* changed = nullptr; ///< what the operator sees was changed, by whomever; after all that follows
 };
 
 /// Where a class's write of a shared property refreshes something else than the row says.
@@ -74,6 +89,7 @@ struct ClassInfo {
     /// Answered for a number without a message.
     std::string_view otherMessage = "ERROR_RETURNED";
     std::span<const EventRow> events;
+    RaisedEvents raised{};
     std::span<const MethodRow> methods;
     std::span<const StatusRow> states;
     std::span<const EffectRow> effects{};

@@ -4,6 +4,7 @@
 #include <zor/units/mod_Common.h>
 
 #include <algorithm>
+#include <cassert>
 
 namespace zor::core {
 
@@ -39,7 +40,7 @@ Variant Control::property(std::string_view name)
     const PropertyRow* row = m_info.property(name);
     if (row == nullptr)
         raiseError(ErrorNumber::NoSuchMember, name);
-    return get(*row);
+    return read(*row);
 }
 
 void Control::setProperty(std::string_view name, const Variant& value)
@@ -47,7 +48,7 @@ void Control::setProperty(std::string_view name, const Variant& value)
     const PropertyRow* row = m_info.property(name);
     if (row == nullptr)
         raiseError(ErrorNumber::NoSuchMember, name);
-    put(*row, value);
+    assign(*row, value);
 }
 
 MethodResult Control::call(std::string_view method, std::span<const Variant> arguments)
@@ -62,7 +63,18 @@ MethodResult Control::call(std::string_view method, std::span<const Variant> arg
     return result;
 }
 
-Variant Control::get(const PropertyRow& row)
+const PropertyRow& Control::own(const PropertyRow& row) const
+{
+    if (std::ranges::find(m_info.properties, &row) == m_info.properties.end())
+        raiseError(ErrorNumber::NoSuchMember);
+    return row;
+}
+
+Variant Control::get(const PropertyRow& row) { return read(own(row)); }
+
+void Control::put(const PropertyRow& row, const Variant& value) { assign(own(row), value); }
+
+Variant Control::read(const PropertyRow& row)
 {
     if (row.get != nullptr)
         return row.get(*this);
@@ -71,7 +83,7 @@ Variant Control::get(const PropertyRow& row)
     return valueOf(row.field.at(*this));
 }
 
-void Control::put(const PropertyRow& row, const Variant& value)
+void Control::assign(const PropertyRow& row, const Variant& value)
 {
     if (refusesWrite(row))
         return;
@@ -83,7 +95,7 @@ void Control::put(const PropertyRow& row, const Variant& value)
         [&](auto* field) {
             auto converted = *field;
             storeInto(&converted, value);
-            write(row, std::move(converted));
+            write(row, *field, std::move(converted));
         },
         row.field.at(*this));
 }
@@ -227,15 +239,15 @@ bool Control::fb_SetMessage(std::int16_t i_MessageNumber, std::string_view c_Mes
 
 // --- Events
 
-void Control::raise(std::size_t number, platform::EventArgs args)
+void Control::raise(const EventRow* event, platform::EventArgs args)
 {
+    assert(event >= m_info.events.data() && event < m_info.events.data() + m_info.events.size());
     // Who destroyed the control does not expect to hear from it again.
     if (m_sinks.empty() || m_ended)
         return;
-    const EventRow& row = m_info.events[number - 1];
     m_sinks.each([&](const SinkList::Entry& entry) {
         if (!m_ended)
-            deliver(entry, row, args);
+            deliver(entry, *event, args);
     });
 }
 
@@ -262,7 +274,7 @@ void Control::notice(int widget, platform::Notice notice, platform::EventArgs ar
     if (m_ended)
         return;
     const auto answer = [&] { run([&] { onNotice(widget, notice, args); }); };
-    if (m_settings == 0)
+    if (m_settings.isNone())
         return answer();
     try {
         answer();
@@ -284,7 +296,7 @@ void Control::forward(int widget, platform::Notice notice, platform::EventArgs a
     const auto row = std::ranges::find_if(
         m_info.events, [&](const EventRow& event) { return event.widget == widget && event.notice == notice; });
     if (row != m_info.events.end())
-        raise(static_cast<std::size_t>(row - m_info.events.begin()) + 1, args);
+        raise(&*row, args);
 }
 
 platform::Widget* Control::widget(int number) noexcept
@@ -300,7 +312,7 @@ void Control::initialiseProperties()
         for (const PropertyRow* row : m_info.initialOrder) {
             const bool isDefault = std::holds_alternative<std::monostate>(row->initial);
             if (row->access != Access::Derived)
-                put(*row, toVariant(isDefault ? row->bagDefault : row->initial));
+                assign(*row, toVariant(isDefault ? row->bagDefault : row->initial));
         }
     });
 }
@@ -333,7 +345,7 @@ void Control::writeProperties(platform::PropertyBag& bag)
     for (const PropertyRow* row : m_info.properties) {
         if (row->key.empty())
             continue;
-        const Variant value = row->storesField ? valueOf(row->field.at(*this)) : get(*row);
+        const Variant value = row->storesField ? valueOf(row->field.at(*this)) : read(*row);
         // No property is Empty, so nothing equals that default.
         bag.WriteProperty(row->key, value, row->isAlwaysStored ? Variant() : toVariant(row->bagDefault));
     }

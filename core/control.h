@@ -5,12 +5,14 @@
 #include <zor/core/class_info.h>
 #include <zor/core/undo_menu.h>
 #include <zor/platform/container.h>
+#include <zor/platform/depth.h>
 
 #include <cstdint>
 #include <exception>
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 
 namespace zor::core {
@@ -73,6 +75,7 @@ public:
     void setProperty(std::string_view name, const Variant& value);
     /// Another number of arguments than the method has raises WrongArguments.
     MethodResult call(std::string_view method, std::span<const Variant> arguments);
+    /// By a row of the class's table; one of another class raises NoSuchMember.
     [[nodiscard]] Variant get(const PropertyRow& row);
     void put(const PropertyRow& row, const Variant& value);
     /// @}
@@ -222,8 +225,11 @@ protected:
     [[nodiscard]] platform::Container& container() noexcept { return m_container; }
 
     /// Writes a property: store, notify, refresh.
-    template <class T>
-    void write(const PropertyRow& row, T value);
+    template <class C, class T>
+    void write(const Row<C, T>& row, std::type_identity_t<T> value)
+    {
+        write(row, row.in(*this), std::move(value));
+    }
 
     /// Runs an action that may raise events: keeps the control alive, and passes a handler's exception on
     /// when the outermost action has ended.
@@ -235,8 +241,10 @@ protected:
     template <class Set>
     void settle(Set&& set);
 
-    /// Raises the event of a published number.
-    void raise(std::size_t number, platform::EventArgs args = {});
+    /// Raises an event of the class's table: one of `raised()`, or the one that `forward` has found.
+    void raise(const EventRow* event, platform::EventArgs args = {});
+    /// What this class of controls raises by itself.
+    [[nodiscard]] const RaisedEvents& raised() const noexcept { return m_info.raised; }
     /// Re-raises a widget's report as the event that the class's table names, if it names one.
     void forward(int widget, platform::Notice notice, platform::EventArgs args);
 
@@ -260,6 +268,12 @@ private:
     friend struct SharedRows;
     friend struct ControlDeleter;
 
+    template <class T>
+    void write(const PropertyRow& row, T& field, T value);
+    /// The class's own row, or NoSuchMember.
+    const PropertyRow& own(const PropertyRow& row) const;
+    [[nodiscard]] Variant read(const PropertyRow& row);
+    void assign(const PropertyRow& row, const Variant& value);
     [[nodiscard]] bool refusesWrite(const PropertyRow& row) const;
     void stored(const PropertyRow& row);
     void refresh(Refresh refresh);
@@ -276,8 +290,8 @@ private:
     std::exception_ptr m_reportError;
     const StatusRow* m_shownState = nullptr;
     std::uint32_t m_holds = 0;
-    std::uint32_t m_runs = 0;
-    std::uint32_t m_settings = 0;
+    platform::Depth m_runs;
+    platform::Depth m_settings;
     std::uint32_t m_turn = 0;
     bool m_ended = false;
 };
@@ -285,37 +299,26 @@ private:
 template <class Action>
 void Control::run(Action&& action)
 {
-    struct Depth {
-        explicit Depth(Control& control) noexcept : control(control) { ++control.m_runs; }
-        ~Depth()
-        {
-            if (--control.m_runs == 0 && control.m_handlerError)
-                control.m_handlerError = nullptr;
-        }
-        Depth(const Depth&) = delete;
-        Depth& operator=(const Depth&) = delete;
-        Control& control;
-    };
     const platform::Hold hold(*this);
-    const Depth depth(*this);
-    std::forward<Action>(action)();
-    if (m_runs == 1 && m_handlerError)
+    try {
+        const platform::Depth::Level level(m_runs);
+        std::forward<Action>(action)();
+    } catch (...) {
+        // What the caller gets is why the action itself failed.
+        if (m_runs.isNone())
+            m_handlerError = nullptr;
+        throw;
+    }
+    if (m_runs.isNone() && m_handlerError)
         passOnHandlerError();
 }
 
 template <class Set>
 void Control::settle(Set&& set)
 {
-    struct Depth {
-        explicit Depth(std::uint32_t& count) noexcept : count(count) { ++count; }
-        ~Depth() { --count; }
-        Depth(const Depth&) = delete;
-        Depth& operator=(const Depth&) = delete;
-        std::uint32_t& count;
-    };
     const platform::Hold hold(*this);
     {
-        const Depth depth(m_settings);
+        const platform::Depth::Level level(m_settings);
         std::forward<Set>(set)();
     }
     if (m_reportError)
@@ -323,14 +326,13 @@ void Control::settle(Set&& set)
 }
 
 template <class T>
-void Control::write(const PropertyRow& row, T value)
+void Control::write(const PropertyRow& row, T& field, T value)
 {
     if (refusesWrite(row))
         return;
     if constexpr (std::is_same_v<T, double> || std::is_same_v<T, Variant>)
         requireFinite(value);
     run([&] {
-        T& field = *std::get<T*>(row.field.at(*this));
         if (m_info.keepsFailedWrites) {
             field = std::move(value);
             stored(row);

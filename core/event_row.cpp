@@ -9,7 +9,7 @@ void SinkList::remove(Entry entry) noexcept
     const auto at = std::find(m_entries.begin(), m_entries.end(), entry);
     if (at == m_entries.end())
         return;
-    if (m_depth == 0) {
+    if (m_depth.isNone()) {
         m_entries.erase(at);
         return;
     }
@@ -19,7 +19,7 @@ void SinkList::remove(Entry entry) noexcept
 
 SinkList::Iteration::~Iteration()
 {
-    if (--list.m_depth == 0 && list.m_gaps) {
+    if (--list.m_depth.isNone() && list.m_gaps) {
         std::erase(list.m_entries, Entry{});
         list.m_gaps = false;
     }

@@ -2,12 +2,14 @@
 
 /// Events as data, and the listeners they go to.
 
+#include <zor/platform/depth.h>
 #include <zor/platform/notice.h>
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -19,7 +21,7 @@ class Control;
 
 /// One outgoing event of a control: its published name, the widget's report it re-raises (if any), and how
 /// to call the member of the control's sink interface. Its position in the class's table, counted from 1,
-/// is its published number.
+/// is its published number, which no code needs: what a control raises is found by name (see `named`).
 struct EventRow {
     static constexpr std::size_t kMaxArguments = 7;
 
@@ -30,6 +32,8 @@ struct EventRow {
     /// Their types; the position of a type is that of its pointer in platform::ArgRef.
     std::array<std::uint8_t, kMaxArguments> types{};
     std::size_t argumentCount = 0;
+    /// Whether it ever comes: not, where the interface only declares it or no platform reports what it re-raises.
+    bool isRaised = true;
     void (*call)(void* sink, platform::EventArgs args) = nullptr;
 };
 
@@ -63,26 +67,24 @@ public:
     template <class Deliver>
     void each(Deliver&& deliver)
     {
-        const Iteration iteration(*this);
-        const std::size_t count = m_entries.size();
-        for (std::size_t i = 0; i < count; ++i) {
-            const Entry entry = m_entries[i];
-            if (entry != Entry{})
-                deliver(entry);
+        {
+            const platform::Depth::Level level(m_depth);
+            const std::size_t count = m_entries.size();
+            for (std::size_t i = 0; i < count; ++i) {
+                const Entry entry = m_entries[i];
+                if (entry != Entry{})
+                    deliver(entry);
+            }
         }
+        if (m_gaps && m_depth.isNone())
+            closeGaps();
     }
 
 private:
-    struct Iteration {
-        explicit Iteration(SinkList& list) noexcept : list(list) { ++list.m_depth; }
-        ~Iteration();
-        Iteration(const Iteration&) = delete;
-        Iteration& operator=(const Iteration&) = delete;
-        SinkList& list;
-    };
+    void closeGaps() noexcept;
 
     std::vector<Entry> m_entries;
-    std::uint16_t m_depth = 0;
+    platform::Depth m_depth;
     bool m_gaps = false;
 };
 
@@ -112,13 +114,16 @@ template <auto Function, class Interface = typename detail::SinkMember<decltype(
 constexpr EventRow event(std::string_view name, int widget, platform::Notice notice, Names... arguments)
 {
     using Member = detail::SinkMember<decltype(Function)>;
-    static_assert(sizeof...(Names) == Member::kCount && Member::kCount <= EventRow::kMaxArguments);
+    static_assert(sizeof...(Names) == Member::kCount,
+                  "name as many arguments as the member of the interface takes");
+    static_assert(Member::kCount <= EventRow::kMaxArguments, "raise EventRow::kMaxArguments");
     return EventRow{name,
                     widget,
                     notice,
                     {std::string_view(arguments)...},
                     Member::kTypes,
                     Member::kCount,
+                    platform::isReported(notice),
                     [](void* sink, platform::EventArgs args) {
                         Member::template call<Function>(*static_cast<Interface*>(sink), args,
                                                         std::make_index_sequence<Member::kCount>{});
@@ -132,14 +137,22 @@ constexpr EventRow ownEvent(std::string_view name, Names... arguments)
     return event<Function, Interface>(name, -1, platform::Notice::None, arguments...);
 }
 
-/// One table of events out of several parts, in their order.
-template <std::size_t... N>
-constexpr auto joinedEvents(const std::array<EventRow, N>&... parts)
+/// A row for an event that is part of the interface and that the control never raises.
+template <auto Function, class Interface = typename detail::SinkMember<decltype(Function)>::Sink, class... Names>
+constexpr EventRow declared(std::string_view name, Names... arguments)
 {
-    std::array<EventRow, (N + ...)> all{};
-    auto at = all.begin();
-    ((at = std::copy(parts.begin(), parts.end(), at)), ...);
-    return all;
+    EventRow row = ownEvent<Function, Interface>(name, arguments...);
+    row.isRaised = false;
+    return row;
+}
+
+/// The row of an event in a class's table. A name that the table does not have does not compile.
+[[nodiscard]] consteval const EventRow* named(std::span<const EventRow> table, std::string_view name)
+{
+    const auto at = std::ranges::find(table, name, &EventRow::name);
+    return at != table.end() && at->isRaised
+               ? &*at
+               : throw "the table has no such event, or says that it is never raised";
 }
 
 } // namespace zor::core

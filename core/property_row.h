@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <variant>
 
 namespace zor::core {
@@ -34,6 +35,12 @@ enum class ValueKind : std::uint8_t {
 
 /// The name of a kind, for people ("16-bit integer").
 [[nodiscard]] std::string_view kindName(ValueKind kind) noexcept;
+
+/// Whether a kind is one of the published enumerations.
+[[nodiscard]] constexpr bool isEnumeration(ValueKind kind) noexcept
+{
+    return kind >= ValueKind::UnitType && kind <= ValueKind::EntryType;
+}
 
 /// A constant in a table.
 using Literal = std::variant<std::monostate, bool, std::int32_t, double, std::string_view>;
@@ -84,12 +91,20 @@ enum class Access : std::uint8_t {
     ReadOnly, ///< a write raises ReadOnly always: the value is a widget's own
 };
 
-/// One property. A row is built from property<>() or computedRow<>() by the steps below, each of which gives a
-/// row with one thing more said:
-///
-///     fieldRow<&This::m_minValue>("MinValue").stored(0.0).then<&This::s_UpdateMinParamValue>()
+/// What a property is about: its heading in a form designer's property editor.
+enum class Topic : std::uint8_t { Appearance, Parameter, Value, Units, Range, State, Messages };
+
+/// When a form that is read sets a property: no write may disturb an earlier one.
+enum class Placing : std::uint8_t {
+    ByKind, ///< enumerations, then numbers, variants, texts and flags
+    Device, ///< the device's value: in the units and the range that stand by then
+    Chosen, ///< overrules the device's value
+};
+
+/// One property, for those who read all rows alike. Rows are built as Row<Class, Type>.
 struct PropertyRow {
     std::string_view name;
+    Topic topic = Topic::Appearance;
     FieldSpec field{};
     /// The property bag's key; empty for a property that is not stored.
     std::string_view key{};
@@ -100,6 +115,9 @@ struct PropertyRow {
     Literal initial{};
     Access access = Access::ReadWrite;
     bool storesField = false;
+    Placing placing = Placing::ByKind;
+    /// A text that names something to the device or the program, not to people: no translator sees it.
+    bool isIdentifier = false;
     Refreshes refreshes{};
     /// Runs after the refreshes.
     void (*after)(Control&) = nullptr;
@@ -107,59 +125,135 @@ struct PropertyRow {
     /// field nor the function has no such accessor.
     Variant (*get)(Control&) = nullptr;
     void (*put)(Control&, const Variant&) = nullptr;
+};
+
+namespace detail {
+
+/// Whether a constant of type V is a value of a property of type T.
+template <class T, class V>
+consteval bool isConstantOf()
+{
+    if constexpr (std::is_same_v<T, Variant>)
+        return std::is_arithmetic_v<V> || std::is_convertible_v<V, std::string_view>;
+    else if constexpr (std::is_same_v<T, std::string>)
+        return std::is_convertible_v<V, std::string_view>;
+    else if constexpr (std::is_integral_v<T> && !std::is_same_v<T, bool>)
+        return std::is_integral_v<V> && !std::is_same_v<V, bool>;
+    else
+        return std::is_same_v<T, V>;
+}
+
+} // namespace detail
+
+/// A constant that a property of type T can have.
+template <class T>
+struct Constant {
+    Literal literal;
+
+    template <class V>
+    consteval Constant(V value)
+        : literal(literalOf(value)) // NOLINT(google-explicit-constructor): reads as the value
+    {
+        static_assert(detail::isConstantOf<T, V>(),
+                      "the constant is of another type than the property: write one of the property's own type");
+    }
+
+private:
+    template <class V>
+    static consteval Literal literalOf(V value)
+    {
+        if constexpr (std::is_convertible_v<V, std::string_view>)
+            return std::string_view(value);
+        else if constexpr (std::is_integral_v<V> && std::is_integral_v<T> && !std::is_same_v<V, bool>)
+            return static_cast<std::int32_t>(std::in_range<T>(value) ? value : throw "out of the type's range");
+        else if constexpr (std::is_integral_v<V> && !std::is_same_v<V, bool>)
+            return static_cast<std::int32_t>(value);
+        else if constexpr (std::is_enum_v<V>)
+            return static_cast<std::int32_t>(value);
+        else
+            return value;
+    }
+};
+
+/// A row of a property of type T that controls of class C have. It starts as fieldRow<>(), computedRow<>() or
+/// writeOnlyRow<>(); each step gives a row with one thing more said:
+///
+///     fieldRow<&This::m_minValue>("MinValue", Topic::Range).stored(0.0).then<&This::s_UpdateMinParamValue>()
+template <class C, class T>
+struct Row : PropertyRow {
+    using Class = C;
+    using Type = T;
+
+    /// The field in a control of the class; nullptr for a property that is none.
+    T& (*in)(Control&) = nullptr;
 
     /// Stored under the property's own name.
-    [[nodiscard]] constexpr PropertyRow stored(Literal defaultValue) const { return storedAs(name, defaultValue); }
-    [[nodiscard]] constexpr PropertyRow storedAs(std::string_view bagKey, Literal defaultValue) const
+    [[nodiscard]] constexpr Row stored(Constant<T> defaultValue) const { return storedAs(name, defaultValue); }
+    [[nodiscard]] constexpr Row storedAs(std::string_view bagKey, Constant<T> defaultValue) const
     {
-        PropertyRow row = *this;
-        row.key = bagKey;
-        row.bagDefault = defaultValue;
-        return row;
+        return changed([&](Row& row) {
+            row.key = bagKey;
+            row.bagDefault = defaultValue.literal;
+        });
     }
     /// Stored under the property's own name also where it equals the default.
-    [[nodiscard]] constexpr PropertyRow alwaysStored(Literal defaultValue) const
+    [[nodiscard]] constexpr Row alwaysStored(Constant<T> defaultValue) const
     {
-        PropertyRow row = stored(defaultValue);
-        row.isAlwaysStored = true;
-        return row;
+        return stored(defaultValue).changed([](Row& row) { row.isAlwaysStored = true; });
     }
     /// The value of a new instance: where it differs from the bag's default, or where nothing is stored.
-    [[nodiscard]] constexpr PropertyRow initially(Literal value) const
+    [[nodiscard]] constexpr Row initially(Constant<T> value) const
     {
-        PropertyRow row = *this;
-        row.initial = value;
-        return row;
+        return changed([&](Row& row) { row.initial = value.literal; });
     }
-    [[nodiscard]] constexpr PropertyRow with(Access answer) const
+    [[nodiscard]] constexpr Row with(Access answer) const
     {
-        PropertyRow row = *this;
-        row.access = answer;
-        return row;
+        return changed([&](Row& row) { row.access = answer; });
     }
-    [[nodiscard]] constexpr PropertyRow refreshing(std::initializer_list<Refresh> list) const
+    [[nodiscard]] constexpr Row placed(Placing when) const
     {
-        PropertyRow row = *this;
-        row.refreshes = list;
-        return row;
+        return changed([&](Row& row) { row.placing = when; });
+    }
+    /// Names something to the device or the program, not to people.
+    [[nodiscard]] constexpr Row identifier() const
+    {
+        static_assert(std::is_same_v<T, std::string>, "only a text can be an identifier");
+        return changed([](Row& row) { row.isIdentifier = true; });
+    }
+    [[nodiscard]] constexpr Row refreshing(std::initializer_list<Refresh> list) const
+    {
+        return changed([&](Row& row) { row.refreshes = list; });
     }
     /// Runs a member function `void f()` of the control, or a lambda `void (Class&)`, after the refreshes.
     template <auto Function>
-    [[nodiscard]] constexpr PropertyRow then() const;
+    [[nodiscard]] constexpr Row then() const;
     /// Writes through `Put(Class&, T)` instead of straight into the field.
     template <auto Put>
-    [[nodiscard]] constexpr PropertyRow written() const;
+    [[nodiscard]] constexpr Row written() const;
     /// Reads through `Get(Class&)`: the field only carries what is written or loaded to the place that keeps it.
     template <auto Get>
-    [[nodiscard]] constexpr PropertyRow reading() const;
+    [[nodiscard]] constexpr Row reading() const;
     /// Stores the field as it stands, whatever reading makes of it.
-    [[nodiscard]] constexpr PropertyRow storingField() const
+    [[nodiscard]] constexpr Row storingField() const
     {
-        PropertyRow row = *this;
-        row.storesField = true;
+        return changed([](Row& row) { row.storesField = true; });
+    }
+
+    template <class Change>
+    [[nodiscard]] constexpr Row changed(Change&& change) const
+    {
+        Row row = *this;
+        change(row);
         return row;
     }
 };
+
+/// The rows of a table, each of its own type, as a table of rows read alike.
+template <class... R>
+[[nodiscard]] constexpr std::array<const PropertyRow*, sizeof...(R)> rows(const R*... row)
+{
+    return {row...};
+}
 
 /// No property is infinite or undefined: raises Overflow for such a number.
 void requireFinite(const Variant& value);
@@ -270,66 +364,93 @@ inline constexpr FieldSpec field{
         return &((owner.*First).*....*Rest);
     }};
 
+namespace detail {
+
+/// The object as the class that a step's function belongs to: the row's own, or one that it derives from.
+template <class RowClass, class Wanted>
+Wanted& as(Control& control)
+{
+    static_assert(std::is_base_of_v<Wanted, RowClass>, "the function belongs to another class than the row");
+    return static_cast<Wanted&>(control);
+}
+
+} // namespace detail
+
 /// A row for a property that is a field of the control.
 template <auto First, auto... Rest>
-[[nodiscard]] constexpr PropertyRow fieldRow(std::string_view name)
+[[nodiscard]] constexpr auto fieldRow(std::string_view name, Topic topic)
 {
-    return {name, field<First, Rest...>};
+    using Class = typename detail::Member<decltype(First)>::Class;
+    using Type = typename detail::Last<First, Rest...>::Type;
+    return Row<Class, Type>{{name, topic, field<First, Rest...>}, [](Control& control) -> Type& {
+                                return ((static_cast<Class&>(control).*First).*....*Rest);
+                            }};
 }
 
 /// A row for a property that a function answers: `Get(Class&)`. It cannot be written unless `written` says how.
 template <auto Get>
-[[nodiscard]] constexpr PropertyRow computedRow(std::string_view name)
+[[nodiscard]] constexpr auto computedRow(std::string_view name, Topic topic)
 {
-    PropertyRow row{name, {detail::kindOf<typename detail::Accessor<decltype(Get)>::Value>()}};
-    row.access = Access::ReadOnly;
-    return row.reading<Get>();
+    using Traits = detail::Accessor<decltype(Get)>;
+    using Type = typename Traits::Value;
+    return Row<typename Traits::Class, Type>{{name, topic, {detail::kindOf<Type>()}}}
+        .with(Access::ReadOnly)
+        .template reading<Get>();
 }
 
 /// A row for a property that can only be written.
 template <auto Put>
-[[nodiscard]] constexpr PropertyRow writeOnlyRow(std::string_view name)
-{
-    PropertyRow row{name, {detail::kindOf<typename detail::Accessor<decltype(Put)>::Value>()}};
-    return row.written<Put>();
-}
-
-template <auto Function>
-constexpr PropertyRow PropertyRow::then() const
-{
-    PropertyRow row = *this;
-    if constexpr (std::is_member_pointer_v<decltype(Function)>)
-        row.after = [](Control& control) {
-            (static_cast<typename detail::Member<decltype(Function)>::Class&>(control).*Function)();
-        };
-    else
-        row.after = [](Control& control) {
-            Function(static_cast<typename detail::Accessor<decltype(Function)>::Class&>(control));
-        };
-    return row;
-}
-
-template <auto Get>
-constexpr PropertyRow PropertyRow::reading() const
-{
-    PropertyRow row = *this;
-    row.get = [](Control& control) {
-        return detail::toVariant(Get(static_cast<typename detail::Accessor<decltype(Get)>::Class&>(control)));
-    };
-    return row;
-}
-
-template <auto Put>
-constexpr PropertyRow PropertyRow::written() const
+[[nodiscard]] constexpr auto writeOnlyRow(std::string_view name, Topic topic)
 {
     using Traits = detail::Accessor<decltype(Put)>;
-    PropertyRow row = *this;
-    if (row.access == Access::ReadOnly)
-        row.access = Access::Silent;
-    row.put = [](Control& control, const Variant& value) {
-        Put(static_cast<typename Traits::Class&>(control), detail::convertTo<typename Traits::Value>(value));
-    };
-    return row;
+    using Type = typename Traits::Value;
+    return Row<typename Traits::Class, Type>{{name, topic, {detail::kindOf<Type>()}}}.template written<Put>();
+}
+
+template <class C, class T>
+template <auto Function>
+constexpr Row<C, T> Row<C, T>::then() const
+{
+    return changed([](Row& row) {
+        if constexpr (std::is_member_pointer_v<decltype(Function)>)
+            row.after = [](Control& control) {
+                (detail::as<C, typename detail::Member<decltype(Function)>::Class>(control).*Function)();
+            };
+        else
+            row.after = [](Control& control) {
+                Function(detail::as<C, typename detail::Accessor<decltype(Function)>::Class>(control));
+            };
+    });
+}
+
+template <class C, class T>
+template <auto Get>
+constexpr Row<C, T> Row<C, T>::reading() const
+{
+    using Traits = detail::Accessor<decltype(Get)>;
+    static_assert(std::is_same_v<typename Traits::Value, T>,
+                  "the function reads another type than the property's");
+    return changed([](Row& row) {
+        row.get = [](Control& control) {
+            return detail::toVariant(Get(detail::as<C, typename Traits::Class>(control)));
+        };
+    });
+}
+
+template <class C, class T>
+template <auto Put>
+constexpr Row<C, T> Row<C, T>::written() const
+{
+    using Traits = detail::Accessor<decltype(Put)>;
+    static_assert(std::is_same_v<typename Traits::Value, T>,
+                  "the function writes another type than the property's");
+    return changed([](Row& row) {
+        if (row.access == Access::ReadOnly)
+            row.access = Access::Silent;
+        row.put = [](Control& control, const Variant& value) {
+            Put(detail::as<C, typename Traits::Class>(control), detail::convertTo<T>(value));
+        };
+    });
 }
 
 } // namespace zor::core

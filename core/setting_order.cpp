@@ -9,11 +9,8 @@ enum class Place { Kinds, Numbers, DeviceValue, Values, Texts, Flags };
 
 Place placeOf(const PropertyRow* row)
 {
-    // Applied in the unit and range that stand by then; EnumValue overrules it.
-    if (row->name == "DeviceValue")
-        return Place::DeviceValue;
-    if (row->name == "EnumValue")
-        return Place::Values;
+    if (row->placing != Placing::ByKind)
+        return row->placing == Placing::Device ? Place::DeviceValue : Place::Values;
     switch (row->field.kind) {
     case ValueKind::UnitType:
     case ValueKind::MeasType:
@@ -38,7 +35,5 @@ std::vector<const PropertyRow*> settingOrder(const ClassInfo& info)
     std::ranges::stable_sort(rows, {}, placeOf);
     return rows;
 }
-
-bool isIdentifier(const PropertyRow& row) noexcept { return row.name.starts_with("Device"); }
 
 } // namespace zor::core

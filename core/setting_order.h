@@ -14,7 +14,4 @@ namespace zor::core {
 /// the writes before would clear.
 [[nodiscard]] std::vector<const PropertyRow*> settingOrder(const ClassInfo& info);
 
-/// Whether a text names something to the program or the device, so that a translator never sees it.
-[[nodiscard]] bool isIdentifier(const PropertyRow& row) noexcept;
-
 } // namespace zor::core

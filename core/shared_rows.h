@@ -9,92 +9,107 @@ namespace zor::core {
 
 struct SharedRows {
     // --- Parameter
-    static constexpr PropertyRow DeviceTag = fieldRow<&Control::m_binding, &Binding::deviceTag>("DeviceTag")
-                                                 .stored("")
-                                                 .then<&Control::describeForReaders>();
-    static constexpr PropertyRow RegisterType =
-        fieldRow<&Control::m_binding, &Binding::registerType>("RegisterType")
-            .stored(0)
+    static constexpr auto DeviceTag =
+        fieldRow<&Control::m_binding, &Binding::deviceTag>("DeviceTag", Topic::Parameter)
+            .identifier()
+            .stored("")
+            .then<&Control::describeForReaders>();
+    static constexpr auto RegisterType =
+        fieldRow<&Control::m_binding, &Binding::registerType>("RegisterType", Topic::Parameter)
+            .stored(HoldingRegister)
             .refreshing({Refresh::Colours});
-    static constexpr PropertyRow DeviceType = fieldRow<&Control::m_binding, &Binding::deviceType>("DeviceType")
-                                                  .stored("")
-                                                  .refreshing({Refresh::CheckType});
-    static constexpr PropertyRow DeviceVersion =
-        fieldRow<&Control::m_binding, &Binding::deviceVersion>("DeviceVersion")
+    static constexpr auto DeviceType =
+        fieldRow<&Control::m_binding, &Binding::deviceType>("DeviceType", Topic::Parameter)
+            .identifier()
+            .stored("")
+            .refreshing({Refresh::CheckType});
+    static constexpr auto DeviceVersion =
+        fieldRow<&Control::m_binding, &Binding::deviceVersion>("DeviceVersion", Topic::Parameter)
+            .identifier()
             .stored("")
             .refreshing({Refresh::CheckVersion});
-    static constexpr PropertyRow DeviceTypeSupported =
-        fieldRow<&Control::m_binding, &Binding::typesSupported>("DeviceTypeSupported").stored("");
+    static constexpr auto DeviceTypeSupported =
+        fieldRow<&Control::m_binding, &Binding::typesSupported>("DeviceTypeSupported", Topic::Parameter)
+            .identifier()
+            .stored("");
     // The two version lists are stored under abbreviated keys; forms in the field carry them.
-    static constexpr PropertyRow DeviceMinVersionSupported =
-        fieldRow<&Control::m_binding, &Binding::minVersions>("DeviceMinVersionSupported")
+    static constexpr auto DeviceMinVersionSupported =
+        fieldRow<&Control::m_binding, &Binding::minVersions>("DeviceMinVersionSupported", Topic::Parameter)
+            .identifier()
             .storedAs("DeviceMinVerSupported", "");
-    static constexpr PropertyRow DeviceMaxVersionSupported =
-        fieldRow<&Control::m_binding, &Binding::maxVersions>("DeviceMaxVersionSupported")
+    static constexpr auto DeviceMaxVersionSupported =
+        fieldRow<&Control::m_binding, &Binding::maxVersions>("DeviceMaxVersionSupported", Topic::Parameter)
+            .identifier()
             .storedAs("DeviceMaxVerSupported", "");
 
     // --- State
-    static constexpr PropertyRow CFail =
-        fieldRow<&Control::m_status, &Status::cFail>("CFail").stored(false).refreshing(
-            {Refresh::Status, Refresh::Colours, Refresh::Enabled});
-    static constexpr PropertyRow DataNotAvailable =
-        fieldRow<&Control::m_status, &Status::dataNotAvailable>("DataNotAvailable")
+    static constexpr auto CFail = fieldRow<&Control::m_status, &Status::cFail>("CFail", Topic::State)
+                                      .stored(false)
+                                      .refreshing({Refresh::Status, Refresh::Colours, Refresh::Enabled});
+    static constexpr auto DataNotAvailable =
+        fieldRow<&Control::m_status, &Status::dataNotAvailable>("DataNotAvailable", Topic::State)
             .stored(false)
             .refreshing({Refresh::Status});
-    static constexpr PropertyRow DeviceTagNotFound =
-        fieldRow<&Control::m_status, &Status::deviceTagNotFound>("DeviceTagNotFound")
+    static constexpr auto DeviceTagNotFound =
+        fieldRow<&Control::m_status, &Status::deviceTagNotFound>("DeviceTagNotFound", Topic::State)
             .stored(false)
             .refreshing({Refresh::Status, Refresh::Enabled});
-    static constexpr PropertyRow WaitingForData =
-        fieldRow<&Control::m_status, &Status::waitingForData>("WaitingForData")
+    static constexpr auto WaitingForData =
+        fieldRow<&Control::m_status, &Status::waitingForData>("WaitingForData", Topic::State)
             .stored(false)
             .refreshing({Refresh::Enabled});
-    static constexpr PropertyRow DataChanged = fieldRow<&Control::m_status, &Status::dataChanged>("DataChanged")
-                                                   .stored(false)
-                                                   .refreshing({Refresh::Status});
+    static constexpr auto DataChanged =
+        fieldRow<&Control::m_status, &Status::dataChanged>("DataChanged", Topic::State)
+            .stored(false)
+            .refreshing({Refresh::Status});
     // The flag follows every keystroke; the container is not told.
-    static constexpr PropertyRow DataModified = fieldRow<&Control::m_status, &Status::dataModified>("DataModified")
-                                                    .stored(false)
-                                                    .with(Access::Silent)
-                                                    .refreshing({Refresh::Colours});
-    static constexpr PropertyRow DeviceTypeNotSupported =
-        fieldRow<&Control::m_status, &Status::deviceTypeNotSupported>("DeviceTypeNotSupported")
+    static constexpr auto DataModified =
+        fieldRow<&Control::m_status, &Status::dataModified>("DataModified", Topic::State)
+            .stored(false)
+            .with(Access::Silent)
+            .refreshing({Refresh::Colours});
+    static constexpr auto DeviceTypeNotSupported =
+        fieldRow<&Control::m_status, &Status::deviceTypeNotSupported>("DeviceTypeNotSupported", Topic::State)
             .stored(false)
             .refreshing({Refresh::Support});
-    static constexpr PropertyRow DeviceVerNotSupported =
-        fieldRow<&Control::m_status, &Status::deviceVerNotSupported>("DeviceVerNotSupported")
+    static constexpr auto DeviceVerNotSupported =
+        fieldRow<&Control::m_status, &Status::deviceVerNotSupported>("DeviceVerNotSupported", Topic::State)
             .stored(false)
             .refreshing({Refresh::Support});
-    static constexpr PropertyRow EnableControl =
-        fieldRow<&Control::m_status, &Status::enableControl>("EnableControl")
+    static constexpr auto EnableControl =
+        fieldRow<&Control::m_status, &Status::enableControl>("EnableControl", Topic::State)
             .stored(true)
             .refreshing({Refresh::Enabled});
-    static constexpr PropertyRow ReadOnly =
-        fieldRow<&Control::m_status, &Status::readOnly>("ReadOnly").stored(false).refreshing({Refresh::Colours});
-    static constexpr PropertyRow IconEnable =
-        fieldRow<&Control::m_status, &Status::iconEnable>("IconEnable").stored(true);
+    static constexpr auto ReadOnly = fieldRow<&Control::m_status, &Status::readOnly>("ReadOnly", Topic::State)
+                                         .stored(false)
+                                         .refreshing({Refresh::Colours});
+    static constexpr auto IconEnable =
+        fieldRow<&Control::m_status, &Status::iconEnable>("IconEnable", Topic::Appearance).stored(true);
 
     // --- Messages
-    static constexpr PropertyRow MsgCfail = fieldRow<&Control::m_messages, &Messages::cFail>("MsgCfail")
-                                                .stored("Communication Failure !")
-                                                .refreshing({Refresh::Status});
-    static constexpr PropertyRow MsgDataNotAvailable =
-        fieldRow<&Control::m_messages, &Messages::dataNotAvailable>("MsgDataNotAvailable")
+    static constexpr auto MsgCfail = fieldRow<&Control::m_messages, &Messages::cFail>("MsgCfail", Topic::Messages)
+                                         .stored("Communication Failure !")
+                                         .refreshing({Refresh::Status});
+    static constexpr auto MsgDataNotAvailable =
+        fieldRow<&Control::m_messages, &Messages::dataNotAvailable>("MsgDataNotAvailable", Topic::Messages)
             .stored("Data Not Available")
             .refreshing({Refresh::Status});
-    static constexpr PropertyRow MsgDeviceTagNotFound =
-        fieldRow<&Control::m_messages, &Messages::deviceTagNotFound>("MsgDeviceTagNotFound")
+    static constexpr auto MsgDeviceTagNotFound =
+        fieldRow<&Control::m_messages, &Messages::deviceTagNotFound>("MsgDeviceTagNotFound", Topic::Messages)
             .stored("Identifier Look Up Failed")
             .refreshing({Refresh::Status});
-    static constexpr PropertyRow MsgDefault = fieldRow<&Control::m_messages, &Messages::defaultText>("MsgDefault")
-                                                  .stored("")
-                                                  .refreshing({Refresh::Status});
-    static constexpr PropertyRow MsgDataChanged =
-        fieldRow<&Control::m_messages, &Messages::dataChanged>("MsgDataChanged")
+    static constexpr auto MsgDefault =
+        fieldRow<&Control::m_messages, &Messages::defaultText>("MsgDefault", Topic::Messages)
+            .stored("")
+            .refreshing({Refresh::Status});
+    static constexpr auto MsgDataChanged =
+        fieldRow<&Control::m_messages, &Messages::dataChanged>("MsgDataChanged", Topic::Messages)
             .stored("Data Changed by other user ")
             .refreshing({Refresh::Status});
-    static constexpr PropertyRow MessageHeader =
-        fieldRow<&Control::m_messages, &Messages::header>("MessageHeader").initially("Zor").with(Access::Silent);
+    static constexpr auto MessageHeader =
+        fieldRow<&Control::m_messages, &Messages::header>("MessageHeader", Topic::Messages)
+            .initially("Zor")
+            .with(Access::Silent);
 
     // --- States, in the order of their precedence
     static constexpr StatusRow CommunicationFailure{

@@ -27,8 +27,8 @@ QString textRules(const core::ClassInfo& info)
     for (const core::PropertyRow* row : info.properties) {
         if (row->field.kind == core::ValueKind::Text)
             rules += QString("<stringpropertyspecification name=\"%1\" type=\"%2\"%3/>")
-                         .arg(toQString(row->name), core::isIdentifier(*row) ? "singleline" : "multiline",
-                              core::isIdentifier(*row) ? " notr=\"true\"" : "");
+                         .arg(toQString(row->name), row->isIdentifier ? "singleline" : "multiline",
+                              row->isIdentifier ? " notr=\"true\"" : "");
     }
     return rules;
 }

@@ -33,44 +33,9 @@ constexpr std::array kDescriptions{
 constexpr Description kAnyControl{"", "Control", "A control bound to a device parameter",
                                   "Shows one parameter of a device."};
 
-/// A heading for the properties that start with a prefix. The first that fits counts.
-struct Heading {
-    string_view prefix;
-    string_view heading;
-};
-constexpr std::array kHeadings{
-    Heading{"DeviceValue", "Value"},
-    Heading{"DeviceUnit", "Units"},
-    Heading{"DeviceTagNotFound", "State"},
-    Heading{"DeviceTypeNotSupported", "State"},
-    Heading{"DeviceVerNotSupported", "State"},
-    Heading{"Device", "Parameter"},
-    Heading{"RegisterType", "Parameter"},
-    Heading{"Msg", "Messages"},
-    Heading{"MessageHeader", "Messages"},
-    Heading{"StatusText", "Messages"},
-    Heading{"Unit", "Units"},
-    Heading{"OutputUnit", "Units"},
-    Heading{"DefaultUnit", "Units"},
-    Heading{"InvalidEntryEnable", "Range"},
-    Heading{"Min", "Range"},
-    Heading{"Max", "Range"},
-    Heading{"CFail", "State"},
-    Heading{"Data", "State"},
-    Heading{"WaitingForData", "State"},
-    Heading{"Invalid", "State"},
-    Heading{"EnableControl", "State"},
-    Heading{"ReadOnly", "State"},
-    Heading{"OutputValue", "Value"},
-    Heading{"ModifiedValue", "Value"},
-    Heading{"OtherUserValue", "Value"},
-    Heading{"Enum", "Value"},
-    Heading{"BitField", "Value"},
-    Heading{"EntryType", "Value"},
-    Heading{"NumberOf", "Value"},
-    Heading{"SelectedText", "Value"},
-};
-constexpr string_view kOtherHeading = "Appearance";
+/// In the order of core::Topic.
+constexpr std::array<string_view, 7> kHeadings{"Appearance", "Parameter", "Value",   "Units",
+                                               "Range",      "State",     "Messages"};
 
 } // namespace
 
@@ -82,9 +47,7 @@ const Description& descriptionOf(string_view controlClass) noexcept
 
 string_view headingOf(const core::PropertyRow& row) noexcept
 {
-    const auto fits = std::ranges::find_if(
-        kHeadings, [&](const Heading& heading) { return row.name.starts_with(heading.prefix); });
-    return fits == kHeadings.end() ? kOtherHeading : fits->heading;
+    return kHeadings[static_cast<std::size_t>(row.topic)];
 }
 
 } // namespace zor::designer

@@ -25,12 +25,11 @@ void writeValue(pugi::xml_node property, const core::PropertyRow& row, const Wri
         return setText(old, written.text);
     property.remove_children();
     const pugi::xml_node value = insertText(property, written.element.c_str(), written.text);
-    if (written.element == "string" && (core::isIdentifier(row) || row.field.kind == core::ValueKind::Any))
+    if (written.element == "string" && (row.isIdentifier || row.field.kind == core::ValueKind::Any))
         pugi::xml_node(value).append_attribute("notr").set_value("true");
     // A number that is no member can be set by name only.
-    const bool isEnumeration = core::kindName(row.field.kind).ends_with("_TYPE");
     property.remove_attribute("stdset");
-    if (isEnumeration && written.element == "number")
+    if (core::isEnumeration(row.field.kind) && written.element == "number")
         property.append_attribute("stdset").set_value("0");
 }
 

@@ -45,6 +45,9 @@ enum class Notice : std::uint8_t {
     OLEStartDrag,    ///< Data (text), AllowedEffects (32-bit)
 };
 
+/// Whether the platforms' widgets report it. None of them offers links and drags.
+[[nodiscard]] constexpr bool isReported(Notice notice) noexcept { return notice < Notice::LinkClose; }
+
 /// Mouse buttons as they stand in Button (a bit each).
 inline constexpr std::int16_t kLeftButton = 1;
 inline constexpr std::int16_t kRightButton = 2;

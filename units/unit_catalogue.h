@@ -104,6 +104,26 @@ inline constexpr std::array kUnitTypes{
     UnitTypeRow{MASSFLOW, "MASSFLOW", "", 0, -1, NoneU},
 };
 
+namespace detail {
+
+/// Whether the rows stand in the order of their values, without gaps: rows are looked up by value.
+template <class Rows, class Value>
+consteval bool isInOrder(const Rows& rows, Value value)
+{
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (static_cast<std::size_t>(rows[i].*value) != i)
+            return false;
+    }
+    return true;
+}
+
+} // namespace detail
+
+static_assert(detail::isInOrder(kUnits, &UnitRow::unit),
+              "put the units in the order of their values, without gaps");
+static_assert(detail::isInOrder(kUnitTypes, &UnitTypeRow::type),
+              "put the unit types in the order of their values, without gaps");
+
 /// A member of the smaller enumerations with its word for people.
 struct WordRow {
     std::int32_t value;
@@ -120,6 +140,9 @@ inline constexpr std::array kEntryTypes{
     WordRow{0, "Text", "Text"},
     WordRow{1, "Numeric", "Numeric"},
 };
+static_assert(detail::isInOrder(kRegisterTypes, &WordRow::value) &&
+                  detail::isInOrder(kEntryTypes, &WordRow::value),
+              "put the members in the order of their values, without gaps");
 
 /// The row of a unit; nullptr for any integer that is none.
 [[nodiscard]] constexpr const UnitRow* rowOf(MEAS_TYPE unit) noexcept

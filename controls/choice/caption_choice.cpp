@@ -5,9 +5,8 @@ namespace zor::controls {
 using platform::Twips;
 
 CaptionChoice::CaptionChoice(const core::ClassInfo& info, platform::Container& container,
-                             const CaptionLayout& layout, std::size_t outputValueChange)
-    : ChoiceControl(info, container, {0, 0, 2000, layout.lowest}, outputValueChange, UndoAt::SurfaceAndFace),
-      m_layout(layout)
+                             const CaptionLayout& layout)
+    : ChoiceControl(info, container, {0, 0, 2000, layout.lowest}, UndoAt::SurfaceAndFace), m_layout(layout)
 {}
 
 void CaptionChoice::adopt(platform::ToggleButton& button, std::string_view caption)

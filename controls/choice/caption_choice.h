@@ -19,8 +19,7 @@ public:
     void s_ChangeBackColor(Colour l_ColorValue) override;
 
 protected:
-    CaptionChoice(const core::ClassInfo& info, platform::Container& container, const CaptionLayout& layout,
-                  std::size_t outputValueChange);
+    CaptionChoice(const core::ClassInfo& info, platform::Container& container, const CaptionLayout& layout);
     ~CaptionChoice() override = default;
     void adopt(platform::ToggleButton& button, std::string_view caption);
 
@@ -43,7 +42,7 @@ struct CaptionChoiceRows {
     using R = ChoiceRows;
 
     static constexpr auto kStored = joined(R::kFirst, R::kState, R::kSettings);
-    static constexpr auto kNotStored = joined(R::kNotStored, std::array{&R::template OtherUserValue<Other>});
+    static constexpr auto kNotStored = joined(R::kNotStored, core::rows(&R::template OtherUserValue<Other>));
 
     static constexpr std::array kMessages{
         core::MessageRow{"MSG_CFAIL", &S::MsgCfail},

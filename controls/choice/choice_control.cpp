@@ -6,9 +6,8 @@ namespace zor::controls {
 using platform::Notice;
 
 ChoiceControl::ChoiceControl(const core::ClassInfo& info, platform::Container& container, platform::Rect designed,
-                             std::size_t outputValueChange, UndoAt undoAt)
-    : Control(info, container, designed.width, designed.height), m_undo(surface()),
-      m_outputValueChange(outputValueChange), m_undoAt(undoAt)
+                             UndoAt undoAt)
+    : Control(info, container, designed.width, designed.height), m_undo(surface()), m_undoAt(undoAt)
 {}
 
 void ChoiceControl::adopt(platform::FontWidget& face)
@@ -45,7 +44,7 @@ void ChoiceControl::ModifiedValue(std::int32_t value)
 void ChoiceControl::assignOutput(std::int32_t value)
 {
     m_outputValue = value;
-    raise(m_outputValueChange);
+    raise(raised().outputValueChange);
 }
 
 // --- Display

@@ -44,9 +44,8 @@ protected:
     /// Where a release of the right mouse button offers the undo.
     enum class UndoAt : std::uint8_t { Surface, SurfaceAndFace };
 
-    /// `outputValueChange`: the published number of that event.
     ChoiceControl(const core::ClassInfo& info, platform::Container& container, platform::Rect designed,
-                  std::size_t outputValueChange, UndoAt undoAt);
+                  UndoAt undoAt);
     ~ChoiceControl() override = default;
     /// Takes the face on; the last thing before the control is ready.
     void adopt(platform::FontWidget& face);
@@ -85,7 +84,6 @@ private:
     core::UndoMenu m_undo;
     platform::FontWidget* m_face = nullptr;
     std::array<platform::Widget*, 1> m_body{};
-    std::size_t m_outputValueChange;
     UndoAt m_undoAt;
     /// Until the colours are first worked out, nobody may work the control.
     bool m_inputLocked = true;

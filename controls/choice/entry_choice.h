@@ -33,18 +33,20 @@ struct EntryChoiceRows {
     using R = ChoiceRows;
     using Class = typename core::detail::Member<decltype(Mark)>::Class;
 
-    static constexpr core::PropertyRow InvalidValue =
-        core::fieldRow<Mark, &InvalidMark::isSet>("InvalidValue").stored(false).with(core::Access::Derived);
+    static constexpr auto InvalidValue =
+        core::fieldRow<Mark, &InvalidMark::isSet>("InvalidValue", core::Topic::State)
+            .stored(false)
+            .with(core::Access::Derived);
     // A new control starts with another text than a form means that says nothing.
-    static constexpr core::PropertyRow MsgInvalidValue =
-        core::fieldRow<Mark, &InvalidMark::message>("MsgInvalidValue")
+    static constexpr auto MsgInvalidValue =
+        core::fieldRow<Mark, &InvalidMark::message>("MsgInvalidValue", core::Topic::Messages)
             .stored("Invalid Value from Device")
             .initially("Invalid Entry")
             .refreshing({core::Refresh::Status});
 
     static constexpr auto kStored =
-        joined(R::kFirst, std::array{&InvalidValue}, R::kState, std::array{&MsgInvalidValue}, R::kSettings);
-    static constexpr auto kNotStored = joined(R::kNotStored, std::array{&R::template OtherUserValue<Other>});
+        joined(R::kFirst, core::rows(&InvalidValue), R::kState, core::rows(&MsgInvalidValue), R::kSettings);
+    static constexpr auto kNotStored = joined(R::kNotStored, core::rows(&R::template OtherUserValue<Other>));
 
     static constexpr std::array kMessages{
         core::MessageRow{"MSG_CFAIL", &S::MsgCfail},

@@ -2,9 +2,6 @@
 
 /// The outgoing events that numeric controls have in common.
 
-#include <zor/core/event_row.h>
-
-#include <array>
 #include <cstdint>
 #include <string>
 
@@ -68,71 +65,5 @@ public:
     virtual void unitsDblClick() {}
     virtual void unitsMouseMove(std::int16_t& /*Button*/, std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/) {}
 };
-
-/// The rows 2 to 6 of a numeric control's events; `E` is its interface, as below.
-template <class E>
-constexpr std::array<core::EventRow, 5> conditionRows()
-{
-    return {core::ownEvent<&E::DataModifiedSetTrue, E>("DataModifiedSetTrue"),
-            core::ownEvent<&E::OutputValueChange, E>("OutputValueChange"),
-            core::ownEvent<&E::DeviceVerNotSupportedSetTrue, E>("DeviceVerNotSupportedSetTrue"),
-            core::ownEvent<&E::DeviceTypeNotSupportedSetTrue, E>("DeviceTypeNotSupportedSetTrue"),
-            core::ownEvent<&E::DataChangedSetTrue, E>("DataChangedSetTrue")};
-}
-
-/// The last two rows.
-template <class E>
-constexpr std::array<core::EventRow, 2> iconRows(int icon)
-{
-    return {core::event<&E::imgClick, E>("imgClick", icon, platform::Notice::Click),
-            core::event<&E::imgDblClick, E>("imgDblClick", icon, platform::Notice::DblClick)};
-}
-
-/// Which of the field's link reports a control forwards.
-struct LinkNotices {
-    platform::Notice close = platform::Notice::None;
-    platform::Notice error = platform::Notice::None;
-    platform::Notice notify = platform::Notice::None;
-    platform::Notice open = platform::Notice::None;
-};
-
-/// The rows 7 to 32 of a control with a text field and a unit label.
-template <class E>
-constexpr std::array<core::EventRow, 26> entryFieldRows(int text, int units, const LinkNotices& links)
-{
-    using core::event;
-    using core::ownEvent;
-    using platform::Notice;
-    return {
-        ownEvent<&E::textChange, E>("textChange"),
-        event<&E::textClick, E>("textClick", text, Notice::Click),
-        event<&E::textDblClick, E>("textDblClick", text, Notice::DblClick),
-        event<&E::textGotFocus, E>("textGotFocus", text, Notice::GotFocus),
-        event<&E::textKeyDown, E>("textKeyDown", text, Notice::KeyDown, "KeyCode", "Shift"),
-        event<&E::textKeyPress, E>("textKeyPress", text, Notice::KeyPress, "KeyAscii"),
-        event<&E::textKeyUp, E>("textKeyUp", text, Notice::KeyUp, "KeyCode", "Shift"),
-        event<&E::textLinkClose, E>("textLinkClose", text, links.close),
-        event<&E::textLinkError, E>("textLinkError", text, links.error, "LinkErr"),
-        event<&E::textLinkNotify, E>("textLinkNotify", text, links.notify),
-        event<&E::textLinkOpen, E>("textLinkOpen", text, links.open, "Cancel"),
-        event<&E::textLostFocus, E>("textLostFocus", text, Notice::LostFocus),
-        event<&E::textMouseDown, E>("textMouseDown", text, Notice::MouseDown, "Button", "Shift", "X", "Y"),
-        event<&E::textMouseMove, E>("textMouseMove", text, Notice::MouseMove, "Button", "Shift", "X", "Y"),
-        event<&E::textMouseUp, E>("textMouseUp", text, Notice::MouseUp, "Button", "Shift", "X", "Y"),
-        event<&E::textOLECompleteDrag, E>("textOLECompleteDrag", text, Notice::OLECompleteDrag, "Effect"),
-        ownEvent<&E::textOLEDragDrop, E>("textOLEDragDrop", "Data", "Effect", "Button", "Shift", "X", "Y"),
-        ownEvent<&E::textOLEDragOver, E>("textOLEDragOver", "Data", "Effect", "Button", "Shift", "X", "Y",
-                                         "State"),
-        event<&E::textOLEGiveFeedback, E>("textOLEGiveFeedback", text, Notice::OLEGiveFeedback, "Effect",
-                                          "DefaultCursors"),
-        ownEvent<&E::textOLESetData, E>("textOLESetData", "Data", "DataFormat"),
-        ownEvent<&E::textOLEStartDrag, E>("textOLEStartDrag", "Data", "AllowedEffects"),
-        event<&E::textValidate, E>("textValidate", text, Notice::Validate, "Cancel"),
-        event<&E::unitsChange, E>("unitsChange", units, Notice::Change),
-        event<&E::unitsClick, E>("unitsClick", units, Notice::Click),
-        event<&E::unitsDblClick, E>("unitsDblClick", units, Notice::DblClick),
-        event<&E::unitsMouseMove, E>("unitsMouseMove", units, Notice::MouseMove, "Button", "Shift", "X", "Y"),
-    };
-}
 
 } // namespace zor::controls

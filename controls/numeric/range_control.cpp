@@ -13,7 +13,7 @@ void RangeControl::testValue(double deviceValue)
 {
     m_invalidValue = m_units.isOutside(deviceValue);
     if (m_invalidValue)
-        raise(kInvalidSetTrue);
+        raise(raised().invalid);
 }
 
 } // namespace zor::controls

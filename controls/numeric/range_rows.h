@@ -13,16 +13,19 @@ namespace zor::controls {
 struct RangeRows : UnitRows {
     using S = core::SharedRows;
 
-    static constexpr PropertyRow InvalidValue =
-        core::fieldRow<&RangeControl::m_invalidValue>("InvalidValue").stored(false).with(core::Access::Derived);
-    static constexpr PropertyRow MsgInvalidValue =
-        core::fieldRow<&RangeControl::m_msgInvalidValue>("MsgInvalidValue")
+    static constexpr auto InvalidValue =
+        core::fieldRow<&RangeControl::m_invalidValue>("InvalidValue", core::Topic::State)
+            .stored(false)
+            .with(core::Access::Derived);
+    static constexpr auto MsgInvalidValue =
+        core::fieldRow<&RangeControl::m_msgInvalidValue>("MsgInvalidValue", core::Topic::Messages)
             .stored("Invalid Entry")
             .refreshing({core::Refresh::Status});
     /// The value that another user wrote, for the text that tells of it: the host's, never the control's.
     template <auto Field>
-    static constexpr PropertyRow OtherUser =
-        core::fieldRow<Field>("OtherUserValue").with(core::Access::Silent).refreshing({core::Refresh::Status});
+    static constexpr auto OtherUser = core::fieldRow<Field>("OtherUserValue", core::Topic::Value)
+                                          .with(core::Access::Silent)
+                                          .refreshing({core::Refresh::Status});
 
     static constexpr std::array kMessages{
         core::MessageRow{"MSG_CFAIL", &S::MsgCfail},
@@ -45,7 +48,7 @@ constexpr auto limitsAfterUnit()
 {
     constexpr auto isStored = [](const core::PropertyRow* row) { return !row->key.empty(); };
     constexpr auto isLimit = [](const core::PropertyRow* row) {
-        return row->key == "MinValue" || row->key == "MaxValue";
+        return row->after == UnitRows::MinValue.after || row->after == UnitRows::MaxValue.after;
     };
     std::array<const core::PropertyRow*, std::ranges::count_if(Properties, isStored)> order{};
     auto at = order.begin();
@@ -53,7 +56,7 @@ constexpr auto limitsAfterUnit()
         if (!isStored(row) || isLimit(row))
             continue;
         *at++ = row;
-        if (row->key == "DefaultUnit")
+        if (row == &UnitRows::DefaultUnit)
             at = std::ranges::copy_if(Properties, at, isLimit).out;
     }
     return order;

@@ -79,7 +79,7 @@ void UnitControl::judge(bool differs)
 {
     m_status.dataModified = differs;
     if (differs)
-        raise(kDataModifiedSetTrue);
+        raise(raised().dataModifiedSetTrue);
 }
 
 void UnitControl::onNotice(int number, platform::Notice notice, platform::EventArgs args)

@@ -61,15 +61,6 @@ public:
     [[nodiscard]] platform::PopupMenu* menu() noexcept override { return &m_undo.menu(); }
 
 protected:
-    /// Published numbers of the events that numeric controls raise by themselves. The first announces the
-    /// class's own invalid flag, the last a change of what the operator sees.
-    enum Event : std::size_t {
-        kInvalidSetTrue = 1,
-        kDataModifiedSetTrue = 2,
-        kOutputValueChange = 3,
-        kShownChange = 7,
-    };
-
     UnitControl(const core::ClassInfo& info, platform::Container& container, platform::Twips width,
                 platform::Twips height, MEAS_TYPE deviceUnit);
     ~UnitControl() override = default;

@@ -9,42 +9,53 @@
 namespace zor::controls {
 
 struct UnitRows {
-    using PropertyRow = core::PropertyRow;
     using C = UnitControl;
     using Units = UnitBinding;
 
-    static constexpr PropertyRow UnitType = core::fieldRow<&C::m_units, &Units::unitType>("UnitType").stored(0);
-    static constexpr PropertyRow DeviceUnit =
-        core::fieldRow<&C::m_units, &Units::deviceUnit>("DeviceUnit").stored(0).then<&C::s_DeviceUnitChanged>();
+    static constexpr auto UnitType =
+        core::fieldRow<&C::m_units, &Units::unitType>("UnitType", core::Topic::Units).stored(Length);
+    static constexpr auto DeviceUnit =
+        core::fieldRow<&C::m_units, &Units::deviceUnit>("DeviceUnit", core::Topic::Units)
+            .stored(LgthU_MM)
+            .then<&C::s_DeviceUnitChanged>();
     /// The devices of most numeric controls count tenths of a millimetre; a form that says nothing means
     /// millimetres.
-    static constexpr PropertyRow DeviceUnitInTenths =
-        DeviceUnit.initially(static_cast<std::int32_t>(LgthU_1By10_MM));
-    static constexpr PropertyRow OutputUnit =
-        core::fieldRow<&C::m_units, &Units::outputUnit>("OutputUnit")
-            .stored(0)
+    static constexpr auto DeviceUnitInTenths = DeviceUnit.initially(LgthU_1By10_MM);
+    static constexpr auto OutputUnit =
+        core::fieldRow<&C::m_units, &Units::outputUnit>("OutputUnit", core::Topic::Units)
+            .stored(LgthU_MM)
             .then<&C::s_AfterOutputUnit>()
             .written<[](C& control, MEAS_TYPE unit) { control.OutputUnit(unit); }>();
-    static constexpr PropertyRow DefaultUnit =
-        core::fieldRow<&C::m_units, &Units::defaultUnit>("DefaultUnit").stored(0).then<&C::s_UpdateLimits>();
-    static constexpr PropertyRow MinValue =
-        core::fieldRow<&C::m_units, &Units::minValue>("MinValue").stored(0.0).then<&C::s_UpdateMinParamValue>();
-    static constexpr PropertyRow MaxValue =
-        core::fieldRow<&C::m_units, &Units::maxValue>("MaxValue").stored(0.0).then<&C::s_UpdateMaxParamValue>();
-    static constexpr PropertyRow MinParamValue =
-        core::fieldRow<&C::m_units, &Units::minParam>("MinParamValue").stored(0.0).with(core::Access::Derived);
-    static constexpr PropertyRow MaxParamValue =
-        core::fieldRow<&C::m_units, &Units::maxParam>("MaxParamValue").stored(0.0).with(core::Access::Derived);
-    static constexpr PropertyRow UnitEnable =
-        core::fieldRow<&C::m_unitEnable>("UnitEnable").stored(true).then<[](C& control) {
+    static constexpr auto DefaultUnit =
+        core::fieldRow<&C::m_units, &Units::defaultUnit>("DefaultUnit", core::Topic::Units)
+            .stored(LgthU_MM)
+            .then<&C::s_UpdateLimits>();
+    static constexpr auto MinValue = core::fieldRow<&C::m_units, &Units::minValue>("MinValue", core::Topic::Range)
+                                         .stored(0.0)
+                                         .then<&C::s_UpdateMinParamValue>();
+    static constexpr auto MaxValue = core::fieldRow<&C::m_units, &Units::maxValue>("MaxValue", core::Topic::Range)
+                                         .stored(0.0)
+                                         .then<&C::s_UpdateMaxParamValue>();
+    static constexpr auto MinParamValue =
+        core::fieldRow<&C::m_units, &Units::minParam>("MinParamValue", core::Topic::Range)
+            .stored(0.0)
+            .with(core::Access::Derived);
+    static constexpr auto MaxParamValue =
+        core::fieldRow<&C::m_units, &Units::maxParam>("MaxParamValue", core::Topic::Range)
+            .stored(0.0)
+            .with(core::Access::Derived);
+    static constexpr auto UnitEnable =
+        core::fieldRow<&C::m_unitEnable>("UnitEnable", core::Topic::Units).stored(true).then<[](C& control) {
             control.s_UpdateUnitLabelVisibility();
             control.s_Layout();
         }>();
-    static constexpr PropertyRow UnitLabelCaption =
-        core::fieldRow<&C::m_unitLabelCaption>("UnitLabelCaption").stored("").then<[](C& control) {
-            control.s_ShowUnit(control.m_unitLabelCaption);
-            control.describeForReaders();
-        }>();
+    static constexpr auto UnitLabelCaption =
+        core::fieldRow<&C::m_unitLabelCaption>("UnitLabelCaption", core::Topic::Units)
+            .stored("")
+            .then<[](C& control) {
+                control.s_ShowUnit(control.m_unitLabelCaption);
+                control.describeForReaders();
+            }>();
 
     static constexpr core::MethodRow GetCaptionID = core::method<&C::fc_GetCaptionID>("fc_GetCaptionID");
     static constexpr core::MethodRow GetConversionFactor =

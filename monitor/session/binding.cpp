@@ -72,14 +72,7 @@ std::optional<Variant> Binding::getIfThere(std::string_view property) const
 template <class Action>
 void Binding::quietly(Action&& action)
 {
-    struct Depth {
-        explicit Depth(int& depth) : depth(depth) { ++depth; }
-        ~Depth() { --depth; }
-        Depth(const Depth&) = delete;
-        Depth& operator=(const Depth&) = delete;
-        int& depth;
-    };
-    const Depth depth(m_quiet);
+    const platform::Depth::Level level(m_quiet);
     std::forward<Action>(action)();
 }
 
@@ -392,12 +385,13 @@ void Binding::follow(const Variant& chosen) { putIfThere("ModifiedValue", chosen
 
 void Binding::event(core::Control& control, const core::EventRow& row, platform::EventArgs /*args*/)
 {
-    const bool chosen = row.name == "OutputValueChange";
+    const core::RaisedEvents& raised = control.info().raised;
+    const bool chosen = &row == raised.outputValueChange;
     const bool edited =
-        chosen || row.name == "textChange" || row.name == "DataModifiedSetTrue" || row.name == "DataModifiedReset";
+        chosen || &row == raised.changed || &row == raised.dataModifiedSetTrue || &row == raised.dataModifiedReset;
     if (edited && onEdit)
         onEdit();
-    if (m_quiet > 0)
+    if (!m_quiet.isNone())
         return;
     bool typed = false;
     if (m_parameter != nullptr)

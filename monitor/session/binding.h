@@ -8,6 +8,7 @@
 #include <zor/monitor/session/control_texts.h>
 #include <zor/monitor/session/poller.h>
 #include <zor/monitor/session/typed_entry.h>
+#include <zor/platform/depth.h>
 
 #include <functional>
 #include <optional>
@@ -132,7 +133,7 @@ private:
     TypedEntry m_typed;
     Rows m_row;
     std::uint64_t m_actions = 0;
-    int m_quiet = 0;
+    platform::Depth m_quiet;
     MEAS_TYPE m_textUnit = NoneU;           ///< of a control that shows numbers as texts
     bool m_unfit = false;                   ///< the last value could not be shown
     std::optional<std::int32_t> m_stranger; ///< the last value, when no entry has it

@@ -71,14 +71,8 @@ void Session::runInside(std::string_view line)
     // other twice would otherwise go on for 2^50 commands.
     if (m_isRunaway)
         return;
-    struct Depth {
-        explicit Depth(int& depth) noexcept : depth(depth) { ++depth; }
-        ~Depth() { --depth; }
-        Depth(const Depth&) = delete;
-        Depth& operator=(const Depth&) = delete;
-        int& depth;
-    } const depth(m_depth);
-    if (m_depth > kDeepest) {
+    const platform::Depth::Level level(m_depth);
+    if (m_depth.levels() > kDeepest) {
         m_isRunaway = true;
         return printError(kOutOfStackSpace, "handlers run commands that raise events without end");
     }

@@ -5,6 +5,7 @@
 #include <zor/core/control.h>
 #include <zor/forms/form.h>
 #include <zor/pages/page.h>
+#include <zor/platform/depth.h>
 #include <zor/tools/zorsh/recorder.h>
 #include <zor/tools/zorsh/stage.h>
 
@@ -115,7 +116,7 @@ private:
     std::vector<OutputLine> m_output;
     std::vector<std::string> m_boxes;
     std::size_t m_created = 0;
-    int m_depth = 0;
+    platform::Depth m_depth;
     bool m_isRunaway = false;
     bool m_ended = false;
 };

@@ -21,11 +21,6 @@ using std::string_view;
 
 constexpr string_view kNotice = "// Generated from the controls' tables; see widgets/generate in the sources.\n\n";
 
-/// Fragments of the names of events that no control raises: they are part of the interface, but a signal that
-/// never comes would mislead.
-constexpr std::array kNeverRaised{string_view("OLE"), string_view("Link"), string_view("NotSupportedSetTrue"),
-                                  string_view("DataChangedSetTrue")};
-
 string qtType(core::ValueKind kind)
 {
     using enum core::ValueKind;
@@ -56,20 +51,15 @@ string argument(core::ValueKind kind, string_view name)
 struct ArgumentType {
     string_view type;
     string_view read;
+    string_view close = ")";
 };
 constexpr std::array kArgumentTypes{
     ArgumentType{"int", "*std::get<std::int16_t*>"}, ArgumentType{"int", "*std::get<std::int32_t*>"},
     ArgumentType{"double", "*std::get<float*>"}, ArgumentType{"bool", "*std::get<bool*>"},
-    ArgumentType{"const QString&", "QString::fromStdString(*std::get<std::string*>"}};
+    ArgumentType{"const QString&", "QString::fromStdString(*std::get<std::string*>", "))"}};
 static_assert(kArgumentTypes.size() == std::variant_size_v<platform::ArgRef>);
 
 string widgetName(const core::ClassInfo& info) { return string(info.name.substr(info.name.find('_') + 1)); }
-
-bool isRaised(const core::EventRow& row)
-{
-    return std::ranges::none_of(kNeverRaised,
-                                [&](string_view part) { return row.name.find(part) != string_view::npos; });
-}
 
 bool isReadable(const core::PropertyRow& row) { return row.get != nullptr || row.field.at != nullptr; }
 
@@ -168,7 +158,7 @@ void declareClass(std::ostream& out, const core::ClassInfo& info)
         out << "    void set" << row->name << '(' << argument(row->field.kind, "value") << ");\n";
     out << "\nsignals:\n";
     for (const core::EventRow& row : info.events) {
-        if (isRaised(row))
+        if (row.isRaised)
             out << "    void " << signalOf(row) << ";\n";
     }
     out << "\nprotected:\n    void emitEvent(std::size_t event, platform::EventArgs arguments) override;\n};\n\n";
@@ -196,13 +186,12 @@ void defineEvents(std::ostream& out, const core::ClassInfo& info)
            "    switch (event) {\n";
     for (std::size_t number = 0; number < info.events.size(); ++number) {
         const core::EventRow& row = info.events[number];
-        if (!isRaised(row))
+        if (!row.isRaised)
             continue;
         out << "    case " << number << ": emit " << row.name << '(';
         for (std::size_t i = 0; i < row.argumentCount; ++i) {
-            const string_view read = kArgumentTypes[row.types[i]].read;
-            const bool isText = read.starts_with("QString");
-            out << (i == 0 ? "" : ", ") << read << "(arguments[" << i << "])" << (isText ? ")" : "");
+            const auto& [type, read, close] = kArgumentTypes[row.types[i]];
+            out << (i == 0 ? "" : ", ") << read << "(arguments[" << i << "]" << close;
         }
         out << "); break;\n";
     }

@@ -1,16 +1,18 @@
 // The check box as data: properties, messages, events, states, methods.
 
 #include <zor/controls/choice/check_box/ctx_ZorCheckBox.h>
+#include <zor/core/event_rows.h>
 
 namespace zor {
 
-using controls::joined;
 using controls::kFace;
 using controls::kState;
+using core::declared;
 using core::event;
 using core::fieldRow;
+using core::joined;
+using core::named;
 using core::ownEvent;
-using core::PropertyRow;
 using platform::Notice;
 
 struct ctx_ZorCheckBox::Rows
@@ -18,15 +20,16 @@ struct ctx_ZorCheckBox::Rows
     using This = ctx_ZorCheckBox;
 
     // A new box starts with another caption than a form means that says nothing.
-    static constexpr PropertyRow CheckBoxCaption = fieldRow<&This::m_caption>("CheckBoxCaption")
-                                                       .stored("check")
-                                                       .initially("Check1")
-                                                       .then<&This::s_ShowCaption>();
-    static constexpr PropertyRow BitFieldEntryIndex = fieldRow<&This::m_bit>("BitFieldEntryIndex").stored(0);
-    static constexpr PropertyRow CheckBoxValue =
-        core::computedRow<[](This& box) { return box.CheckBoxValue(); }>("CheckBoxValue")
+    static constexpr auto CheckBoxCaption = fieldRow<&This::m_caption>("CheckBoxCaption", core::Topic::Appearance)
+                                                .stored("check")
+                                                .initially("Check1")
+                                                .then<&This::s_ShowCaption>();
+    static constexpr auto BitFieldEntryIndex =
+        fieldRow<&This::m_bit>("BitFieldEntryIndex", core::Topic::Value).stored(0);
+    static constexpr auto CheckBoxValue =
+        core::computedRow<[](This& box) { return box.CheckBoxValue(); }>("CheckBoxValue", core::Topic::Appearance)
             .with(core::Access::Derived);
-    static constexpr PropertyRow OtherUser = R::OtherUserValue<&This::m_otherUser>;
+    static constexpr auto OtherUser = R::OtherUserValue<&This::m_otherUser>;
 };
 
 struct ctx_ZorCheckBox::Tables {
@@ -34,16 +37,10 @@ struct ctx_ZorCheckBox::Tables {
     using E = __ctx_ZorCheckBox;
 
     static constexpr auto kInitialOrder =
-        joined(R::kStored, std::array{&R::CheckBoxCaption, &R::BitFieldEntryIndex});
-    static constexpr auto kProperties = joined(kInitialOrder, R::kNotStored, std::array{&R::CheckBoxValue});
+        joined(R::kStored, core::rows(&R::CheckBoxCaption, &R::BitFieldEntryIndex));
+    static constexpr auto kProperties = joined(kInitialOrder, R::kNotStored, core::rows(&R::CheckBoxValue));
 
-    static constexpr std::array kEvents{
-        ownEvent<&E::DataModifiedSetTrue>("DataModifiedSetTrue"),
-        ownEvent<&E::DataModifiedReset>("DataModifiedReset"),
-        ownEvent<&E::OutputValueChange>("OutputValueChange"),
-        ownEvent<&E::DeviceVerNotSupportedSetTrue>("DeviceVerNotSupportedSetTrue"),
-        ownEvent<&E::DeviceTypeNotSupportedSetTrue>("DeviceTypeNotSupportedSetTrue"),
-        ownEvent<&E::DataChangedSetTrue>("DataChangedSetTrue"),
+    static constexpr std::array kFaceEvents{
         event<&E::CheckChange>("CheckChange", kFace, Notice::Change),
         ownEvent<&E::CheckClick>("CheckClick"),
         event<&E::CheckDblClick>("CheckDblClick", kFace, Notice::DblClick),
@@ -56,16 +53,19 @@ struct ctx_ZorCheckBox::Tables {
         event<&E::CheckMouseMove>("CheckMouseMove", kFace, Notice::MouseMove, "Button", "Shift", "X", "Y"),
         event<&E::CheckMouseUp>("CheckMouseUp", kFace, Notice::MouseUp, "Button", "Shift", "X", "Y"),
         event<&E::CheckOLECompleteDrag>("CheckOLECompleteDrag", kFace, Notice::OLECompleteDrag, "Effect"),
-        ownEvent<&E::CheckOLEDragDrop>("CheckOLEDragDrop"),
-        ownEvent<&E::CheckOLEDragOver>("CheckOLEDragOver"),
+        declared<&E::CheckOLEDragDrop>("CheckOLEDragDrop"),
+        declared<&E::CheckOLEDragOver>("CheckOLEDragOver"),
         event<&E::CheckOLEGiveFeedback>("CheckOLEGiveFeedback", kFace, Notice::OLEGiveFeedback, "Effect",
                                         "DefaultCursors"),
-        ownEvent<&E::CheckOLESetData>("CheckOLESetData"),
-        ownEvent<&E::CheckOLEStartDrag>("CheckOLEStartDrag"),
-        ownEvent<&E::CheckValidate>("CheckValidate"),
-        event<&E::imgClick>("imgClick", kState, Notice::Click),
-        event<&E::imgDblClick>("imgDblClick", kState, Notice::DblClick),
+        declared<&E::CheckOLESetData>("CheckOLESetData"),
+        declared<&E::CheckOLEStartDrag>("CheckOLEStartDrag"),
+        declared<&E::CheckValidate>("CheckValidate"),
     };
+
+    static constexpr auto kEvents = joined(std::array{ownEvent<&E::DataModifiedSetTrue>("DataModifiedSetTrue"),
+                                                      ownEvent<&E::DataModifiedReset>("DataModifiedReset"),
+                                                      ownEvent<&E::OutputValueChange>("OutputValueChange")},
+                                           core::declaredRows<E>(), kFaceEvents, core::iconRows<E>(kState));
 
     static constexpr auto kWidgets = controls::ChoiceRows::widgets("chk_CheckBox");
 };
@@ -79,6 +79,10 @@ const core::ClassInfo& ctx_ZorCheckBox::classInfo() noexcept
         .initialOrder = T::kInitialOrder,
         .messages = Rows::kMessages,
         .events = T::kEvents,
+        .raised = {.dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                   .dataModifiedReset = named(T::kEvents, "DataModifiedReset"),
+                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                   .changed = named(T::kEvents, "CheckClick")},
         .methods = controls::ChoiceRows::kMethods,
         .states = Rows::kStates,
         .effects = controls::ChoiceRows::kEffects,

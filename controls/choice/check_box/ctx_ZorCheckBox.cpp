@@ -8,19 +8,10 @@ namespace {
 
 constexpr controls::CaptionLayout kLayout{330, 25};
 
-/// Published event numbers.
-enum Event : std::size_t {
-    kDataModifiedSetTrue = 1,
-    kDataModifiedReset = 2,
-    kOutputValueChange = 3,
-    kCheckClick = 8,
-};
-
 } // namespace
 
 ctx_ZorCheckBox::ctx_ZorCheckBox(platform::Container& container)
-    : CaptionChoice(classInfo(), container, kLayout, kOutputValueChange),
-      m_check(surface().createCheckBox(controls::kFace))
+    : CaptionChoice(classInfo(), container, kLayout), m_check(surface().createCheckBox(controls::kFace))
 {
     adopt(*m_check, "Check1");
 }
@@ -85,12 +76,12 @@ void ctx_ZorCheckBox::s_HandleClick()
     }
     const auto before = turn();
     m_status.dataModified = m_check->isOn() != m_loaded;
-    raise(m_status.dataModified ? kDataModifiedSetTrue : kDataModifiedReset);
+    raise(m_status.dataModified ? raised().dataModifiedSetTrue : raised().dataModifiedReset);
     // The bit alone: the others are the device's, or other check boxes'.
     if (!isOvertaken(before))
         assignOutput(controls::withBits(m_outputValue, controls::bitMask(m_bit), m_check->isOn()));
     s_UpdateColors();
-    raise(kCheckClick);
+    raise(raised().changed);
 }
 
 void ctx_ZorCheckBox::s_UndoEdit()

@@ -1,24 +1,27 @@
 // The combo box as data: properties, messages, events, states, methods.
 
 #include <zor/controls/choice/combo_box/ctx_ZorComboBox.h>
+#include <zor/core/event_rows.h>
 
 namespace zor {
 
-using controls::joined;
 using controls::kFace;
 using controls::kState;
+using core::declared;
 using core::event;
+using core::joined;
 using core::method;
+using core::named;
 using core::ownEvent;
-using core::PropertyRow;
 using platform::Notice;
 
 struct ctx_ZorComboBox::Rows
     : controls::EntryChoiceRows<&ctx_ZorComboBox::m_invalid, &ctx_ZorComboBox::m_otherUser,
                                 &ctx_ZorComboBox::m_reference> {
-    static constexpr PropertyRow SelectedText =
-        core::computedRow<[](ctx_ZorComboBox& box) { return box.SelectedText(); }>("SelectedText");
-    static constexpr PropertyRow OtherUser = R::OtherUserValue<&ctx_ZorComboBox::m_otherUser>;
+    static constexpr auto SelectedText =
+        core::computedRow<[](ctx_ZorComboBox& box) { return box.SelectedText(); }>("SelectedText",
+                                                                                   core::Topic::Value);
+    static constexpr auto OtherUser = R::OtherUserValue<&ctx_ZorComboBox::m_otherUser>;
 };
 
 struct ctx_ZorComboBox::Tables {
@@ -26,15 +29,9 @@ struct ctx_ZorComboBox::Tables {
     using E = __ctx_ZorComboBox;
     using This = ctx_ZorComboBox;
 
-    static constexpr auto kProperties = joined(R::kStored, R::kNotStored, std::array{&R::SelectedText});
+    static constexpr auto kProperties = joined(R::kStored, R::kNotStored, core::rows(&R::SelectedText));
 
-    static constexpr std::array kEvents{
-        ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue"),
-        ownEvent<&E::DataModifiedSetTrue>("DataModifiedSetTrue"),
-        ownEvent<&E::OutputValueChange>("OutputValueChange"),
-        ownEvent<&E::DeviceVerNotSupportedSetTrue>("DeviceVerNotSupportedSetTrue"),
-        ownEvent<&E::DeviceTypeNotSupportedSetTrue>("DeviceTypeNotSupportedSetTrue"),
-        ownEvent<&E::DataChangedSetTrue>("DataChangedSetTrue"),
+    static constexpr std::array kFaceEvents{
         event<&E::ComboChange>("ComboChange", kFace, Notice::Change),
         ownEvent<&E::ComboClick>("ComboClick"),
         event<&E::ComboDblClick>("ComboDblClick", kFace, Notice::DblClick),
@@ -45,17 +42,18 @@ struct ctx_ZorComboBox::Tables {
         event<&E::ComboKeyUp>("ComboKeyUp", kFace, Notice::KeyUp, "KeyCode", "Shift"),
         event<&E::ComboLostFocus>("ComboLostFocus", kFace, Notice::LostFocus),
         event<&E::ComboOLECompleteDrag>("ComboOLECompleteDrag", kFace, Notice::OLECompleteDrag, "Effect"),
-        ownEvent<&E::ComboOLEDragDrop>("ComboOLEDragDrop"),
-        ownEvent<&E::ComboOLEDragOver>("ComboOLEDragOver"),
+        declared<&E::ComboOLEDragDrop>("ComboOLEDragDrop"),
+        declared<&E::ComboOLEDragOver>("ComboOLEDragOver"),
         event<&E::ComboOLEGiveFeedback>("ComboOLEGiveFeedback", kFace, Notice::OLEGiveFeedback, "Effect",
                                         "DefaultCursors"),
-        ownEvent<&E::ComboOLESetData>("ComboOLESetData"),
-        ownEvent<&E::ComboOLEStartDrag>("ComboOLEStartDrag"),
+        declared<&E::ComboOLESetData>("ComboOLESetData"),
+        declared<&E::ComboOLEStartDrag>("ComboOLEStartDrag"),
         event<&E::ComboScroll>("ComboScroll", kFace, Notice::Scroll),
         event<&E::ComboValidate>("ComboValidate", kFace, Notice::Validate, "Cancel"),
-        event<&E::imgClick>("imgClick", kState, Notice::Click),
-        event<&E::imgDblClick>("imgDblClick", kState, Notice::DblClick),
     };
+
+    static constexpr auto kEvents = joined(std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue")},
+                                           core::conditionRows<E>(), kFaceEvents, core::iconRows<E>(kState));
 
     static constexpr auto kMethods =
         joined(controls::ChoiceRows::kMethods,
@@ -82,6 +80,10 @@ const core::ClassInfo& ctx_ZorComboBox::classInfo() noexcept
         .initialOrder = Rows::kStored,
         .messages = Rows::kMessages,
         .events = T::kEvents,
+        .raised = {.invalid = named(T::kEvents, "InvalidValueSetTrue"),
+                   .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                   .changed = named(T::kEvents, "ComboClick")},
         .methods = T::kMethods,
         .states = Rows::kStates,
         .effects = controls::ChoiceRows::kEffects,

@@ -6,18 +6,10 @@ namespace {
 constexpr platform::Twips kHeight = 315;
 constexpr platform::Rect kDesigned{0, 0, 2415, kHeight};
 
-/// Published event numbers.
-enum Event : std::size_t {
-    kInvalidValueSetTrue = 1,
-    kDataModifiedSetTrue = 2,
-    kOutputValueChange = 3,
-    kComboClick = 8,
-};
-
 } // namespace
 
 ctx_ZorComboBox::ctx_ZorComboBox(platform::Container& container)
-    : ChoiceControl(classInfo(), container, kDesigned, kOutputValueChange, UndoAt::Surface),
+    : ChoiceControl(classInfo(), container, kDesigned, UndoAt::Surface),
       m_combo(surface().createComboBox(controls::kFace)), m_entries(*m_combo)
 {
     m_combo->setGeometry(kDesigned);
@@ -67,7 +59,7 @@ void ctx_ZorComboBox::s_SelectValue(std::int32_t value)
     if (index)
         m_combo->setCurrent(*index);
     else
-        raise(kInvalidValueSetTrue);
+        raise(raised().invalid);
 }
 
 // --- The operator
@@ -84,12 +76,12 @@ void ctx_ZorComboBox::s_HandleClick()
     const auto before = turn();
     m_status.dataModified = *value != m_reference;
     if (m_status.dataModified)
-        raise(kDataModifiedSetTrue);
+        raise(raised().dataModifiedSetTrue);
     // A handler may have added an entry, which is the selected one then.
     if (!isOvertaken(before))
         assignOutput(m_entries.currentValue().value_or(*value));
     s_UpdateColors();
-    raise(kComboClick);
+    raise(raised().changed);
 }
 
 void ctx_ZorComboBox::s_UndoEdit()

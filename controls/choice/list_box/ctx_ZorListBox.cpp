@@ -13,17 +13,10 @@ constexpr Twips kLowest = 285;  ///< a list is no lower
 constexpr Twips kIconTop = 25;  ///< of a control of one line
 constexpr platform::Rect kDesigned{0, 0, 2415, 1215};
 
-/// Published event numbers.
-enum Event : std::size_t {
-    kDataModifiedSetTrue = 2,
-    kOutputValueChange = 3,
-    kListClick = 7,
-};
-
 } // namespace
 
 ctx_ZorListBox::ctx_ZorListBox(platform::Container& container)
-    : ChoiceControl(classInfo(), container, kDesigned, kOutputValueChange, UndoAt::Surface),
+    : ChoiceControl(classInfo(), container, kDesigned, UndoAt::Surface),
       m_list(surface().createListBox(controls::kFace)), m_entries(*m_list)
 {
     adopt(*m_list);
@@ -43,7 +36,7 @@ void ctx_ZorListBox::s_ApplyDeviceValue()
     m_outputValue = m_deviceValue;
     if (!s_MarkList(m_reference))
         return;
-    raise(kOutputValueChange);
+    raise(raised().outputValueChange);
     if (isOvertaken(turn))
         return;
     m_status.dataModified = false;
@@ -98,9 +91,9 @@ void ctx_ZorListBox::s_HandleClick()
     assignOutput(controls::withBits(m_outputValue, mask, m_list->isSelected(entry)));
     judge();
     if (m_status.dataModified)
-        raise(kDataModifiedSetTrue);
+        raise(raised().dataModifiedSetTrue);
     s_UpdateColors();
-    raise(kListClick);
+    raise(raised().changed);
 }
 
 void ctx_ZorListBox::s_UndoEdit()

@@ -1,23 +1,25 @@
 // The list box as data: properties, messages, events, states, methods.
 
 #include <zor/controls/choice/list_box/ctx_ZorListBox.h>
+#include <zor/core/event_rows.h>
 
 namespace zor {
 
-using controls::joined;
 using controls::kFace;
 using controls::kState;
+using core::declared;
 using core::event;
+using core::joined;
 using core::method;
+using core::named;
 using core::ownEvent;
-using core::PropertyRow;
 using platform::Notice;
 
 struct ctx_ZorListBox::Rows : controls::EntryChoiceRows<&ctx_ZorListBox::m_invalid, &ctx_ZorListBox::m_otherUser,
                                                         &ctx_ZorListBox::m_reference> {
-    static constexpr PropertyRow SelCount =
-        core::computedRow<[](ctx_ZorListBox& box) { return box.SelCount(); }>("SelCount");
-    static constexpr PropertyRow OtherUser = R::OtherUserValue<&ctx_ZorListBox::m_otherUser>;
+    static constexpr auto SelCount =
+        core::computedRow<[](ctx_ZorListBox& box) { return box.SelCount(); }>("SelCount", core::Topic::Appearance);
+    static constexpr auto OtherUser = R::OtherUserValue<&ctx_ZorListBox::m_otherUser>;
 };
 
 struct ctx_ZorListBox::Tables {
@@ -25,19 +27,13 @@ struct ctx_ZorListBox::Tables {
     using E = __ctx_ZorListBox;
     using This = ctx_ZorListBox;
 
-    static constexpr auto kProperties = joined(R::kStored, R::kNotStored, std::array{&R::SelCount});
+    static constexpr auto kProperties = joined(R::kStored, R::kNotStored, core::rows(&R::SelCount));
 
-    static constexpr std::array kEvents{
-        ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue"),
-        ownEvent<&E::DataModifiedSetTrue>("DataModifiedSetTrue"),
-        ownEvent<&E::OutputValueChange>("OutputValueChange"),
-        ownEvent<&E::DeviceVerNotSupportedSetTrue>("DeviceVerNotSupportedSetTrue"),
-        ownEvent<&E::DeviceTypeNotSupportedSetTrue>("DeviceTypeNotSupportedSetTrue"),
-        ownEvent<&E::DataChangedSetTrue>("DataChangedSetTrue"),
+    static constexpr std::array kFaceEvents{
         ownEvent<&E::ListClick>("ListClick"),
         event<&E::ListDblClick>("ListDblClick", kFace, Notice::DblClick),
         event<&E::ListGotFocus>("ListGotFocus", kFace, Notice::GotFocus),
-        ownEvent<&E::ListItemCheck>("ListItemCheck", "Item"),
+        declared<&E::ListItemCheck>("ListItemCheck", "Item"),
         event<&E::ListKeyDown>("ListKeyDown", kFace, Notice::KeyDown, "KeyCode", "Shift"),
         event<&E::ListKeyPress>("ListKeyPress", kFace, Notice::KeyPress, "KeyAscii"),
         event<&E::ListKeyUp>("ListKeyUp", kFace, Notice::KeyUp, "KeyCode", "Shift"),
@@ -46,17 +42,18 @@ struct ctx_ZorListBox::Tables {
         event<&E::ListMouseMove>("ListMouseMove", kFace, Notice::MouseMove, "Button", "Shift", "X", "Y"),
         event<&E::ListMouseUp>("ListMouseUp", kFace, Notice::MouseUp, "Button", "Shift", "X", "Y"),
         event<&E::ListOLECompleteDrag>("ListOLECompleteDrag", kFace, Notice::OLECompleteDrag, "Effect"),
-        ownEvent<&E::ListOLEDragDrop>("ListOLEDragDrop"),
-        ownEvent<&E::ListOLEDragOver>("ListOLEDragOver"),
+        declared<&E::ListOLEDragDrop>("ListOLEDragDrop"),
+        declared<&E::ListOLEDragOver>("ListOLEDragOver"),
         event<&E::ListOLEGiveFeedback>("ListOLEGiveFeedback", kFace, Notice::OLEGiveFeedback, "Effect",
                                        "DefaultCursors"),
-        ownEvent<&E::ListOLESetData>("ListOLESetData"),
-        ownEvent<&E::ListOLEStartDrag>("ListOLEStartDrag"),
+        declared<&E::ListOLESetData>("ListOLESetData"),
+        declared<&E::ListOLEStartDrag>("ListOLEStartDrag"),
         event<&E::ListScroll>("ListScroll", kFace, Notice::Scroll),
         event<&E::ListValidate>("ListValidate", kFace, Notice::Validate, "Cancel"),
-        event<&E::imgClick>("imgClick", kState, Notice::Click),
-        event<&E::imgDblClick>("imgDblClick", kState, Notice::DblClick),
     };
+
+    static constexpr auto kEvents = joined(std::array{declared<&E::InvalidValueSetTrue>("InvalidValueSetTrue")},
+                                           core::conditionRows<E>(), kFaceEvents, core::iconRows<E>(kState));
 
     static constexpr auto kMethods =
         joined(controls::ChoiceRows::kMethods,
@@ -83,6 +80,9 @@ const core::ClassInfo& ctx_ZorListBox::classInfo() noexcept
         .initialOrder = Rows::kStored,
         .messages = Rows::kMessages,
         .events = T::kEvents,
+        .raised = {.dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                   .changed = named(T::kEvents, "ListClick")},
         .methods = T::kMethods,
         .states = Rows::kStates,
         .effects = controls::ChoiceRows::kEffects,

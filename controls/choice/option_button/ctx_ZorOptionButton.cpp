@@ -7,18 +7,10 @@ namespace {
 
 constexpr controls::CaptionLayout kLayout{315, 20};
 
-/// Published event numbers.
-enum Event : std::size_t {
-    kDataModifiedSetTrue = 1,
-    kOutputValueChange = 2,
-    kOptionClick = 6,
-};
-
 } // namespace
 
 ctx_ZorOptionButton::ctx_ZorOptionButton(platform::Container& container)
-    : CaptionChoice(classInfo(), container, kLayout, kOutputValueChange),
-      m_option(surface().createOptionButton(controls::kFace))
+    : CaptionChoice(classInfo(), container, kLayout), m_option(surface().createOptionButton(controls::kFace))
 {
     adopt(*m_option, "option");
 }
@@ -95,12 +87,12 @@ void ctx_ZorOptionButton::s_TakeChoice()
     m_outputValue = m_option->isOn() ? m_entryValue : m_enumValue;
     m_status.dataModified = m_outputValue != m_reference;
     if (m_status.dataModified)
-        raise(kDataModifiedSetTrue);
+        raise(raised().dataModifiedSetTrue);
     s_UpdateColors();
-    raise(kOptionClick);
+    raise(raised().changed);
     // A button that is not selected has no value to hand over; the one that is tells the host.
     if (m_option->isOn())
-        raise(kOutputValueChange);
+        raise(raised().outputValueChange);
 }
 
 void ctx_ZorOptionButton::s_UndoEdit()

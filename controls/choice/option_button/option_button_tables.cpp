@@ -1,49 +1,51 @@
 // The option button as data: properties, messages, events, states, methods.
 
 #include <zor/controls/choice/option_button/ctx_ZorOptionButton.h>
+#include <zor/core/event_rows.h>
 
 namespace zor {
 
-using controls::joined;
 using controls::kFace;
 using controls::kState;
+using core::declared;
 using core::event;
 using core::fieldRow;
+using core::joined;
+using core::named;
 using core::ownEvent;
-using core::PropertyRow;
 using platform::Notice;
 
 struct ctx_ZorOptionButton::Rows
     : controls::CaptionChoiceRows<&ctx_ZorOptionButton::m_otherUser, &ctx_ZorOptionButton::m_reference> {
     using This = ctx_ZorOptionButton;
 
-    static constexpr PropertyRow EnumValue =
-        fieldRow<&This::m_enumValue>("EnumValue").initially(0).then<&This::s_ApplyEnumValue>();
-    static constexpr PropertyRow OptionButtonCaption =
-        fieldRow<&This::m_caption>("OptionButtonCaption").stored("option").then<&This::s_ShowCaption>();
+    static constexpr auto EnumValue = fieldRow<&This::m_enumValue>("EnumValue", core::Topic::Value)
+                                          .placed(core::Placing::Chosen)
+                                          .initially(0)
+                                          .then<&This::s_ApplyEnumValue>();
+    static constexpr auto OptionButtonCaption =
+        fieldRow<&This::m_caption>("OptionButtonCaption", core::Topic::Appearance)
+            .stored("option")
+            .then<&This::s_ShowCaption>();
     // A form says what its button stands for, even when that is 0.
-    static constexpr PropertyRow EnumEntryValue = fieldRow<&This::m_entryValue>("EnumEntryValue").alwaysStored(0);
-    static constexpr PropertyRow OptionButtonValue =
-        core::computedRow<[](This& button) { return button.OptionButtonValue(); }>("OptionButtonValue")
+    static constexpr auto EnumEntryValue = fieldRow<&This::m_entryValue>("EnumEntryValue", core::Topic::Value).alwaysStored(0);
+    static constexpr auto OptionButtonValue =
+        core::computedRow<[](This& button) { return button.OptionButtonValue(); }>("OptionButtonValue",
+                                                                                   core::Topic::Appearance)
             .written<[](This& button, bool value) { button.OptionButtonValue(value); }>();
-    static constexpr PropertyRow OtherUser = R::OtherUserValue<&This::m_otherUser>;
+    static constexpr auto OtherUser = R::OtherUserValue<&This::m_otherUser>;
 };
 
 struct ctx_ZorOptionButton::Tables {
     using R = Rows;
     using E = __ctx_ZorOptionButton;
 
-    static constexpr std::array kOwn{&R::OptionButtonCaption, &R::EnumEntryValue};
-    static constexpr auto kInitialOrder = joined(R::kStored, std::array{&R::EnumValue}, kOwn);
+    static constexpr auto kOwn = core::rows(&R::OptionButtonCaption, &R::EnumEntryValue);
+    static constexpr auto kInitialOrder = joined(R::kStored, core::rows(&R::EnumValue), kOwn);
     static constexpr auto kProperties =
-        joined(R::kStored, kOwn, R::kNotStored, std::array{&R::EnumValue, &R::OptionButtonValue});
+        joined(R::kStored, kOwn, R::kNotStored, core::rows(&R::EnumValue, &R::OptionButtonValue));
 
-    static constexpr std::array kEvents{
-        ownEvent<&E::DataModifiedSetTrue>("DataModifiedSetTrue"),
-        ownEvent<&E::OutputValueChange>("OutputValueChange"),
-        ownEvent<&E::DeviceVerNotSupportedSetTrue>("DeviceVerNotSupportedSetTrue"),
-        ownEvent<&E::DeviceTypeNotSupportedSetTrue>("DeviceTypeNotSupportedSetTrue"),
-        ownEvent<&E::DataChangedSetTrue>("DataChangedSetTrue"),
+    static constexpr std::array kFaceEvents{
         ownEvent<&E::OptionClick>("OptionClick"),
         event<&E::OptionDblClick>("OptionDblClick", kFace, Notice::DblClick),
         event<&E::OptionGotFocus>("OptionGotFocus", kFace, Notice::GotFocus),
@@ -55,16 +57,16 @@ struct ctx_ZorOptionButton::Tables {
         event<&E::OptionMouseMove>("OptionMouseMove", kFace, Notice::MouseMove, "Button", "Shift", "X", "Y"),
         event<&E::OptionMouseUp>("OptionMouseUp", kFace, Notice::MouseUp, "Button", "Shift", "X", "Y"),
         event<&E::OptionOLECompleteDrag>("OptionOLECompleteDrag", kFace, Notice::OLECompleteDrag, "Effect"),
-        ownEvent<&E::OptionOLEDragDrop>("OptionOLEDragDrop"),
-        ownEvent<&E::OptionOLEDragOver>("OptionOLEDragOver"),
+        declared<&E::OptionOLEDragDrop>("OptionOLEDragDrop"),
+        declared<&E::OptionOLEDragOver>("OptionOLEDragOver"),
         event<&E::OptionOLEGiveFeedback>("OptionOLEGiveFeedback", kFace, Notice::OLEGiveFeedback, "Effect",
                                          "DefaultCursors"),
-        ownEvent<&E::OptionOLESetData>("OptionOLESetData"),
-        ownEvent<&E::OptionOLEStartDrag>("OptionOLEStartDrag"),
+        declared<&E::OptionOLESetData>("OptionOLESetData"),
+        declared<&E::OptionOLEStartDrag>("OptionOLEStartDrag"),
         event<&E::OptionValidate>("OptionValidate", kFace, Notice::Validate, "Cancel"),
-        event<&E::imgClick>("imgClick", kState, Notice::Click),
-        event<&E::imgDblClick>("imgDblClick", kState, Notice::DblClick),
     };
+
+    static constexpr auto kEvents = joined(core::conditionRows<E>(), kFaceEvents, core::iconRows<E>(kState));
 
     static constexpr auto kWidgets = controls::ChoiceRows::widgets("opt_OptionButton");
 };
@@ -78,6 +80,9 @@ const core::ClassInfo& ctx_ZorOptionButton::classInfo() noexcept
         .initialOrder = T::kInitialOrder,
         .messages = Rows::kMessages,
         .events = T::kEvents,
+        .raised = {.dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                   .changed = named(T::kEvents, "OptionClick")},
         .methods = controls::ChoiceRows::kMethods,
         .states = Rows::kStates,
         .effects = controls::ChoiceRows::kEffects,

@@ -1,6 +1,8 @@
 // The status image as data: properties, messages, events, states, methods.
 
 #include <zor/controls/display/image/ctx_ZorImage.h>
+#include <zor/core/event_rows.h>
+#include <zor/core/joined.h>
 #include <zor/core/shared_methods.h>
 #include <zor/core/shared_rows.h>
 
@@ -9,11 +11,10 @@
 namespace zor {
 
 using core::Access;
+using core::declared;
 using core::event;
 using core::fieldRow;
 using core::method;
-using core::ownEvent;
-using core::PropertyRow;
 using core::Refresh;
 using core::SharedRows;
 using platform::Notice;
@@ -24,30 +25,35 @@ struct ctx_ZorImage::Rows {
     using This = ctx_ZorImage;
     using S = SharedRows;
 
-    static constexpr PropertyRow DeviceValue =
-        fieldRow<&This::m_deviceValue>("DeviceValue").stored(0).refreshing({Refresh::Status});
-    static constexpr PropertyRow UseAuxIcon = fieldRow<&This::m_useAuxIcon>("UseAuxIcon").stored(false);
-    static constexpr PropertyRow ReadOnly = S::ReadOnly.with(Access::Silent).refreshing({});
-    static constexpr PropertyRow MessageHeader =
-        S::MessageHeader.initially("Qex").then<&This::describeForReaders>();
+    static constexpr auto DeviceValue = fieldRow<&This::m_deviceValue>("DeviceValue", core::Topic::Value)
+                                            .placed(core::Placing::Device)
+                                            .stored(0)
+                                            .refreshing({Refresh::Status});
+    static constexpr auto UseAuxIcon =
+        fieldRow<&This::m_useAuxIcon>("UseAuxIcon", core::Topic::Appearance).stored(false);
+    static constexpr auto ReadOnly = S::ReadOnly.with(Access::Silent).refreshing({});
+    static constexpr auto MessageHeader = S::MessageHeader.initially("Qex").then<&This::describeForReaders>();
 
     // Three texts of a new image are not those of a form that says nothing; forms in the field rely on both.
-    static constexpr PropertyRow MsgDefault =
-        S::MsgDefault.stored("Detailed Information about ").initially("Status OK");
-    static constexpr PropertyRow StatusText =
-        fieldRow<&This::m_texts, &Texts::status>("StatusText").stored("Status").initially("");
-    static constexpr PropertyRow MsgStatusOK = fieldRow<&This::m_texts, &Texts::ok>("MsgStatusOK")
-                                                   .stored("- No Information. Status OK.")
-                                                   .initially("- No Information. Status OK")
-                                                   .with(Access::Silent)
-                                                   .refreshing({Refresh::Status});
-    static constexpr PropertyRow MsgStatusNotOK = fieldRow<&This::m_texts, &Texts::notOk>("MsgStatusNotOK")
-                                                      .stored("Status Not OK")
-                                                      .with(Access::Silent)
-                                                      .refreshing({Refresh::Status});
-    static constexpr PropertyRow MsgUndefined =
-        fieldRow<&This::m_texts, &Texts::undefined>("MsgUndefined").with(Access::Silent);
-    static constexpr PropertyRow MsgBit = fieldRow<&This::m_texts, &Texts::bit>("MsgBit").with(Access::Silent);
+    static constexpr auto MsgDefault = S::MsgDefault.stored("Detailed Information about ").initially("Status OK");
+    static constexpr auto StatusText =
+        fieldRow<&This::m_texts, &Texts::status>("StatusText", core::Topic::Messages)
+            .stored("Status")
+            .initially("");
+    static constexpr auto MsgStatusOK = fieldRow<&This::m_texts, &Texts::ok>("MsgStatusOK", core::Topic::Messages)
+                                            .stored("- No Information. Status OK.")
+                                            .initially("- No Information. Status OK")
+                                            .with(Access::Silent)
+                                            .refreshing({Refresh::Status});
+    static constexpr auto MsgStatusNotOK =
+        fieldRow<&This::m_texts, &Texts::notOk>("MsgStatusNotOK", core::Topic::Messages)
+            .stored("Status Not OK")
+            .with(Access::Silent)
+            .refreshing({Refresh::Status});
+    static constexpr auto MsgUndefined =
+        fieldRow<&This::m_texts, &Texts::undefined>("MsgUndefined", core::Topic::Messages).with(Access::Silent);
+    static constexpr auto MsgBit =
+        fieldRow<&This::m_texts, &Texts::bit>("MsgBit", core::Topic::Messages).with(Access::Silent);
 };
 
 // --- States
@@ -92,21 +98,21 @@ struct ctx_ZorImage::Tables {
     using E = __ctx_ZorImage;
 
     // clang-format off
-    static constexpr std::array kProperties{
+    static constexpr auto kProperties = core::rows(
         &S::CFail, &S::WaitingForData, &R::DeviceValue, &S::DataNotAvailable, &S::DeviceTypeSupported,
         &S::DeviceMinVersionSupported, &S::DeviceMaxVersionSupported, &S::DeviceTag, &S::DeviceTagNotFound,
         &S::DeviceVerNotSupported, &S::DeviceTypeNotSupported, &S::MsgCfail, &S::MsgDataNotAvailable,
         &S::MsgDeviceTagNotFound, &R::MsgDefault, &R::StatusText, &R::MsgStatusNotOK, &R::MsgStatusOK,
         &S::DeviceType, &S::DeviceVersion, &S::RegisterType, &S::EnableControl, &R::ReadOnly, &R::UseAuxIcon,
         // not stored
-        &R::MessageHeader, &R::MsgUndefined, &R::MsgBit};
+        &R::MessageHeader, &R::MsgUndefined, &R::MsgBit);
 
-    static constexpr std::array kInitialOrder{
+    static constexpr auto kInitialOrder = core::rows(
         &S::CFail, &R::DeviceValue, &S::WaitingForData, &S::DataNotAvailable, &S::DeviceTypeSupported,
         &S::DeviceMinVersionSupported, &S::DeviceMaxVersionSupported, &S::DeviceTag, &S::DeviceTagNotFound,
         &S::DeviceVerNotSupported, &S::DeviceTypeNotSupported, &S::MsgCfail, &S::MsgDataNotAvailable,
         &S::MsgDeviceTagNotFound, &R::MsgDefault, &R::MsgStatusNotOK, &R::MsgStatusOK, &S::DeviceType,
-        &S::DeviceVersion, &S::RegisterType, &S::EnableControl, &R::StatusText, &R::ReadOnly, &R::UseAuxIcon};
+        &S::DeviceVersion, &S::RegisterType, &S::EnableControl, &R::StatusText, &R::ReadOnly, &R::UseAuxIcon);
     // clang-format on
 
     // Waiting has a picture of its own; there are no colours, and a failure disables nothing.
@@ -124,22 +130,21 @@ struct ctx_ZorImage::Tables {
         core::MessageRow{"MSG_DEVICETAGNOTFOUND", &S::MsgDeviceTagNotFound},
     };
 
-    static constexpr std::array kEvents{
-        ownEvent<&E::DeviceVerNotSupportedSetTrue>("DeviceVerNotSupportedSetTrue"),
-        ownEvent<&E::DeviceTypeNotSupportedSetTrue>("DeviceTypeNotSupportedSetTrue"),
+    static constexpr std::array kPictureEvents{
         event<&E::imageClick>("imageClick", kState, Notice::Click),
         event<&E::imageDblClick>("imageDblClick", kState, Notice::DblClick),
         event<&E::imageMouseDown>("imageMouseDown", kState, Notice::MouseDown, "Button", "Shift", "X", "Y"),
         event<&E::imageMouseMove>("imageMouseMove", kState, Notice::MouseMove, "Button", "Shift", "X", "Y"),
         event<&E::imageMouseUp>("imageMouseUp", kState, Notice::MouseUp, "Button", "Shift", "X", "Y"),
         event<&E::imageOLECompleteDrag>("imageOLECompleteDrag", kState, Notice::OLECompleteDrag, "Effect"),
-        ownEvent<&E::imageOLEDragDrop>("imageOLEDragDrop", "Data", "Effect", "Button", "Shift", "X", "Y"),
-        ownEvent<&E::imageOLEDragOver>("imageOLEDragOver", "Data", "Effect", "Button", "Shift", "X", "Y", "State"),
+        declared<&E::imageOLEDragDrop>("imageOLEDragDrop", "Data", "Effect", "Button", "Shift", "X", "Y"),
+        declared<&E::imageOLEDragOver>("imageOLEDragOver", "Data", "Effect", "Button", "Shift", "X", "Y", "State"),
         event<&E::imageOLEGiveFeedback>("imageOLEGiveFeedback", kState, Notice::OLEGiveFeedback, "Effect",
                                         "DefaultCursors"),
-        ownEvent<&E::imageOLESetData>("imageOLESetData", "Data", "DataFormat"),
-        ownEvent<&E::imageOLEStartDrag>("imageOLEStartDrag", "Data", "AllowedEffects"),
+        declared<&E::imageOLESetData>("imageOLESetData", "Data", "DataFormat"),
+        declared<&E::imageOLEStartDrag>("imageOLEStartDrag", "Data", "AllowedEffects"),
     };
+    static constexpr auto kEvents = core::joined(core::supportRows<E>(), kPictureEvents);
 
     // One of the rows always applies: the picture is the control, and is never without a state.
     static constexpr std::array kStates{S::CommunicationFailure, S::TagNotFound,     S::NoData,

@@ -1,6 +1,8 @@
 // The label as data: properties, messages, events, states, methods.
 
 #include <zor/controls/display/label/ctx_ZorLabel.h>
+#include <zor/core/event_rows.h>
+#include <zor/core/joined.h>
 #include <zor/core/shared_methods.h>
 #include <zor/core/shared_rows.h>
 
@@ -9,10 +11,9 @@
 namespace zor {
 
 using core::computedRow;
+using core::declared;
 using core::event;
 using core::fieldRow;
-using core::ownEvent;
-using core::PropertyRow;
 using core::Refresh;
 using core::SharedRows;
 using platform::Notice;
@@ -22,23 +23,25 @@ using platform::Notice;
 struct ctx_ZorLabel::Rows {
     using This = ctx_ZorLabel;
 
-    static constexpr PropertyRow DeviceValue =
-        fieldRow<&This::m_deviceValue>("DeviceValue")
+    static constexpr auto DeviceValue =
+        fieldRow<&This::m_deviceValue>("DeviceValue", core::Topic::Value)
+            .placed(core::Placing::Device)
             .stored("")
             .then<[](This& label) { label.m_label->setCaption(label.m_deviceValue); }>();
-    static constexpr PropertyRow LabelCaption = fieldRow<&This::m_writtenCaption>("LabelCaption")
-                                                    .stored("Label")
-                                                    .reading<[](This& label) { return label.LabelCaption(); }>()
-                                                    .then<[](This& label) {
-                                                        label.showWrittenCaption();
-                                                        label.s_PlaceIcon();
-                                                    }>();
-    static constexpr PropertyRow LabelFontItalic =
-        computedRow<[](This& label) { return label.LabelFontItalic(); }>("LabelFontItalic")
+    static constexpr auto LabelCaption = fieldRow<&This::m_writtenCaption>("LabelCaption", core::Topic::Appearance)
+                                             .stored("Label")
+                                             .reading<[](This& label) { return label.LabelCaption(); }>()
+                                             .then<[](This& label) {
+                                                 label.showWrittenCaption();
+                                                 label.s_PlaceIcon();
+                                             }>();
+    static constexpr auto LabelFontItalic =
+        computedRow<[](This& label) { return label.LabelFontItalic(); }>("LabelFontItalic",
+                                                                         core::Topic::Appearance)
             .written<[](This& label, bool italic) { label.LabelFontItalic(italic); }>()
             .stored(false);
-    static constexpr PropertyRow LabelFontBold =
-        computedRow<[](This& label) { return label.LabelFontBold(); }>("LabelFontBold")
+    static constexpr auto LabelFontBold =
+        computedRow<[](This& label) { return label.LabelFontBold(); }>("LabelFontBold", core::Topic::Appearance)
             .written<[](This& label, bool bold) { label.LabelFontBold(bold); }>();
 };
 
@@ -50,21 +53,21 @@ struct ctx_ZorLabel::Tables {
     using E = __ctx_ZorLabel;
 
     // clang-format off
-    static constexpr std::array kProperties{
+    static constexpr auto kProperties = core::rows(
         &S::CFail, &S::WaitingForData, &R::DeviceValue, &S::DataNotAvailable, &S::DeviceTypeSupported,
         &S::DeviceMinVersionSupported, &S::DeviceMaxVersionSupported, &S::DeviceTag, &S::DeviceTagNotFound,
         &S::DeviceVerNotSupported, &S::DeviceTypeNotSupported, &S::MsgCfail, &S::MsgDataNotAvailable,
         &S::MsgDeviceTagNotFound, &S::MsgDefault, &S::IconEnable, &S::DeviceType, &S::DeviceVersion,
         &S::RegisterType, &S::EnableControl, &R::LabelCaption, &R::LabelFontItalic,
         // not stored
-        &S::MessageHeader, &R::LabelFontBold};
+        &S::MessageHeader, &R::LabelFontBold);
 
-    static constexpr std::array kInitialOrder{
+    static constexpr auto kInitialOrder = core::rows(
         &S::CFail, &R::DeviceValue, &S::WaitingForData, &S::DataNotAvailable, &S::DeviceTypeSupported,
         &S::DeviceMinVersionSupported, &S::DeviceMaxVersionSupported, &S::DeviceTag, &S::DeviceTagNotFound,
         &S::DeviceVerNotSupported, &S::DeviceTypeNotSupported, &S::MsgCfail, &S::MsgDataNotAvailable,
         &S::MsgDeviceTagNotFound, &S::MsgDefault, &S::IconEnable, &S::DeviceType, &S::DeviceVersion,
-        &S::RegisterType, &S::EnableControl, &R::LabelCaption, &R::LabelFontItalic};
+        &S::RegisterType, &S::EnableControl, &R::LabelCaption, &R::LabelFontItalic);
     // clang-format on
 
     // Nothing is edited here, so the register bank changes nothing, and a failure disables nothing.
@@ -80,29 +83,26 @@ struct ctx_ZorLabel::Tables {
         core::MessageRow{"MSG_DEFAULT", &S::MsgDefault},
     };
 
-    static constexpr std::array kEvents{
-        ownEvent<&E::DeviceVerNotSupportedSetTrue>("DeviceVerNotSupportedSetTrue"),
-        ownEvent<&E::DeviceTypeNotSupportedSetTrue>("DeviceTypeNotSupportedSetTrue"),
+    static constexpr std::array kTextEvents{
         event<&E::labelChange>("labelChange", kLabel, Notice::Change),
         event<&E::labelClick>("labelClick", kLabel, Notice::Click),
         event<&E::labelDblClick>("labelDblClick", kLabel, Notice::DblClick),
-        ownEvent<&E::labelLinkClose>("labelLinkClose"),
-        ownEvent<&E::labelLinkError>("labelLinkError", "LinkErr"),
+        declared<&E::labelLinkClose>("labelLinkClose"),
+        declared<&E::labelLinkError>("labelLinkError", "LinkErr"),
         event<&E::labelLinkNotify>("labelLinkNotify", kLabel, Notice::LinkNotify),
         event<&E::labelLinkOpen>("labelLinkOpen", kLabel, Notice::LinkOpen, "Cancel"),
         event<&E::labelMouseDown>("labelMouseDown", kLabel, Notice::MouseDown, "Button", "Shift", "X", "Y"),
         event<&E::labelMouseMove>("labelMouseMove", kLabel, Notice::MouseMove, "Button", "Shift", "X", "Y"),
         event<&E::labelMouseUp>("labelMouseUp", kLabel, Notice::MouseUp, "Button", "Shift", "X", "Y"),
         event<&E::labelOLECompleteDrag>("labelOLECompleteDrag", kLabel, Notice::OLECompleteDrag, "Effect"),
-        ownEvent<&E::labelOLEDragDrop>("labelOLEDragDrop", "Data", "Effect", "Button", "Shift", "X", "Y"),
-        ownEvent<&E::labelOLEDragOver>("labelOLEDragOver", "Data", "Effect", "Button", "Shift", "X", "Y", "State"),
+        declared<&E::labelOLEDragDrop>("labelOLEDragDrop", "Data", "Effect", "Button", "Shift", "X", "Y"),
+        declared<&E::labelOLEDragOver>("labelOLEDragOver", "Data", "Effect", "Button", "Shift", "X", "Y", "State"),
         event<&E::labelOLEGiveFeedback>("labelOLEGiveFeedback", kLabel, Notice::OLEGiveFeedback, "Effect",
                                         "DefaultCursors"),
-        ownEvent<&E::labelOLESetData>("labelOLESetData", "Data", "DataFormat"),
-        ownEvent<&E::labelOLEStartDrag>("labelOLEStartDrag", "Data", "AllowedEffects"),
-        event<&E::imgClick>("imgClick", kState, Notice::Click),
-        event<&E::imgDblClick>("imgDblClick", kState, Notice::DblClick),
+        declared<&E::labelOLESetData>("labelOLESetData", "Data", "DataFormat"),
+        declared<&E::labelOLEStartDrag>("labelOLEStartDrag", "Data", "AllowedEffects"),
     };
+    static constexpr auto kEvents = core::joined(core::supportRows<E>(), kTextEvents, core::iconRows<E>(kState));
 
     static constexpr std::array kStates{S::CommunicationFailure, S::TagNotFound, S::NoData};
 

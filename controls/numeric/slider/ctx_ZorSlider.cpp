@@ -81,7 +81,7 @@ void ctx_ZorSlider::setPosition(std::int32_t position)
 void ctx_ZorSlider::assignOutput(double value)
 {
     m_output = value;
-    raise(kOutputValueChange);
+    raise(raised().outputValueChange);
 }
 
 // --- From the operator to the device
@@ -93,7 +93,7 @@ void ctx_ZorSlider::s_TrackMoved()
     if (isOvertaken(turn))
         return;
     assignOutput(m_units.toDevice(m_track->value()));
-    raise(kShownChange);
+    raise(raised().changed);
 }
 
 void ctx_ZorSlider::putBack()

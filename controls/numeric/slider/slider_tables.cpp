@@ -2,6 +2,8 @@
 
 #include <zor/controls/numeric/range_rows.h>
 #include <zor/controls/numeric/slider/ctx_ZorSlider.h>
+#include <zor/core/event_rows.h>
+#include <zor/core/joined.h>
 
 #include <array>
 
@@ -12,6 +14,7 @@ using core::Access;
 using core::computedRow;
 using core::event;
 using core::fieldRow;
+using core::named;
 using core::ownEvent;
 using core::SharedRows;
 using platform::Notice;
@@ -20,42 +23,45 @@ struct ctx_ZorSlider::Rows : RangeRows {
     using This = ctx_ZorSlider;
 
     // What is kept and stored is the value in track steps.
-    static constexpr PropertyRow DeviceValue =
-        fieldRow<&This::m_deviceValue>("DeviceValue")
+    static constexpr auto DeviceValue =
+        fieldRow<&This::m_deviceValue>("DeviceValue", core::Topic::Value)
+            .placed(core::Placing::Device)
             .stored(0.0)
             .then<&This::s_ApplyDeviceValue>()
             .written<[](This& slider, double value) { slider.DeviceValue(value); }>();
-    static constexpr PropertyRow OutputValue = fieldRow<&This::m_output>("OutputValue")
-                                                   .stored(0.0)
-                                                   .with(Access::Derived)
-                                                   .reading<[](This& slider) { return slider.OutputValue(); }>()
-                                                   .storingField();
-    static constexpr PropertyRow ModifiedValue =
-        computedRow<[](This& slider) { return slider.ModifiedValue(); }>("ModifiedValue")
+    static constexpr auto OutputValue = fieldRow<&This::m_output>("OutputValue", core::Topic::Value)
+                                            .stored(0.0)
+                                            .with(Access::Derived)
+                                            .reading<[](This& slider) { return slider.OutputValue(); }>()
+                                            .storingField();
+    static constexpr auto ModifiedValue =
+        computedRow<[](This& slider) { return slider.ModifiedValue(); }>("ModifiedValue", core::Topic::Value)
             .written<[](This& slider, double value) { slider.ModifiedValue(value); }>();
-    static constexpr PropertyRow OtherUserValue = OtherUser<&This::m_otherUser>;
-    static constexpr PropertyRow ScaleFactor =
-        fieldRow<&This::m_scaleFactor>("ScaleFactor").initially(1).with(Access::Silent);
+    static constexpr auto OtherUserValue = OtherUser<&This::m_otherUser>;
+    static constexpr auto ScaleFactor =
+        fieldRow<&This::m_scaleFactor>("ScaleFactor", core::Topic::Appearance).initially(1).with(Access::Silent);
 
-    static constexpr PropertyRow MaxValue = RangeRows::MaxValue.stored(10.0);
-    static constexpr PropertyRow MaxParamValue = RangeRows::MaxParamValue.stored(10.0);
-    static constexpr PropertyRow EnableValues =
-        fieldRow<&This::m_enableValues>("EnableValues").stored(true).then<&This::s_UpdateUnitLabelVisibility>();
-    static constexpr PropertyRow MinPrefix =
-        fieldRow<&This::m_minPrefix>("MinPrefix").stored("").then<&This::s_ShowPrefixes>();
-    static constexpr PropertyRow MaxPrefix =
-        fieldRow<&This::m_maxPrefix>("MaxPrefix").stored("").then<&This::s_ShowPrefixes>();
+    static constexpr auto MaxValue = RangeRows::MaxValue.stored(10.0);
+    static constexpr auto MaxParamValue = RangeRows::MaxParamValue.stored(10.0);
+    static constexpr auto EnableValues = fieldRow<&This::m_enableValues>("EnableValues", core::Topic::Appearance)
+                                             .stored(true)
+                                             .then<&This::s_UpdateUnitLabelVisibility>();
+    static constexpr auto MinPrefix =
+        fieldRow<&This::m_minPrefix>("MinPrefix", core::Topic::Range).stored("").then<&This::s_ShowPrefixes>();
+    static constexpr auto MaxPrefix =
+        fieldRow<&This::m_maxPrefix>("MaxPrefix", core::Topic::Range).stored("").then<&This::s_ShowPrefixes>();
 
     // One setting under two names: it is read as the style and written as the type.
-    static constexpr PropertyRow TickStyle =
-        computedRow<[](This& slider) { return slider.TickStyle(); }>("TickStyle");
-    static constexpr PropertyRow TickType =
-        core::writeOnlyRow<[](This& slider, std::int16_t value) { slider.TickType(value); }>("TickType");
-    static constexpr PropertyRow TickFrequency =
-        computedRow<[](This& slider) { return slider.TickFrequency(); }>("TickFrequency")
+    static constexpr auto TickStyle =
+        computedRow<[](This& slider) { return slider.TickStyle(); }>("TickStyle", core::Topic::Appearance);
+    static constexpr auto TickType =
+        core::writeOnlyRow<[](This& slider, std::int16_t value) { slider.TickType(value); }>(
+            "TickType", core::Topic::Appearance);
+    static constexpr auto TickFrequency =
+        computedRow<[](This& slider) { return slider.TickFrequency(); }>("TickFrequency", core::Topic::Appearance)
             .written<[](This& slider, double value) { slider.TickFrequency(value); }>();
-    static constexpr PropertyRow GetNumTicks =
-        computedRow<[](This& slider) { return slider.GetNumTicks(); }>("GetNumTicks");
+    static constexpr auto GetNumTicks =
+        computedRow<[](This& slider) { return slider.GetNumTicks(); }>("GetNumTicks", core::Topic::Appearance);
 };
 
 namespace {
@@ -77,7 +83,7 @@ struct ctx_ZorSlider::Tables {
     using E = __ctx_ZorSlider;
 
     // clang-format off
-    static constexpr std::array kProperties{
+    static constexpr auto kProperties = core::rows(
         &S::CFail, &R::MinValue, &R::MaxValue, &R::MinParamValue, &R::MaxParamValue, &R::InvalidValue,
         &S::DataModified, &S::WaitingForData, &R::UnitType, &R::DeviceValue, &R::OutputValue,
         &R::DeviceUnitInTenths, &R::OutputUnit, &S::DataChanged, &S::DataNotAvailable, &S::DeviceTypeSupported,
@@ -88,7 +94,7 @@ struct ctx_ZorSlider::Tables {
         &S::RegisterType, &S::EnableControl, &R::EnableValues, &R::MinPrefix, &R::MaxPrefix,
         // not stored
         &S::MessageHeader, &R::ModifiedValue, &R::OtherUserValue, &R::ScaleFactor, &R::TickStyle, &R::TickType,
-        &R::TickFrequency, &R::GetNumTicks};
+        &R::TickFrequency, &R::GetNumTicks);
     // clang-format on
     static constexpr auto kOrder = controls::limitsAfterUnit<kProperties>();
 
@@ -117,8 +123,8 @@ struct ctx_ZorSlider::Tables {
         event<&E::sliderValidate>("sliderValidate", kTrack, Notice::Validate, "Cancel"),
     };
 
-    static constexpr auto kEvents = core::joinedEvents(
-        std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue")}, controls::conditionRows<E>(),
+    static constexpr auto kEvents = core::joined(
+        std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue")}, core::conditionRows<E>(),
         kTrackEvents,
         labelRows<&E::LabelMinUnitChange, &E::LabelMinUnitClick, &E::LabelMinUnitDblClick,
                   &E::LabelMinUnitMouseMove>(kMinUnit, {"LabelMinUnitChange", "LabelMinUnitClick",
@@ -138,7 +144,7 @@ struct ctx_ZorSlider::Tables {
         labelRows<&E::LabelMaxPrefixChange, &E::LabelMaxPrefixClick, &E::LabelMaxPrefixDblClick,
                   &E::LabelMaxPrefixMouseMove>(kMaxPrefix, {"LabelMaxPrefixChange", "LabelMaxPrefixClick",
                                                             "LabelMaxPrefixDblClick", "LabelMaxPrefixMouseMove"}),
-        controls::iconRows<E>(Number::kState));
+        core::iconRows<E>(Number::kState));
 
     static constexpr auto kStates = R::kStates<&ctx_ZorSlider::m_otherUser, &ctx_ZorSlider::m_reference>;
 
@@ -166,6 +172,10 @@ const core::ClassInfo& ctx_ZorSlider::classInfo() noexcept
         .initialOrder = T::kOrder,
         .messages = Rows::kMessages,
         .events = T::kEvents,
+        .raised = {.invalid = named(T::kEvents, "InvalidValueSetTrue"),
+                   .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                   .changed = named(T::kEvents, "sliderChange")},
         .methods = T::kMethods,
         .states = T::kStates,
         .widgets = T::kWidgets,

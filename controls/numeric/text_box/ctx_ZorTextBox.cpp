@@ -72,7 +72,7 @@ void ctx_ZorTextBox::showsFrom(const Variant& value)
 void ctx_ZorTextBox::assignOutput(Variant value)
 {
     m_outputValue = std::move(value);
-    raise(kOutputValueChange);
+    raise(raised().outputValueChange);
 }
 
 bool ctx_ZorTextBox::showsDisplayValue() const

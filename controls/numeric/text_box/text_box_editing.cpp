@@ -26,7 +26,7 @@ void ctx_ZorTextBox::onTextChanged()
         m_isEdited = true;
     judge(!std::exchange(m_isUndoing, false) && !equalsDisplayValue());
     s_UpdateColors();
-    raise(kShownChange);
+    raise(raised().changed);
 }
 
 // --- Commit
@@ -73,7 +73,7 @@ void ctx_ZorTextBox::validateEntry(bool reformat)
 void ctx_ZorTextBox::setInvalidEntry()
 {
     m_invalidEntry = true;
-    raise(kInvalidSetTrue);
+    raise(raised().invalid);
 }
 
 void ctx_ZorTextBox::assignEntry()

@@ -1,7 +1,10 @@
 // The text box as data: properties, messages, events, states, methods.
 
+#include <zor/controls/numeric/entry_field_rows.h>
 #include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
 #include <zor/controls/numeric/unit_rows.h>
+#include <zor/core/event_rows.h>
+#include <zor/core/joined.h>
 
 #include <array>
 
@@ -13,6 +16,7 @@ using core::Access;
 using core::computedRow;
 using core::fieldRow;
 using core::method;
+using core::named;
 using core::ownEvent;
 using core::Refresh;
 using core::SharedRows;
@@ -24,60 +28,60 @@ using std::string_view;
 struct ctx_ZorTextBox::Rows : UnitRows {
     using This = ctx_ZorTextBox;
 
-    static constexpr PropertyRow DeviceValue =
-        fieldRow<&This::m_deviceValue>("DeviceValue").stored(0).then<&This::s_ApplyDeviceValue>();
-    static constexpr PropertyRow OutputValue =
-        fieldRow<&This::m_outputValue>("OutputValue").stored(0).with(Access::Derived);
-    static constexpr PropertyRow ModifiedValue =
-        computedRow<[](This& box) { return box.ModifiedValue(); }>("ModifiedValue")
+    static constexpr auto DeviceValue = fieldRow<&This::m_deviceValue>("DeviceValue", core::Topic::Value)
+                                            .placed(core::Placing::Device)
+                                            .stored(0)
+                                            .then<&This::s_ApplyDeviceValue>();
+    static constexpr auto OutputValue =
+        fieldRow<&This::m_outputValue>("OutputValue", core::Topic::Value).stored(0).with(Access::Derived);
+    static constexpr auto ModifiedValue =
+        computedRow<[](This& box) { return box.ModifiedValue(); }>("ModifiedValue", core::Topic::Value)
             .written<[](This& box, const Variant& value) { box.ModifiedValue(value); }>();
 
-    static constexpr PropertyRow InvalidEntry =
-        fieldRow<&This::m_invalidEntry>("InvalidEntry").stored(false).with(Access::Derived);
-    static constexpr PropertyRow InvalidEntryEnable =
-        fieldRow<&This::m_invalidEntryEnable>("InvalidEntryEnable").stored(true);
+    static constexpr auto InvalidEntry =
+        fieldRow<&This::m_invalidEntry>("InvalidEntry", core::Topic::State).stored(false).with(Access::Derived);
+    static constexpr auto InvalidEntryEnable =
+        fieldRow<&This::m_invalidEntryEnable>("InvalidEntryEnable", core::Topic::Range).stored(true);
 
-    static constexpr PropertyRow EntryType = fieldRow<&This::m_entryType>("EntryType")
-                                                 .stored(static_cast<std::int32_t>(Numeric))
-                                                 .then<&This::s_AlignText>();
+    static constexpr auto EntryType =
+        fieldRow<&This::m_entryType>("EntryType", core::Topic::Value).stored(Numeric).then<&This::s_AlignText>();
     // The key's small "o" is in every form ever saved.
-    static constexpr PropertyRow NumberOfDigits =
-        fieldRow<&This::m_numberOfDigits>("NumberOfDigits").storedAs("NumberofDigits", 3);
-    static constexpr PropertyRow NumberOfDecimals =
-        fieldRow<&This::m_numberOfDecimals>("NumberOfDecimals")
+    static constexpr auto NumberOfDigits =
+        fieldRow<&This::m_numberOfDigits>("NumberOfDigits", core::Topic::Value).storedAs("NumberofDigits", 3);
+    static constexpr auto NumberOfDecimals =
+        fieldRow<&This::m_numberOfDecimals>("NumberOfDecimals", core::Topic::Value)
             .stored(3)
             .then<[](This& box) { box.show(box.m_field.text().text()); }>();
-    static constexpr PropertyRow MaxLength = fieldRow<&This::m_maxLength>("MaxLength").stored(10);
+    static constexpr auto MaxLength = fieldRow<&This::m_maxLength>("MaxLength", core::Topic::Range).stored(10);
 
-    static constexpr PropertyRow WidthDifference =
-        fieldRow<&This::m_field, &EntryField::widthDifference>("WidthDifference")
+    static constexpr auto WidthDifference =
+        fieldRow<&This::m_field, &EntryField::widthDifference>("WidthDifference", core::Topic::Appearance)
             .stored(1305)
             .then<&This::s_Layout>();
-    static constexpr PropertyRow TextFontBold =
-        fieldRow<&This::m_textFontBold>("TextFontBold")
-            .initially(false)
-            .then<[](This& box) { box.m_field.text().setBold(box.m_textFontBold); }>();
-    static constexpr PropertyRow UnitsFontBold =
-        computedRow<[](This& box) { return box.UnitsFontBold(); }>("UnitsFontBold")
+    static constexpr auto TextFontBold = fieldRow<&This::m_textFontBold>("TextFontBold", core::Topic::Appearance)
+                                              .initially(false)
+                                              .then<[](This& box) { box.m_field.text().setBold(box.m_textFontBold); }>();
+    static constexpr auto UnitsFontBold =
+        computedRow<[](This& box) { return box.UnitsFontBold(); }>("UnitsFontBold", core::Topic::Units)
             .written<[](This& box, bool bold) { box.UnitsFontBold(bold); }>();
-    static constexpr PropertyRow SelectedText =
-        computedRow<[](This& box) { return box.SelectedText(); }>("SelectedText")
+    static constexpr auto SelectedText =
+        computedRow<[](This& box) { return box.SelectedText(); }>("SelectedText", core::Topic::Value)
             .written<[](This& box, const std::string& text) { box.SelectedText(text); }>();
 
-    static constexpr PropertyRow MsgInvalidEntry =
-        fieldRow<&This::m_entryMessages, &EntryMessages::invalid>("MsgInvalidEntry")
+    static constexpr auto MsgInvalidEntry =
+        fieldRow<&This::m_entryMessages, &EntryMessages::invalid>("MsgInvalidEntry", core::Topic::Messages)
             .stored("Invalid Entry")
             .refreshing({Refresh::Status});
-    static constexpr PropertyRow MsgInvalidEntryForText =
-        fieldRow<&This::m_entryMessages, &EntryMessages::tooLong>("MsgInvalidEntryForText")
+    static constexpr auto MsgInvalidEntryForText =
+        fieldRow<&This::m_entryMessages, &EntryMessages::tooLong>("MsgInvalidEntryForText", core::Topic::Messages)
             .stored("Text is too long. Please enter a shorter text.")
             .refreshing({Refresh::Status});
-    static constexpr PropertyRow MsgInvalidEntryTo =
-        fieldRow<&This::m_entryMessages, &EntryMessages::to>("MsgInvalidEntryTo")
+    static constexpr auto MsgInvalidEntryTo =
+        fieldRow<&This::m_entryMessages, &EntryMessages::to>("MsgInvalidEntryTo", core::Topic::Messages)
             .stored("To")
             .with(Access::Silent);
-    static constexpr PropertyRow MsgInvalidEntryNAN =
-        fieldRow<&This::m_entryMessages, &EntryMessages::notANumber>("MsgInvalidEntryNAN")
+    static constexpr auto MsgInvalidEntryNAN =
+        fieldRow<&This::m_entryMessages, &EntryMessages::notANumber>("MsgInvalidEntryNAN", core::Topic::Messages)
             .stored("Invalid Entry")
             .refreshing({Refresh::Status});
 };
@@ -125,7 +129,7 @@ struct ctx_ZorTextBox::Tables {
     using E = __ctx_ZorTextBox;
 
     // clang-format off
-    static constexpr std::array kProperties{
+    static constexpr auto kProperties = core::rows(
         &S::CFail, &R::MinParamValue, &R::MaxParamValue, &R::InvalidEntry, &R::InvalidEntryEnable,
         &S::DataModified, &S::WaitingForData, &R::UnitType, &R::DeviceValue, &R::OutputValue, &R::DeviceUnitInTenths,
         &R::OutputUnit, &S::DataChanged, &S::DataNotAvailable, &S::DeviceTypeSupported,
@@ -137,9 +141,9 @@ struct ctx_ZorTextBox::Tables {
         &R::UnitLabelCaption, &S::DeviceType, &S::DeviceVersion, &S::RegisterType, &S::EnableControl,
         &R::NumberOfDecimals, &R::WidthDifference,
         // not stored
-        &S::MessageHeader, &R::ModifiedValue, &R::SelectedText, &R::TextFontBold, &R::UnitsFontBold};
+        &S::MessageHeader, &R::ModifiedValue, &R::SelectedText, &R::TextFontBold, &R::UnitsFontBold);
 
-    static constexpr std::array kInitialOrder{
+    static constexpr auto kInitialOrder = core::rows(
         &S::CFail, &R::MinParamValue, &R::MaxParamValue, &R::InvalidEntry, &R::InvalidEntryEnable,
         &S::DataModified, &S::WaitingForData, &R::UnitType, &R::DeviceValue, &R::OutputValue, &R::DeviceUnitInTenths,
         &R::OutputUnit, &R::DefaultUnit, &S::DataChanged, &S::DataNotAvailable, &S::DeviceTypeSupported,
@@ -149,7 +153,7 @@ struct ctx_ZorTextBox::Tables {
         &R::MsgInvalidEntryForText, &S::MsgDeviceTagNotFound, &S::MsgDefault, &R::EntryType,
         &R::NumberOfDigits, &R::MaxLength, &S::IconEnable, &R::UnitEnable, &S::ReadOnly, &R::UnitLabelCaption,
         &S::DeviceType, &S::DeviceVersion, &S::RegisterType, &S::EnableControl, &R::NumberOfDecimals,
-        &R::WidthDifference};
+        &R::WidthDifference);
     // clang-format on
 
     static constexpr std::array kMessages{
@@ -163,11 +167,11 @@ struct ctx_ZorTextBox::Tables {
         core::MessageRow{"MSG_INVALIDENTRYNAN", &R::MsgInvalidEntryNAN},
     };
 
-    static constexpr auto kEvents = core::joinedEvents(
-        std::array{ownEvent<&E::InvalidEntrySetTrue>("InvalidEntrySetTrue")}, controls::conditionRows<E>(),
+    static constexpr auto kEvents = core::joined(
+        std::array{ownEvent<&E::InvalidEntrySetTrue>("InvalidEntrySetTrue")}, core::conditionRows<E>(),
         controls::entryFieldRows<E>(EntryField::kText, EntryField::kUnits,
                                     {.notify = Notice::LinkNotify, .open = Notice::LinkOpen}),
-        controls::iconRows<E>(EntryField::kState));
+        core::iconRows<E>(EntryField::kState));
 
     static constexpr std::array kStates{S::CommunicationFailure, S::TagNotFound, S::NoData, States::DataChanged,
                                         States::InvalidEntry};
@@ -194,6 +198,10 @@ const core::ClassInfo& ctx_ZorTextBox::classInfo() noexcept
         .messages = T::kMessages,
         .otherMessage = "MSG_INVALIDENTRYTO",
         .events = T::kEvents,
+        .raised = {.invalid = named(T::kEvents, "InvalidEntrySetTrue"),
+                   .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                   .changed = named(T::kEvents, "textChange")},
         .methods = T::kMethods,
         .states = T::kStates,
         .widgets = T::kWidgets,

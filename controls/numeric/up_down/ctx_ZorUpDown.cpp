@@ -82,7 +82,7 @@ void ctx_ZorUpDown::showNumber(std::int32_t number)
 void ctx_ZorUpDown::assignOutput(std::int32_t value)
 {
     m_outputValue = value;
-    raise(kOutputValueChange);
+    raise(raised().outputValueChange);
 }
 
 void ctx_ZorUpDown::assignEntry(double number)
@@ -230,7 +230,7 @@ void ctx_ZorUpDown::onTextChanged()
         return;
     }
     s_UpdateColors();
-    raise(kShownChange);
+    raise(raised().changed);
 }
 
 void ctx_ZorUpDown::s_CommitEntry()

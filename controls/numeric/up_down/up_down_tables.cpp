@@ -1,7 +1,10 @@
 // The up-down as data: properties, messages, events, states, methods.
 
+#include <zor/controls/numeric/entry_field_rows.h>
 #include <zor/controls/numeric/range_rows.h>
 #include <zor/controls/numeric/up_down/ctx_ZorUpDown.h>
+#include <zor/core/event_rows.h>
+#include <zor/core/joined.h>
 
 #include <array>
 
@@ -11,6 +14,7 @@ using controls::EntryField;
 using controls::RangeRows;
 using core::event;
 using core::fieldRow;
+using core::named;
 using core::ownEvent;
 using core::SharedRows;
 using platform::Notice;
@@ -18,19 +22,22 @@ using platform::Notice;
 struct ctx_ZorUpDown::Rows : RangeRows {
     using This = ctx_ZorUpDown;
 
-    static constexpr PropertyRow DeviceValue =
-        fieldRow<&This::m_deviceValue>("DeviceValue").stored(0).then<&This::s_ApplyDeviceValue>();
-    static constexpr PropertyRow OutputValue =
-        fieldRow<&This::m_outputValue>("OutputValue").stored(0).with(core::Access::Derived);
-    static constexpr PropertyRow ModifiedValue =
-        core::computedRow<[](This& control) { return control.ModifiedValue(); }>("ModifiedValue")
+    static constexpr auto DeviceValue = fieldRow<&This::m_deviceValue>("DeviceValue", core::Topic::Value)
+                                            .placed(core::Placing::Device)
+                                            .stored(0)
+                                            .then<&This::s_ApplyDeviceValue>();
+    static constexpr auto OutputValue =
+        fieldRow<&This::m_outputValue>("OutputValue", core::Topic::Value).stored(0).with(core::Access::Derived);
+    static constexpr auto ModifiedValue =
+        core::computedRow<[](This& control) { return control.ModifiedValue(); }>("ModifiedValue",
+                                                                                 core::Topic::Value)
             .written<[](This& control, std::int32_t value) { control.ModifiedValue(value); }>();
-    static constexpr PropertyRow OtherUserValue = OtherUser<&This::m_otherUser>;
+    static constexpr auto OtherUserValue = OtherUser<&This::m_otherUser>;
     // The key's small "o" is in every form ever saved.
-    static constexpr PropertyRow NumberOfDigits =
-        fieldRow<&This::m_numberOfDigits>("NumberOfDigits").storedAs("NumberofDigits", 3);
-    static constexpr PropertyRow WidthDifference =
-        fieldRow<&This::m_field, &EntryField::widthDifference>("WidthDifference")
+    static constexpr auto NumberOfDigits =
+        fieldRow<&This::m_numberOfDigits>("NumberOfDigits", core::Topic::Value).storedAs("NumberofDigits", 3);
+    static constexpr auto WidthDifference =
+        fieldRow<&This::m_field, &EntryField::widthDifference>("WidthDifference", core::Topic::Appearance)
             .stored(1305)
             .then<&This::s_Layout>();
 };
@@ -41,7 +48,7 @@ struct ctx_ZorUpDown::Tables {
     using E = __ctx_ZorUpDown;
 
     // clang-format off
-    static constexpr std::array kProperties{
+    static constexpr auto kProperties = core::rows(
         &S::CFail, &R::MinValue, &R::MaxValue, &R::MinParamValue, &R::MaxParamValue, &R::InvalidValue,
         &S::DataModified, &S::WaitingForData, &R::UnitType, &R::DeviceValue, &R::OutputValue, &R::DeviceUnit,
         &R::OutputUnit, &S::DataChanged, &S::DataNotAvailable, &S::DeviceTypeSupported,
@@ -51,18 +58,18 @@ struct ctx_ZorUpDown::Tables {
         &R::NumberOfDigits, &S::IconEnable, &R::UnitEnable, &S::ReadOnly, &R::DefaultUnit, &R::UnitLabelCaption,
         &S::DeviceType, &S::DeviceVersion, &S::RegisterType, &S::EnableControl, &R::WidthDifference,
         // not stored
-        &S::MessageHeader, &R::ModifiedValue, &R::OtherUserValue};
+        &S::MessageHeader, &R::ModifiedValue, &R::OtherUserValue);
     // clang-format on
     static constexpr auto kOrder = controls::limitsAfterUnit<kProperties>();
 
-    static constexpr auto kEvents = core::joinedEvents(
-        std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue")}, controls::conditionRows<E>(),
+    static constexpr auto kEvents = core::joined(
+        std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue")}, core::conditionRows<E>(),
         controls::entryFieldRows<E>(EntryField::kText, EntryField::kUnits,
                                     {.close = Notice::LinkClose, .error = Notice::LinkError}),
         std::array{event<&E::upDownChange>("upDownChange", kSpin, Notice::Change),
                    event<&E::upDownDownClick>("upDownDownClick", kSpin, Notice::SpinDown),
                    event<&E::upDownUpClick>("upDownUpClick", kSpin, Notice::SpinUp)},
-        controls::iconRows<E>(EntryField::kState));
+        core::iconRows<E>(EntryField::kState));
 
     static constexpr auto kStates = R::kStates<&ctx_ZorUpDown::m_otherUser, &ctx_ZorUpDown::m_reference>;
 
@@ -86,6 +93,10 @@ const core::ClassInfo& ctx_ZorUpDown::classInfo() noexcept
         .initialOrder = T::kOrder,
         .messages = Rows::kMessages,
         .events = T::kEvents,
+        .raised = {.invalid = named(T::kEvents, "InvalidValueSetTrue"),
+                   .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                   .changed = named(T::kEvents, "textChange")},
         .methods = T::kMethods,
         .states = T::kStates,
         .widgets = T::kWidgets,
