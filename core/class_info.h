@@ -2,6 +2,7 @@
 
 /// A class of controls as data: its tables, and how to make one.
 
+#include <zor/core/argument_words.h>
 #include <zor/core/event_row.h>
 #include <zor/core/method_row.h>
 #include <zor/core/property_row.h>
@@ -74,7 +75,16 @@ struct EffectRow {
 struct WidgetRow {
     int widget;
     std::string_view name;
+    std::string_view meaning; ///< what it is to the operator
 };
+
+/// The control's own surface, which every class has.
+inline constexpr WidgetRow kSurfaceRow{platform::kSurfaceWidget, "Surface", "The control's own surface."};
+/// The state icon.
+[[nodiscard]] constexpr WidgetRow iconRow(int widget) noexcept
+{
+    return {widget, "img_State", "The state icon; a click explains the state."};
+}
 
 struct ClassInfo {
     std::string_view name;
@@ -107,6 +117,36 @@ struct ClassInfo {
     [[nodiscard]] const MethodRow* method(std::string_view method) const noexcept;
     [[nodiscard]] const EventRow* event(std::string_view event) const noexcept;
 };
+
+/// A class's tables, looked over at compile time: everything in them says what it means.
+[[nodiscard]] consteval ClassInfo complete(const ClassInfo& info)
+{
+    for (const PropertyRow* row : info.properties) {
+        if (row->meaning.empty())
+            throw "a property has no meaning: add .saying(\"...\") to its row";
+    }
+    for (const MethodRow& row : info.methods) {
+        if (row.meaning.empty())
+            throw "a method has no meaning: add .saying(\"...\") to its row";
+        for (std::size_t i = 0; i < row.argumentCount; ++i) {
+            if (argumentMeaning(row.arguments[i].name).empty())
+                throw "an argument of a method has no words in core/argument_words.h";
+        }
+    }
+    for (const EventRow& row : info.events) {
+        if (row.isRaised && row.notice == platform::Notice::None && row.meaning.empty())
+            throw "an event has no meaning: add .saying(\"...\") to its row";
+        for (std::size_t i = 0; i < row.argumentCount; ++i) {
+            if (argumentMeaning(row.arguments[i]).empty())
+                throw "an argument of an event has no words in core/argument_words.h";
+        }
+    }
+    for (const WidgetRow& row : info.widgets) {
+        if (row.meaning.empty())
+            throw "a widget has no meaning: say it in its row";
+    }
+    return info;
+}
 
 /// What a program offers of one kind, by name.
 template <class Info>

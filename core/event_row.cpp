@@ -17,12 +17,10 @@ void SinkList::remove(Entry entry) noexcept
     m_gaps = true;
 }
 
-SinkList::Iteration::~Iteration()
+void SinkList::closeGaps() noexcept
 {
-    if (--list.m_depth.isNone() && list.m_gaps) {
-        std::erase(list.m_entries, Entry{});
-        list.m_gaps = false;
-    }
+    std::erase(m_entries, Entry{});
+    m_gaps = false;
 }
 
 } // namespace zor::core

@@ -35,7 +35,24 @@ struct EventRow {
     /// Whether it ever comes: not, where the interface only declares it or no platform reports what it re-raises.
     bool isRaised = true;
     void (*call)(void* sink, platform::EventArgs args) = nullptr;
+    /// When it is raised, for people; empty where the report that it re-raises says it all (`meaningOf`).
+    std::string_view meaning{};
+
+    [[nodiscard]] constexpr EventRow saying(std::string_view words) const
+    {
+        EventRow row = *this;
+        row.meaning = words;
+        return row;
+    }
 };
+
+/// When an event is raised, in words for people.
+[[nodiscard]] constexpr std::string_view meaningOf(const EventRow& row) noexcept
+{
+    if (!row.isRaised)
+        return "Part of the interface; never raised.";
+    return row.meaning.empty() ? platform::meaningOf(row.notice) : row.meaning;
+}
 
 /// Hears every event of a control by name: for the console, scripting hosts and adaptors.
 class EventSink {
@@ -134,7 +151,9 @@ constexpr EventRow event(std::string_view name, int widget, platform::Notice not
 template <auto Function, class Interface = typename detail::SinkMember<decltype(Function)>::Sink, class... Names>
 constexpr EventRow ownEvent(std::string_view name, Names... arguments)
 {
-    return event<Function, Interface>(name, -1, platform::Notice::None, arguments...);
+    EventRow row = event<Function, Interface>(name, -1, platform::Notice::None, arguments...);
+    row.isRaised = true;
+    return row;
 }
 
 /// A row for an event that is part of the interface and that the control never raises.

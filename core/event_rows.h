@@ -5,8 +5,14 @@
 #include <zor/core/event_row.h>
 
 #include <array>
+#include <string_view>
 
 namespace zor::core {
+
+inline constexpr std::string_view kModified =
+    "The shown value was changed and differs from the device's; on every such change.";
+inline constexpr std::string_view kHandedOver =
+    "OutputValue was assigned: by the operator, by a new value from the device, or by the host.";
 
 /// What every interface declares: hosts in the field implement it, no control raises it.
 template <class E>
@@ -29,8 +35,9 @@ template <class E>
 constexpr std::array<EventRow, 5> conditionRows()
 {
     const auto rest = declaredRows<E>();
-    return {ownEvent<&E::DataModifiedSetTrue, E>("DataModifiedSetTrue"),
-            ownEvent<&E::OutputValueChange, E>("OutputValueChange"), rest[0], rest[1], rest[2]};
+    return {ownEvent<&E::DataModifiedSetTrue, E>("DataModifiedSetTrue").saying(kModified),
+            ownEvent<&E::OutputValueChange, E>("OutputValueChange").saying(kHandedOver), rest[0], rest[1],
+            rest[2]};
 }
 
 /// The state icon; the last two rows of a control that has one.

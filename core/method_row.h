@@ -36,6 +36,15 @@ struct MethodRow {
     ValueKind result = ValueKind::Any; ///< kind of the value, or of the array's elements
     /// The arguments must be as many as the method takes. TypeMismatch and Overflow for values that do not fit.
     MethodResult (*call)(Control&, std::span<const Variant>) = nullptr;
+    /// What it does, for people.
+    std::string_view meaning{};
+
+    [[nodiscard]] constexpr MethodRow saying(std::string_view words) const
+    {
+        MethodRow row = *this;
+        row.meaning = words;
+        return row;
+    }
 };
 
 namespace detail {

@@ -106,6 +106,8 @@ struct PropertyRow {
     std::string_view name;
     Topic topic = Topic::Appearance;
     FieldSpec field{};
+    /// What it means, for people: unit, range, and what a host does with it.
+    std::string_view meaning{};
     /// The property bag's key; empty for a property that is not stored.
     std::string_view key{};
     /// The default passed to the bag, and the initial value of a new instance unless `initial` says otherwise.
@@ -209,6 +211,11 @@ struct Row : PropertyRow {
     [[nodiscard]] constexpr Row with(Access answer) const
     {
         return changed([&](Row& row) { row.access = answer; });
+    }
+    /// What it means, in words for people.
+    [[nodiscard]] constexpr Row saying(std::string_view words) const
+    {
+        return changed([&](Row& row) { row.meaning = words; });
     }
     [[nodiscard]] constexpr Row placed(Placing when) const
     {

@@ -11,103 +11,145 @@ struct SharedRows {
     // --- Parameter
     static constexpr auto DeviceTag =
         fieldRow<&Control::m_binding, &Binding::deviceTag>("DeviceTag", Topic::Parameter)
+            .saying("Identifier of the parameter in the device. The host uses it to find the parameter; the "
+                    "control shows it in the message of an unknown identifier and reads it out as the control's "
+                    "name.")
             .identifier()
             .stored("")
             .then<&Control::describeForReaders>();
     static constexpr auto RegisterType =
         fieldRow<&Control::m_binding, &Binding::registerType>("RegisterType", Topic::Parameter)
+            .saying("The register bank that holds the parameter. What lies in an input register cannot be edited.")
             .stored(HoldingRegister)
             .refreshing({Refresh::Colours});
     static constexpr auto DeviceType =
         fieldRow<&Control::m_binding, &Binding::deviceType>("DeviceType", Topic::Parameter)
+            .saying("Type of the connected device. A write looks it up in DeviceTypeSupported, blanks and case "
+                    "aside, and hides the control when it is not there.")
             .identifier()
             .stored("")
             .refreshing({Refresh::CheckType});
     static constexpr auto DeviceVersion =
         fieldRow<&Control::m_binding, &Binding::deviceVersion>("DeviceVersion", Topic::Parameter)
+            .saying("Firmware version of the connected device (two digits a part, as 01.10). A write compares it "
+                    "with the versions of the device's type and hides the control outside of them.")
             .identifier()
             .stored("")
             .refreshing({Refresh::CheckVersion});
     static constexpr auto DeviceTypeSupported =
         fieldRow<&Control::m_binding, &Binding::typesSupported>("DeviceTypeSupported", Topic::Parameter)
+            .saying("Comma-separated list of the device types that offer the parameter; empty means all. Takes "
+                    "effect with the next write of DeviceType.")
             .identifier()
             .stored("");
     // The two version lists are stored under abbreviated keys; forms in the field carry them.
     static constexpr auto DeviceMinVersionSupported =
         fieldRow<&Control::m_binding, &Binding::minVersions>("DeviceMinVersionSupported", Topic::Parameter)
+            .saying("Comma-separated list of the lowest firmware versions, one for each type of "
+                    "DeviceTypeSupported; an empty list or entry sets no limit. Takes effect with the next write "
+                    "of DeviceVersion.")
             .identifier()
             .storedAs("DeviceMinVerSupported", "");
     static constexpr auto DeviceMaxVersionSupported =
         fieldRow<&Control::m_binding, &Binding::maxVersions>("DeviceMaxVersionSupported", Topic::Parameter)
+            .saying("Comma-separated list of the highest firmware versions, one for each type of "
+                    "DeviceTypeSupported; an empty list or entry sets no limit. Takes effect with the next write "
+                    "of DeviceVersion.")
             .identifier()
             .storedAs("DeviceMaxVerSupported", "");
 
     // --- State
-    static constexpr auto CFail = fieldRow<&Control::m_status, &Status::cFail>("CFail", Topic::State)
-                                      .stored(false)
-                                      .refreshing({Refresh::Status, Refresh::Colours, Refresh::Enabled});
+    static constexpr auto CFail =
+        fieldRow<&Control::m_status, &Status::cFail>("CFail", Topic::State)
+            .saying("Communication with the device failed. The host sets it after each read; the control turns "
+                    "red, is locked and explains itself behind the state icon.")
+            .stored(false)
+            .refreshing({Refresh::Status, Refresh::Colours, Refresh::Enabled});
     static constexpr auto DataNotAvailable =
         fieldRow<&Control::m_status, &Status::dataNotAvailable>("DataNotAvailable", Topic::State)
+            .saying("The device returned no data for the parameter. The host sets it after each read.")
             .stored(false)
             .refreshing({Refresh::Status});
     static constexpr auto DeviceTagNotFound =
         fieldRow<&Control::m_status, &Status::deviceTagNotFound>("DeviceTagNotFound", Topic::State)
+            .saying("The device does not know DeviceTag. The host sets it; the control is disabled, its state "
+                    "icon can still be clicked.")
             .stored(false)
             .refreshing({Refresh::Status, Refresh::Enabled});
     static constexpr auto WaitingForData =
         fieldRow<&Control::m_status, &Status::waitingForData>("WaitingForData", Topic::State)
+            .saying("A read is outstanding. While the host has it set the control is frozen, state icon included.")
             .stored(false)
             .refreshing({Refresh::Enabled});
     static constexpr auto DataChanged =
         fieldRow<&Control::m_status, &Status::dataChanged>("DataChanged", Topic::State)
+            .saying("Another user has changed the value. The host sets it; a click on the state icon shows the "
+                    "message and clears it.")
             .stored(false)
             .refreshing({Refresh::Status});
     // The flag follows every keystroke; the container is not told.
     static constexpr auto DataModified =
         fieldRow<&Control::m_status, &Status::dataModified>("DataModified", Topic::State)
+            .saying("The shown value differs from the device's: an edit that has not been written. The control "
+                    "keeps it; a host may write it.")
             .stored(false)
             .with(Access::Silent)
             .refreshing({Refresh::Colours});
     static constexpr auto DeviceTypeNotSupported =
         fieldRow<&Control::m_status, &Status::deviceTypeNotSupported>("DeviceTypeNotSupported", Topic::State)
+            .saying("The type check found DeviceType not supported; the control shows nothing. A host may write "
+                    "it.")
             .stored(false)
             .refreshing({Refresh::Support});
     static constexpr auto DeviceVerNotSupported =
         fieldRow<&Control::m_status, &Status::deviceVerNotSupported>("DeviceVerNotSupported", Topic::State)
+            .saying("The version check found DeviceVersion not supported; the control shows nothing. A host may "
+                    "write it.")
             .stored(false)
             .refreshing({Refresh::Support});
     static constexpr auto EnableControl =
         fieldRow<&Control::m_status, &Status::enableControl>("EnableControl", Topic::State)
+            .saying("The host's permission to work the control.")
             .stored(true)
             .refreshing({Refresh::Enabled});
-    static constexpr auto ReadOnly = fieldRow<&Control::m_status, &Status::readOnly>("ReadOnly", Topic::State)
-                                         .stored(false)
-                                         .refreshing({Refresh::Colours});
+    static constexpr auto ReadOnly =
+        fieldRow<&Control::m_status, &Status::readOnly>("ReadOnly", Topic::State)
+            .saying("The host's lock on editing; the value stays visible and its state explainable.")
+            .stored(false)
+            .refreshing({Refresh::Colours});
     static constexpr auto IconEnable =
-        fieldRow<&Control::m_status, &Status::iconEnable>("IconEnable", Topic::Appearance).stored(true);
+        fieldRow<&Control::m_status, &Status::iconEnable>("IconEnable", Topic::Appearance)
+            .saying("Whether the state icon may be shown at all.")
+            .stored(true);
 
     // --- Messages
     static constexpr auto MsgCfail = fieldRow<&Control::m_messages, &Messages::cFail>("MsgCfail", Topic::Messages)
+                                         .saying("Message of a communication failure.")
                                          .stored("Communication Failure !")
                                          .refreshing({Refresh::Status});
     static constexpr auto MsgDataNotAvailable =
         fieldRow<&Control::m_messages, &Messages::dataNotAvailable>("MsgDataNotAvailable", Topic::Messages)
+            .saying("Message when the device returned no data.")
             .stored("Data Not Available")
             .refreshing({Refresh::Status});
     static constexpr auto MsgDeviceTagNotFound =
         fieldRow<&Control::m_messages, &Messages::deviceTagNotFound>("MsgDeviceTagNotFound", Topic::Messages)
+            .saying("Message of an unknown identifier; the box adds DeviceTag.")
             .stored("Identifier Look Up Failed")
             .refreshing({Refresh::Status});
     static constexpr auto MsgDefault =
         fieldRow<&Control::m_messages, &Messages::defaultText>("MsgDefault", Topic::Messages)
+            .saying("Tooltip when there is nothing to explain.")
             .stored("")
             .refreshing({Refresh::Status});
     static constexpr auto MsgDataChanged =
         fieldRow<&Control::m_messages, &Messages::dataChanged>("MsgDataChanged", Topic::Messages)
+            .saying("Message of another user's change; the values are added behind it.")
             .stored("Data Changed by other user ")
             .refreshing({Refresh::Status});
     static constexpr auto MessageHeader =
         fieldRow<&Control::m_messages, &Messages::header>("MessageHeader", Topic::Messages)
+            .saying("Title of the message boxes that the control shows.")
             .initially("Zor")
             .with(Access::Silent);
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 #include <variant>
 
 namespace zor::platform {
@@ -46,7 +47,34 @@ enum class Notice : std::uint8_t {
 };
 
 /// Whether the platforms' widgets report it. None of them offers links and drags.
-[[nodiscard]] constexpr bool isReported(Notice notice) noexcept { return notice < Notice::LinkClose; }
+[[nodiscard]] constexpr bool isReported(Notice notice) noexcept
+{
+    return notice != Notice::None && notice < Notice::LinkClose;
+}
+
+/// What has happened when a widget reports, in words for people.
+[[nodiscard]] constexpr std::string_view meaningOf(Notice notice) noexcept
+{
+    switch (notice) {
+    case Notice::Change: return "Its text, caption, position or value changed, by whomever.";
+    case Notice::Click: return "It was clicked.";
+    case Notice::DblClick: return "It was clicked twice.";
+    case Notice::GotFocus: return "It got the focus.";
+    case Notice::LostFocus: return "It lost the focus.";
+    case Notice::KeyDown: return "A key went down. KeyCode set to 0 swallows it.";
+    case Notice::KeyPress: return "A character was typed. KeyAscii set to 0 swallows it.";
+    case Notice::KeyUp: return "A key came up.";
+    case Notice::MouseDown: return "A mouse button went down.";
+    case Notice::MouseMove: return "The mouse moved over it.";
+    case Notice::MouseUp: return "A mouse button came up.";
+    case Notice::Validate: return "The focus is about to leave. Cancel set to True keeps it.";
+    case Notice::DropDown: return "The list opens.";
+    case Notice::Scroll: return "It was scrolled, or its handle is being dragged.";
+    case Notice::SpinDown: return "The spin button was clicked down.";
+    case Notice::SpinUp: return "The spin button was clicked up.";
+    default: return "Raised where a platform's widget reports it.";
+    }
+}
 
 /// Mouse buttons as they stand in Button (a bit each).
 inline constexpr std::int16_t kLeftButton = 1;

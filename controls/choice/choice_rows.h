@@ -18,20 +18,29 @@ struct ChoiceRows {
     using S = core::SharedRows;
     using C = ChoiceControl;
 
-    static constexpr auto DeviceValue = core::fieldRow<&C::m_deviceValue>("DeviceValue", core::Topic::Value)
-                                            .placed(core::Placing::Device)
-                                            .stored(0)
-                                            .then<&C::s_ApplyDeviceValue>();
+    static constexpr auto DeviceValue =
+        core::fieldRow<&C::m_deviceValue>("DeviceValue", core::Topic::Value)
+            .saying("Raw value from the device. A write shows it, sets OutputValue and ends the operator's edit.")
+            .placed(core::Placing::Device)
+            .stored(0)
+            .then<&C::s_ApplyDeviceValue>();
     static constexpr auto OutputValue =
-        core::fieldRow<&C::m_outputValue>("OutputValue", core::Topic::Value).stored(0).with(core::Access::Derived);
+        core::fieldRow<&C::m_outputValue>("OutputValue", core::Topic::Value)
+            .saying("The value to write to the device: the device's own until the operator chooses.")
+            .stored(0)
+            .with(core::Access::Derived);
     static constexpr auto ModifiedValue =
         core::computedRow<[](C& control) { return control.ModifiedValue(); }>("ModifiedValue", core::Topic::Value)
+            .saying("Reading gives OutputValue. Writing makes the host's choice for the operator.")
             .written<[](C& control, std::int32_t value) { control.ModifiedValue(value); }>();
     /// The value that another user wrote, for the text that tells of it: the host's, never the control's.
     template <auto Field>
-    static constexpr auto OtherUserValue = core::fieldRow<Field>("OtherUserValue", core::Topic::Value)
-                                               .with(core::Access::Silent)
-                                               .refreshing({core::Refresh::Status});
+    static constexpr auto OtherUserValue =
+        core::fieldRow<Field>("OtherUserValue", core::Topic::Value)
+            .saying("What another user wrote, shown first in the text of DataChanged, in OutputUnit where there "
+                    "are units. The host's own; the control never sets it.")
+            .with(core::Access::Silent)
+            .refreshing({core::Refresh::Status});
 
     // --- The order in which properties are stored, and in which a new control sets them
     static constexpr auto kFirst = core::rows(&S::CFail);
@@ -52,11 +61,9 @@ struct ChoiceRows {
     static constexpr std::array kMethods{core::kGetMaxMessage, core::kGetMessageID, core::kSetMessage,
                                          core::kChangeBackColor};
 
-    static constexpr std::array<core::WidgetRow, 3> widgets(std::string_view face)
+    static constexpr std::array<core::WidgetRow, 3> widgets(std::string_view face, std::string_view meaning)
     {
-        return {core::WidgetRow{platform::kSurfaceWidget, "Surface"},
-                {kFace, face},
-                {ChoiceWidget::kState, "img_State"}};
+        return {core::kSurfaceRow, {kFace, face, meaning}, core::iconRow(ChoiceWidget::kState)};
     }
 };
 

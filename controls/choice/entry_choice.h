@@ -35,11 +35,14 @@ struct EntryChoiceRows {
 
     static constexpr auto InvalidValue =
         core::fieldRow<Mark, &InvalidMark::isSet>("InvalidValue", core::Topic::State)
+            .saying("The last value from the device, or from the host, lies outside what the control can show as "
+                    "valid. The control's own.")
             .stored(false)
             .with(core::Access::Derived);
     // A new control starts with another text than a form means that says nothing.
     static constexpr auto MsgInvalidValue =
         core::fieldRow<Mark, &InvalidMark::message>("MsgInvalidValue", core::Topic::Messages)
+            .saying("Message of a value that no entry stands for.")
             .stored("Invalid Value from Device")
             .initially("Invalid Entry")
             .refreshing({core::Refresh::Status});

@@ -25,7 +25,8 @@ constexpr std::array<core::EventRow, 26> entryFieldRows(int text, int units, con
     using core::ownEvent;
     using platform::Notice;
     return {
-        ownEvent<&E::textChange, E>("textChange"),
+        ownEvent<&E::textChange, E>("textChange")
+            .saying("The text changed, after it was judged; on the up-down only to a valid number."),
         event<&E::textClick, E>("textClick", text, Notice::Click),
         event<&E::textDblClick, E>("textDblClick", text, Notice::DblClick),
         event<&E::textGotFocus, E>("textGotFocus", text, Notice::GotFocus),

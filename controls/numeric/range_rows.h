@@ -10,22 +10,33 @@
 
 namespace zor::controls {
 
+/// When InvalidValueSetTrue is raised.
+inline constexpr std::string_view kOutOfRange =
+    "A value from the device or the host lies outside the limits; each time it does.";
+
 struct RangeRows : UnitRows {
     using S = core::SharedRows;
 
     static constexpr auto InvalidValue =
         core::fieldRow<&RangeControl::m_invalidValue>("InvalidValue", core::Topic::State)
+            .saying("The last value from the device, or from the host, lies outside what the control can show as "
+                    "valid. The control's own.")
             .stored(false)
             .with(core::Access::Derived);
     static constexpr auto MsgInvalidValue =
         core::fieldRow<&RangeControl::m_msgInvalidValue>("MsgInvalidValue", core::Topic::Messages)
+            .saying("A text for a host's own use: up-down and slider show an invalid value as it is and explain "
+                    "nothing.")
             .stored("Invalid Entry")
             .refreshing({core::Refresh::Status});
     /// The value that another user wrote, for the text that tells of it: the host's, never the control's.
     template <auto Field>
-    static constexpr auto OtherUser = core::fieldRow<Field>("OtherUserValue", core::Topic::Value)
-                                          .with(core::Access::Silent)
-                                          .refreshing({core::Refresh::Status});
+    static constexpr auto OtherUser =
+        core::fieldRow<Field>("OtherUserValue", core::Topic::Value)
+            .saying("What another user wrote, shown first in the text of DataChanged, in OutputUnit where there "
+                    "are units. The host's own; the control never sets it.")
+            .with(core::Access::Silent)
+            .refreshing({core::Refresh::Status});
 
     static constexpr std::array kMessages{
         core::MessageRow{"MSG_CFAIL", &S::MsgCfail},

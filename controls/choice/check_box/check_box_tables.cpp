@@ -21,13 +21,18 @@ struct ctx_ZorCheckBox::Rows
 
     // A new box starts with another caption than a form means that says nothing.
     static constexpr auto CheckBoxCaption = fieldRow<&This::m_caption>("CheckBoxCaption", core::Topic::Appearance)
+                                                .saying("Text beside the box.")
                                                 .stored("check")
                                                 .initially("Check1")
                                                 .then<&This::s_ShowCaption>();
     static constexpr auto BitFieldEntryIndex =
-        fieldRow<&This::m_bit>("BitFieldEntryIndex", core::Topic::Value).stored(0);
+        fieldRow<&This::m_bit>("BitFieldEntryIndex", core::Topic::Value)
+            .saying("Number of the bit that the box shows and sets, 0 to 30; with any other it shows none. Takes "
+                    "effect with the next DeviceValue.")
+            .stored(0);
     static constexpr auto CheckBoxValue =
         core::computedRow<[](This& box) { return box.CheckBoxValue(); }>("CheckBoxValue", core::Topic::Appearance)
+            .saying("Whether the box is ticked.")
             .with(core::Access::Derived);
     static constexpr auto OtherUser = R::OtherUserValue<&This::m_otherUser>;
 };
@@ -42,7 +47,8 @@ struct ctx_ZorCheckBox::Tables {
 
     static constexpr std::array kFaceEvents{
         event<&E::CheckChange>("CheckChange", kFace, Notice::Change),
-        ownEvent<&E::CheckClick>("CheckClick"),
+        ownEvent<&E::CheckClick>("CheckClick")
+            .saying("The box was ticked or unticked, by whomever; after all that follows from it."),
         event<&E::CheckDblClick>("CheckDblClick", kFace, Notice::DblClick),
         event<&E::CheckGotFocus>("CheckGotFocus", kFace, Notice::GotFocus),
         event<&E::CheckKeyDown>("CheckKeyDown", kFace, Notice::KeyDown, "KeyCode", "Shift"),
@@ -62,32 +68,34 @@ struct ctx_ZorCheckBox::Tables {
         declared<&E::CheckValidate>("CheckValidate"),
     };
 
-    static constexpr auto kEvents = joined(std::array{ownEvent<&E::DataModifiedSetTrue>("DataModifiedSetTrue"),
-                                                      ownEvent<&E::DataModifiedReset>("DataModifiedReset"),
-                                                      ownEvent<&E::OutputValueChange>("OutputValueChange")},
-                                           core::declaredRows<E>(), kFaceEvents, core::iconRows<E>(kState));
+    static constexpr auto kEvents =
+        joined(std::array{ownEvent<&E::DataModifiedSetTrue>("DataModifiedSetTrue").saying(core::kModified),
+                          ownEvent<&E::DataModifiedReset>("DataModifiedReset")
+                              .saying("The box was changed and is again as the device has it."),
+                          ownEvent<&E::OutputValueChange>("OutputValueChange").saying(core::kHandedOver)},
+               core::declaredRows<E>(), kFaceEvents, core::iconRows<E>(kState));
 
-    static constexpr auto kWidgets = controls::ChoiceRows::widgets("chk_CheckBox");
+    static constexpr auto kWidgets = controls::ChoiceRows::widgets("chk_CheckBox", "The box with its caption.");
 };
 
 const core::ClassInfo& ctx_ZorCheckBox::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info{
-        .name = "ctx_ZorCheckBox",
-        .properties = T::kProperties,
-        .initialOrder = T::kInitialOrder,
-        .messages = Rows::kMessages,
-        .events = T::kEvents,
-        .raised = {.dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
-                   .dataModifiedReset = named(T::kEvents, "DataModifiedReset"),
-                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
-                   .changed = named(T::kEvents, "CheckClick")},
-        .methods = controls::ChoiceRows::kMethods,
-        .states = Rows::kStates,
-        .effects = controls::ChoiceRows::kEffects,
-        .widgets = T::kWidgets,
-        .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }};
+    static constexpr core::ClassInfo info = core::complete(
+        {.name = "ctx_ZorCheckBox",
+         .properties = T::kProperties,
+         .initialOrder = T::kInitialOrder,
+         .messages = Rows::kMessages,
+         .events = T::kEvents,
+         .raised = {.dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                    .dataModifiedReset = named(T::kEvents, "DataModifiedReset"),
+                    .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                    .changed = named(T::kEvents, "CheckClick")},
+         .methods = controls::ChoiceRows::kMethods,
+         .states = Rows::kStates,
+         .effects = controls::ChoiceRows::kEffects,
+         .widgets = T::kWidgets,
+         .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
     return info;
 }
 

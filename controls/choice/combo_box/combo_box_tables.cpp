@@ -20,7 +20,8 @@ struct ctx_ZorComboBox::Rows
                                 &ctx_ZorComboBox::m_reference> {
     static constexpr auto SelectedText =
         core::computedRow<[](ctx_ZorComboBox& box) { return box.SelectedText(); }>("SelectedText",
-                                                                                   core::Topic::Value);
+                                                                                   core::Topic::Value)
+            .saying("The text of the chosen entry.");
     static constexpr auto OtherUser = R::OtherUserValue<&ctx_ZorComboBox::m_otherUser>;
 };
 
@@ -33,7 +34,8 @@ struct ctx_ZorComboBox::Tables {
 
     static constexpr std::array kFaceEvents{
         event<&E::ComboChange>("ComboChange", kFace, Notice::Change),
-        ownEvent<&E::ComboClick>("ComboClick"),
+        ownEvent<&E::ComboClick>("ComboClick")
+            .saying("An entry was chosen, by whomever; after all that follows from it."),
         event<&E::ComboDblClick>("ComboDblClick", kFace, Notice::DblClick),
         event<&E::ComboDropDown>("ComboDropDown", kFace, Notice::DropDown),
         event<&E::ComboGotFocus>("ComboGotFocus", kFace, Notice::GotFocus),
@@ -52,43 +54,52 @@ struct ctx_ZorComboBox::Tables {
         event<&E::ComboValidate>("ComboValidate", kFace, Notice::Validate, "Cancel"),
     };
 
-    static constexpr auto kEvents = joined(std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue")},
+    static constexpr auto kEvents = joined(std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue")
+                                                          .saying("A value came that no entry stands for.")},
                                            core::conditionRows<E>(), kFaceEvents, core::iconRows<E>(kState));
 
-    static constexpr auto kMethods =
-        joined(controls::ChoiceRows::kMethods,
-               std::array{
-                   method<&This::AddEnumEntry>("AddEnumEntry", "Identifier", "EnumEntryValue"),
-                   method<&This::ClearEnumList>("ClearEnumList"),
-                   method<&This::RemoveEnumEntry>("RemoveEnumEntry", "EnumEntryValue"),
-                   method<&This::GetEnumEntryText>("GetEnumEntryText", "EnumEntryValue"),
-                   method<&This::GetEnumEntries>("GetEnumEntries"),
-                   method<&This::GetEnumEntryValue>("GetEnumEntryValue", "EnumText"),
-                   method<&This::GetEnumEntryValueArray>("GetEnumEntryValueArray"),
-                   method<&This::GetEnumEntryCount>("GetEnumEntryCount"),
-               });
+    static constexpr auto kMethods = joined(
+        controls::ChoiceRows::kMethods,
+        std::array{
+            method<&This::AddEnumEntry>("AddEnumEntry", "Identifier", "EnumEntryValue")
+                .saying(
+                    "Appends an entry: its text and the value it stands for. A full list (32,767 entries) raises "
+                    "error 6."),
+            method<&This::ClearEnumList>("ClearEnumList").saying("Removes all entries."),
+            method<&This::RemoveEnumEntry>("RemoveEnumEntry", "EnumEntryValue")
+                .saying("Removes the first entry of the value, if there is one."),
+            method<&This::GetEnumEntryText>("GetEnumEntryText", "EnumEntryValue")
+                .saying("Text of the first entry of the value; \"ERROR\" when there is none."),
+            method<&This::GetEnumEntries>("GetEnumEntries")
+                .saying("All texts in the order of the list; \"ERROR\" alone for an empty list."),
+            method<&This::GetEnumEntryValue>("GetEnumEntryValue", "EnumText")
+                .saying("Value of the first entry with exactly this text; \"ERROR\" when there is none."),
+            method<&This::GetEnumEntryValueArray>("GetEnumEntryValueArray")
+                .saying("All values in the order of the list; \"ERROR\" alone for an empty list."),
+            method<&This::GetEnumEntryCount>("GetEnumEntryCount").saying("Number of entries."),
+        });
 
-    static constexpr auto kWidgets = controls::ChoiceRows::widgets("cbo_ComboBox");
+    static constexpr auto kWidgets = controls::ChoiceRows::widgets("cbo_ComboBox", "The drop-down list.");
 };
 
 const core::ClassInfo& ctx_ZorComboBox::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info{
-        .name = "ctx_ZorComboBox",
-        .properties = T::kProperties,
-        .initialOrder = Rows::kStored,
-        .messages = Rows::kMessages,
-        .events = T::kEvents,
-        .raised = {.invalid = named(T::kEvents, "InvalidValueSetTrue"),
-                   .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
-                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
-                   .changed = named(T::kEvents, "ComboClick")},
-        .methods = T::kMethods,
-        .states = Rows::kStates,
-        .effects = controls::ChoiceRows::kEffects,
-        .widgets = T::kWidgets,
-        .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }};
+    static constexpr core::ClassInfo info = core::complete(
+        {.name = "ctx_ZorComboBox",
+         .properties = T::kProperties,
+         .initialOrder = Rows::kStored,
+         .messages = Rows::kMessages,
+         .events = T::kEvents,
+         .raised = {.invalid = named(T::kEvents, "InvalidValueSetTrue"),
+                    .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                    .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                    .changed = named(T::kEvents, "ComboClick")},
+         .methods = T::kMethods,
+         .states = Rows::kStates,
+         .effects = controls::ChoiceRows::kEffects,
+         .widgets = T::kWidgets,
+         .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
     return info;
 }
 

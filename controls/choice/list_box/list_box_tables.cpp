@@ -18,7 +18,8 @@ using platform::Notice;
 struct ctx_ZorListBox::Rows : controls::EntryChoiceRows<&ctx_ZorListBox::m_invalid, &ctx_ZorListBox::m_otherUser,
                                                         &ctx_ZorListBox::m_reference> {
     static constexpr auto SelCount =
-        core::computedRow<[](ctx_ZorListBox& box) { return box.SelCount(); }>("SelCount", core::Topic::Appearance);
+        core::computedRow<[](ctx_ZorListBox& box) { return box.SelCount(); }>("SelCount", core::Topic::Appearance)
+            .saying("Number of marked entries.");
     static constexpr auto OtherUser = R::OtherUserValue<&ctx_ZorListBox::m_otherUser>;
 };
 
@@ -30,7 +31,8 @@ struct ctx_ZorListBox::Tables {
     static constexpr auto kProperties = joined(R::kStored, R::kNotStored, core::rows(&R::SelCount));
 
     static constexpr std::array kFaceEvents{
-        ownEvent<&E::ListClick>("ListClick"),
+        ownEvent<&E::ListClick>("ListClick")
+            .saying("The current entry or its mark changed, by whomever; after all that follows from it."),
         event<&E::ListDblClick>("ListDblClick", kFace, Notice::DblClick),
         event<&E::ListGotFocus>("ListGotFocus", kFace, Notice::GotFocus),
         declared<&E::ListItemCheck>("ListItemCheck", "Item"),
@@ -55,39 +57,47 @@ struct ctx_ZorListBox::Tables {
     static constexpr auto kEvents = joined(std::array{declared<&E::InvalidValueSetTrue>("InvalidValueSetTrue")},
                                            core::conditionRows<E>(), kFaceEvents, core::iconRows<E>(kState));
 
-    static constexpr auto kMethods =
-        joined(controls::ChoiceRows::kMethods,
-               std::array{
-                   method<&This::AddBitFieldEntry>("AddBitFieldEntry", "Identifier", "BitFieldEntryValue"),
-                   method<&This::ClearBitFieldList>("ClearBitFieldList"),
-                   method<&This::RemoveBitFieldEntry>("RemoveBitFieldEntry", "BitFieldEntryValue"),
-                   method<&This::GetBitFieldEntryText>("GetBitFieldEntryText", "BitFieldEntryValue"),
-                   method<&This::GetBitFieldEntries>("GetBitFieldEntries"),
-                   method<&This::GetBitFieldEntryValue>("GetBitFieldEntryValue", "BitFieldText"),
-                   method<&This::GetBitFieldEntryValueArray>("GetBitFieldEntryValueArray"),
-                   method<&This::GetBitFieldEntryCount>("GetBitFieldEntryCount"),
-               });
+    static constexpr auto kMethods = joined(
+        controls::ChoiceRows::kMethods,
+        std::array{
+            method<&This::AddBitFieldEntry>("AddBitFieldEntry", "Identifier", "BitFieldEntryValue")
+                .saying(
+                    "Appends an entry: its text and the number of its bit, 0 to 30. A full list (32,767 entries) "
+                    "raises error 6."),
+            method<&This::ClearBitFieldList>("ClearBitFieldList").saying("Removes all entries."),
+            method<&This::RemoveBitFieldEntry>("RemoveBitFieldEntry", "BitFieldEntryValue")
+                .saying("Removes the first entry of the bit, if there is one."),
+            method<&This::GetBitFieldEntryText>("GetBitFieldEntryText", "BitFieldEntryValue")
+                .saying("Text of the first entry of the bit; \"ERROR\" when there is none."),
+            method<&This::GetBitFieldEntries>("GetBitFieldEntries")
+                .saying("All texts in the order of the list; \"ERROR\" alone for an empty list."),
+            method<&This::GetBitFieldEntryValue>("GetBitFieldEntryValue", "BitFieldText")
+                .saying("Bit number of the first entry with exactly this text; \"ERROR\" when there is none."),
+            method<&This::GetBitFieldEntryValueArray>("GetBitFieldEntryValueArray")
+                .saying("All bit numbers in the order of the list; \"ERROR\" alone for an empty list."),
+            method<&This::GetBitFieldEntryCount>("GetBitFieldEntryCount").saying("Number of entries."),
+        });
 
-    static constexpr auto kWidgets = controls::ChoiceRows::widgets("lst_ListBox");
+    static constexpr auto kWidgets = controls::ChoiceRows::widgets("lst_ListBox", "The list.");
 };
 
 const core::ClassInfo& ctx_ZorListBox::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info{
-        .name = "ctx_ZorListBox",
-        .properties = T::kProperties,
-        .initialOrder = Rows::kStored,
-        .messages = Rows::kMessages,
-        .events = T::kEvents,
-        .raised = {.dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
-                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
-                   .changed = named(T::kEvents, "ListClick")},
-        .methods = T::kMethods,
-        .states = Rows::kStates,
-        .effects = controls::ChoiceRows::kEffects,
-        .widgets = T::kWidgets,
-        .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }};
+    static constexpr core::ClassInfo info = core::complete(
+        {.name = "ctx_ZorListBox",
+         .properties = T::kProperties,
+         .initialOrder = Rows::kStored,
+         .messages = Rows::kMessages,
+         .events = T::kEvents,
+         .raised = {.dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                    .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                    .changed = named(T::kEvents, "ListClick")},
+         .methods = T::kMethods,
+         .states = Rows::kStates,
+         .effects = controls::ChoiceRows::kEffects,
+         .widgets = T::kWidgets,
+         .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
     return info;
 }
 

@@ -19,19 +19,26 @@ struct ctx_ZorOptionButton::Rows
     : controls::CaptionChoiceRows<&ctx_ZorOptionButton::m_otherUser, &ctx_ZorOptionButton::m_reference> {
     using This = ctx_ZorOptionButton;
 
-    static constexpr auto EnumValue = fieldRow<&This::m_enumValue>("EnumValue", core::Topic::Value)
-                                          .placed(core::Placing::Chosen)
-                                          .initially(0)
-                                          .then<&This::s_ApplyEnumValue>();
+    static constexpr auto EnumValue =
+        fieldRow<&This::m_enumValue>("EnumValue", core::Topic::Value)
+            .saying("The present value of the parameter; the button is on when it equals EnumEntryValue.")
+            .placed(core::Placing::Chosen)
+            .initially(0)
+            .then<&This::s_ApplyEnumValue>();
     static constexpr auto OptionButtonCaption =
         fieldRow<&This::m_caption>("OptionButtonCaption", core::Topic::Appearance)
+            .saying("Text beside the button.")
             .stored("option")
             .then<&This::s_ShowCaption>();
     // A form says what its button stands for, even when that is 0.
-    static constexpr auto EnumEntryValue = fieldRow<&This::m_entryValue>("EnumEntryValue", core::Topic::Value).alwaysStored(0);
+    static constexpr auto EnumEntryValue = fieldRow<&This::m_entryValue>("EnumEntryValue", core::Topic::Value)
+                                               .saying("The value that this button stands for.")
+                                               .alwaysStored(0)
+                                               .then<[](This& button) { button.m_isEntryNew = true; }>();
     static constexpr auto OptionButtonValue =
         core::computedRow<[](This& button) { return button.OptionButtonValue(); }>("OptionButtonValue",
                                                                                    core::Topic::Appearance)
+            .saying("Whether the button is on.")
             .written<[](This& button, bool value) { button.OptionButtonValue(value); }>();
     static constexpr auto OtherUser = R::OtherUserValue<&This::m_otherUser>;
 };
@@ -46,7 +53,8 @@ struct ctx_ZorOptionButton::Tables {
         joined(R::kStored, kOwn, R::kNotStored, core::rows(&R::EnumValue, &R::OptionButtonValue));
 
     static constexpr std::array kFaceEvents{
-        ownEvent<&E::OptionClick>("OptionClick"),
+        ownEvent<&E::OptionClick>("OptionClick")
+            .saying("The button was chosen, by whomever; after all that follows from it."),
         event<&E::OptionDblClick>("OptionDblClick", kFace, Notice::DblClick),
         event<&E::OptionGotFocus>("OptionGotFocus", kFace, Notice::GotFocus),
         event<&E::OptionKeyDown>("OptionKeyDown", kFace, Notice::KeyDown, "KeyCode", "Shift"),
@@ -68,26 +76,27 @@ struct ctx_ZorOptionButton::Tables {
 
     static constexpr auto kEvents = joined(core::conditionRows<E>(), kFaceEvents, core::iconRows<E>(kState));
 
-    static constexpr auto kWidgets = controls::ChoiceRows::widgets("opt_OptionButton");
+    static constexpr auto kWidgets =
+        controls::ChoiceRows::widgets("opt_OptionButton", "The button with its caption.");
 };
 
 const core::ClassInfo& ctx_ZorOptionButton::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info{
-        .name = "ctx_ZorOptionButton",
-        .properties = T::kProperties,
-        .initialOrder = T::kInitialOrder,
-        .messages = Rows::kMessages,
-        .events = T::kEvents,
-        .raised = {.dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
-                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
-                   .changed = named(T::kEvents, "OptionClick")},
-        .methods = controls::ChoiceRows::kMethods,
-        .states = Rows::kStates,
-        .effects = controls::ChoiceRows::kEffects,
-        .widgets = T::kWidgets,
-        .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }};
+    static constexpr core::ClassInfo info = core::complete(
+        {.name = "ctx_ZorOptionButton",
+         .properties = T::kProperties,
+         .initialOrder = T::kInitialOrder,
+         .messages = Rows::kMessages,
+         .events = T::kEvents,
+         .raised = {.dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                    .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                    .changed = named(T::kEvents, "OptionClick")},
+         .methods = controls::ChoiceRows::kMethods,
+         .states = Rows::kStates,
+         .effects = controls::ChoiceRows::kEffects,
+         .widgets = T::kWidgets,
+         .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
     return info;
 }
 

@@ -25,35 +25,56 @@ struct ctx_ZorImage::Rows {
     using This = ctx_ZorImage;
     using S = SharedRows;
 
-    static constexpr auto DeviceValue = fieldRow<&This::m_deviceValue>("DeviceValue", core::Topic::Value)
-                                            .placed(core::Placing::Device)
-                                            .stored(0)
-                                            .refreshing({Refresh::Status});
+    static constexpr auto DeviceValue =
+        fieldRow<&This::m_deviceValue>("DeviceValue", core::Topic::Value)
+            .saying("The status word from the device: 0 is well, each set bit a condition.")
+            .placed(core::Placing::Device)
+            .stored(0)
+            .refreshing({Refresh::Status});
     static constexpr auto UseAuxIcon =
-        fieldRow<&This::m_useAuxIcon>("UseAuxIcon", core::Topic::Appearance).stored(false);
-    static constexpr auto ReadOnly = S::ReadOnly.with(Access::Silent).refreshing({});
-    static constexpr auto MessageHeader = S::MessageHeader.initially("Qex").then<&This::describeForReaders>();
+        fieldRow<&This::m_useAuxIcon>("UseAuxIcon", core::Topic::Appearance)
+            .saying("Shows the second pair of pictures. Takes effect with the next refresh of the state.")
+            .stored(false);
+    static constexpr auto ReadOnly =
+        S::ReadOnly.saying("Kept for the host, without effect: nothing is edited here.")
+            .with(Access::Silent)
+            .refreshing({});
+    static constexpr auto MessageHeader =
+        S::MessageHeader
+            .saying("What the status word stands for: tooltip, part of the titles and texts of the message boxes, "
+                    "and the name that is read out.")
+            .initially("Qex")
+            .then<&This::describeForReaders>();
 
     // Three texts of a new image are not those of a form that says nothing; forms in the field rely on both.
-    static constexpr auto MsgDefault = S::MsgDefault.stored("Detailed Information about ").initially("Status OK");
+    static constexpr auto MsgDefault =
+        S::MsgDefault.saying("First words of the message boxes, before MessageHeader.")
+            .stored("Detailed Information about ")
+            .initially("Status OK");
     static constexpr auto StatusText =
         fieldRow<&This::m_texts, &Texts::status>("StatusText", core::Topic::Messages)
+            .saying("First words of the titles of the message boxes.")
             .stored("Status")
             .initially("");
     static constexpr auto MsgStatusOK = fieldRow<&This::m_texts, &Texts::ok>("MsgStatusOK", core::Topic::Messages)
+                                            .saying("Message when no bit is set.")
                                             .stored("- No Information. Status OK.")
                                             .initially("- No Information. Status OK")
                                             .with(Access::Silent)
                                             .refreshing({Refresh::Status});
     static constexpr auto MsgStatusNotOK =
         fieldRow<&This::m_texts, &Texts::notOk>("MsgStatusNotOK", core::Topic::Messages)
+            .saying("Message when a bit is set; a click puts the list of the set bits in its place.")
             .stored("Status Not OK")
             .with(Access::Silent)
             .refreshing({Refresh::Status});
     static constexpr auto MsgUndefined =
-        fieldRow<&This::m_texts, &Texts::undefined>("MsgUndefined", core::Topic::Messages).with(Access::Silent);
-    static constexpr auto MsgBit =
-        fieldRow<&This::m_texts, &Texts::bit>("MsgBit", core::Topic::Messages).with(Access::Silent);
+        fieldRow<&This::m_texts, &Texts::undefined>("MsgUndefined", core::Topic::Messages)
+            .saying("Words for a set bit that has no name; the bit's number is added behind MsgBit.")
+            .with(Access::Silent);
+    static constexpr auto MsgBit = fieldRow<&This::m_texts, &Texts::bit>("MsgBit", core::Topic::Messages)
+                                       .saying("Word before the number of a set bit that has no name.")
+                                       .with(Access::Silent);
 };
 
 // --- States
@@ -156,31 +177,35 @@ struct ctx_ZorImage::Tables {
         core::kGetMessageID,
         core::kSetMessage,
         core::kChangeBackColor,
-        method<&ctx_ZorImage::MaxEntries>("MaxEntries", "MaxCount"),
-        method<&ctx_ZorImage::AddBitFieldEntry>("AddBitFieldEntry", "Identifier", "BitFieldEntryValue", "Index"),
+        method<&ctx_ZorImage::MaxEntries>("MaxEntries", "MaxCount")
+            .saying("Makes a new, empty table of names with so many rows."),
+        method<&ctx_ZorImage::AddBitFieldEntry>("AddBitFieldEntry", "Identifier", "BitFieldEntryValue", "Index")
+            .saying("Gives a bit its name, in a row of the table made by MaxEntries; a row outside of it raises "
+                    "error 9."),
     };
 
-    static constexpr std::array kWidgets{core::WidgetRow{platform::kSurfaceWidget, "Surface"},
-                                         core::WidgetRow{kState, "img_State"}};
+    static constexpr std::array kWidgets{
+        core::kSurfaceRow,
+        core::WidgetRow{kState, "img_State", "The picture, which is the control; a click explains it."}};
 };
 
 const core::ClassInfo& ctx_ZorImage::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info{
-        .name = "ctx_ZorImage",
-        .properties = T::kProperties,
-        .initialOrder = T::kInitialOrder,
-        .messages = T::kMessages,
-        .events = T::kEvents,
-        .methods = T::kMethods,
-        .states = T::kStates,
-        .effects = T::kEffects,
-        .widgets = T::kWidgets,
-        .subject = [](const core::Control& c) -> std::string_view { return c.MessageHeader(); },
-        .boxTitle =
-            [](const core::Control& c) { return States::self(c).StatusText() + " - " + c.MessageHeader(); },
-        .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }};
+    static constexpr core::ClassInfo info = core::complete(
+        {.name = "ctx_ZorImage",
+         .properties = T::kProperties,
+         .initialOrder = T::kInitialOrder,
+         .messages = T::kMessages,
+         .events = T::kEvents,
+         .methods = T::kMethods,
+         .states = T::kStates,
+         .effects = T::kEffects,
+         .widgets = T::kWidgets,
+         .subject = [](const core::Control& c) -> std::string_view { return c.MessageHeader(); },
+         .boxTitle =
+             [](const core::Control& c) { return States::self(c).StatusText() + " - " + c.MessageHeader(); },
+         .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
     return info;
 }
 

@@ -25,10 +25,12 @@ struct ctx_ZorLabel::Rows {
 
     static constexpr auto DeviceValue =
         fieldRow<&This::m_deviceValue>("DeviceValue", core::Topic::Value)
+            .saying("The text from the device, shown as it comes.")
             .placed(core::Placing::Device)
             .stored("")
             .then<[](This& label) { label.m_label->setCaption(label.m_deviceValue); }>();
     static constexpr auto LabelCaption = fieldRow<&This::m_writtenCaption>("LabelCaption", core::Topic::Appearance)
+                                             .saying("Text of the label; a DeviceValue replaces it.")
                                              .stored("Label")
                                              .reading<[](This& label) { return label.LabelCaption(); }>()
                                              .then<[](This& label) {
@@ -38,10 +40,12 @@ struct ctx_ZorLabel::Rows {
     static constexpr auto LabelFontItalic =
         computedRow<[](This& label) { return label.LabelFontItalic(); }>("LabelFontItalic",
                                                                          core::Topic::Appearance)
+            .saying("Whether the label's text is italic.")
             .written<[](This& label, bool italic) { label.LabelFontItalic(italic); }>()
             .stored(false);
     static constexpr auto LabelFontBold =
         computedRow<[](This& label) { return label.LabelFontBold(); }>("LabelFontBold", core::Topic::Appearance)
+            .saying("Whether the label's text is bold.")
             .written<[](This& label, bool bold) { label.LabelFontBold(bold); }>();
 };
 
@@ -109,25 +113,24 @@ struct ctx_ZorLabel::Tables {
     static constexpr std::array kMethods{core::kGetMaxMessage, core::kGetMessageID, core::kSetMessage,
                                          core::kChangeBackColor};
 
-    static constexpr std::array kWidgets{core::WidgetRow{platform::kSurfaceWidget, "Surface"},
-                                         core::WidgetRow{kLabel, "lbl_Label"},
-                                         core::WidgetRow{kState, "img_State"}};
+    static constexpr std::array kWidgets{core::kSurfaceRow, core::WidgetRow{kLabel, "lbl_Label", "The text."},
+                                         core::iconRow(kState)};
 };
 
 const core::ClassInfo& ctx_ZorLabel::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info{
-        .name = "ctx_ZorLabel",
-        .properties = T::kProperties,
-        .initialOrder = T::kInitialOrder,
-        .messages = T::kMessages,
-        .events = T::kEvents,
-        .methods = T::kMethods,
-        .states = T::kStates,
-        .effects = T::kEffects,
-        .widgets = T::kWidgets,
-        .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }};
+    static constexpr core::ClassInfo info = core::complete(
+        {.name = "ctx_ZorLabel",
+         .properties = T::kProperties,
+         .initialOrder = T::kInitialOrder,
+         .messages = T::kMessages,
+         .events = T::kEvents,
+         .methods = T::kMethods,
+         .states = T::kStates,
+         .effects = T::kEffects,
+         .widgets = T::kWidgets,
+         .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
     return info;
 }
 

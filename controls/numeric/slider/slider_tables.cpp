@@ -25,43 +25,64 @@ struct ctx_ZorSlider::Rows : RangeRows {
     // What is kept and stored is the value in track steps.
     static constexpr auto DeviceValue =
         fieldRow<&This::m_deviceValue>("DeviceValue", core::Topic::Value)
+            .saying("Raw value from the device, in DeviceUnit. A write multiplies it by ScaleFactor, moves the "
+                    "track and ends the operator's edit; reading gives the multiplied value.")
             .placed(core::Placing::Device)
             .stored(0.0)
             .then<&This::s_ApplyDeviceValue>()
             .written<[](This& slider, double value) { slider.DeviceValue(value); }>();
-    static constexpr auto OutputValue = fieldRow<&This::m_output>("OutputValue", core::Topic::Value)
-                                            .stored(0.0)
-                                            .with(Access::Derived)
-                                            .reading<[](This& slider) { return slider.OutputValue(); }>()
-                                            .storingField();
+    static constexpr auto OutputValue =
+        fieldRow<&This::m_output>("OutputValue", core::Topic::Value)
+            .saying("The value to write to the device, in DeviceUnit, ScaleFactor taken out again.")
+            .stored(0.0)
+            .with(Access::Derived)
+            .reading<[](This& slider) { return slider.OutputValue(); }>()
+            .storingField();
     static constexpr auto ModifiedValue =
         computedRow<[](This& slider) { return slider.ModifiedValue(); }>("ModifiedValue", core::Topic::Value)
+            .saying("Reading gives OutputValue. Writing moves the track to a value, in DeviceUnit, as if the "
+                    "operator had.")
             .written<[](This& slider, double value) { slider.ModifiedValue(value); }>();
     static constexpr auto OtherUserValue = OtherUser<&This::m_otherUser>;
     static constexpr auto ScaleFactor =
-        fieldRow<&This::m_scaleFactor>("ScaleFactor", core::Topic::Appearance).initially(1).with(Access::Silent);
+        fieldRow<&This::m_scaleFactor>("ScaleFactor", core::Topic::Appearance)
+            .saying("Track steps for each unit of the value: 10 lets the operator choose tenths. Not 0; not "
+                    "stored, so the host sets it after loading.")
+            .initially(1)
+            .with(Access::Silent);
 
-    static constexpr auto MaxValue = RangeRows::MaxValue.stored(10.0);
+    static constexpr auto MaxValue =
+        RangeRows::MaxValue.saying("Value at the right end of the track, in DefaultUnit.").stored(10.0);
     static constexpr auto MaxParamValue = RangeRows::MaxParamValue.stored(10.0);
-    static constexpr auto EnableValues = fieldRow<&This::m_enableValues>("EnableValues", core::Topic::Appearance)
-                                             .stored(true)
-                                             .then<&This::s_UpdateUnitLabelVisibility>();
-    static constexpr auto MinPrefix =
-        fieldRow<&This::m_minPrefix>("MinPrefix", core::Topic::Range).stored("").then<&This::s_ShowPrefixes>();
-    static constexpr auto MaxPrefix =
-        fieldRow<&This::m_maxPrefix>("MaxPrefix", core::Topic::Range).stored("").then<&This::s_ShowPrefixes>();
+    static constexpr auto EnableValues =
+        fieldRow<&This::m_enableValues>("EnableValues", core::Topic::Appearance)
+            .saying("Whether the labels below the track show the ends of the range.")
+            .stored(true)
+            .then<&This::s_UpdateUnitLabelVisibility>();
+    static constexpr auto MinPrefix = fieldRow<&This::m_minPrefix>("MinPrefix", core::Topic::Range)
+                                          .saying("Words before the value of the left end.")
+                                          .stored("")
+                                          .then<&This::s_ShowPrefixes>();
+    static constexpr auto MaxPrefix = fieldRow<&This::m_maxPrefix>("MaxPrefix", core::Topic::Range)
+                                          .saying("Words before the value of the right end.")
+                                          .stored("")
+                                          .then<&This::s_ShowPrefixes>();
 
     // One setting under two names: it is read as the style and written as the type.
     static constexpr auto TickStyle =
-        computedRow<[](This& slider) { return slider.TickStyle(); }>("TickStyle", core::Topic::Appearance);
+        computedRow<[](This& slider) { return slider.TickStyle(); }>("TickStyle", core::Topic::Appearance)
+            .saying("Where the track has ticks: 0 below, 1 above, 2 on both sides, 3 nowhere.");
     static constexpr auto TickType =
         core::writeOnlyRow<[](This& slider, std::int16_t value) { slider.TickType(value); }>(
-            "TickType", core::Topic::Appearance);
+            "TickType", core::Topic::Appearance)
+            .saying("Sets what TickStyle reads.");
     static constexpr auto TickFrequency =
         computedRow<[](This& slider) { return slider.TickFrequency(); }>("TickFrequency", core::Topic::Appearance)
+            .saying("Distance of the ticks, in units of the value.")
             .written<[](This& slider, double value) { slider.TickFrequency(value); }>();
     static constexpr auto GetNumTicks =
-        computedRow<[](This& slider) { return slider.GetNumTicks(); }>("GetNumTicks", core::Topic::Appearance);
+        computedRow<[](This& slider) { return slider.GetNumTicks(); }>("GetNumTicks", core::Topic::Appearance)
+            .saying("Number of ticks on the track.");
 };
 
 namespace {
@@ -99,7 +120,8 @@ struct ctx_ZorSlider::Tables {
     static constexpr auto kOrder = controls::limitsAfterUnit<kProperties>();
 
     static constexpr std::array kTrackEvents{
-        ownEvent<&E::sliderChange>("sliderChange"),
+        ownEvent<&E::sliderChange>("sliderChange")
+            .saying("The track was moved and its value taken, by whomever; not while input is locked."),
         event<&E::sliderClick>("sliderClick", kTrack, Notice::Click),
         event<&E::sliderGotFocus>("sliderGotFocus", kTrack, Notice::GotFocus),
         event<&E::sliderKeyDown>("sliderKeyDown", kTrack, Notice::KeyDown, "KeyCode", "Shift"),
@@ -124,8 +146,8 @@ struct ctx_ZorSlider::Tables {
     };
 
     static constexpr auto kEvents = core::joined(
-        std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue")}, core::conditionRows<E>(),
-        kTrackEvents,
+        std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue").saying(controls::kOutOfRange)},
+        core::conditionRows<E>(), kTrackEvents,
         labelRows<&E::LabelMinUnitChange, &E::LabelMinUnitClick, &E::LabelMinUnitDblClick,
                   &E::LabelMinUnitMouseMove>(kMinUnit, {"LabelMinUnitChange", "LabelMinUnitClick",
                                                         "LabelMinUnitDblClick", "LabelMinUnitMouseMove"}),
@@ -151,36 +173,36 @@ struct ctx_ZorSlider::Tables {
     static constexpr std::array kMethods{core::kGetMaxMessage, core::kGetMessageID, core::kSetMessage,
                                          core::kChangeBackColor, R::GetCaptionID};
 
-    static constexpr std::array kWidgets{core::WidgetRow{platform::kSurfaceWidget, "Surface"},
-                                         core::WidgetRow{kTrack, "sld_Slider"},
-                                         core::WidgetRow{Number::kState, "img_State"},
-                                         core::WidgetRow{kMinPrefix, "lbl_MinPrefix"},
-                                         core::WidgetRow{kMinValue, "lbl_MinValue"},
-                                         core::WidgetRow{kMinUnit, "lbl_MinUnit"},
-                                         core::WidgetRow{kMaxPrefix, "lbl_MaxPrefix"},
-                                         core::WidgetRow{kMaxValue, "lbl_MaxValue"},
-                                         core::WidgetRow{kMaxUnit, "lbl_MaxUnit"}};
+    static constexpr std::array kWidgets{core::kSurfaceRow,
+                                         core::WidgetRow{kTrack, "sld_Slider", "The track."},
+                                         core::iconRow(Number::kState),
+                                         core::WidgetRow{kMinPrefix, "lbl_MinPrefix", "Words at the left end."},
+                                         core::WidgetRow{kMinValue, "lbl_MinValue", "Value of the left end."},
+                                         core::WidgetRow{kMinUnit, "lbl_MinUnit", "Unit of the left end."},
+                                         core::WidgetRow{kMaxPrefix, "lbl_MaxPrefix", "Words at the right end."},
+                                         core::WidgetRow{kMaxValue, "lbl_MaxValue", "Value of the right end."},
+                                         core::WidgetRow{kMaxUnit, "lbl_MaxUnit", "Unit of the right end."}};
 };
 
 const core::ClassInfo& ctx_ZorSlider::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info{
-        .name = "ctx_ZorSlider",
-        .properties = T::kProperties,
-        .readOrder = T::kOrder,
-        .initialOrder = T::kOrder,
-        .messages = Rows::kMessages,
-        .events = T::kEvents,
-        .raised = {.invalid = named(T::kEvents, "InvalidValueSetTrue"),
-                   .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
-                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
-                   .changed = named(T::kEvents, "sliderChange")},
-        .methods = T::kMethods,
-        .states = T::kStates,
-        .widgets = T::kWidgets,
-        .keepsFailedWrites = true,
-        .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }};
+    static constexpr core::ClassInfo info = core::complete(
+        {.name = "ctx_ZorSlider",
+         .properties = T::kProperties,
+         .readOrder = T::kOrder,
+         .initialOrder = T::kOrder,
+         .messages = Rows::kMessages,
+         .events = T::kEvents,
+         .raised = {.invalid = named(T::kEvents, "InvalidValueSetTrue"),
+                    .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                    .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                    .changed = named(T::kEvents, "sliderChange")},
+         .methods = T::kMethods,
+         .states = T::kStates,
+         .widgets = T::kWidgets,
+         .keepsFailedWrites = true,
+         .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
     return info;
 }
 

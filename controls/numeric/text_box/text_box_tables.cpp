@@ -28,60 +28,96 @@ using std::string_view;
 struct ctx_ZorTextBox::Rows : UnitRows {
     using This = ctx_ZorTextBox;
 
-    static constexpr auto DeviceValue = fieldRow<&This::m_deviceValue>("DeviceValue", core::Topic::Value)
-                                            .placed(core::Placing::Device)
-                                            .stored(0)
-                                            .then<&This::s_ApplyDeviceValue>();
+    static constexpr auto DeviceValue =
+        fieldRow<&This::m_deviceValue>("DeviceValue", core::Topic::Value)
+            .saying("Raw value from the device, in DeviceUnit: a number, or a text. A write shows it in "
+                    "OutputUnit, sets OutputValue and ends the operator's edit.")
+            .placed(core::Placing::Device)
+            .stored(0)
+            .then<&This::s_ApplyDeviceValue>();
     static constexpr auto OutputValue =
-        fieldRow<&This::m_outputValue>("OutputValue", core::Topic::Value).stored(0).with(Access::Derived);
+        fieldRow<&This::m_outputValue>("OutputValue", core::Topic::Value)
+            .saying("The value to write to the device, in DeviceUnit: the device's own until the operator commits "
+                    "an entry.")
+            .stored(0)
+            .with(Access::Derived);
     static constexpr auto ModifiedValue =
         computedRow<[](This& box) { return box.ModifiedValue(); }>("ModifiedValue", core::Topic::Value)
+            .saying("Reading gives OutputValue. Writing shows a value, in DeviceUnit, as if the operator had "
+                    "entered it.")
             .written<[](This& box, const Variant& value) { box.ModifiedValue(value); }>();
 
     static constexpr auto InvalidEntry =
-        fieldRow<&This::m_invalidEntry>("InvalidEntry", core::Topic::State).stored(false).with(Access::Derived);
+        fieldRow<&This::m_invalidEntry>("InvalidEntry", core::Topic::State)
+            .saying("The operator's last committed entry failed the check. The control's own.")
+            .stored(false)
+            .with(Access::Derived);
     static constexpr auto InvalidEntryEnable =
-        fieldRow<&This::m_invalidEntryEnable>("InvalidEntryEnable", core::Topic::Range).stored(true);
+        fieldRow<&This::m_invalidEntryEnable>("InvalidEntryEnable", core::Topic::Range)
+            .saying("Whether a number is checked against the limits when the operator leaves the field.")
+            .stored(true);
 
-    static constexpr auto EntryType =
-        fieldRow<&This::m_entryType>("EntryType", core::Topic::Value).stored(Numeric).then<&This::s_AlignText>();
+    static constexpr auto EntryType = fieldRow<&This::m_entryType>("EntryType", core::Topic::Value)
+                                          .saying("Whether the value is a number or free text.")
+                                          .stored(Numeric)
+                                          .then<&This::s_AlignText>();
     // The key's small "o" is in every form ever saved.
     static constexpr auto NumberOfDigits =
-        fieldRow<&This::m_numberOfDigits>("NumberOfDigits", core::Topic::Value).storedAs("NumberofDigits", 3);
+        fieldRow<&This::m_numberOfDigits>("NumberOfDigits", core::Topic::Value)
+            .saying("Decimals of a number without a unit (NoneU); 0 or less shows none. With a unit its own "
+                    "pattern counts.")
+            .storedAs("NumberofDigits", 3);
     static constexpr auto NumberOfDecimals =
         fieldRow<&This::m_numberOfDecimals>("NumberOfDecimals", core::Topic::Value)
+            .saying("Kept and stored; writing it shows the text anew.")
             .stored(3)
             .then<[](This& box) { box.show(box.m_field.text().text()); }>();
-    static constexpr auto MaxLength = fieldRow<&This::m_maxLength>("MaxLength", core::Topic::Range).stored(10);
+    static constexpr auto MaxLength =
+        fieldRow<&This::m_maxLength>("MaxLength", core::Topic::Range)
+            .saying("Longest valid text of a text entry, in characters, checked when the operator leaves the "
+                    "field.")
+            .stored(10);
 
     static constexpr auto WidthDifference =
         fieldRow<&This::m_field, &EntryField::widthDifference>("WidthDifference", core::Topic::Appearance)
+            .saying("Room right of the text field for unit label and state icon, in twips.")
             .stored(1305)
             .then<&This::s_Layout>();
     static constexpr auto TextFontBold = fieldRow<&This::m_textFontBold>("TextFontBold", core::Topic::Appearance)
-                                              .initially(false)
-                                              .then<[](This& box) { box.m_field.text().setBold(box.m_textFontBold); }>();
+                                             .saying("Keeps the text bold also when nobody has modified it.")
+                                             .initially(false)
+                                             .then<[](This& box) {
+                                                 box.m_field.text().setBold(box.m_textFontBold);
+                                                 box.s_UpdateColors();
+                                             }>();
     static constexpr auto UnitsFontBold =
         computedRow<[](This& box) { return box.UnitsFontBold(); }>("UnitsFontBold", core::Topic::Units)
+            .saying("Whether the unit label is bold.")
             .written<[](This& box, bool bold) { box.UnitsFontBold(bold); }>();
     static constexpr auto SelectedText =
         computedRow<[](This& box) { return box.SelectedText(); }>("SelectedText", core::Topic::Value)
+            .saying("The selected part of the text. Writing replaces it, or inserts at the caret, and counts as "
+                    "an edit.")
             .written<[](This& box, const std::string& text) { box.SelectedText(text); }>();
 
     static constexpr auto MsgInvalidEntry =
         fieldRow<&This::m_entryMessages, &EntryMessages::invalid>("MsgInvalidEntry", core::Topic::Messages)
+            .saying("Words before the limits in the message of a number outside of them.")
             .stored("Invalid Entry")
             .refreshing({Refresh::Status});
     static constexpr auto MsgInvalidEntryForText =
         fieldRow<&This::m_entryMessages, &EntryMessages::tooLong>("MsgInvalidEntryForText", core::Topic::Messages)
+            .saying("Message of a text that is longer than MaxLength.")
             .stored("Text is too long. Please enter a shorter text.")
             .refreshing({Refresh::Status});
     static constexpr auto MsgInvalidEntryTo =
         fieldRow<&This::m_entryMessages, &EntryMessages::to>("MsgInvalidEntryTo", core::Topic::Messages)
+            .saying("Word between the two limits.")
             .stored("To")
             .with(Access::Silent);
     static constexpr auto MsgInvalidEntryNAN =
         fieldRow<&This::m_entryMessages, &EntryMessages::notANumber>("MsgInvalidEntryNAN", core::Topic::Messages)
+            .saying("Message of an entry that is no number, when limits are not checked.")
             .stored("Invalid Entry")
             .refreshing({Refresh::Status});
 };
@@ -168,7 +204,9 @@ struct ctx_ZorTextBox::Tables {
     };
 
     static constexpr auto kEvents = core::joined(
-        std::array{ownEvent<&E::InvalidEntrySetTrue>("InvalidEntrySetTrue")}, core::conditionRows<E>(),
+        std::array{
+            ownEvent<&E::InvalidEntrySetTrue>("InvalidEntrySetTrue").saying("A commit found the entry invalid.")},
+        core::conditionRows<E>(),
         controls::entryFieldRows<E>(EntryField::kText, EntryField::kUnits,
                                     {.notify = Notice::LinkNotify, .open = Notice::LinkOpen}),
         core::iconRows<E>(EntryField::kState));
@@ -177,35 +215,41 @@ struct ctx_ZorTextBox::Tables {
                                         States::InvalidEntry};
 
     static constexpr std::array kMethods{
-        core::kGetMaxMessage,   core::kGetMessageID,
-        core::kSetMessage,      core::kChangeBackColor,
-        UnitRows::GetCaptionID, UnitRows::GetConversionFactor,
-        UnitRows::GetOffset,    method<&ctx_ZorTextBox::s_ForceOutputValueUpdate>("s_ForceOutputValueUpdate"),
+        core::kGetMaxMessage,
+        core::kGetMessageID,
+        core::kSetMessage,
+        core::kChangeBackColor,
+        UnitRows::GetCaptionID,
+        UnitRows::GetConversionFactor,
+        UnitRows::GetOffset,
+        method<&ctx_ZorTextBox::s_ForceOutputValueUpdate>("s_ForceOutputValueUpdate")
+            .saying(
+                "Commits the entry as it stands while the field still has the focus, without showing it anew."),
     };
 
     static constexpr std::array kWidgets{
-        core::WidgetRow{platform::kSurfaceWidget, "Surface"}, core::WidgetRow{EntryField::kText, "txt_TextBox"},
-        core::WidgetRow{EntryField::kUnits, "lbl_Units"}, core::WidgetRow{EntryField::kState, "img_State"}};
+        core::kSurfaceRow, core::WidgetRow{EntryField::kText, "txt_TextBox", "The text field."},
+        core::WidgetRow{EntryField::kUnits, "lbl_Units", "The unit label."}, core::iconRow(EntryField::kState)};
 };
 
 const core::ClassInfo& ctx_ZorTextBox::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info{
-        .name = "ctx_ZorTextBox",
-        .properties = T::kProperties,
-        .initialOrder = T::kInitialOrder,
-        .messages = T::kMessages,
-        .otherMessage = "MSG_INVALIDENTRYTO",
-        .events = T::kEvents,
-        .raised = {.invalid = named(T::kEvents, "InvalidEntrySetTrue"),
-                   .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
-                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
-                   .changed = named(T::kEvents, "textChange")},
-        .methods = T::kMethods,
-        .states = T::kStates,
-        .widgets = T::kWidgets,
-        .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }};
+    static constexpr core::ClassInfo info = core::complete(
+        {.name = "ctx_ZorTextBox",
+         .properties = T::kProperties,
+         .initialOrder = T::kInitialOrder,
+         .messages = T::kMessages,
+         .otherMessage = "MSG_INVALIDENTRYTO",
+         .events = T::kEvents,
+         .raised = {.invalid = named(T::kEvents, "InvalidEntrySetTrue"),
+                    .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                    .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                    .changed = named(T::kEvents, "textChange")},
+         .methods = T::kMethods,
+         .states = T::kStates,
+         .widgets = T::kWidgets,
+         .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
     return info;
 }
 

@@ -22,22 +22,33 @@ using platform::Notice;
 struct ctx_ZorUpDown::Rows : RangeRows {
     using This = ctx_ZorUpDown;
 
-    static constexpr auto DeviceValue = fieldRow<&This::m_deviceValue>("DeviceValue", core::Topic::Value)
-                                            .placed(core::Placing::Device)
-                                            .stored(0)
-                                            .then<&This::s_ApplyDeviceValue>();
+    static constexpr auto DeviceValue =
+        fieldRow<&This::m_deviceValue>("DeviceValue", core::Topic::Value)
+            .saying("Raw value from the device, a whole number in DeviceUnit. A write shows it rounded in "
+                    "OutputUnit, sets OutputValue and ends the operator's edit.")
+            .placed(core::Placing::Device)
+            .stored(0)
+            .then<&This::s_ApplyDeviceValue>();
     static constexpr auto OutputValue =
-        fieldRow<&This::m_outputValue>("OutputValue", core::Topic::Value).stored(0).with(core::Access::Derived);
+        fieldRow<&This::m_outputValue>("OutputValue", core::Topic::Value)
+            .saying("The value to write to the device, a whole number in DeviceUnit.")
+            .stored(0)
+            .with(core::Access::Derived);
     static constexpr auto ModifiedValue =
         core::computedRow<[](This& control) { return control.ModifiedValue(); }>("ModifiedValue",
                                                                                  core::Topic::Value)
+            .saying("Reading gives OutputValue. Writing shows a whole number, in DeviceUnit, as if the operator "
+                    "had entered it.")
             .written<[](This& control, std::int32_t value) { control.ModifiedValue(value); }>();
     static constexpr auto OtherUserValue = OtherUser<&This::m_otherUser>;
     // The key's small "o" is in every form ever saved.
     static constexpr auto NumberOfDigits =
-        fieldRow<&This::m_numberOfDigits>("NumberOfDigits", core::Topic::Value).storedAs("NumberofDigits", 3);
+        fieldRow<&This::m_numberOfDigits>("NumberOfDigits", core::Topic::Value)
+            .saying("Kept and stored for the host, without effect: the up-down shows whole numbers.")
+            .storedAs("NumberofDigits", 3);
     static constexpr auto WidthDifference =
         fieldRow<&This::m_field, &EntryField::widthDifference>("WidthDifference", core::Topic::Appearance)
+            .saying("Room right of the text field for unit label and state icon, in twips.")
             .stored(1305)
             .then<&This::s_Layout>();
 };
@@ -63,7 +74,8 @@ struct ctx_ZorUpDown::Tables {
     static constexpr auto kOrder = controls::limitsAfterUnit<kProperties>();
 
     static constexpr auto kEvents = core::joined(
-        std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue")}, core::conditionRows<E>(),
+        std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue").saying(controls::kOutOfRange)},
+        core::conditionRows<E>(),
         controls::entryFieldRows<E>(EntryField::kText, EntryField::kUnits,
                                     {.close = Notice::LinkClose, .error = Notice::LinkError}),
         std::array{event<&E::upDownChange>("upDownChange", kSpin, Notice::Change),
@@ -78,30 +90,30 @@ struct ctx_ZorUpDown::Tables {
         R::GetCaptionID,      R::GetConversionFactor, R::GetOffset};
 
     static constexpr std::array kWidgets{
-        core::WidgetRow{platform::kSurfaceWidget, "Surface"}, core::WidgetRow{EntryField::kText, "txt_TextBox"},
-        core::WidgetRow{kSpin, "upd_UpDown"}, core::WidgetRow{EntryField::kUnits, "lbl_Units"},
-        core::WidgetRow{EntryField::kState, "img_State"}};
+        core::kSurfaceRow, core::WidgetRow{EntryField::kText, "txt_TextBox", "The text field."},
+        core::WidgetRow{kSpin, "upd_UpDown", "The spin button."},
+        core::WidgetRow{EntryField::kUnits, "lbl_Units", "The unit label."}, core::iconRow(EntryField::kState)};
 };
 
 const core::ClassInfo& ctx_ZorUpDown::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info{
-        .name = "ctx_ZorUpDown",
-        .properties = T::kProperties,
-        .readOrder = T::kOrder,
-        .initialOrder = T::kOrder,
-        .messages = Rows::kMessages,
-        .events = T::kEvents,
-        .raised = {.invalid = named(T::kEvents, "InvalidValueSetTrue"),
-                   .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
-                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
-                   .changed = named(T::kEvents, "textChange")},
-        .methods = T::kMethods,
-        .states = T::kStates,
-        .widgets = T::kWidgets,
-        .keepsFailedWrites = true,
-        .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }};
+    static constexpr core::ClassInfo info = core::complete(
+        {.name = "ctx_ZorUpDown",
+         .properties = T::kProperties,
+         .readOrder = T::kOrder,
+         .initialOrder = T::kOrder,
+         .messages = Rows::kMessages,
+         .events = T::kEvents,
+         .raised = {.invalid = named(T::kEvents, "InvalidValueSetTrue"),
+                    .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                    .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                    .changed = named(T::kEvents, "textChange")},
+         .methods = T::kMethods,
+         .states = T::kStates,
+         .widgets = T::kWidgets,
+         .keepsFailedWrites = true,
+         .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
     return info;
 }
 
