@@ -29,9 +29,11 @@ public:
 private:
     void leave();
     bool take();
+    [[nodiscard]] std::optional<Variant> typedNumber() const;
 
     core::Control& m_control;
     std::optional<Variant> m_value;
+    std::optional<Variant> m_number; ///< as typed, of a number that is being left
     bool m_typing = false;
     bool m_leaving = false; ///< what the control hands back now is the text as it shows it
     bool m_focused = false;

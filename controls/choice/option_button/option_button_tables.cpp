@@ -33,8 +33,7 @@ struct ctx_ZorOptionButton::Rows
     // A form says what its button stands for, even when that is 0.
     static constexpr auto EnumEntryValue = fieldRow<&This::m_entryValue>("EnumEntryValue", core::Topic::Value)
                                                .saying("The value that this button stands for.")
-                                               .alwaysStored(0)
-                                               .then<[](This& button) { button.m_isEntryNew = true; }>();
+                                               .alwaysStored(0);
     static constexpr auto OptionButtonValue =
         core::computedRow<[](This& button) { return button.OptionButtonValue(); }>("OptionButtonValue",
                                                                                    core::Topic::Appearance)

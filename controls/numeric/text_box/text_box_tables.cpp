@@ -83,13 +83,11 @@ struct ctx_ZorTextBox::Rows : UnitRows {
             .saying("Room right of the text field for unit label and state icon, in twips.")
             .stored(1305)
             .then<&This::s_Layout>();
-    static constexpr auto TextFontBold = fieldRow<&This::m_textFontBold>("TextFontBold", core::Topic::Appearance)
-                                             .saying("Keeps the text bold also when nobody has modified it.")
-                                             .initially(false)
-                                             .then<[](This& box) {
-                                                 box.m_field.text().setBold(box.m_textFontBold);
-                                                 box.s_UpdateColors();
-                                             }>();
+    static constexpr auto TextFontBold =
+        fieldRow<&This::m_textFontBold>("TextFontBold", core::Topic::Appearance)
+            .saying("Keeps the text bold also when nobody has modified it.")
+            .initially(false)
+            .then<[](This& box) { box.m_field.text().setBold(box.m_textFontBold); }>();
     static constexpr auto UnitsFontBold =
         computedRow<[](This& box) { return box.UnitsFontBold(); }>("UnitsFontBold", core::Topic::Units)
             .saying("Whether the unit label is bold.")
