@@ -198,6 +198,8 @@ void GeneratedForm::translate(const std::string& language)
                 setOwnCaption(control, {});
             else if (control.info().name == "ctx_ZorListBox")
                 giveRoomForBits(control, *row.parameter, language);
+            else if (control.info().name == "ctx_ZorComboBox")
+                giveRoomForEntries(control);
         }
     }
     for (std::size_t i = 0; i < m_tabTexts.size(); ++i) {

@@ -6,12 +6,15 @@
 #include <zor/platform/qt/container.h>
 #include <zor/platform/qt/looks.h>
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QLocale>
 #include <QStyle>
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace zor::monitor {
 namespace {
@@ -84,15 +87,31 @@ void markEdited(QLabel& note, bool edited)
     note.setAutoFillBackground(edited);
 }
 
-/// A text that is wider than its field, in short.
-QString overflowText(const QLineEdit& field)
+/// What a field shows, and how much room it has for that.
+struct Shown {
+    QString text;
+    int room = 0;
+};
+
+std::optional<Shown> shownBy(const QWidget& surface)
 {
     constexpr int kFrame = 10;
+    constexpr int kArrow = 28;
+    if (const auto* field = surface.findChild<QLineEdit*>(); field != nullptr)
+        return Shown{field->text(), field->width() - kFrame};
+    if (const auto* box = surface.findChild<QComboBox*>(); box != nullptr)
+        return Shown{box->currentText(), box->width() - kArrow};
+    return std::nullopt;
+}
+
+/// A text that is wider than its field, in short.
+QString overflowText(const Shown& shown, const QFontMetrics& metrics)
+{
     constexpr int kDigits = 6;
-    if (field.fontMetrics().horizontalAdvance(field.text()) <= field.width() - kFrame)
+    if (metrics.horizontalAdvance(shown.text) <= shown.room)
         return {};
     bool number = false;
-    const double value = QLocale().toDouble(field.text(), &number);
+    const double value = QLocale().toDouble(shown.text, &number);
     return number ? "= " + QLocale().toString(value, 'g', kDigits) : QString(QChar(0x2026));
 }
 
@@ -130,6 +149,13 @@ void giveRoomForBits(core::Control& list, const Parameter& parameter, const std:
     setWidth(list, std::clamp(wanted, kUsualWidth, kWidest));
 }
 
+void giveRoomForEntries(core::Control& comboBox)
+{
+    auto* box = surfaceOf(comboBox).findChild<QComboBox*>();
+    if (box != nullptr)
+        box->view()->setMinimumWidth(std::min(box->view()->sizeHintForColumn(0) + kMark, kWidest));
+}
+
 void setOwnCaption(core::Control& control, const QString& caption)
 {
     QWidget& surface = surfaceOf(control);
@@ -155,9 +181,9 @@ void showNote(QLabel& note, core::Control& control, const Parameter& parameter, 
     const bool slider = control.info().name == "ctx_ZorSlider";
     const bool edited = slider && control.property("DataModified").toBoolean();
     QString text;
-    if (const auto* field = surfaceOf(control).findChild<QLineEdit*>(); field != nullptr) {
-        text = overflowText(*field);
-        note.setToolTip(text.isEmpty() ? QString() : field->text());
+    if (const auto shown = shownBy(surfaceOf(control))) {
+        text = overflowText(*shown, note.fontMetrics());
+        note.setToolTip(text.isEmpty() ? QString() : platform::qt::plainToolTip(shown->text.toStdString()));
     } else if (slider && (known || edited)) {
         text = valueText(control, parameter, language);
         if (edited)

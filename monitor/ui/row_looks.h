@@ -27,8 +27,10 @@ void giveSize(core::Control& control);
 /// A list shows the names of its bits, as far as that is possible.
 void giveRoomForBits(core::Control& list, const Parameter& parameter, const std::string& language);
 
-/// Of a check box or an option button; what is too long is cut and stands in
-/// the tooltip.
+/// The list that a combo box opens shows whole entries, as far as that is possible.
+void giveRoomForEntries(core::Control& comboBox);
+
+/// Of a check box or an option button; what is too long is cut and stands in the tooltip.
 void setOwnCaption(core::Control& control, const QString& caption);
 
 /// Widens or narrows a control to what it shows, so that neither a long unit

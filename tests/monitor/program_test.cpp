@@ -53,6 +53,7 @@ TEST(Program, SaysWhyItCannotRun)
         return file.fileName();
     };
     const QString bad = fileOf("bad.json", "{\n\"parameters\": [\n{\"tag\": 5}]}");
+    const QString empty = fileOf("empty.ui", R"(<ui version="4.0"><widget class="QWidget" name="a"/></ui>)");
     const QString absent = fileOf("absent.json", R"({"parameters": [{"tag": "A", "bank": "input", "address": 0,
         "type": "uint16", "simulation": {"absent": true}}]})");
     QTcpServer silent;
@@ -77,6 +78,8 @@ TEST(Program, SaysWhyItCannotRun)
         {{"--parameters", bad}, 2, bad + ":3: a text is expected here"},
         {{"--parameters", folder.filePath("none.json")}, 2, "none.json: "},
         {{"--form", bad}, 2, "bad.json:1: "},
+        {{"--form", empty}, 2, "empty.ui: no controls of the library"},
+        {{"--form", folder.filePath("none.ui")}, 2, "none.ui: "},
         {{"--log", folder.filePath("no/log.csv")}, 2, "no/log.csv: "},
         {{"--log", "/dev/full", "--run-for", "1"}, 2, "/dev/full: No space left on device"},
         {{"--screenshot", folder.filePath("no/a.png"), "--run-for", "1"}, 2, "cannot write"},

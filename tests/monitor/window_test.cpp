@@ -33,14 +33,19 @@ ParameterFile demoFile()
 }
 
 struct Demo : testing::Test {
-    Demo()
+    /// With the form of a file, or else a generated one.
+    explicit Demo(const char* drawn = nullptr)
     {
         registerControls(classes);
         languages.use("en");
         EXPECT_TRUE(device.start()) << device.error().toStdString();
         auto link = std::make_unique<TcpLink>("127.0.0.1", device.port(), 1, kPeriod);
         auto session = std::make_unique<Session>(std::move(link), file);
-        auto form = std::make_unique<GeneratedForm>(session->file(), classes);
+        std::unique_ptr<Form> form;
+        if (drawn != nullptr)
+            form = std::make_unique<UiForm>(drawn, classes);
+        else
+            form = std::make_unique<GeneratedForm>(session->file(), classes);
         window = std::make_unique<Window>(std::move(session), std::move(form), languages, &device);
         window->show();
         window->session().start(kPeriod);
@@ -204,41 +209,28 @@ TEST_F(Demo, ClosingWithEditsAsksAndClosingWithAReplyPendingIsSafe)
     QTest::qWait(kPeriod);
 }
 
-TEST(DrawnForm, ShowsAllNineClassesAndWritesThroughThem)
+struct Drawn : Demo {
+    Drawn() : Demo(ZOR_TEST_DATA "/../../monitor/device/demo.ui") {}
+};
+
+TEST_F(Drawn, ShowsAllNineClassesAndWritesThroughThem)
 {
-    core::ClassRegistry classes;
-    registerControls(classes);
-    Languages languages;
-    languages.use("en");
-    const ParameterFile file = demoFile();
-    Simulator device(file);
-    ASSERT_TRUE(device.start());
-    auto link = std::make_unique<TcpLink>("127.0.0.1", device.port(), 1, kPeriod);
-    auto form = std::make_unique<UiForm>(ZOR_TEST_DATA "/../../monitor/device/demo.ui", classes);
     std::set<std::string_view> seen;
-    for (core::Control* control : form->controls())
+    for (core::Control* control : window->form().controls())
         seen.insert(control->info().name);
     EXPECT_EQ(seen.size(), 9U);
-    Window window(std::make_unique<Session>(std::move(link), file), std::move(form), languages, &device);
-    window.show();
-    window.session().start(kPeriod);
-    const auto control = [&](std::string_view tag) -> core::Control& {
-        const auto all = window.session().bindings();
-        return (*std::ranges::find_if(all, [&](const auto& one) { return one->control().DeviceTag() == tag; }))
-            ->control();
-    };
-    window.form().tabs()->setCurrentIndex(0);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return control("Serial").property("LabelCaption") == Variant("Z-0047110"); },
-                                kPatience));
+    const auto control = [&](std::string_view tag) -> core::Control& { return binding(tag).control(); };
+    open(0);
+    EXPECT_EQ(control("Serial").property("LabelCaption"), Variant("Z-0047110"));
     EXPECT_TRUE(control("Unheard").DeviceTagNotFound());
     EXPECT_EQ(control("DeviceStatus").property("DeviceValue"), Variant(8));
-    window.form().tabs()->setCurrentIndex(1);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return control("Echo").property("DeviceValue") == Variant(1); }, kPatience));
+    open(1);
+    EXPECT_EQ(control("Echo").property("DeviceValue"), Variant(1));
     control("Damping").setProperty("ModifiedValue", 42);
-    window.review();
-    ASSERT_NE(window.openReview(), nullptr);
-    window.openReview()->accept();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.session().hasEdits(); }, kPatience));
+    window->review();
+    ASSERT_NE(window->openReview(), nullptr);
+    window->openReview()->accept();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->session().hasEdits(); }, kPatience));
     EXPECT_EQ(device.registers(HoldingRegister, 3, 1), (Registers{42}));
 }
 
@@ -270,31 +262,6 @@ TEST(DrawnForm, KeepsTheSizeItWasDrawnInAndScrollsInLessRoom)
     auto& area = dynamic_cast<QScrollArea&>(window.form().widget());
     area.ensureWidgetVisible(&box);
     EXPECT_FALSE(box.visibleRegion().isEmpty());
-}
-
-TEST(DrawnForm, WhatIsNoFormIsRefusedWithFileAndLine)
-{
-    core::ClassRegistry classes;
-    registerControls(classes);
-    QTemporaryDir folder;
-    const std::vector<std::pair<const char*, const char*>> rows{
-        {"<ui version=\"4.0\">\n<widget", "bad.ui:2: "},
-        {"", "bad.ui"},
-        {"<ui version=\"4.0\"><widget class=\"QWidget\" name=\"a\"/></ui>", "no controls of the library"},
-    };
-    for (const auto& [text, error] : rows) {
-        QFile file(folder.filePath("bad.ui"));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(text);
-        file.close();
-        try {
-            const UiForm form(file.fileName(), classes);
-            ADD_FAILURE() << "accepted: " << text;
-        } catch (const std::runtime_error& refused) {
-            EXPECT_NE(std::string(refused.what()).find(error), std::string::npos) << refused.what();
-        }
-    }
-    EXPECT_THROW(UiForm(folder.filePath("none.ui"), classes), FileError);
 }
 
 } // namespace
