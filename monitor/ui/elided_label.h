@@ -1,7 +1,6 @@
 #pragma once
 
-/// A line of text that asks for no room: what does not fit is cut with an
-/// ellipsis and stands in the tooltip.
+/// A line of text that asks for no room: what does not fit is cut with an ellipsis and stands in the tooltip.
 
 #include <QLabel>
 

@@ -28,15 +28,12 @@ public:
 
     [[nodiscard]] virtual QWidget& widget() = 0;
     [[nodiscard]] virtual std::vector<core::Control*> controls() = 0;
-    /// Shows the texts that belong to the form, not to its controls, in a
-    /// language.
+    /// Shows the texts that belong to the form, not to its controls, in a language.
     virtual void translate(const std::string& language) = 0;
-    /// Whether the device's value of a control is known; without it, every value
-    /// is.
+    /// Whether the device's value of a control is known; without it, every value is.
     std::function<bool(const core::Control&)> isKnown;
-    /// Follows the controls, wherever something about one in sight may have
-    /// changed: a value or an edit, the text of a unit, whether the device has
-    /// the parameter.
+    /// Follows the controls, wherever something about one in sight may have changed: a value or an edit, the text
+    /// of a unit, whether the device has the parameter.
     virtual void arrange() {}
     /// The room that shows all of it.
     [[nodiscard]] virtual QSize wholeSize() { return widget().sizeHint(); }
@@ -44,9 +41,8 @@ public:
     [[nodiscard]] virtual QTabWidget* tabs() { return nullptr; }
 };
 
-/// A form made from a parameter file: a tab for each group, a row for each
-/// parameter, an option button for each entry. Where a program does not have
-/// the class that the file names, a text box takes its place.
+/// A form made from a parameter file: a tab for each group, a row for each parameter, an option button for each
+/// entry. Where a program does not have the class that the file names, a text box takes its place.
 class GeneratedForm final : public Form {
     Q_DECLARE_TR_FUNCTIONS(GeneratedForm)
 public:
@@ -88,8 +84,8 @@ private:
 /// A form drawn in Qt Designer. Its own texts stay as they were drawn.
 class UiForm final : public Form {
 public:
-    /// Raises FileError, or the form reader's FormError, for a file that is no
-    /// form or has no control of the library on it.
+    /// Raises FileError, or the form reader's FormError, for a file that is no form or has no control of the
+    /// library on it.
     UiForm(const QString& file, const core::ClassRegistry& classes);
     ~UiForm() override;
 
@@ -102,8 +98,7 @@ private:
     QPointer<QWidget> m_widget;
 };
 
-/// Whether the operator can see a control: it lies on the tab in front of a
-/// window that is not minimised.
+/// Whether the operator can see a control: it lies on the tab in front of a window that is not minimised.
 [[nodiscard]] bool isInSight(core::Control& control);
 
 } // namespace zor::monitor

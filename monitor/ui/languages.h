@@ -17,8 +17,7 @@ struct LanguageRow {
 /// English first.
 [[nodiscard]] std::span<const LanguageRow> languages() noexcept;
 
-/// Installs translators and separators. One for the process; it must end before
-/// the application does.
+/// Installs translators and separators. One for the process; it must end before the application does.
 class Languages {
 public:
     Languages();
@@ -28,8 +27,8 @@ public:
 
     /// The language of the user's environment if it is one of ours, else English.
     [[nodiscard]] static QString systemLanguage();
-    /// Texts by `code`, separators by the user's own region where its language is
-    /// this one. Any other code counts as English.
+    /// Texts by `code`, separators by the user's own region where its language is this one. Any other code
+    /// counts as English.
     void use(const QString& code);
     [[nodiscard]] const QString& current() const { return m_code; }
 

@@ -13,9 +13,8 @@ class QTableWidget;
 
 namespace zor::monitor {
 
-/// Two tables of changes: those that will be written, and below them those that
-/// cannot be. Each row has the parameter's caption and tag, the old and the new
-/// value with their unit, and a remark. Accepted by "Write".
+/// Two tables of changes: those that will be written, and below them those that cannot be. Each row has the
+/// parameter's caption and tag, the old and the new value with their unit, and a remark. Accepted by "Write".
 class ReviewDialog final : public QDialog {
     Q_DECLARE_TR_FUNCTIONS(ReviewDialog)
 public:

@@ -41,8 +41,7 @@ constexpr LooksRow kUsualLooks{"", kUsualWidth, 27};
 
 QWidget& surfaceOf(core::Control& control) { return platform::qt::widgetOf(control.surface()); }
 
-/// The right end of what is on the control, shown or not: the icon comes and
-/// goes.
+/// The right end of what is on the control, shown or not: the icon comes and goes.
 int rightEnd(const QWidget& surface)
 {
     int end = 0;

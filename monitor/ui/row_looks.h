@@ -1,7 +1,6 @@
 #pragma once
 
-/// How much room a control takes in a row of the generated form, and what
-/// stands beside it.
+/// How much room a control takes in a row of the generated form, and what stands beside it.
 
 #include <zor/core/control.h>
 #include <zor/monitor/data/parameter_file.h>
@@ -33,18 +32,16 @@ void giveRoomForEntries(core::Control& comboBox);
 /// Of a check box or an option button; what is too long is cut and stands in the tooltip.
 void setOwnCaption(core::Control& control, const QString& caption);
 
-/// Widens or narrows a control to what it shows, so that neither a long unit
-/// nor a long caption pushes the state icon over its edge, and hides it while
-/// the device does not have the parameter.
+/// Widens or narrows a control to what it shows, so that neither a long unit nor a long caption pushes the state
+/// icon over its edge, and hides it while the device does not have the parameter.
 void fitSize(core::Control& control);
 
-/// Beside a control: the value where it has no text for it, or one that its
-/// field is too narrow for. A value that is not known has no text.
+/// Beside a control: the value where it has no text for it, or one that its field is too narrow for. A value that
+/// is not known has no text.
 void showNote(QLabel& note, core::Control& control, const Parameter& parameter, bool known,
               const std::string& language);
 
-/// A text that a label can break into lines of the width, however long its
-/// words are.
+/// A text that a label can break into lines of the width, however long its words are.
 [[nodiscard]] QString breakable(const QString& text);
 
 } // namespace zor::monitor

@@ -1,7 +1,6 @@
 #pragma once
 
-/// What the status bar says: how the connection stands, what has just been
-/// done, how fast the device answers.
+/// What the status bar says: how the connection stands, what has just been done, how fast the device answers.
 
 #include <zor/monitor/session/session.h>
 #include <zor/monitor/ui/elided_label.h>

@@ -45,8 +45,7 @@ UiForm::UiForm(const QString& file, const core::ClassRegistry& classes)
     constexpr qint64 kLargest = 16 << 20;
     if (source.size() > kLargest)
         throw FileError(name, 0, "larger than 16 MB");
-    // Read first by the library's own reader: it says what is wrong, and in which
-    // line.
+    // Read first by the library's own reader: it says what is wrong, and in which line.
     const QByteArray text = source.readAll();
     if (forms::Form::parse(classes, text.toStdString(), name).items().empty())
         throw FileError(name, 0, "no controls of the library are on this form");

@@ -92,8 +92,7 @@ Window::Window(std::unique_ptr<Session> session, std::unique_ptr<Form> form, Lan
 
 QSize Window::usualSize() const
 {
-    // All of the form, and the state of the connection, if the screen has room
-    // for it.
+    // All of the form, and the state of the connection, if the screen has room for it.
     constexpr int kUsualWidth = 800;
     constexpr double kOfTheScreen = 0.9;
     const QSize bars = sizeHint() - centralWidget()->sizeHint();
@@ -233,8 +232,7 @@ void Window::buildUnitMenu()
 void Window::addUnits(QMenu& menu, UNIT_TYPE type)
 {
     const auto* row = units::rowOf(type);
-    // Units of the type OTHERS have nothing in common but their place in the
-    // list.
+    // Units of the type OTHERS have nothing in common but their place in the list.
     if (row == nullptr || row->first >= row->last || type == OTHERS)
         return;
     QMenu* own = menu.addMenu(inMenu(Words::unitType(type)));
@@ -324,8 +322,7 @@ void Window::changeEvent(QEvent* event)
 
 void Window::keepFrozenReadable()
 {
-    // Themes paint what is disabled so that nobody reads it. Here it is the last
-    // value of a device that is slow.
+    // Themes paint what is disabled so that nobody reads it. Here it is the last value of a device that is slow.
     constexpr float kText = 0.65F;
     QPalette palette;
     const QPalette own = this->palette();

@@ -19,9 +19,8 @@ namespace zor::monitor {
 class Window final : public QMainWindow {
     Q_DECLARE_TR_FUNCTIONS(Window)
 public:
-    /// Takes the session and the form over and binds the form's controls.
-    /// `device`, when there is one, can be stopped and started from the menu; it
-    /// and `languages` must outlive the window.
+    /// Takes the session and the form over and binds the form's controls. `device`, when there is one, can be
+    /// stopped and started from the menu; it and `languages` must outlive the window.
     Window(std::unique_ptr<Session> session, std::unique_ptr<Form> form, Languages& languages, Simulator* device);
     ~Window() override;
 
@@ -31,8 +30,8 @@ public:
     void setLanguage(const QString& code);
     void setUnits(UnitSystem system);
 
-    /// Takes the sizes that windows had when they were last closed, and leaves
-    /// theirs there. The settings must outlive the window.
+    /// Takes the sizes that windows had when they were last closed, and leaves theirs there. The settings must
+    /// outlive the window.
     void remember(QSettings& settings);
 
     /// Takes the entry under way over and opens the list of changes for review.

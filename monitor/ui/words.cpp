@@ -46,8 +46,7 @@ QString Words::outcome(const WriteResult& result)
 
 QString Words::reason(const Reply& reply)
 {
-    // The link's own words are translated by themselves; what the operating
-    // system says stays as it is.
+    // The link's own words are translated by themselves; what the operating system says stays as it is.
     const auto translated = [](std::string_view text) {
         return QCoreApplication::translate("reasons", std::string(text).c_str());
     };
