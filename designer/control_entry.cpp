@@ -20,11 +20,13 @@ QString toQString(std::string_view text)
 /// "ZorTextBox" of "zor::ZorTextBox".
 QString shortName(const WidgetClass& widgetClass) { return toQString(widgetClass.name).section("::", -1); }
 
-/// Which of the control's texts a translator sees.
-QString textRules(const core::ClassInfo& info)
+/// Which of the control's texts a translator sees, and what each property means.
+QString propertyRules(const core::ClassInfo& info)
 {
     QString rules;
     for (const core::PropertyRow* row : info.properties) {
+        rules += QString("<tooltip name=\"%1\">%2</tooltip>")
+                     .arg(toQString(row->name), toQString(row->meaning).toHtmlEscaped());
         if (row->field.kind == core::ValueKind::Text)
             rules += QString("<stringpropertyspecification name=\"%1\" type=\"%2\"%3/>")
                          .arg(toQString(row->name), row->isIdentifier ? "singleline" : "multiline",
@@ -65,7 +67,7 @@ QString ControlEntry::domXml() const
         .arg(toQString(descriptionOf(m_class.controlClass).title), name(), objectName)
         .arg(sample->sizeHint().width())
         .arg(sample->sizeHint().height())
-        .arg(includeFile(), textRules(sample->info()));
+        .arg(includeFile(), propertyRules(sample->info()));
 }
 
 QWidget* ControlEntry::createWidget(QWidget* parent)

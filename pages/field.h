@@ -18,6 +18,18 @@ enum class FieldKind : std::uint8_t {
     Check,  ///< a check box, which carries the caption itself
 };
 
+/// The name of a kind, for people.
+[[nodiscard]] constexpr std::string_view kindName(FieldKind kind) noexcept
+{
+    switch (kind) {
+    case FieldKind::Text: return "text";
+    case FieldKind::List: return "list";
+    case FieldKind::Number: return "number";
+    case FieldKind::Check: return "check";
+    }
+    return "?";
+}
+
 struct Field {
     std::string_view widget;
     FieldKind kind;

@@ -1,8 +1,11 @@
 // Writes the reference pages: what the tables of every class say, one Markdown file a class.
 
 #include <zor/controls/registration.h>
+#include <zor/core/argument_words.h>
 #include <zor/core/control.h>
+#include <zor/pages/registration.h>
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <fstream>
@@ -12,6 +15,7 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -54,20 +58,23 @@ void writeProperties(std::ostream& out, const ClassInfo& info)
     out << "## Properties\n\n"
            "In the order in which they are stored. *New* is the value of a new control where it differs from the\n"
            "default, which a missing key reads as. Unless a row says otherwise a write notifies the container.\n\n"
-           "| Property | Type | Key | Default | New | A write |\n|---|---|---|---|---|---|\n";
+           "| Property | Meaning | Type | Key | Default | New | A write |\n|---|---|---|---|---|---|---|\n";
     for (const PropertyRow* row : info.properties)
-        out << "| " << code(row->name) << " | " << kindName(row->field.kind) << " | "
-            << (row->key.empty() ? "not stored" : code(row->key)) << " | " << literal(row->bagDefault) << " | "
-            << literal(row->initial) << " | " << access(*row) << " |\n";
+        out << "| " << code(row->name) << " | " << cell(row->meaning) << " | " << kindName(row->field.kind)
+            << " | " << (row->key.empty() ? "not stored" : code(row->key)) << " | " << literal(row->bagDefault)
+            << " | " << literal(row->initial) << " | " << access(*row) << " |\n";
 }
 
 void writeMethods(std::ostream& out, const ClassInfo& info)
 {
-    out << "\n## Methods\n\n| Method | Arguments | Answers |\n|---|---|---|\n";
+    out << "\n## Methods\n\n| Method | Meaning | Arguments | Answers |\n|---|---|---|---|\n";
     for (const core::MethodRow& row : info.methods) {
-        out << "| " << code(row.name) << " | ";
-        for (std::size_t i = 0; i < row.argumentCount; ++i)
-            out << (i == 0 ? "" : ", ") << code(row.arguments[i].name) << ' ' << kindName(row.arguments[i].kind);
+        out << "| " << code(row.name) << " | " << cell(row.meaning) << " | ";
+        for (std::size_t i = 0; i < row.argumentCount; ++i) {
+            const auto& [name, kind] = row.arguments[i];
+            out << (i == 0 ? "" : "; ") << code(name) << " (" << kindName(kind)
+                << "): " << cell(core::argumentMeaning(name));
+        }
         out << " | ";
         if (row.answers == core::MethodRow::Answers::Array)
             out << "array of " << kindName(row.result);
@@ -86,10 +93,10 @@ void writeEvents(std::ostream& out, const ClassInfo& info)
            "Arguments are by reference: what a handler changes reaches the widget. An event that no widget's "
            "report\n"
            "raises comes from the control itself, or is declared only.\n\n"
-           "| No. | Event | Arguments | Re-raised from |\n|---|---|---|---|\n";
+           "| No. | Event | Raised when | Arguments | Re-raised from |\n|---|---|---|---|---|\n";
     for (std::size_t i = 0; i < info.events.size(); ++i) {
         const core::EventRow& row = info.events[i];
-        out << "| " << i + 1 << " | " << code(row.name) << " | ";
+        out << "| " << i + 1 << " | " << code(row.name) << " | " << cell(core::meaningOf(row)) << " | ";
         for (std::size_t a = 0; a < row.argumentCount; ++a)
             out << (a == 0 ? "" : ", ") << code(row.arguments[a]) << ' ' << kTypes[row.types[a]];
         out << " | ";
@@ -98,6 +105,21 @@ void writeEvents(std::ostream& out, const ClassInfo& info)
                 out << code(widget.name);
         }
         out << " |\n";
+    }
+}
+
+/// Each argument once: the same name means the same in every event.
+void writeArguments(std::ostream& out, const ClassInfo& info)
+{
+    std::vector<std::string_view> known;
+    for (const core::EventRow& row : info.events) {
+        for (std::size_t i = 0; i < row.argumentCount; ++i) {
+            const std::string_view name = row.arguments[i];
+            if (std::ranges::find(known, name) != known.end())
+                continue;
+            known.push_back(name);
+            out << "- " << code(name) << ": " << cell(core::argumentMeaning(name)) << '\n';
+        }
     }
 }
 
@@ -113,26 +135,55 @@ void writeMessages(std::ostream& out, const ClassInfo& info)
 std::string page(const ClassInfo& info)
 {
     std::ostringstream out;
-    out << "# " << info.name
-        << "\n\nWritten from the class's tables by `scripts/reference`. What each member means stands in the\n"
-           "class's header.\n\n";
+    out << "# " << info.name << "\n\nWritten from the class's tables by `scripts/reference`.\n\n";
     writeProperties(out, info);
     writeMethods(out, info);
     writeEvents(out, info);
     writeMessages(out, info);
     out << "\n## Widgets\n\n";
     for (const core::WidgetRow& row : info.widgets)
-        out << "- " << code(row.name) << '\n';
+        out << "- " << code(row.name) << ": " << cell(row.meaning) << '\n';
+    out << "\n## Arguments of events\n\n";
+    writeArguments(out, info);
     return out.str();
 }
 
-std::map<std::string, std::string> pages()
+std::string page(const pages::PageInfo& info)
+{
+    std::ostringstream out;
+    out << "# " << info.name
+        << "\n\nWritten from the page's table by `scripts/reference`. A property page captioned \"" << info.caption
+        << "\", made for";
+    for (const std::string_view control : info.controls)
+        out << (control == info.controls.front() ? " " : ", ") << code(control);
+    out << ". It shows the first selected control; Apply writes all of its fields.\n\n"
+           "| Field | Caption | Kind | Property | Choices |\n|---|---|---|---|---|\n";
+    for (const pages::Field* field : info.fields) {
+        out << "| " << code(field->widget) << " | " << cell(field->caption) << " | "
+            << pages::kindName(field->kind) << " | " << code(field->property) << " | ";
+        for (const std::string_view item : field->items)
+            out << (item == field->items.front() ? "" : ", ") << cell(item);
+        if (field->kind == pages::FieldKind::Number)
+            out << field->minimum << " to " << field->maximum << ", by " << code(field->spinButton);
+        out << " |\n";
+    }
+    return out.str();
+}
+
+std::map<std::string, std::string> allPages()
 {
     core::ClassRegistry registry;
     registerControls(registry);
     std::map<std::string, std::string> result;
-    std::string index = "# Reference\n\nThe controls, one page a class.\n\n";
+    std::string index = "# Reference\n\nOne page a class: the controls, then the property pages.\n\n";
     for (const ClassInfo* info : registry.classes()) {
+        const std::string file = std::string(info->name) + ".md";
+        result[file] = page(*info);
+        index += "- [" + std::string(info->name) + "](" + file + ")\n";
+    }
+    pages::PageRegistry pageClasses;
+    registerPages(pageClasses);
+    for (const pages::PageInfo* info : pageClasses.rows()) {
         const std::string file = std::string(info->name) + ".md";
         result[file] = page(*info);
         index += "- [" + std::string(info->name) + "](" + file + ")\n";
@@ -158,7 +209,7 @@ int main(int argc, char** argv)
     }
     const std::filesystem::path folder = argv[argc - 1];
     bool stale = false;
-    for (const auto& [file, text] : pages()) {
+    for (const auto& [file, text] : allPages()) {
         if (contentOf(folder / file) == text)
             continue;
         stale = true;

@@ -8,6 +8,9 @@
 namespace zor::console {
 namespace {
 
+/// Between what a table says for programs and what it says for people.
+constexpr std::string_view kMeaning = " - ";
+
 std::string_view accessNote(const core::PropertyRow& row)
 {
     if (row.access == core::Access::Derived)
@@ -30,7 +33,7 @@ std::string propertyLine(const core::PropertyRow& row)
         line += " default " + literal(row.bagDefault);
     if (!std::holds_alternative<std::monostate>(row.initial))
         line += " initially " + literal(row.initial);
-    return line + std::string(accessNote(row));
+    return line.append(accessNote(row)).append(kMeaning).append(row.meaning);
 }
 
 std::string eventLine(std::size_t number, const core::EventRow& row)
@@ -38,7 +41,7 @@ std::string eventLine(std::size_t number, const core::EventRow& row)
     std::string line = "event " + std::to_string(number) + ' ' + std::string(row.name);
     for (std::size_t i = 0; i < row.argumentCount; ++i)
         line.append(" ").append(row.arguments[i]);
-    return line;
+    return line.append(kMeaning).append(core::meaningOf(row));
 }
 
 std::string methodLine(const core::MethodRow& row)
@@ -46,15 +49,13 @@ std::string methodLine(const core::MethodRow& row)
     std::string line = "method " + std::string(row.name);
     for (std::size_t i = 0; i < row.argumentCount; ++i)
         line.append(" ").append(row.arguments[i].name);
-    return line;
+    return line.append(kMeaning).append(row.meaning);
 }
 
 std::string fieldLine(const pages::Field& field)
 {
-    constexpr std::array<std::string_view, 4> kKinds{"text", "list", "number", "check"};
-    std::string line = "field " + std::string(field.widget) + ' ' +
-                       std::string(kKinds.at(static_cast<std::size_t>(field.kind))) + ' ' +
-                       printText(field.caption) + " edits " + std::string(field.property);
+    std::string line = "field " + std::string(field.widget) + ' ' + std::string(pages::kindName(field.kind)) +
+                       ' ' + printText(field.caption) + " edits " + std::string(field.property);
     for (const std::string_view item : field.items)
         line.append(" ").append(printText(item));
     if (field.kind == pages::FieldKind::Number)
@@ -96,7 +97,7 @@ void describe(Session& session, const core::ClassInfo& info)
                       std::string(info.messages[i].property->name));
     session.print("message other " + std::string(info.otherMessage));
     for (const core::WidgetRow& row : info.widgets)
-        session.print("widget " + std::string(row.name));
+        session.print(std::string("widget ").append(row.name).append(kMeaning).append(row.meaning));
 }
 
 } // namespace zor::console

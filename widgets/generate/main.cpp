@@ -143,23 +143,23 @@ string methodOf(const core::MethodRow& row, string_view scope)
 void declareClass(std::ostream& out, const core::ClassInfo& info)
 {
     const string name = widgetName(info);
-    out << "/// " << info.name << " as a QWidget; what each member means stands there.\nclass " << name
-        << " : public ZorControl {\n    Q_OBJECT\n";
+    out << "/// " << info.name << " as a QWidget.\nclass " << name << " : public ZorControl {\n    Q_OBJECT\n";
     declareProperties(out, info);
     out << "\npublic:\n    explicit " << name << "(QWidget* parent = nullptr);\n    [[nodiscard]] " << info.name
         << "& control() const noexcept;\n\n";
     for (const core::PropertyRow* row : info.properties)
-        out << "    [[nodiscard]] " << qtType(row->field.kind) << ' ' << row->name << "() const;\n";
+        out << "    /// " << row->meaning << "\n    [[nodiscard]] " << qtType(row->field.kind) << ' ' << row->name
+            << "() const;\n";
     out << '\n';
     for (const core::MethodRow& row : info.methods)
-        out << "    Q_INVOKABLE " << methodOf(row, {}) << ";\n";
+        out << "    /// " << row.meaning << "\n    Q_INVOKABLE " << methodOf(row, {}) << ";\n";
     out << "\npublic slots:\n";
     for (const core::PropertyRow* row : info.properties)
         out << "    void set" << row->name << '(' << argument(row->field.kind, "value") << ");\n";
     out << "\nsignals:\n";
     for (const core::EventRow& row : info.events) {
         if (row.isRaised)
-            out << "    void " << signalOf(row) << ";\n";
+            out << "    /// " << core::meaningOf(row) << "\n    void " << signalOf(row) << ";\n";
     }
     out << "\nprotected:\n    void emitEvent(std::size_t event, platform::EventArgs arguments) override;\n};\n\n";
 }
