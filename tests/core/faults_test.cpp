@@ -18,6 +18,8 @@ TEST_F(TextBoxTest, AnOverflowingConversionChangesNothing)
     EXPECT_TRUE(box->DeviceValue() == Variant(1234));
     EXPECT_EQ(text(), "123");
     EXPECT_EQ(errorOf([&] { box->ModifiedValue(-1e308); }), 6);
+    box->s_ForceOutputValueUpdate();
+    EXPECT_DOUBLE_EQ(box->OutputValue().toDouble(), 0.1234) << "the value that is shown, unrounded";
     EXPECT_EQ(errorOf([&] { box->MinValue(std::numeric_limits<double>::max()); }), 0);
     EXPECT_EQ(errorOf([&] { box->DefaultUnit(LgthU_Mtr); }), 6);
     EXPECT_EQ(box->DefaultUnit(), LgthU_MM);

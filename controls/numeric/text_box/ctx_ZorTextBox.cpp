@@ -9,12 +9,13 @@ using platform::Alignment;
 void ctx_ZorTextBox::s_ApplyDeviceValue()
 {
     const std::uint32_t turn = newTurn();
-    showsFrom(m_deviceValue);
-    m_deviceValueUnit = m_units.deviceUnit;
-    m_shownDisplay.reset();
     const std::optional<double> number = isNumeric() ? validNumber(m_deviceValue) : std::nullopt;
+    m_displayValue =
+        number ? fc_FormatValue(m_units.toOutput(*number), m_units.outputUnit, m_numberOfDigits) : m_deviceValue;
+    m_shownDisplay.reset();
+    m_deviceValueUnit = m_units.deviceUnit;
+    m_source = Source::Device;
     if (number) {
-        m_displayValue = fc_FormatValue(m_units.toOutput(*number), m_units.outputUnit, m_numberOfDigits);
         if (m_displayValue.isText()) {
             // What has been formatted formats to itself: ten thousand fields are refreshed many times a second.
             m_field.text().setAlignment(Alignment::Right);
@@ -28,7 +29,6 @@ void ctx_ZorTextBox::s_ApplyDeviceValue()
         if (showsDisplayValue() || m_field.number())
             assignOutput(m_deviceValue);
     } else {
-        m_displayValue = m_deviceValue;
         show(m_displayValue);
         if (isOvertaken(turn))
             return;
@@ -63,12 +63,6 @@ void ctx_ZorTextBox::setText(std::string_view text)
     m_isShowing = false;
 }
 
-void ctx_ZorTextBox::showsFrom(const Variant& value)
-{
-    m_shownFrom = {value, m_units.deviceUnit};
-    m_isEdited = false;
-}
-
 void ctx_ZorTextBox::assignOutput(Variant value)
 {
     m_outputValue = std::move(value);
@@ -96,9 +90,10 @@ void ctx_ZorTextBox::ModifiedValue(const Variant& value)
     core::requireFinite(value);
     run([&] {
         const std::uint32_t turn = newTurn();
-        showsFrom(value);
         const std::optional<double> number = validNumber(value);
-        show(number ? Variant(m_units.toOutput(*number)) : value);
+        const Variant output = number ? Variant(m_units.toOutput(*number)) : value;
+        m_source = Source::Output;
+        show(output);
         if (isOvertaken(turn))
             return;
         if (!number || m_field.number())

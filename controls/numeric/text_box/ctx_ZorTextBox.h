@@ -115,11 +115,8 @@ private:
         std::string tooLong = "Text is too long. Please enter a shorter text.";
     };
 
-    /// A value of the host's, and the device unit that it came in.
-    struct Origin {
-        Variant value;
-        MEAS_TYPE unit;
-    };
+    /// Where the text came from: a host's ModifiedValue or a form, DeviceValue, or somebody's edit.
+    enum class Source : std::uint8_t { Output, Device, Edit };
 
     explicit ctx_ZorTextBox(platform::Container& container);
     ~ctx_ZorTextBox() override = default;
@@ -133,8 +130,6 @@ private:
     [[nodiscard]] Variant fv_FormatDisplayValue(const Variant& value, MEAS_TYPE unit);
     void show(const Variant& value);
     void setText(std::string_view text);
-    /// What is shown from now on is this value of the host's.
-    void showsFrom(const Variant& value);
     void assignOutput(Variant value);
     /// Whether the text is, letter for letter, what was last shown from the device.
     [[nodiscard]] bool showsDisplayValue() const;
@@ -149,7 +144,6 @@ private:
     void assignEntry();
     /// What the text hands back, in DeviceUnit.
     [[nodiscard]] Variant entry() const;
-    [[nodiscard]] Variant inDeviceUnit(const Origin& origin) const;
     void setInvalidEntry();
     [[nodiscard]] std::string rangeText() const;
     void appendDisplayValue(std::string& text) const;
@@ -180,8 +174,6 @@ private:
     Variant m_displayValue = 0.0;
     /// What the operator reads of the display value, where that says less: after a change of OutputUnit.
     std::optional<std::string> m_shownDisplay;
-    /// Where the text came from, until somebody edits it; nothing after loading.
-    std::optional<Origin> m_shownFrom;
     EntryMessages m_entryMessages;
     /// What s_ChangeBackColor gave the field.
     std::optional<Colour> m_customBackColour;
@@ -195,8 +187,7 @@ private:
     bool m_invalidEntry = false;
     bool m_textFontBold = false;
     bool m_editPending = false;
-    /// Somebody has changed the text since a value of the host's was shown.
-    bool m_isEdited = false;
+    Source m_source = Source::Output;
     /// The next report of the text is the control's own doing, or the undo's.
     bool m_isShowing = false;
     bool m_isUndoing = false;

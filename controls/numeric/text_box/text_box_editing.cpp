@@ -23,7 +23,7 @@ void ctx_ZorTextBox::onTextChanged()
 {
     m_editPending = true;
     if (!std::exchange(m_isShowing, false))
-        m_isEdited = true;
+        m_source = Source::Edit;
     judge(!std::exchange(m_isUndoing, false) && !equalsDisplayValue());
     s_UpdateColors();
     raise(raised().changed);
@@ -95,19 +95,15 @@ void ctx_ZorTextBox::assignEntry()
 Variant ctx_ZorTextBox::entry() const
 {
     // What nobody has edited is handed back as it came: the display rounds.
-    if (!m_isEdited)
-        return m_shownFrom ? inDeviceUnit(*m_shownFrom) : m_outputValue;
-    if (equalsDisplayValue())
-        return inDeviceUnit({m_deviceValue, m_deviceValueUnit});
+    if (m_source == Source::Device || (m_source == Source::Edit && equalsDisplayValue())) {
+        const bool isConverted = isNumeric() && m_deviceValueUnit != m_units.deviceUnit;
+        const std::optional<double> number = isConverted ? validNumber(m_deviceValue) : std::nullopt;
+        return number ? convert(*number, m_units.unitType, m_deviceValueUnit, m_units.deviceUnit) : m_deviceValue;
+    }
+    if (m_source == Source::Output)
+        return m_outputValue;
     const std::optional<double> number = isNumeric() ? m_field.number() : std::nullopt;
     return number ? Variant(m_units.toDevice(*number)) : Variant(m_field.text().text());
-}
-
-Variant ctx_ZorTextBox::inDeviceUnit(const Origin& origin) const
-{
-    const bool isConverted = isNumeric() && origin.unit != m_units.deviceUnit;
-    const std::optional<double> number = isConverted ? validNumber(origin.value) : std::nullopt;
-    return number ? Variant(convert(*number, m_units.unitType, origin.unit, m_units.deviceUnit)) : origin.value;
 }
 
 void ctx_ZorTextBox::s_ForceOutputValueUpdate()
@@ -122,8 +118,7 @@ void ctx_ZorTextBox::undoEdit()
     if (!m_status.dataModified)
         return;
     const std::uint32_t turn = newTurn();
-    showsFrom(m_deviceValue);
-    m_shownFrom->unit = m_deviceValueUnit;
+    m_source = Source::Device;
     m_isUndoing = true;
     show(m_displayValue);
     m_isUndoing = false;
