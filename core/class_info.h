@@ -8,6 +8,7 @@
 #include <zor/core/property_row.h>
 #include <zor/platform/container.h>
 #include <zor/platform/error.h>
+#include <zor/platform/macros_aside.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -177,3 +178,5 @@ public:
 };
 
 } // namespace zor::core
+
+#include <zor/platform/macros_back.h>

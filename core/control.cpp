@@ -35,7 +35,7 @@ void Control::release() noexcept
 
 // --- By name
 
-Variant Control::property(std::string_view name)
+Variant Control::property(std::string_view name) const
 {
     const PropertyRow* row = m_info.property(name);
     if (row == nullptr)
@@ -70,17 +70,19 @@ const PropertyRow& Control::own(const PropertyRow& row) const
     return row;
 }
 
-Variant Control::get(const PropertyRow& row) { return read(own(row)); }
+Variant Control::get(const PropertyRow& row) const { return read(own(row)); }
 
 void Control::put(const PropertyRow& row, const Variant& value) { assign(own(row), value); }
 
-Variant Control::read(const PropertyRow& row)
+Variant Control::read(const PropertyRow& row) const
 {
+    // A row finds its field for reading and for writing alike; here it is only read.
+    auto& control = const_cast<Control&>(*this);
     if (row.get != nullptr)
-        return row.get(*this);
+        return row.get(control);
     if (row.field.at == nullptr)
         raiseError(ErrorNumber::NoSuchMember, row.name);
-    return valueOf(row.field.at(*this));
+    return valueOf(row.field.at(control));
 }
 
 void Control::assign(const PropertyRow& row, const Variant& value)

@@ -6,6 +6,7 @@
 #include <zor/core/undo_menu.h>
 #include <zor/platform/container.h>
 #include <zor/platform/depth.h>
+#include <zor/platform/macros_aside.h>
 
 #include <cstdint>
 #include <exception>
@@ -71,12 +72,12 @@ public:
     /// @name By name
     /// A name that the class does not have raises NoSuchMember.
     /// @{
-    [[nodiscard]] Variant property(std::string_view name);
+    [[nodiscard]] Variant property(std::string_view name) const;
     void setProperty(std::string_view name, const Variant& value);
     /// Another number of arguments than the method has raises WrongArguments.
     MethodResult call(std::string_view method, std::span<const Variant> arguments);
     /// By a row of the class's table; one of another class raises NoSuchMember.
-    [[nodiscard]] Variant get(const PropertyRow& row);
+    [[nodiscard]] Variant get(const PropertyRow& row) const;
     void put(const PropertyRow& row, const Variant& value);
     /// @}
 
@@ -151,6 +152,7 @@ public:
     /// @name The container's side
     /// @{
     [[nodiscard]] platform::Surface& surface() noexcept { return *m_surface; }
+    [[nodiscard]] const platform::Surface& surface() const noexcept { return *m_surface; }
     /// A constituent widget by the number in the class's table; nullptr for another number.
     [[nodiscard]] virtual platform::Widget* widget(int number) noexcept;
     /// The menu behind the right mouse button, if the class has one.
@@ -272,7 +274,7 @@ private:
     void write(const PropertyRow& row, T& field, T value);
     /// The class's own row, or NoSuchMember.
     const PropertyRow& own(const PropertyRow& row) const;
-    [[nodiscard]] Variant read(const PropertyRow& row);
+    [[nodiscard]] Variant read(const PropertyRow& row) const;
     void assign(const PropertyRow& row, const Variant& value);
     [[nodiscard]] bool refusesWrite(const PropertyRow& row) const;
     void stored(const PropertyRow& row);
@@ -349,3 +351,5 @@ void Control::write(const PropertyRow& row, T& field, T value)
 }
 
 } // namespace zor::core
+
+#include <zor/platform/macros_back.h>

@@ -3,6 +3,7 @@
 /// Events as data, and the listeners they go to.
 
 #include <zor/platform/depth.h>
+#include <zor/platform/macros_aside.h>
 #include <zor/platform/notice.h>
 
 #include <algorithm>
@@ -175,3 +176,5 @@ constexpr EventRow declared(std::string_view name, Names... arguments)
 }
 
 } // namespace zor::core
+
+#include <zor/platform/macros_back.h>

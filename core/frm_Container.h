@@ -2,6 +2,8 @@
 
 /// The hidden form that all controls share: the image list with the pictures of the state icon.
 
+#include <zor/platform/macros_aside.h>
+
 #include <array>
 #include <string_view>
 
@@ -42,3 +44,5 @@ public:
 };
 
 } // namespace zor
+
+#include <zor/platform/macros_back.h>

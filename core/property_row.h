@@ -2,6 +2,7 @@
 
 /// A property as data: one row says everything that storing, naming, notifying and refreshing need.
 
+#include <zor/platform/macros_aside.h>
 #include <zor/platform/variant.h>
 #include <zor/units/unit_types.h>
 
@@ -461,3 +462,5 @@ constexpr Row<C, T> Row<C, T>::written() const
 }
 
 } // namespace zor::core
+
+#include <zor/platform/macros_back.h>

@@ -4,6 +4,7 @@
 
 #include <zor/core/control.h>
 #include <zor/core/frm_Container.h>
+#include <zor/platform/macros_aside.h>
 
 namespace zor::core {
 
@@ -195,3 +196,5 @@ struct SharedRows {
 };
 
 } // namespace zor::core
+
+#include <zor/platform/macros_back.h>

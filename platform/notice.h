@@ -2,6 +2,8 @@
 
 /// What a widget reports to the control that owns it.
 
+#include <zor/platform/macros_aside.h>
+
 #include <cstdint>
 #include <span>
 #include <string>
@@ -118,3 +120,5 @@ private:
 };
 
 } // namespace zor::platform
+
+#include <zor/platform/macros_back.h>

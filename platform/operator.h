@@ -3,6 +3,7 @@
 /// The operator's hands: what a person can do to a widget, for the console and for tests. On a platform with
 /// real widgets every action arrives as mouse and key events.
 
+#include <zor/platform/macros_aside.h>
 #include <zor/platform/widgets.h>
 
 #include <algorithm>
@@ -94,3 +95,5 @@ public:
 };
 
 } // namespace zor::platform
+
+#include <zor/platform/macros_back.h>

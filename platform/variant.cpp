@@ -40,6 +40,8 @@ std::int32_t roundToInt32(double value) { return roundTo<std::int32_t>(value); }
 
 std::int16_t roundToInt16(double value) { return roundTo<std::int16_t>(value); }
 
+void Variant::raiseOverflow() { raiseError(ErrorNumber::Overflow); }
+
 double Variant::number() const noexcept
 {
     if (const auto* value = std::get_if<double>(&m_value))

@@ -2,12 +2,23 @@
 
 /// Variant values: what properties, property bags and the console exchange.
 
+#include <cmath>
+#include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <utility>
 #include <variant>
 
 namespace zor {
+
+template <class T>
+concept Arithmetic = std::is_arithmetic_v<T>;
+
+template <class T>
+concept NotCharacter = !std::is_same_v<std::remove_const_t<T>, char>;
 
 /// A value that is empty, a boolean, a 16- or 32-bit integer, a double or a UTF-8 string.
 ///
@@ -20,13 +31,18 @@ public:
     using Storage = std::variant<std::monostate, bool, std::int16_t, std::int32_t, double, std::string>;
 
     Variant() noexcept = default;
-    Variant(bool value) noexcept : m_value(value) {}
-    Variant(std::int16_t value) noexcept : m_value(value) {}
-    Variant(std::int32_t value) noexcept : m_value(value) {}
-    Variant(double value) noexcept : m_value(value) {}
+    /// Any number: a boolean, an integer with 16 or with 32 bits, whichever its type needs, or a double. A value
+    /// of a wider type that does not fit raises Overflow.
+    template <Arithmetic T>
+    Variant(T value) noexcept(alwaysFits<T>) : m_value(stored(value))
+    {}
     Variant(std::string value) noexcept : m_value(std::move(value)) {}
     Variant(std::string_view value) : m_value(std::string(value)) {}
     Variant(const char* value) : m_value(std::string(value)) {}
+    /// No other pointer is a value.
+    template <NotCharacter T>
+    Variant(T* value) = delete;
+    Variant(std::nullptr_t) = delete;
 
     [[nodiscard]] bool isEmpty() const noexcept { return holds<std::monostate>(); }
     [[nodiscard]] bool isText() const noexcept { return holds<std::string>(); }
@@ -63,6 +79,30 @@ public:
     friend bool operator==(const Variant& left, const Variant& right) noexcept;
 
 private:
+    template <class T>
+    static constexpr bool alwaysFits = std::is_floating_point_v<T> ? sizeof(T) <= sizeof(double)
+                                                                   : std::numeric_limits<T>::digits <= 31;
+
+    template <class T>
+    static Storage stored(T value) noexcept(alwaysFits<T>)
+    {
+        if constexpr (std::is_same_v<T, bool>) {
+            return value;
+        } else if constexpr (std::is_floating_point_v<T>) {
+            const auto number = static_cast<double>(value);
+            if (!alwaysFits<T> && std::isinf(number) && !std::isinf(value))
+                raiseOverflow();
+            return number;
+        } else {
+            using Wide = std::conditional_t<std::is_signed_v<T>, std::int64_t, std::uint64_t>;
+            using Kept = std::conditional_t<std::numeric_limits<T>::digits <= 15, std::int16_t, std::int32_t>;
+            if (!std::in_range<Kept>(static_cast<Wide>(value)))
+                raiseOverflow();
+            return static_cast<Kept>(value);
+        }
+    }
+    [[noreturn]] static void raiseOverflow();
+
     Storage m_value;
 };
 

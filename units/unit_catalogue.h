@@ -2,6 +2,7 @@
 
 /// The unit catalogue as data: one row per unit type and per unit, in the order of their values.
 
+#include <zor/platform/macros_aside.h>
 #include <zor/units/unit_types.h>
 
 #include <array>
@@ -163,3 +164,5 @@ static_assert(detail::isInOrder(kRegisterTypes, &WordRow::value) &&
 }
 
 } // namespace zor::units
+
+#include <zor/platform/macros_back.h>

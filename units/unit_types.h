@@ -3,6 +3,8 @@
 /// The published enumerations. Values are part of the interface: hosts store and pass the integers, and any
 /// integer may arrive where one of these is expected.
 
+#include <zor/platform/macros_aside.h>
+
 #include <cstdint>
 
 namespace zor {
@@ -20,7 +22,7 @@ enum class UNIT_TYPE : std::int32_t {
     TIMEUNITS = 8,
     FREQUENCY = 9,
     OTHERS = 10,
-    None = 11,
+    None = 11, ///< no unit; behind X11's headers, which make a macro of the word, UNIT_TYPE{11}
     MASS = 12,
     MASSFLOW = 13,
 };
@@ -100,3 +102,5 @@ using enum REGISTER_TYPE;
 using enum ENTRY_TYPE;
 
 } // namespace zor
+
+#include <zor/platform/macros_back.h>

@@ -6,6 +6,7 @@
 #include <zor/core/joined.h>
 #include <zor/core/shared_methods.h>
 #include <zor/core/shared_rows.h>
+#include <zor/platform/macros_aside.h>
 
 #include <array>
 #include <string_view>
@@ -68,3 +69,5 @@ struct ChoiceRows {
 };
 
 } // namespace zor::controls
+
+#include <zor/platform/macros_back.h>

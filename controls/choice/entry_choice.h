@@ -5,6 +5,7 @@
 
 #include <zor/controls/choice/choice_rows.h>
 #include <zor/controls/choice/entry_list.h>
+#include <zor/platform/macros_aside.h>
 
 namespace zor::controls {
 
@@ -74,3 +75,5 @@ struct EntryChoiceRows {
 };
 
 } // namespace zor::controls
+
+#include <zor/platform/macros_back.h>

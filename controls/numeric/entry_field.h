@@ -4,6 +4,7 @@
 /// up-down, save its spin button.
 
 #include <zor/core/control.h>
+#include <zor/platform/macros_aside.h>
 #include <zor/platform/widgets.h>
 
 #include <cstdint>
@@ -62,3 +63,5 @@ private:
 };
 
 } // namespace zor::controls
+
+#include <zor/platform/macros_back.h>

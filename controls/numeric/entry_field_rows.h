@@ -3,6 +3,7 @@
 /// The event rows of a text field with a unit label.
 
 #include <zor/core/event_row.h>
+#include <zor/platform/macros_aside.h>
 
 #include <array>
 
@@ -58,3 +59,5 @@ constexpr std::array<core::EventRow, 26> entryFieldRows(int text, int units, con
 }
 
 } // namespace zor::controls
+
+#include <zor/platform/macros_back.h>

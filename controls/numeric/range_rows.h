@@ -4,6 +4,7 @@
 
 #include <zor/controls/numeric/range_control.h>
 #include <zor/controls/numeric/unit_rows.h>
+#include <zor/platform/macros_aside.h>
 
 #include <algorithm>
 #include <array>
@@ -74,3 +75,5 @@ constexpr auto limitsAfterUnit()
 }
 
 } // namespace zor::controls
+
+#include <zor/platform/macros_back.h>
