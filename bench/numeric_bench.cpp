@@ -1,5 +1,6 @@
-// Up-down and slider on the headless platform: a device value, and ten thousand controls.
+// Up-down, slider and label on the headless platform: a device value with a listener, and ten thousand controls.
 
+#include <zor/controls/display/label/ctx_ZorLabel.h>
 #include <zor/controls/numeric/slider/ctx_ZorSlider.h>
 #include <zor/controls/numeric/up_down/ctx_ZorUpDown.h>
 #include <zor/platform/headless/container.h>
@@ -18,17 +19,45 @@ using platform::headless::MemoryPropertyBag;
 
 constexpr std::size_t kMany = 10'000;
 
-template <class Control>
+template <class Interface>
+struct Listener : Interface {
+    void OutputValueChange() override { ++outputs; }
+    long outputs = 0;
+};
+
+struct LabelListener : __ctx_ZorLabel {
+    void labelChange() override { ++changes; }
+    long changes = 0;
+};
+
+template <class Control, class Interface>
 void deviceValue(benchmark::State& state)
 {
     HeadlessContainer container;
     const auto control = Control::create(container);
     control->initialiseProperties();
     control->MaxValue(100'000);
+    Listener<Interface> listener;
+    control->subscribe(listener);
     int value = 0;
     for (auto _ : state)
         control->DeviceValue(++value % 100'000);
-    benchmark::DoNotOptimize(control->OutputValue());
+    benchmark::DoNotOptimize(listener.outputs);
+    control->unsubscribe(listener);
+}
+
+void labelValue(benchmark::State& state)
+{
+    HeadlessContainer container;
+    const auto label = ctx_ZorLabel::create(container);
+    label->initialiseProperties();
+    LabelListener listener;
+    label->subscribe(listener);
+    bool other = false;
+    for (auto _ : state)
+        label->DeviceValue((other = !other) ? "12.5 m" : "12.6 m");
+    benchmark::DoNotOptimize(listener.changes);
+    label->unsubscribe(listener);
 }
 
 /// Creates many controls, each made ready by `prepare`.
@@ -68,8 +97,9 @@ void restore(benchmark::State& state)
     createMany<Control>(state, [&](Control& control) { control.readProperties(bag); });
 }
 
-BENCHMARK(deviceValue<ctx_ZorUpDown>)->Name("DeviceValue, changing, up-down/zor");
-BENCHMARK(deviceValue<ctx_ZorSlider>)->Name("DeviceValue, changing, slider/zor");
+BENCHMARK(deviceValue<ctx_ZorUpDown, __ctx_ZorUpDown>)->Name("DeviceValue, changing, up-down/zor");
+BENCHMARK(deviceValue<ctx_ZorSlider, __ctx_ZorSlider>)->Name("DeviceValue, changing, slider/zor");
+BENCHMARK(labelValue)->Name("DeviceValue, changing, label/zor");
 BENCHMARK(create<ctx_ZorUpDown>)->Name("create 10,000 up-downs/zor")->Unit(benchmark::kMillisecond);
 BENCHMARK(create<ctx_ZorSlider>)->Name("create 10,000 sliders/zor")->Unit(benchmark::kMillisecond);
 BENCHMARK(restore<ctx_ZorUpDown>)->Name("restore 10,000 up-downs/zor")->Unit(benchmark::kMillisecond);

@@ -10,7 +10,6 @@
 
 #include <array>
 #include <cstdio>
-#include <string>
 #include <string_view>
 #include <valgrind/callgrind.h>
 
@@ -75,7 +74,7 @@ void countNumeric(const char* changing, const char* same)
     control->OutputUnit(LgthU_CM);
     Listener<Interface> listener;
     control->subscribe(listener);
-    count(changing, [&](int i) { control->DeviceValue(1000 + i); });
+    count(changing, [&](int i) { control->DeviceValue(1000 + 100 * (i % 100)); });
     count(same, [&](int) { control->DeviceValue(1234); });
     control->unsubscribe(listener);
 }

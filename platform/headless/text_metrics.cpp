@@ -1,6 +1,8 @@
 #include <zor/platform/headless/text_metrics.h>
 #include <zor/platform/text.h>
 
+#include <array>
+
 namespace zor::platform::headless {
 namespace {
 
@@ -10,27 +12,31 @@ constexpr Twips kWide = 135;
 constexpr Twips kBeyondLatin = 165;
 constexpr Twips kBoldExtra = 15;
 
-Twips asciiWidth(char c) noexcept
-{
-    constexpr std::string_view kNarrowOnes = " !'(),.:;I[]`fijlrt|/\\";
-    constexpr std::string_view kWideOnes = "%@MWmw";
-    if (kNarrowOnes.find(c) != std::string_view::npos)
-        return kNarrow;
-    return kWideOnes.find(c) != std::string_view::npos ? kWide : kCommon;
-}
+/// By character of ASCII.
+constexpr std::array<Twips, 128> kAsciiWidths = [] {
+    std::array<Twips, 128> widths{};
+    widths.fill(kCommon);
+    for (const char c : std::string_view(" !'(),.:;I[]`fijlrt|/\\"))
+        widths[static_cast<std::size_t>(c)] = kNarrow;
+    for (const char c : std::string_view("%@MWmw"))
+        widths[static_cast<std::size_t>(c)] = kWide;
+    return widths;
+}();
 
 } // namespace
 
 Twips textWidth(std::string_view text, bool bold) noexcept
 {
     Twips width = 0;
+    const Twips extra = bold ? kBoldExtra : 0;
     while (!text.empty()) {
-        const std::size_t length = byteOffset(text, 1);
+        const auto byte = static_cast<unsigned char>(text.front());
+        const std::size_t length = byte < kAsciiWidths.size() ? 1 : byteOffset(text, 1);
         if (length == 1)
-            width += static_cast<unsigned char>(text.front()) < 0x80 ? asciiWidth(text.front()) : kCommon;
+            width += byte < kAsciiWidths.size() ? kAsciiWidths[byte] : kCommon;
         else
             width += length == 2 ? kCommon : kBeyondLatin;
-        width += bold ? kBoldExtra : 0;
+        width += extra;
         text.remove_prefix(length);
     }
     return width;
