@@ -99,7 +99,7 @@ struct ClassInfo {
     std::span<const MessageRow> messages;
     /// Answered for a number without a message.
     std::string_view otherMessage = "ERROR_RETURNED";
-    std::span<const EventRow> events;
+    EventTable events;
     RaisedEvents raised{};
     std::span<const MethodRow> methods;
     std::span<const StatusRow> states;

@@ -27,12 +27,6 @@ Control::Control(const ClassInfo& info, platform::Container& container, platform
 
 Control::~Control() = default;
 
-void Control::release() noexcept
-{
-    if (--m_holds == 0 && m_ended)
-        delete this;
-}
-
 // --- By name
 
 Variant Control::property(std::string_view name) const
@@ -94,11 +88,7 @@ void Control::assign(const PropertyRow& row, const Variant& value)
         return;
     }
     std::visit(
-        [&](auto* field) {
-            auto converted = *field;
-            storeInto(&converted, value);
-            write(row, *field, std::move(converted));
-        },
+        [&](auto* field) { write(row, *field, detail::convertTo<std::remove_pointer_t<decltype(field)>>(value)); },
         row.field.at(*this));
 }
 
@@ -123,7 +113,10 @@ void Control::stored(const PropertyRow& row)
 void Control::refresh(Refresh refresh)
 {
     switch (refresh) {
-    case Refresh::Status: s_UpdateStatusDisplay(); break;
+    case Refresh::Status:
+        m_isDefaultShown = false;
+        s_UpdateStatusDisplay();
+        break;
     case Refresh::Colours: s_UpdateColors(); break;
     case Refresh::Enabled: s_UpdateEnabledState(); break;
     case Refresh::Support: s_UpdateDeviceSupportDisplay(); break;
@@ -168,15 +161,19 @@ void Control::s_UpdateStatusDisplay()
     const auto row =
         std::ranges::find_if(m_info.states, [this](const StatusRow& state) { return state.applies(*this); });
     const StatusRow* state = row == m_info.states.end() ? nullptr : &*row;
-    platform::Widget& carrier = *body().front();
     if (state == nullptr) {
-        carrier.setToolTip(m_messages.defaultText);
+        // With every value, and nearly always so: then nothing is to be done.
+        if (m_isDefaultShown)
+            return;
+        body().front()->setToolTip(m_messages.defaultText);
         icon().setVisible(false);
+        m_isDefaultShown = true;
     } else {
+        m_isDefaultShown = false;
         std::string tip;
         if (m_info.subject == nullptr)
             state->toolTip(*this, tip);
-        carrier.setToolTip(m_info.subject == nullptr ? tip : m_info.subject(*this));
+        body().front()->setToolTip(m_info.subject == nullptr ? tip : m_info.subject(*this));
         icon().setPicture(state->picture);
         if (m_status.iconEnable)
             icon().setVisible(true);
@@ -236,6 +233,7 @@ bool Control::fb_SetMessage(std::int16_t i_MessageNumber, std::string_view c_Mes
         return false;
     const MessageRow& row = m_info.messages[static_cast<std::size_t>(i_MessageNumber - 1)];
     storeInto(row.property->field.at(*this), c_MessageString);
+    m_isDefaultShown = false;
     return true;
 }
 
@@ -243,7 +241,7 @@ bool Control::fb_SetMessage(std::int16_t i_MessageNumber, std::string_view c_Mes
 
 void Control::raise(const EventRow* event, platform::EventArgs args)
 {
-    assert(event >= m_info.events.data() && event < m_info.events.data() + m_info.events.size());
+    assert(event >= &*m_info.events.begin() && event < &*m_info.events.begin() + m_info.events.size());
     // Who destroyed the control does not expect to hear from it again.
     if (m_sinks.empty() || m_ended)
         return;
@@ -295,10 +293,8 @@ void Control::forward(int widget, platform::Notice notice, platform::EventArgs a
 {
     if (m_sinks.empty())
         return;
-    const auto row = std::ranges::find_if(
-        m_info.events, [&](const EventRow& event) { return event.widget == widget && event.notice == notice; });
-    if (row != m_info.events.end())
-        raise(&*row, args);
+    if (const EventRow* row = m_info.events.of(widget, notice))
+        raise(row, args);
 }
 
 platform::Widget* Control::widget(int number) noexcept
@@ -333,6 +329,7 @@ void Control::load(const PropertyRow& row, const Variant& value)
 void Control::readProperties(const platform::PropertyBag& bag)
 {
     run([&] {
+        m_isDefaultShown = false;
         for (const PropertyRow* row : m_info.readOrder.empty() ? m_info.properties : m_info.readOrder) {
             if (!row->key.empty())
                 naming(row->key, [&] { load(*row, bag.ReadProperty(row->key, toVariant(row->bagDefault))); });

@@ -156,14 +156,18 @@ public:
     /// A constituent widget by the number in the class's table; nullptr for another number.
     [[nodiscard]] virtual platform::Widget* widget(int number) noexcept;
     /// The menu behind the right mouse button, if the class has one.
-    [[nodiscard]] virtual platform::PopupMenu* menu() noexcept { return nullptr; }
+    [[nodiscard]] virtual platform::PopupMenu* menu() { return nullptr; }
     void initialiseProperties() final;
     void readProperties(const platform::PropertyBag& bag) final;
     void writeProperties(platform::PropertyBag& bag) final;
     void resized() final;
     void notice(int widget, platform::Notice notice, platform::EventArgs args) final;
     void hold() noexcept final { ++m_holds; }
-    void release() noexcept final;
+    void release() noexcept final
+    {
+        if (--m_holds == 0 && m_ended)
+            delete this;
+    }
     /// @}
 
 protected:
@@ -271,7 +275,7 @@ private:
     friend struct ControlDeleter;
 
     template <class T>
-    void write(const PropertyRow& row, T& field, T value);
+    void write(const PropertyRow& row, T& field, std::type_identity_t<T>&& value);
     /// The class's own row, or NoSuchMember.
     const PropertyRow& own(const PropertyRow& row) const;
     [[nodiscard]] Variant read(const PropertyRow& row) const;
@@ -296,6 +300,9 @@ private:
     platform::Depth m_settings;
     std::uint32_t m_turn = 0;
     bool m_ended = false;
+    /// The default text is shown as it stands: another state takes it away, a new text is shown by the next
+    /// refresh.
+    bool m_isDefaultShown = false;
 };
 
 template <class Action>
@@ -328,23 +335,20 @@ void Control::settle(Set&& set)
 }
 
 template <class T>
-void Control::write(const PropertyRow& row, T& field, T value)
+void Control::write(const PropertyRow& row, T& field, std::type_identity_t<T>&& value)
 {
     if (refusesWrite(row))
         return;
     if constexpr (std::is_same_v<T, double> || std::is_same_v<T, Variant>)
         requireFinite(value);
     run([&] {
-        if (m_info.keepsFailedWrites) {
-            field = std::move(value);
-            stored(row);
-            return;
-        }
-        T old = std::exchange(field, std::move(value));
+        std::swap(field, value);
         try {
             stored(row);
         } catch (...) {
-            field = std::move(old);
+            if (!m_info.keepsFailedWrites)
+                std::swap(field, value);
+            m_isDefaultShown = false;
             throw;
         }
     });

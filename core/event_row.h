@@ -55,6 +55,49 @@ struct EventRow {
     return row.meaning.empty() ? platform::meaningOf(row.notice) : row.meaning;
 }
 
+/// The events of a class in the order of their numbers, and which of them re-raises which report.
+class EventTable {
+public:
+    template <std::size_t N>
+    consteval EventTable(const std::array<EventRow, N>& rows) : m_rows(rows)
+    {
+        static_assert(N < kNone);
+        for (auto& ofWidget : m_numbers)
+            ofWidget.fill(kNone);
+        for (std::uint8_t i = 0; i < N; ++i) {
+            const EventRow& row = rows[i];
+            if (row.widget < 0 || row.notice == platform::Notice::None)
+                continue;
+            auto& number =
+                m_numbers.at(static_cast<std::size_t>(row.widget)).at(static_cast<std::size_t>(row.notice));
+            if (number == kNone)
+                number = i;
+        }
+    }
+
+    /// The event that a report of a widget is re-raised as; nullptr for none.
+    [[nodiscard]] const EventRow* of(int widget, platform::Notice notice) const noexcept
+    {
+        if (static_cast<std::size_t>(widget) >= kMostWidgets)
+            return nullptr;
+        const std::uint8_t number = m_numbers[static_cast<std::size_t>(widget)][static_cast<std::size_t>(notice)];
+        return number == kNone ? nullptr : &m_rows[number];
+    }
+
+    [[nodiscard]] constexpr std::size_t size() const noexcept { return m_rows.size(); }
+    [[nodiscard]] constexpr const EventRow& operator[](std::size_t index) const noexcept { return m_rows[index]; }
+    [[nodiscard]] constexpr auto begin() const noexcept { return m_rows.begin(); }
+    [[nodiscard]] constexpr auto end() const noexcept { return m_rows.end(); }
+
+private:
+    static constexpr std::size_t kMostWidgets = 16;
+    static constexpr auto kNotices = static_cast<std::size_t>(platform::Notice::OLEStartDrag) + 1;
+    static constexpr std::uint8_t kNone = 255;
+
+    std::span<const EventRow> m_rows;
+    std::array<std::array<std::uint8_t, kNotices>, kMostWidgets> m_numbers{};
+};
+
 /// Hears every event of a control by name: for the console, scripting hosts and adaptors.
 class EventSink {
 public:

@@ -13,15 +13,17 @@ inline constexpr int kUndoEdit = 100;
 
 class UndoMenu {
 public:
-    explicit UndoMenu(platform::Surface& surface);
+    explicit UndoMenu(platform::Surface& surface) noexcept : m_surface(surface) {}
 
-    [[nodiscard]] platform::PopupMenu& menu() noexcept { return *m_menu; }
+    /// Made when somebody asks: most controls are never right-clicked.
+    [[nodiscard]] platform::PopupMenu& menu();
 
     /// Opens the menu when the right button was released; `x` and `y` are relative to `widget`, a widget of
     /// the surface or the surface itself.
-    void offer(platform::Surface& surface, const platform::Widget& widget, platform::EventArgs mouse);
+    void offer(const platform::Widget& widget, platform::EventArgs mouse);
 
 private:
+    platform::Surface& m_surface;
     std::unique_ptr<platform::PopupMenu> m_menu;
 };
 

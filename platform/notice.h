@@ -107,16 +107,17 @@ protected:
     ~WidgetListener() = default;
 };
 
-/// Holds a listener for the length of a scope.
+/// Holds a listener for the length of a scope. A listener known by its own class is held without a virtual call.
+template <class Listener>
 class Hold {
 public:
-    explicit Hold(WidgetListener& listener) noexcept : m_listener(listener) { m_listener.hold(); }
+    explicit Hold(Listener& listener) noexcept : m_listener(listener) { m_listener.hold(); }
     ~Hold() { m_listener.release(); }
     Hold(const Hold&) = delete;
     Hold& operator=(const Hold&) = delete;
 
 private:
-    WidgetListener& m_listener;
+    Listener& m_listener;
 };
 
 } // namespace zor::platform

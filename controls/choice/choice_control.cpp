@@ -95,7 +95,7 @@ void ChoiceControl::onNotice(int widget, Notice notice, platform::EventArgs args
 void ChoiceControl::offerUndo(platform::Widget& widget, platform::EventArgs mouse)
 {
     if (!m_inputLocked && m_status.enableControl)
-        m_undo.offer(surface(), widget, mouse);
+        m_undo.offer(widget, mouse);
 }
 
 } // namespace zor::controls

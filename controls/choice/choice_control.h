@@ -38,7 +38,7 @@ public:
     using Control::unsubscribe;
 
     [[nodiscard]] platform::Widget* widget(int number) noexcept override;
-    [[nodiscard]] platform::PopupMenu* menu() noexcept override { return &m_undo.menu(); }
+    [[nodiscard]] platform::PopupMenu* menu() override { return &m_undo.menu(); }
 
 protected:
     /// Where a release of the right mouse button offers the undo.

@@ -91,7 +91,7 @@ void UnitControl::onNotice(int number, platform::Notice notice, platform::EventA
     else if (notice == Notice::Click && widget(number) == &icon())
         s_ExplainState();
     else if (opensMenu && !isInputLocked() && m_status.enableControl)
-        m_undo.offer(surface(), *widget(number), args);
+        m_undo.offer(*widget(number), args);
     forward(number, notice, args);
 }
 

@@ -58,7 +58,7 @@ public:
     void MaxParamValue(double value);
     /// @}
 
-    [[nodiscard]] platform::PopupMenu* menu() noexcept override { return &m_undo.menu(); }
+    [[nodiscard]] platform::PopupMenu* menu() override { return &m_undo.menu(); }
 
 protected:
     UnitControl(const core::ClassInfo& info, platform::Container& container, platform::Twips width,

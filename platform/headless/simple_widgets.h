@@ -18,8 +18,9 @@ public:
 
     void setGeometry(const Rect& geometry) override
     {
+        const Twips width = m_geometry.width;
         m_geometry = geometry;
-        fit();
+        m_geometry.width = width;
     }
     void setBold(bool bold) override
     {

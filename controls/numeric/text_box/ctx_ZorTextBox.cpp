@@ -10,30 +10,28 @@ void ctx_ZorTextBox::s_ApplyDeviceValue()
 {
     const std::uint32_t turn = newTurn();
     const std::optional<double> number = isNumeric() ? validNumber(m_deviceValue) : std::nullopt;
-    m_displayValue =
-        number ? fc_FormatValue(m_units.toOutput(*number), m_units.outputUnit, m_numberOfDigits) : m_deviceValue;
+    // What can fail comes first: a value that is refused changes nothing.
+    const double output = number ? m_units.toOutput(*number) : 0.0;
+    m_isDisplayFormatted = number && hasPattern(m_units.outputUnit);
+    if (m_isDisplayFormatted)
+        m_displayValue = formatValueText(output, m_units.outputUnit, m_numberOfDigits);
+    else
+        m_displayValue = number ? Variant() : m_deviceValue;
     m_shownDisplay.reset();
     m_deviceValueUnit = m_units.deviceUnit;
     m_source = Source::Device;
-    if (number) {
-        if (m_displayValue.isText()) {
-            // What has been formatted formats to itself: ten thousand fields are refreshed many times a second.
-            m_field.text().setAlignment(Alignment::Right);
-            setText(m_displayValue.text());
-        } else {
-            show(m_displayValue);
-        }
-        if (isOvertaken(turn))
-            return;
-        // A unit without a display pattern shows nothing: then there is nothing to hand back either.
-        if (showsDisplayValue() || m_field.number())
-            assignOutput(m_deviceValue);
+    if (m_isDisplayFormatted) {
+        // What has been formatted formats to itself: ten thousand fields are refreshed many times a second.
+        m_field.text().setAlignment(Alignment::Right);
+        setText(m_displayValue.text());
     } else {
         show(m_displayValue);
-        if (isOvertaken(turn))
-            return;
-        assignOutput(m_deviceValue);
     }
+    if (isOvertaken(turn))
+        return;
+    // A unit without a display pattern shows nothing: then there is nothing to hand back either.
+    if (!number || showsDisplayValue() || m_field.number())
+        assignOutput(m_deviceValue);
     m_status.dataModified = false;
     m_invalidEntry = false;
     s_UpdateColors();
@@ -63,9 +61,9 @@ void ctx_ZorTextBox::setText(std::string_view text)
     m_isShowing = false;
 }
 
-void ctx_ZorTextBox::assignOutput(Variant value)
+void ctx_ZorTextBox::assignOutput(const Variant& value)
 {
-    m_outputValue = std::move(value);
+    m_outputValue = value;
     raise(raised().outputValueChange);
 }
 
@@ -78,6 +76,9 @@ bool ctx_ZorTextBox::equalsDisplayValue() const
 {
     if (!isNumeric())
         return m_displayValue.isText() ? showsDisplayValue() : m_displayValue.toText() == m_field.text().text();
+    // What has been formatted is a number and need not be read.
+    if (m_isDisplayFormatted && showsDisplayValue())
+        return true;
     const std::optional<double> text = m_field.number();
     if (!text)
         return false;
@@ -126,6 +127,7 @@ void ctx_ZorTextBox::s_OutputUnitChanged()
     m_units.maxParam = newMaximum;
     m_units.previousOutputUnit = m_units.outputUnit;
     m_displayValue = newDisplay;
+    m_isDisplayFormatted = false;
     m_shownDisplay.reset();
     // Showing the same value in another unit is no edit, even though rounding may part text and value.
     const bool modified = m_status.dataModified;

@@ -130,7 +130,7 @@ private:
     [[nodiscard]] Variant fv_FormatDisplayValue(const Variant& value, MEAS_TYPE unit);
     void show(const Variant& value);
     void setText(std::string_view text);
-    void assignOutput(Variant value);
+    void assignOutput(const Variant& value);
     /// Whether the text is, letter for letter, what was last shown from the device.
     [[nodiscard]] bool showsDisplayValue() const;
     /// Whether the text is the display value, or what the operator reads of it.
@@ -172,6 +172,8 @@ private:
     Variant m_outputValue = 0;
     /// What was last shown from the device, in OutputUnit: the edit is judged against it and undo returns to it.
     Variant m_displayValue = 0.0;
+    /// The display value is a text that the value formatter made: a number for sure.
+    bool m_isDisplayFormatted = false;
     /// What the operator reads of the display value, where that says less: after a change of OutputUnit.
     std::optional<std::string> m_shownDisplay;
     EntryMessages m_entryMessages;

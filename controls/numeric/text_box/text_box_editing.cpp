@@ -89,7 +89,7 @@ void ctx_ZorTextBox::assignEntry()
         s_UpdateStatusDisplay();
         throw;
     }
-    assignOutput(std::move(output));
+    assignOutput(output);
 }
 
 Variant ctx_ZorTextBox::entry() const
