@@ -2,5 +2,5 @@
 
 /// The nine controls as QWidgets, and the loader of forms that hold them.
 
-#include <zor/widgets/zor_widgets.h>
 #include <zor/widgets/form_loader.h>
+#include <zor/widgets/zor_widgets.h>
