@@ -5,6 +5,7 @@
 #include <zor/core/argument_words.h>
 #include <zor/core/event_row.h>
 #include <zor/core/method_row.h>
+#include <zor/core/mistake.h>
 #include <zor/core/property_row.h>
 #include <zor/platform/container.h>
 #include <zor/platform/error.h>
@@ -124,27 +125,27 @@ struct ClassInfo {
 {
     for (const PropertyRow* row : info.properties) {
         if (row->meaning.empty())
-            throw "a property has no meaning: add .saying(\"...\") to its row";
+            mistake("a property has no meaning: add .saying(\"...\") to its row");
     }
     for (const MethodRow& row : info.methods) {
         if (row.meaning.empty())
-            throw "a method has no meaning: add .saying(\"...\") to its row";
+            mistake("a method has no meaning: add .saying(\"...\") to its row");
         for (std::size_t i = 0; i < row.argumentCount; ++i) {
             if (argumentMeaning(row.arguments[i].name).empty())
-                throw "an argument of a method has no words in core/argument_words.h";
+                mistake("an argument of a method has no words in core/argument_words.h");
         }
     }
     for (const EventRow& row : info.events) {
         if (row.isRaised && row.notice == platform::Notice::None && row.meaning.empty())
-            throw "an event has no meaning: add .saying(\"...\") to its row";
+            mistake("an event has no meaning: add .saying(\"...\") to its row");
         for (std::size_t i = 0; i < row.argumentCount; ++i) {
             if (argumentMeaning(row.arguments[i]).empty())
-                throw "an argument of an event has no words in core/argument_words.h";
+                mistake("an argument of an event has no words in core/argument_words.h");
         }
     }
     for (const WidgetRow& row : info.widgets) {
         if (row.meaning.empty())
-            throw "a widget has no meaning: say it in its row";
+            mistake("a widget has no meaning: say it in its row");
     }
     return info;
 }

@@ -2,6 +2,7 @@
 
 /// Events as data, and the listeners they go to.
 
+#include <zor/core/mistake.h>
 #include <zor/platform/depth.h>
 #include <zor/platform/macros_aside.h>
 #include <zor/platform/notice.h>
@@ -64,14 +65,14 @@ public:
         static_assert(N < kNone);
         for (auto& ofWidget : m_numbers)
             ofWidget.fill(kNone);
-        for (std::uint8_t i = 0; i < N; ++i) {
+        for (std::size_t i = 0; i < N; ++i) {
             const EventRow& row = rows[i];
             if (row.widget < 0 || row.notice == platform::Notice::None)
                 continue;
             auto& number =
                 m_numbers.at(static_cast<std::size_t>(row.widget)).at(static_cast<std::size_t>(row.notice));
             if (number == kNone)
-                number = i;
+                number = static_cast<std::uint8_t>(i);
         }
     }
 
@@ -213,9 +214,9 @@ constexpr EventRow declared(std::string_view name, Names... arguments)
 [[nodiscard]] consteval const EventRow* named(std::span<const EventRow> table, std::string_view name)
 {
     const auto at = std::ranges::find(table, name, &EventRow::name);
-    return at != table.end() && at->isRaised
-               ? &*at
-               : throw "the table has no such event, or says that it is never raised";
+    if (at == table.end() || !at->isRaised)
+        mistake("the table has no such event, or says that it is never raised");
+    return &*at;
 }
 
 } // namespace zor::core

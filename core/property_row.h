@@ -2,6 +2,7 @@
 
 /// A property as data: one row says everything that storing, naming, notifying and refreshing need.
 
+#include <zor/core/mistake.h>
 #include <zor/platform/macros_aside.h>
 #include <zor/platform/variant.h>
 #include <zor/units/unit_types.h>
@@ -167,14 +168,15 @@ private:
     {
         if constexpr (std::is_convertible_v<V, std::string_view>)
             return std::string_view(value);
-        else if constexpr (std::is_integral_v<V> && std::is_integral_v<T> && !std::is_same_v<V, bool>)
-            return static_cast<std::int32_t>(std::in_range<T>(value) ? value : throw "out of the type's range");
-        else if constexpr (std::is_integral_v<V> && !std::is_same_v<V, bool>)
+        else if constexpr (std::is_enum_v<V> || (std::is_integral_v<V> && !std::is_same_v<V, bool>)) {
+            if constexpr (std::is_integral_v<V> && std::is_integral_v<T> && !std::is_same_v<T, bool>) {
+                if (!std::in_range<T>(value))
+                    mistake("the constant does not fit the property's type");
+            }
             return static_cast<std::int32_t>(value);
-        else if constexpr (std::is_enum_v<V>)
-            return static_cast<std::int32_t>(value);
-        else
+        } else {
             return value;
+        }
     }
 };
 
