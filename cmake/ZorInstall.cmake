@@ -1,21 +1,23 @@
 # What `cmake --install` puts below the prefix: everything in GNU's folders, nothing with an absolute path in it, so
-# that the whole may be moved. Each file belongs to a part, which becomes a package of the same name (ZorPackage.cmake).
+# that the whole may be moved. Each file belongs to a part, which becomes a package of the same name (packaging/packages.cmake).
 
-include(GNUInstallDirs)
-include(CMakePackageConfigHelpers)
+if(ZOR_INSTALL)
+  include(GNUInstallDirs)
+  include(CMakePackageConfigHelpers)
 
-set(ZOR_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/ZorSmartControls)
-# Qt's folder for plugins of a system package, below whatever prefix.
-set(ZOR_PLUGIN_DIR ${CMAKE_INSTALL_LIBDIR}/qt6/plugins CACHE STRING "Where Qt plugins are installed, below the prefix")
+  set(ZOR_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/ZorSmartControls)
+  # Qt's folder for plugins of a system package, below whatever prefix.
+  set(ZOR_PLUGIN_DIR ${CMAKE_INSTALL_LIBDIR}/qt6/plugins CACHE STRING "Where Qt plugins are installed, below the prefix")
 
-# What is installed finds the shared libraries beside it; a system's own folders need no such path.
-if(BUILD_SHARED_LIBS AND NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
-  foreach(folder BINDIR LIBDIR)
-    file(RELATIVE_PATH up /${CMAKE_INSTALL_${folder}} /${CMAKE_INSTALL_LIBDIR})
-    set(ZOR_RPATH_${folder} $ORIGIN/${up})
-  endforeach()
-  file(RELATIVE_PATH up /${ZOR_PLUGIN_DIR}/designer /${CMAKE_INSTALL_LIBDIR})
-  set(ZOR_RPATH_PLUGIN $ORIGIN/${up})
+  # What is installed finds the shared libraries beside it; a system's own folders need no such path.
+  if(BUILD_SHARED_LIBS AND NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+    foreach(folder BINDIR LIBDIR)
+      file(RELATIVE_PATH up /${CMAKE_INSTALL_${folder}} /${CMAKE_INSTALL_LIBDIR})
+      set(ZOR_RPATH_${folder} $ORIGIN/${up})
+    endforeach()
+    file(RELATIVE_PATH up /${ZOR_PLUGIN_DIR}/designer /${CMAKE_INSTALL_LIBDIR})
+    set(ZOR_RPATH_PLUGIN $ORIGIN/${up})
+  endif()
 endif()
 
 # zor_install_library(TARGET COMPONENT FILE ...): library, headers, CMake and pkg-config description; called by

@@ -61,8 +61,11 @@ function(zor_library name)
 
   zor_public_headers(headers ${L_HEADERS})
   zor_view(public/${name} ${headers})
+  # Not $<IF:...>, which would end at a comma in a path.
+  set(sees "$<STREQUAL:$<TARGET_PROPERTY:ZOR_SEES>,tree>")
   target_include_directories(${target} INTERFACE
-    "$<BUILD_INTERFACE:$<IF:$<STREQUAL:$<TARGET_PROPERTY:ZOR_SEES>,tree>,${ZOR_TOP_INCLUDES},${PROJECT_BINARY_DIR}/views/public/${name}>>")
+    "$<BUILD_INTERFACE:$<${sees}:${ZOR_TOP_INCLUDES}>>"
+    "$<BUILD_INTERFACE:$<$<NOT:${sees}>:${PROJECT_BINARY_DIR}/views/public/${name}>>")
   target_compile_features(${target} PUBLIC cxx_std_20)
   list(TRANSFORM L_NEEDS PREPEND ZorSmartControls:: OUTPUT_VARIABLE needs)
   target_link_libraries(${target} PUBLIC ${needs} ${L_PUBLIC} PRIVATE ${L_PRIVATE})

@@ -1,6 +1,6 @@
 # The Debian packages: one for each part that the install rules name.
 
-set(ZOR_MAINTAINER "The ZorSmartControls authors <zorsmartcontrols@localhost.localdomain>")
+set(ZOR_MAINTAINER "The ZorSmartControls authors <zorsmartcontrols@users.noreply.github.com>")
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME zorsmartcontrols)
 set(CPACK_PACKAGE_CONTACT ${ZOR_MAINTAINER})
@@ -27,7 +27,8 @@ string(REPLACE "\n" "\n " license " ${license}")
 configure_file(copyright.in ${generated}/copyright @ONLY)
 
 # Debian's form of the change log; what changed stands in the project's own.
-string(TIMESTAMP date "%a, %d %b %Y 12:00:00 +0000" UTC)
+execute_process(COMMAND env LC_ALL=C date -u -R -d ${ZOR_RELEASE_DATE} OUTPUT_VARIABLE date OUTPUT_STRIP_TRAILING_WHITESPACE
+                COMMAND_ERROR_IS_FATAL ANY)
 file(WRITE ${generated}/changelog "zorsmartcontrols (${PROJECT_VERSION}) unstable; urgency=medium
 
   * Version ${PROJECT_VERSION} of ${ZOR_RELEASE_DATE}: see CHANGELOG.md of the sources.
