@@ -71,7 +71,7 @@ struct ZorControl::Inner final : QObject, core::EventSink {
         if (alive.isNull())
             return;
         const Telling telling(*this);
-        alive->emitEvent(static_cast<std::size_t>(&row - info->events.data()), args);
+        alive->emitEvent(static_cast<std::size_t>(&row - &info->events[0]), args);
         if (!alive.isNull() && row.name == "OutputValueChange")
             emit alive->valueChanged();
     }
