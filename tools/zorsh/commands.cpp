@@ -157,7 +157,8 @@ void callMethod(Session& session, const Call& call)
         raiseError(ErrorNumber::NoSuchMember, method);
     std::vector<Variant> values;
     std::ranges::transform(call.words.subspan(1), std::back_inserter(values), parseValue);
-    const core::MethodResult result = naming(method, [&] { return object.control->call(method, values); });
+    const core::MethodResult result =
+        naming(method, [&, &target = object, &name = method] { return target.control->call(name, values); });
     if (!std::holds_alternative<std::monostate>(result))
         session.print(print(result));
 }
