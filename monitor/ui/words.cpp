@@ -36,7 +36,7 @@ QString Words::problem(Problem problem) { return tr(kProblems[static_cast<std::s
 
 QString Words::outcome(const WriteResult& result)
 {
-    const QString text = tr(kOutcomes[static_cast<std::size_t>(result.outcome)]);
+    QString text = tr(kOutcomes[static_cast<std::size_t>(result.outcome)]);
     if (result.exception == 0)
         return text;
     Reply reply;
