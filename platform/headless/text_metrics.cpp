@@ -17,9 +17,9 @@ constexpr std::array<Twips, 128> kAsciiWidths = [] {
     std::array<Twips, 128> widths{};
     widths.fill(kCommon);
     for (const char c : std::string_view(" !'(),.:;I[]`fijlrt|/\\"))
-        widths[static_cast<std::size_t>(c)] = kNarrow;
+        widths[static_cast<unsigned char>(c)] = kNarrow;
     for (const char c : std::string_view("%@MWmw"))
-        widths[static_cast<std::size_t>(c)] = kWide;
+        widths[static_cast<unsigned char>(c)] = kWide;
     return widths;
 }();
 
