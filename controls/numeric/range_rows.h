@@ -60,7 +60,7 @@ constexpr auto limitsAfterUnit()
 {
     constexpr auto isStored = [](const core::PropertyRow* row) { return !row->key.empty(); };
     constexpr auto isLimit = [](const core::PropertyRow* row) {
-        return row->after == UnitRows::MinValue.after || row->after == UnitRows::MaxValue.after;
+        return row->name == UnitRows::MinValue.name || row->name == UnitRows::MaxValue.name;
     };
     std::array<const core::PropertyRow*, std::ranges::count_if(Properties, isStored)> order{};
     auto at = order.begin();
@@ -68,7 +68,7 @@ constexpr auto limitsAfterUnit()
         if (!isStored(row) || isLimit(row))
             continue;
         *at++ = row;
-        if (row == &UnitRows::DefaultUnit)
+        if (row->name == UnitRows::DefaultUnit.name)
             at = std::ranges::copy_if(Properties, at, isLimit).out;
     }
     return order;
