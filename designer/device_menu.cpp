@@ -6,10 +6,15 @@
 #include <zor/widgets/conversion.h>
 #include <zor/widgets/zor_control.h>
 
+#include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtDesigner/QDesignerFormWindowCursorInterface>
 #include <QtDesigner/QDesignerFormWindowInterface>
+#include <QtDesigner/QDesignerFormWindowManagerInterface>
+#include <QtDesigner/QDesignerPropertySheetExtension>
+#include <QtDesigner/QExtensionManager>
 
 #include <array>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -31,15 +36,33 @@ const pages::PageInfo* pageFor(const ZorControl& widget)
     return registry.forControl(widget.info().name);
 }
 
+/// A text as Designer keeps one that no translator sees. Only Designer can make such a value, which it does when
+/// it reads a form.
+QVariant untranslated(QDesignerFormEditorInterface& core, const QString& text)
+{
+    const std::unique_ptr<QDesignerFormWindowInterface> form(core.formWindowManager()->createFormWindow());
+    form->setContents(QString("<ui version=\"4.0\"><class>F</class><widget class=\"QLabel\" name=\"F\"><property "
+                              "name=\"text\"><string notr=\"true\">%1</string></property></widget></ui>")
+                          .arg(text.toHtmlEscaped()));
+    const auto* sheet =
+        qt_extension<QDesignerPropertySheetExtension*>(core.extensionManager(), form->mainContainer());
+    return sheet == nullptr ? QVariant(text) : sheet->property(sheet->indexOf("text"));
+}
+
 /// Writes through Designer, so that the form knows of the change and can take it back. What a property has
 /// already is left alone: Designer would store it from then on.
 void record(QDesignerFormWindowInterface& form, ZorControl& widget, const std::vector<Write>& writes)
 {
     form.beginCommand(DeviceMenu::tr("Device settings of %1").arg(widget.objectName()));
     for (const auto& [property, value] : writes) {
-        if (!(widget.control().property(property) == value))
-            form.cursor()->setWidgetProperty(&widget, QString::fromStdString(property),
-                                             widgets::toQVariant(value));
+        if (widget.control().property(property) == value)
+            continue;
+        const core::PropertyRow* row = widget.info().property(property);
+        const bool isIdentifier = row != nullptr && row->isIdentifier && value.isText();
+        form.cursor()->setWidgetProperty(&widget, QString::fromStdString(property),
+                                         isIdentifier
+                                             ? untranslated(*form.core(), QString::fromStdString(value.text()))
+                                             : widgets::toQVariant(value));
     }
     form.endCommand();
 }

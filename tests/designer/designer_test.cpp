@@ -355,14 +355,14 @@ TEST(Designer, AChangeOnAPageIsOneStepThatCanBeTakenBack)
             if (box->findText("Pressure") >= 0)
                 box->setCurrentText("Pressure");
         }
-        QTest::keyClicks(dialog.findChildren<QLineEdit*>().first(), "X");
+        QTest::keyClicks(dialog.findChildren<QLineEdit*>().first(), "X&");
         press(dialog, QDialogButtonBox::Apply);
         EXPECT_TRUE(form.window->isDirty());
         EXPECT_EQ(form.window->commandHistory()->count(), 1);
     });
     const QString after = form.window->contents();
-    for (const char* saved :
-         {"<enum>zor::ZorWidget::PRESSURE</enum>", "<enum>zor::ZorWidget::PrU_Psi</enum>", ">X</string>"})
+    for (const char* saved : {"<enum>zor::ZorWidget::PRESSURE</enum>", "<enum>zor::ZorWidget::PrU_Psi</enum>",
+                              "<string notr=\"true\">X&amp;</string>"})
         EXPECT_TRUE(after.contains(saved)) << saved << '\n' << after.toStdString();
     EXPECT_FALSE(after.contains("MaxLength")) << "what was not changed is not stored";
     form.window->commandHistory()->undo();
