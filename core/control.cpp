@@ -158,9 +158,7 @@ void Control::s_UpdateStatusDisplay()
 {
     if (!isDeviceSupported())
         return;
-    const auto row =
-        std::ranges::find_if(m_info.states, [this](const StatusRow& state) { return state.applies(*this); });
-    const StatusRow* state = row == m_info.states.end() ? nullptr : &*row;
+    const StatusRow* state = shownState();
     if (state == nullptr) {
         // With every value, and nearly always so: then nothing is to be done.
         if (m_isDefaultShown)
@@ -178,21 +176,31 @@ void Control::s_UpdateStatusDisplay()
         if (m_status.iconEnable)
             icon().setVisible(true);
     }
-    if (std::exchange(m_shownState, state) != state)
-        describeForReaders();
 }
 
-void Control::describeForReaders()
+const StatusRow* Control::shownState() const
 {
-    std::string description = accessibleDetail();
-    if (m_shownState != nullptr) {
-        if (!description.empty())
-            description += ", ";
-        m_shownState->toolTip(*this, description);
+    const auto row =
+        std::ranges::find_if(m_info.states, [this](const StatusRow& state) { return state.applies(*this); });
+    return row == m_info.states.end() ? nullptr : &*row;
+}
+
+platform::Spoken Control::spoken(int number)
+{
+    platform::Spoken spoken;
+    spoken.name = m_info.subject == nullptr ? m_binding.deviceTag : m_info.subject(*this);
+    if (const StatusRow* state = shownState())
+        state->toolTip(*this, spoken.state);
+    if (widget(number) != body().front())
+        return spoken;
+    spoken.isEdited = m_status.dataModified;
+    spoken.isBusy = m_status.waitingForData;
+    if (m_info.property(SharedRows::DataModified.name) != nullptr) {
+        spoken.isReadOnly = isReadOnlyForOperator();
+        spoken.isLocked = m_status.cFail || spoken.isReadOnly;
     }
-    const std::string_view name = m_info.subject == nullptr ? m_binding.deviceTag : m_info.subject(*this);
-    body().front()->setAccessible(name, description);
-    icon().setAccessible(name, description);
+    describe(spoken);
+    return spoken;
 }
 
 void Control::s_ExplainState()
@@ -273,7 +281,14 @@ void Control::notice(int widget, platform::Notice notice, platform::EventArgs ar
 {
     if (m_ended)
         return;
-    const auto answer = [&] { run([&] { onNotice(widget, notice, args); }); };
+    // A report in the middle of something goes back to whoever is doing it.
+    const bool isByOperator = m_runs.isNone() || m_isByOperator;
+    const auto answer = [&] {
+        run([&] {
+            m_isByOperator = isByOperator;
+            onNotice(widget, notice, args);
+        });
+    };
     if (m_settings.isNone())
         return answer();
     try {
@@ -335,7 +350,6 @@ void Control::readProperties(const platform::PropertyBag& bag)
                 naming(row->key, [&] { load(*row, bag.ReadProperty(row->key, toVariant(row->bagDefault))); });
         }
         s_AfterLoading();
-        describeForReaders();
     });
 }
 

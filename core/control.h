@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -142,6 +143,13 @@ public:
     /// colour).
     virtual void s_ChangeBackColor(Colour l_ColorValue);
 
+    /// A valid entry that the operator has begun and not yet handed over, in the device's unit. Nothing for a
+    /// control where each action hands over at once.
+    [[nodiscard]] virtual std::optional<Variant> entryUnderWay() const { return {}; }
+    /// Whether the event that is being raised goes back to the operator. What a host writes, in a handler too,
+    /// does not.
+    [[nodiscard]] bool isByOperator() const noexcept { return m_isByOperator; }
+
     /// @name Listening by name
     /// A listener must be taken away before it ends.
     /// @{
@@ -162,6 +170,7 @@ public:
     void writeProperties(platform::PropertyBag& bag) final;
     void resized() final;
     void notice(int widget, platform::Notice notice, platform::EventArgs args) final;
+    [[nodiscard]] platform::Spoken spoken(int widget) final;
     void hold() noexcept final { ++m_holds; }
     void release() noexcept final
     {
@@ -209,12 +218,11 @@ protected:
     virtual void s_Layout() = 0;
     /// A report of a widget. The base re-raises it as the event that the class's table names.
     virtual void onNotice(int widget, platform::Notice notice, platform::EventArgs args);
-    /// What a screen reader adds to the state in words (a unit, say).
-    [[nodiscard]] virtual std::string accessibleDetail() const { return {}; }
+    /// What a class adds for a screen reader, to its first widget: unit, limits, a value that is not shown as
+    /// text.
+    virtual void describe(platform::Spoken& /*spoken*/) const {}
     /// @}
 
-    /// Tells a screen reader which parameter this is, and its state in words.
-    void describeForReaders();
     /// Shows the message of the state that the icon stands for, and acknowledges it where the state says so.
     /// The caller raises imgClick afterwards.
     void s_ExplainState();
@@ -273,6 +281,7 @@ protected:
 private:
     friend struct SharedRows;
     friend struct ControlDeleter;
+    class Acting;
 
     template <class T>
     void write(const PropertyRow& row, T& field, std::type_identity_t<T>&& value);
@@ -280,6 +289,8 @@ private:
     const PropertyRow& own(const PropertyRow& row) const;
     [[nodiscard]] Variant read(const PropertyRow& row) const;
     void assign(const PropertyRow& row, const Variant& value);
+    /// The state that the icon stands for, nullptr for none.
+    [[nodiscard]] const StatusRow* shownState() const;
     [[nodiscard]] bool refusesWrite(const PropertyRow& row) const;
     void stored(const PropertyRow& row);
     void refresh(Refresh refresh);
@@ -294,21 +305,42 @@ private:
     SinkList m_sinks;
     std::exception_ptr m_handlerError;
     std::exception_ptr m_reportError;
-    const StatusRow* m_shownState = nullptr;
     std::uint32_t m_holds = 0;
     platform::Depth m_runs;
     platform::Depth m_settings;
     std::uint32_t m_turn = 0;
+    bool m_isByOperator = false;
     bool m_ended = false;
     /// The default text is shown as it stands: another state takes it away, a new text is shown by the next
     /// refresh.
     bool m_isDefaultShown = false;
 };
 
+/// A scope that something is done in, by the host unless it is said otherwise.
+class Control::Acting {
+public:
+    explicit Acting(Control& control) noexcept
+        : m_control(control), m_before(std::exchange(control.m_isByOperator, false))
+    {}
+    ~Acting()
+    {
+        m_control.m_isByOperator = m_before;
+        if (m_control.m_runs.isNone() && !m_control.m_ended)
+            m_control.m_container.settled(m_control);
+    }
+    Acting(const Acting&) = delete;
+    Acting& operator=(const Acting&) = delete;
+
+private:
+    Control& m_control;
+    bool m_before;
+};
+
 template <class Action>
 void Control::run(Action&& action)
 {
     const platform::Hold hold(*this);
+    const Acting acting(*this);
     try {
         const platform::Depth::Level level(m_runs);
         std::forward<Action>(action)();

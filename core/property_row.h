@@ -122,6 +122,8 @@ struct PropertyRow {
     Placing placing = Placing::ByKind;
     /// A text that names something to the device or the program, not to people: no translator sees it.
     bool isIdentifier = false;
+    /// Can change without being written itself. A derived value always can.
+    bool isLive = false;
     Refreshes refreshes{};
     /// Runs after the refreshes.
     void (*after)(Control&) = nullptr;
@@ -233,6 +235,11 @@ struct Row : PropertyRow {
     [[nodiscard]] constexpr Row refreshing(std::initializer_list<Refresh> list) const
     {
         return changed([&](Row& row) { row.refreshes = list; });
+    }
+    /// Says that the operator, the device or another property's write can change it.
+    [[nodiscard]] constexpr Row live() const
+    {
+        return changed([](Row& row) { row.isLive = true; });
     }
     /// Runs a member function `void f()` of the control, or a lambda `void (Class&)`, after the refreshes.
     template <auto Function>

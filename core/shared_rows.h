@@ -16,8 +16,7 @@ struct SharedRows {
                     "control shows it in the message of an unknown identifier and reads it out as the control's "
                     "name.")
             .identifier()
-            .stored("")
-            .then<&Control::describeForReaders>();
+            .stored("");
     static constexpr auto RegisterType =
         fieldRow<&Control::m_binding, &Binding::registerType>("RegisterType", Topic::Parameter)
             .saying("The register bank that holds the parameter. What lies in an input register cannot be edited.")
@@ -87,7 +86,8 @@ struct SharedRows {
             .saying("Another user has changed the value. The host sets it; a click on the state icon shows the "
                     "message and clears it.")
             .stored(false)
-            .refreshing({Refresh::Status});
+            .refreshing({Refresh::Status})
+            .live();
     // The flag follows every keystroke; the container is not told.
     static constexpr auto DataModified =
         fieldRow<&Control::m_status, &Status::dataModified>("DataModified", Topic::State)
@@ -95,19 +95,22 @@ struct SharedRows {
                     "keeps it; a host may write it.")
             .stored(false)
             .with(Access::Silent)
-            .refreshing({Refresh::Colours});
+            .refreshing({Refresh::Colours})
+            .live();
     static constexpr auto DeviceTypeNotSupported =
         fieldRow<&Control::m_status, &Status::deviceTypeNotSupported>("DeviceTypeNotSupported", Topic::State)
             .saying("The type check found DeviceType not supported; the control shows nothing. A host may write "
                     "it.")
             .stored(false)
-            .refreshing({Refresh::Support});
+            .refreshing({Refresh::Support})
+            .live();
     static constexpr auto DeviceVerNotSupported =
         fieldRow<&Control::m_status, &Status::deviceVerNotSupported>("DeviceVerNotSupported", Topic::State)
             .saying("The version check found DeviceVersion not supported; the control shows nothing. A host may "
                     "write it.")
             .stored(false)
-            .refreshing({Refresh::Support});
+            .refreshing({Refresh::Support})
+            .live();
     static constexpr auto EnableControl =
         fieldRow<&Control::m_status, &Status::enableControl>("EnableControl", Topic::State)
             .saying("The host's permission to work the control.")

@@ -147,6 +147,15 @@ void Page::write(std::string_view property, const Variant& value)
 
 // --- The user of the page
 
+platform::Spoken Page::spoken(int widget)
+{
+    platform::Spoken spoken;
+    const int part = widget - 1;
+    if (part >= 0 && part % kParts == kInput)
+        spoken.name = m_entries[static_cast<std::size_t>(part / kParts)].field->caption;
+    return spoken;
+}
+
 void Page::notice(int widget, Notice notice, platform::EventArgs /*args*/)
 {
     const int part = widget - 1;

@@ -60,6 +60,7 @@ public:
     /// @}
 
     void notice(int widget, platform::Notice notice, platform::EventArgs args) override;
+    [[nodiscard]] platform::Spoken spoken(int widget) override;
     // No report of a page's widget reaches anybody who could end the page.
     void hold() noexcept override {}
     void release() noexcept override {}

@@ -58,7 +58,6 @@ void Page::create(const Field& field)
     }
     entry.caption = m_surface->createLabel(number + kCaption);
     entry.caption->setCaption(field.caption);
-    entry.input().setAccessible(field.caption, {});
 }
 
 void Page::arrange()

@@ -39,6 +39,8 @@ public:
     [[nodiscard]] virtual bool userMode() const noexcept = 0;
     /// A property changed through its write accessor.
     virtual void propertyChanged(Component& component, std::string_view name) = 0;
+    /// What a write, a call or an action of the operator has set going is done, down to the last handler.
+    virtual void settled(Component& /*component*/) noexcept {}
     virtual void showMessage(Component& component, const MessageBox& box) = 0;
     /// Creates the surface of a control in the given size (twips). It does not outlive the container.
     [[nodiscard]] virtual std::unique_ptr<Surface> createSurface(WidgetListener& listener, Twips width,

@@ -5,9 +5,11 @@
 #include <zor/platform/macros_aside.h>
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 
 namespace zor::platform {
@@ -91,11 +93,27 @@ inline constexpr std::int16_t kAltMask = 4;
 /// The number under which a surface reports; a control's own widgets are numbered from 1.
 inline constexpr int kSurfaceWidget = 0;
 
+/// What a screen reader says of a widget, beside what the widget itself shows.
+struct Spoken {
+    std::string name;                                          ///< which parameter it is; empty: nobody has said
+    std::string unit;                                          ///< as it is shown
+    std::string value;                                         ///< of a widget that shows no text
+    std::string state;                                         ///< the state that its icon stands for, in words
+    std::optional<std::pair<std::string, std::string>> limits; ///< what an entry may be, as it is shown
+    std::optional<std::pair<double, double>> ends;             ///< the same as numbers
+    bool isEdited = false;                                     ///< differs from what the device has
+    bool isReadOnly = false;                                   ///< nobody may ever edit it
+    bool isLocked = false;                                     ///< nobody can edit it now
+    bool isBusy = false;                                       ///< the device is being read
+};
+
 /// Receives the reports of all widgets of one control. `widget` is the number the control gave the widget
 /// when it created it.
 class WidgetListener {
 public:
     virtual void notice(int widget, Notice notice, EventArgs args) = 0;
+    /// Asked whenever somebody wants to hear it; nothing of it is kept with the widget.
+    [[nodiscard]] virtual Spoken spoken(int /*widget*/) { return {}; }
 
     /// While held, the listener and its widgets stay alive even when a handler destroys the control.
     /// A widget holds its listener through every operator action; release() must be the last thing it does,

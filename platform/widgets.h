@@ -46,9 +46,6 @@ public:
     [[nodiscard]] virtual std::string toolTip() const = 0;
     virtual void setToolTip(std::string_view text) = 0;
 
-    /// What a screen reader says of the widget: which parameter it is, and its state in words.
-    virtual void setAccessible(std::string_view name, std::string_view description) = 0;
-
     [[nodiscard]] Twips left() const { return geometry().left; }
     [[nodiscard]] Twips top() const { return geometry().top; }
     [[nodiscard]] Twips width() const { return geometry().width; }

@@ -8,13 +8,18 @@
 #include <zor/widgets/conversion.h>
 #include <zor/widgets/zor_control.h>
 
+#include <QAbstractSlider>
 #include <QCoreApplication>
 #include <QFocusEvent>
+#include <QMetaMethod>
+#include <QMetaProperty>
 #include <QPainter>
 #include <QPointer>
 #include <QStyleOption>
 
 #include <algorithm>
+#include <optional>
+#include <vector>
 
 namespace zor {
 namespace {
@@ -51,18 +56,13 @@ QString toQString(std::string_view text)
 // --- The control, and where it reports to
 
 struct ZorControl::Inner final : QObject, core::EventSink {
-    explicit Inner(ZorControl& widget) : owner(&widget), container(widget, core::pictureData)
+    Inner(ZorControl& widget, const core::ClassInfo& classInfo)
+        : owner(&widget), container(widget, core::pictureData), info(&classInfo),
+          output(classInfo.property("OutputValue")), modified(classInfo.property("DataModified"))
     {
         container.setUserMode(true);
-        container.onPropertyChanged = [this](platform::Component&, std::string_view name) {
-            const QPointer<ZorControl> alive = owner;
-            if (alive.isNull())
-                return;
-            const Telling telling(*this);
-            emit alive->propertyChanged(toQString(name));
-            if (!alive.isNull() && name == "DeviceValue" && info->property("OutputValue") == nullptr)
-                emit alive->valueChanged();
-        };
+        container.onPropertyChanged = [this](platform::Component&, std::string_view name) { written(name); };
+        container.onSettled = [this](platform::Component&) { settled(); };
     }
     using QObject::event;
     void event(core::Control&, const core::EventRow& row, platform::EventArgs args) override
@@ -71,10 +71,20 @@ struct ZorControl::Inner final : QObject, core::EventSink {
         if (alive.isNull())
             return;
         const Telling telling(*this);
+        const bool isValue = row.name == "OutputValueChange";
+        const bool isCommit = isValue && takesOver();
+        const QVariant committed = isCommit ? widgets::toQVariant(*handedOver) : QVariant();
         alive->emitEvent(static_cast<std::size_t>(&row - &info->events[0]), args);
-        if (!alive.isNull() && row.name == "OutputValueChange")
+        if (!alive.isNull() && isValue)
             emit alive->valueChanged();
+        if (!alive.isNull() && isCommit)
+            emit alive->valueCommitted(committed);
     }
+    void written(std::string_view name);
+    void settled() noexcept;
+    /// Notes the value that is handed over, and says whether the operator is the one who does it.
+    [[nodiscard]] bool takesOver();
+    void released();
 
     /// While slots are being called, any of which may delete the widget.
     class Telling {
@@ -88,33 +98,99 @@ struct ZorControl::Inner final : QObject, core::EventSink {
         Inner& m_inner;
     };
 
+    /// A property whose changes somebody wants to hear of.
+    struct Watch {
+        const core::PropertyRow* row;
+        QMetaMethod notifier;
+        Variant last;
+    };
+
     [[nodiscard]] QWidget& surface() const { return platform::qt::widgetOf(control->surface()); }
 
     ZorControl* owner;
     platform::qt::QtContainer container;
-    const core::ClassInfo* info = nullptr;
+    const core::ClassInfo* info;
+    const core::PropertyRow* output;   ///< nullptr for a control that hands nothing over
+    const core::PropertyRow* modified; ///< with it
     core::ControlPtr<> control;
-    QSize designed;
+    std::optional<Variant> handedOver; ///< since the device's value came
+    std::vector<Watch> watches;
+    platform::Rect designed;
     Qt::FocusPolicy focusPolicy = Qt::NoFocus; ///< of the focus proxy, while it can be reached
     bool isAbsent = false;                     ///< hidden because the device does not offer the parameter
     bool isShown = true;                       ///< whether it is to be seen where the device does
     bool keepsFocus = false;                   ///< while the control itself hides its widget
+    bool isValueNew = false;                   ///< a device value has come, and nobody has been told
+    bool isDragged = false;                    ///< what is handed over at the end of a drag
     int tellings = 0;
 };
 
+void ZorControl::Inner::written(std::string_view name)
+{
+    const QPointer<ZorControl> alive = owner;
+    if (alive.isNull())
+        return;
+    if (name == "DeviceValue") {
+        isValueNew = true;
+        handedOver.reset();
+    }
+    const Telling telling(*this);
+    emit alive->propertyChanged(toQString(name));
+}
+
+bool ZorControl::Inner::takesOver()
+{
+    isValueNew = false;
+    Variant value = control->get(*output);
+    const bool isOther = handedOver ? !(*handedOver == value) : control->get(*modified).toBoolean();
+    handedOver = std::move(value);
+    if (!isOther || !control->isByOperator())
+        return false;
+    const auto* track = qobject_cast<const QAbstractSlider*>(&owner->face());
+    isDragged = track != nullptr && track->isSliderDown();
+    return !isDragged;
+}
+
+void ZorControl::Inner::released()
+{
+    const QPointer<ZorControl> alive = owner;
+    const Telling telling(*this);
+    if (std::exchange(isDragged, false) && handedOver && !alive.isNull())
+        emit alive->valueCommitted(widgets::toQVariant(*handedOver));
+}
+
+void ZorControl::Inner::settled() noexcept
+{
+    const QPointer<ZorControl> alive = owner;
+    if (alive.isNull() || (!isValueNew && watches.empty()))
+        return;
+    const platform::Hold hold(*control);
+    const Telling telling(*this);
+    if (std::exchange(isValueNew, false))
+        emit alive->valueChanged();
+    for (std::size_t i = 0; i < watches.size() && !alive.isNull(); ++i) {
+        Variant now = control->get(*watches[i].row);
+        if (now == watches[i].last)
+            continue;
+        watches[i].last = std::move(now);
+        watches[i].notifier.invoke(owner, Qt::DirectConnection);
+    }
+}
+
 ZorControl::ZorControl(std::string_view className, QWidget* parent)
-    : ZorWidget(parent), m_inner(std::make_unique<Inner>(*this))
+    : ZorWidget(parent), m_inner(std::make_unique<Inner>(*this, classNamed(className)))
 {
     takeRegionalSettings();
     Inner& inner = *m_inner;
-    inner.info = &classNamed(className);
     inner.control = inner.info->create(inner.container);
     inner.control->initialiseProperties();
     inner.control->subscribe(inner);
-    inner.designed = platform::qt::toPixels(inner.control->surface().geometry()).size();
+    inner.designed = inner.control->surface().geometry();
     takeFocusProxy();
+    if (const auto* track = qobject_cast<const QAbstractSlider*>(&face()))
+        connect(track, &QAbstractSlider::sliderReleased, m_inner.get(), &Inner::released);
     setSizePolicy(QSizePolicy::Preferred, hasList() ? QSizePolicy::Expanding : QSizePolicy::Fixed);
-    resize(inner.designed);
+    resize(sizeHint());
 }
 
 ZorControl::~ZorControl()
@@ -207,10 +283,15 @@ QVariantList ZorControl::callForArray(std::size_t row, std::initializer_list<Var
 
 QVariant ZorControl::value() const
 {
-    const bool edits = info().property("OutputValue") != nullptr;
     QVariant value;
-    guarded("value",
-            [&] { value = widgets::toQVariant(control().property(edits ? "OutputValue" : "DeviceValue")); });
+    guarded("value", [&] {
+        const Inner& inner = *m_inner;
+        const std::optional<Variant> entry = control().entryUnderWay();
+        const bool isEdited = inner.output != nullptr && control().get(*inner.modified).toBoolean();
+        value = widgets::toQVariant(entry      ? *entry
+                                    : isEdited ? control().get(*inner.output)
+                                               : control().property("DeviceValue"));
+    });
     return value;
 }
 
@@ -219,16 +300,46 @@ void ZorControl::setValue(const QVariant& value)
     guarded("value", [&] { control().setProperty("DeviceValue", widgets::fromQVariant(value)); });
 }
 
+void ZorControl::connectNotify(const QMetaMethod& signal)
+{
+    const QMetaObject& meta = *metaObject();
+    for (const core::PropertyRow* row : info().properties) {
+        const int index = meta.indexOfProperty(std::string(row->name).c_str());
+        if (index < 0 || meta.property(index).notifySignal() != signal)
+            continue;
+        std::vector<Inner::Watch>& watches = m_inner->watches;
+        if (std::ranges::find(watches, row, &Inner::Watch::row) == watches.end() &&
+            signal.name() != "valueChanged")
+            watches.push_back({row, signal, control().get(*row)});
+        return;
+    }
+}
+
 // --- The widget
 
-QSize ZorControl::sizeHint() const { return m_inner->designed; }
+QSize ZorControl::sizeHint() const { return m_inner->container.scale().pixels(m_inner->designed).size(); }
+
+void ZorControl::followFont()
+{
+    const QSize before = sizeHint();
+    if (m_inner->container.followFont()) {
+        for (const core::WidgetRow& row : info().widgets) {
+            if (platform::Widget* part = control().widget(row.widget))
+                platform::qt::placeAnew(*part);
+        }
+        if (size() == before)
+            resize(sizeHint());
+        updateGeometry();
+    }
+    layOut();
+}
 
 void ZorControl::layOut()
 {
     guarded("size", [this] {
         const platform::Hold hold(control());
-        control().surface().setGeometry(
-            {0, 0, width() * platform::qt::kTwipsPerPixel, height() * platform::qt::kTwipsPerPixel});
+        const platform::qt::Scale& scale = m_inner->container.scale();
+        control().surface().setGeometry({0, 0, scale.twips(width()), scale.twips(height())});
         control().resized();
     });
 }
@@ -322,7 +433,7 @@ void ZorControl::changeEvent(QEvent* event)
 {
     ZorWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        layOut();
+        followFont();
 }
 
 void ZorControl::paintEvent(QPaintEvent*)

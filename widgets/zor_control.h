@@ -28,15 +28,17 @@ namespace zor {
 /// property in user mode) changes nothing and is announced by `refused`. A signal carries its arguments by
 /// value; to change one (to swallow a key, say) subscribe the control's sink interface to control().
 ///
-/// The widget's size is the control's: 15 twips to the device-independent pixel. In a style sheet a class goes
-/// by the name zor--ZorTextBox. A widget starts in user mode.
+/// The widget's size is the control's: 15 twips to the device-independent pixel, fewer in a font whose lines are
+/// higher than 16 pixels, so that all of the control grows with its font. In a style sheet a class goes by the
+/// name zor--ZorTextBox. A widget starts in user mode.
 ///
 /// The first widget takes the decimal and grouping separators of the default QLocale; see
 /// platform::setRegionalSettings() for others.
 class ZorControl : public ZorWidget {
     Q_OBJECT
-    /// For data mappers and item views: the value from the device, in the device's unit. Reading it gives what
-    /// the operator made of it.
+    /// For data mappers and item views, in the device's unit: written, the value from the device; read, what the
+    /// operator has made of it, a valid entry under way included, or the device's own value while nobody has
+    /// edited.
     Q_PROPERTY(
         QVariant value READ value WRITE setValue NOTIFY valueChanged DESIGNABLE false STORED false USER true)
 
@@ -51,12 +53,12 @@ public:
     [[nodiscard]] bool isUserMode() const noexcept;
     void setUserMode(bool userMode);
 
-    /// OutputValue of an editing control, DeviceValue of any other.
+    /// A valid entry under way, else OutputValue where there is an edit, else DeviceValue.
     [[nodiscard]] QVariant value() const;
     /// Writes DeviceValue.
     void setValue(const QVariant& value);
 
-    /// The size in which the control was designed.
+    /// The size in which the control was designed, in the widget's font.
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -65,7 +67,12 @@ public:
     void setVisible(bool visible) override;
 
 signals:
+    /// The value handed over is another, or has been handed over again; by whomever.
     void valueChanged();
+    /// The operator has handed over a value, in the device's unit: the one to write to the device. Nothing that
+    /// the program writes raises it, and neither does an operator who passes through a field. A slider that is
+    /// being dragged hands over where it is let go.
+    void valueCommitted(const QVariant& value);
     /// A property was written, or changed together with another.
     void propertyChanged(const QString& name);
     /// A property write or a method call came to nothing: its name, the error number and a short text.
@@ -85,6 +92,7 @@ protected:
     virtual void emitEvent(std::size_t event, platform::EventArgs arguments) = 0;
     /// @}
 
+    void connectNotify(const QMetaMethod& signal) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -97,6 +105,7 @@ private:
     template <class Action>
     void guarded(std::string_view member, Action&& action) const;
     void layOut();
+    void followFont();
     void takeFocusProxy();
     [[nodiscard]] QWidget& face() const;
     void followFace();

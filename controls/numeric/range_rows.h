@@ -37,7 +37,8 @@ struct RangeRows : UnitRows {
             .saying("What another user wrote, shown first in the text of DataChanged, in OutputUnit where there "
                     "are units. The host's own; the control never sets it.")
             .with(core::Access::Silent)
-            .refreshing({core::Refresh::Status});
+            .refreshing({core::Refresh::Status})
+            .live();
 
     static constexpr std::array kMessages{
         core::MessageRow{"MSG_CFAIL", &S::MsgCfail},

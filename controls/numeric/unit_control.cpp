@@ -1,5 +1,6 @@
 #include <zor/controls/numeric/unit_control.h>
 #include <zor/controls/numeric/unit_rows.h>
+#include <zor/platform/number_text.h>
 
 #include <utility>
 
@@ -37,7 +38,6 @@ void UnitControl::s_AfterOutputUnit()
     s_OutputUnitChanged();
     m_unitLabelCaption = fc_GetUnitLabel(m_units.outputUnit);
     s_ShowUnit(m_unitLabelCaption);
-    describeForReaders();
 }
 
 void UnitControl::DefaultUnit(MEAS_TYPE value) { write(UnitRows::DefaultUnit, value); }
@@ -45,6 +45,14 @@ void UnitControl::UnitEnable(bool value) { write(UnitRows::UnitEnable, value); }
 void UnitControl::UnitLabelCaption(std::string_view value)
 {
     write(UnitRows::UnitLabelCaption, std::string(value));
+}
+
+void UnitControl::describe(platform::Spoken& spoken) const
+{
+    if (m_unitEnable)
+        spoken.unit = shownUnit();
+    spoken.ends = {m_units.minParam, m_units.maxParam};
+    spoken.limits = {platform::doubleToText(m_units.minParam), platform::doubleToText(m_units.maxParam)};
 }
 
 std::string UnitControl::fc_GetCaptionID() const { return std::string(fc_GetUnitID(m_units.outputUnit)); }

@@ -89,12 +89,14 @@ protected:
 
     /// The refreshes that come first when the stored properties have been read.
     void s_AfterLoading() override;
-    [[nodiscard]] std::string accessibleDetail() const override { return m_unitLabelCaption; }
+    void describe(platform::Spoken& spoken) const override;
 
     /// The state icon's click, the menu, and where the menu opens; then the event of the class's table.
     void onNotice(int widget, platform::Notice notice, platform::EventArgs args) override;
     virtual void undoEdit() = 0;
     [[nodiscard]] virtual bool isLabel(int widget) const noexcept = 0;
+    /// What stands as the unit beside the value.
+    [[nodiscard]] virtual std::string shownUnit() const = 0;
 
     [[nodiscard]] bool showsUnit() const noexcept { return m_unitEnable && m_units.outputUnit != NoneU; }
     /// Whether what the operator does to the value is undone instead of taken.

@@ -68,10 +68,8 @@ struct UnitRows {
         core::fieldRow<&C::m_unitLabelCaption>("UnitLabelCaption", core::Topic::Units)
             .saying("Text of the unit label; follows OutputUnit until it is overwritten.")
             .stored("")
-            .then<[](C& control) {
-                control.s_ShowUnit(control.m_unitLabelCaption);
-                control.describeForReaders();
-            }>();
+            .then<[](C& control) { control.s_ShowUnit(control.m_unitLabelCaption); }>()
+            .live();
 
     static constexpr core::MethodRow GetCaptionID =
         core::method<&C::fc_GetCaptionID>("fc_GetCaptionID")

@@ -60,7 +60,8 @@ void setWidth(core::Control& control, int width)
         surface.setFixedWidth(width);
     // What is right of the field belongs to unit and icon.
     const core::PropertyRow* row = control.info().property("WidthDifference");
-    const auto room = static_cast<std::int16_t>((width - kField) * platform::qt::kTwipsPerPixel);
+    const platform::qt::Scale scale(surface.parentWidget()->font());
+    const auto room = static_cast<std::int16_t>(scale.twips(width - kField));
     if (row != nullptr && control.get(*row) != Variant(room))
         control.put(*row, room);
 }

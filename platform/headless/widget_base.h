@@ -61,7 +61,6 @@ public:
     [[nodiscard]] std::string toolTip() const override { return m_toolTip; }
     void setToolTip(std::string_view text) override { m_toolTip = text; }
     // No screen reader listens without a screen.
-    void setAccessible(std::string_view /*name*/, std::string_view /*description*/) override {}
 
     [[nodiscard]] Host& host() const noexcept override { return m_host; }
     [[nodiscard]] int number() const noexcept override { return m_number; }

@@ -1,3 +1,4 @@
+#include <zor/platform/qt/accessibility.h>
 #include <zor/platform/qt/container.h>
 #include <zor/platform/qt/entry_lists.h>
 #include <zor/platform/qt/range_widgets.h>
@@ -21,7 +22,7 @@ public:
     {
         closed();
         if (m_menu != nullptr) {
-            m_menu->disconnect();
+            QObject::disconnect(m_menu, nullptr, m_menu, nullptr);
             m_context.container->discard(*m_menu);
         }
     }
@@ -38,7 +39,7 @@ public:
             other->close();
         m_context.container->setOpenMenu(this);
         const Rect point{x, y, 0, 0};
-        m_menu->popup(m_context.surface->mapToGlobal(toPixels(point).topLeft()));
+        m_menu->popup(m_context.surface->mapToGlobal(m_context.container->scale().pixels(point).topLeft()));
     }
     void close() override
     {
@@ -126,9 +127,9 @@ public:
     [[nodiscard]] Rect geometry() const override
     {
         Rect placed = m_geometry;
-        if (const QPoint at = widget().pos(); at != toPixels(placed).topLeft()) {
-            placed.left = at.x() * kTwipsPerPixel;
-            placed.top = at.y() * kTwipsPerPixel;
+        if (const QPoint at = widget().pos(); at != scale().pixels(placed).topLeft()) {
+            placed.left = scale().twips(at.x());
+            placed.top = scale().twips(at.y());
         }
         return placed;
     }
@@ -175,7 +176,7 @@ public:
         QFont font = widget().font();
         font.setBold(bold);
         constexpr int kLimit = 4096;
-        return QFontMetrics(font).horizontalAdvance(shownText(text, kLimit)) * kTwipsPerPixel;
+        return scale().twips(QFontMetrics(font).horizontalAdvance(shownText(text, kLimit)));
     }
 
 private:
@@ -192,17 +193,17 @@ private:
     {
         std::int16_t button = kRightButton;
         std::int16_t shift = 0;
-        auto x = static_cast<float>(at.x() * kTwipsPerPixel);
-        auto y = static_cast<float>(at.y() * kTwipsPerPixel);
+        auto x = static_cast<float>(scale().twips(at.x()));
+        auto y = static_cast<float>(scale().twips(at.y()));
         report(Notice::MouseUp, std::array<ArgRef, 4>{&button, &shift, &x, &y});
     }
     void resizedByForm(QSize size)
     {
         auto* component = dynamic_cast<Component*>(context().listener);
-        if (m_setting || component == nullptr || size == toPixels(m_geometry).size())
+        if (m_setting || component == nullptr || size == scale().pixels(m_geometry).size())
             return;
-        m_geometry.width = size.width() * kTwipsPerPixel;
-        m_geometry.height = size.height() * kTwipsPerPixel;
+        m_geometry.width = scale().twips(size.width());
+        m_geometry.height = scale().twips(size.height());
         component->resized();
     }
 
@@ -211,6 +212,18 @@ private:
 };
 
 } // namespace
+
+QtContainer::QtContainer(QWidget& parent, std::span<const std::string_view> pictures)
+    : m_parent(parent), m_pictures(pictures), m_scale(parent.font())
+{
+    installAccessibility();
+}
+
+bool QtContainer::followFont()
+{
+    const Scale before = std::exchange(m_scale, Scale(m_parent.font()));
+    return !(m_scale == before);
+}
 
 std::unique_ptr<Surface> QtContainer::createSurface(WidgetListener& listener, Twips width, Twips height)
 {

@@ -3,6 +3,7 @@
 /// A form of real Qt widgets.
 
 #include <zor/platform/container.h>
+#include <zor/platform/qt/looks.h>
 
 #include <cstddef>
 #include <exception>
@@ -19,9 +20,7 @@ namespace zor::platform::qt {
 class QtContainer final : public Container {
 public:
     /// `pictures`: the SVG texts of the image list, picture 1 first; they must outlive the container.
-    QtContainer(QWidget& parent, std::span<const std::string_view> pictures)
-        : m_parent(parent), m_pictures(pictures)
-    {}
+    QtContainer(QWidget& parent, std::span<const std::string_view> pictures);
 
     [[nodiscard]] bool userMode() const noexcept override { return m_userMode; }
     void setUserMode(bool userMode) noexcept { m_userMode = userMode; }
@@ -30,13 +29,24 @@ public:
         if (onPropertyChanged)
             onPropertyChanged(component, name);
     }
+    void settled(Component& component) noexcept override
+    {
+        if (onSettled)
+            onSettled(component);
+    }
     /// Shows a real message box, unless onMessage is set.
     void showMessage(Component& component, const MessageBox& box) override;
     [[nodiscard]] std::unique_ptr<Surface> createSurface(WidgetListener& listener, Twips width,
                                                          Twips height) override;
 
+    /// Follows the parent's font: its line height decides how large the controls are drawn. Says whether they are
+    /// drawn in another size now; then each widget must be placed anew.
+    bool followFont();
+
     /// Hears of every property change.
     std::function<void(Component&, std::string_view)> onPropertyChanged;
+    /// Hears when all that one action has changed stands. Must not throw.
+    std::function<void(Component&)> onSettled;
     /// Takes the place of the real message boxes.
     std::function<void(Component&, const MessageBox&)> onMessage;
     /// Receives what an event handler of the host threw; without it, it is logged.
@@ -48,6 +58,7 @@ public:
     /// @name For the widgets of this container
     /// @{
     [[nodiscard]] QWidget& parent() const noexcept { return m_parent; }
+    [[nodiscard]] const Scale& scale() const noexcept { return m_scale; }
     [[nodiscard]] std::string_view picture(int index) const noexcept;
     void setOpenMenu(PopupMenu* menu) noexcept { m_openMenu = menu; }
     void failed(const std::exception_ptr& error);
@@ -61,6 +72,7 @@ private:
     QWidget& m_parent;
     std::span<const std::string_view> m_pictures;
     PopupMenu* m_openMenu = nullptr;
+    Scale m_scale;
     bool m_userMode = false;
 };
 
@@ -76,5 +88,8 @@ protected:
 
 /// The Qt widget under a widget or a surface.
 [[nodiscard]] QWidget& widgetOf(const Widget& widget);
+
+/// Places a widget where its twips are now, after its container has followed a font.
+void placeAnew(Widget& widget);
 
 } // namespace zor::platform::qt

@@ -119,7 +119,17 @@ void QtComboBox::paintColours()
     QtEntryBase::paintColours();
     // Some styles paint a list without typed text like a button.
     QPalette palette = widget().palette();
-    palette.setColor(QPalette::Button, toQColor(backColour()));
+    const QColor back = toQColor(backColour());
+    palette.setColor(QPalette::Button, back);
+    // A button has shades of its colour, much lighter ones where that is dark: the text must be read on each.
+    constexpr int kLightest = 155;
+    constexpr int kDarkest = 104;
+    const bool isDark = contrast(Qt::white, back) > contrast(Qt::black, back);
+    const QColor fore = readableOn(foreColour(), isDark ? back.lighter(kLightest) : back.darker(kDarkest));
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+        for (const auto group : {QPalette::Active, QPalette::Inactive})
+            palette.setColor(group, role, fore);
+    }
     widget().setPalette(palette);
 }
 
@@ -173,8 +183,7 @@ QPoint CheckList::textOf(const QModelIndex& index)
 {
     scrollTo(index);
     const QRect place = visualRect(index);
-    return {std::min(place.left() + static_cast<int>(kListText / kTwipsPerPixel), place.right() - 1),
-            place.center().y()};
+    return {std::min(place.left() + reporter->scale().pixels(kListText), place.right() - 1), place.center().y()};
 }
 
 bool CheckList::viewportEvent(QEvent* event)

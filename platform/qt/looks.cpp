@@ -1,6 +1,7 @@
 #include <zor/platform/qt/looks.h>
 #include <zor/platform/text.h>
 
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QStyle>
@@ -23,11 +24,18 @@ double luminance(const QColor& colour)
     return 0.2126 * channel(colour.redF()) + 0.7152 * channel(colour.greenF()) + 0.0722 * channel(colour.blueF());
 }
 
-int pixels(Twips twips) { return static_cast<int>(std::lround(twips / kTwipsPerPixel)); }
-
 } // namespace
 
-QRect toPixels(const Rect& rect)
+Scale::Scale(const QFont& font)
+{
+    // The highest line that every part has room for as designed.
+    constexpr double kDesignedLine = 16;
+    m_twipsPerPixel /= std::max(1.0, QFontMetrics(font).height() / kDesignedLine);
+}
+
+int Scale::pixels(Twips twips) const { return static_cast<int>(std::lround(twips / m_twipsPerPixel)); }
+
+QRect Scale::pixels(const Rect& rect) const
 {
     return {pixels(rect.left), pixels(rect.top), pixels(rect.width), pixels(rect.height)};
 }

@@ -6,6 +6,7 @@
 #include <zor/platform/widgets.h>
 
 #include <QColor>
+#include <QFont>
 #include <QRect>
 #include <QString>
 
@@ -16,9 +17,21 @@ class QWidget;
 
 namespace zor::platform::qt {
 
-inline constexpr double kTwipsPerPixel = 15.0; ///< device-independent pixels
+/// How large a control is drawn: the twips of a device-independent pixel. 15 for the fonts that the controls were
+/// designed for; a larger font makes all of a control larger.
+class Scale {
+public:
+    Scale() = default;
+    explicit Scale(const QFont& font);
 
-[[nodiscard]] QRect toPixels(const Rect& rect);
+    [[nodiscard]] double twips(double pixels) const noexcept { return pixels * m_twipsPerPixel; }
+    [[nodiscard]] int pixels(Twips twips) const;
+    [[nodiscard]] QRect pixels(const Rect& rect) const;
+    bool operator==(const Scale&) const = default;
+
+private:
+    double m_twipsPerPixel = 15.0;
+};
 
 /// A text that Qt can show at once: invalid UTF-8 and NULs as replacement characters, no more than `limit`
 /// characters, an ellipsis in place of the rest.

@@ -56,7 +56,7 @@ Aim aimAt(Widget& widget)
         return {list->viewport(), hasEntries ? list->textOf(std::max(list->current(), 0)) : QPoint(0, 0)};
     }
     const Spot spot = spotOn(widget);
-    return {target, QPointF(spot.x, spot.y) / kTwipsPerPixel};
+    return {target, QPointF(spot.x, spot.y) / base(widget).scale().twips(1)};
 }
 
 /// Actions follow one another faster than a person's: the next click is not the third of a triple click.

@@ -36,7 +36,7 @@ void PageDialog::setPage(PropertyPage* page)
     if (m_page == nullptr)
         return;
     setWindowTitle(shownText(m_page->caption(), kLimit));
-    m_area->setFixedSize(toPixels(m_page->surface().geometry()).size());
+    m_area->setFixedSize(m_container.scale().pixels(m_page->surface().geometry()).size());
 }
 
 std::unique_ptr<Surface> PageDialog::createSurface(WidgetListener& listener)

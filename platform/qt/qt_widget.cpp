@@ -2,6 +2,8 @@
 #include <zor/platform/qt/keys.h>
 #include <zor/platform/qt/qt_widget.h>
 
+#include <QAccessible>
+
 namespace zor::platform::qt {
 
 void QtWidget::report(Notice notice, EventArgs args) const
@@ -13,6 +15,14 @@ void QtWidget::report(Notice notice, EventArgs args) const
     } catch (...) {
         container.failed(std::current_exception());
     }
+}
+
+void QtWidget::announce() const
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent changed(&qwidget(), QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&changed);
 }
 
 bool EventReports::before()
@@ -111,10 +121,13 @@ void EventReports::mouse(Notice notice) const
     const auto& event = static_cast<QMouseEvent&>(m_event);
     std::int16_t button = notice == Notice::MouseMove ? buttonsOf(event.buttons()) : buttonsOf(event.button());
     std::int16_t shift = shiftOf(event.modifiers());
-    auto x = static_cast<float>(event.position().x() * kTwipsPerPixel);
-    auto y = static_cast<float>(event.position().y() * kTwipsPerPixel);
+    const Scale& scale = m_widget.scale();
+    auto x = static_cast<float>(scale.twips(event.position().x()));
+    auto y = static_cast<float>(scale.twips(event.position().y()));
     m_widget.report(notice, std::array<ArgRef, 4>{&button, &shift, &x, &y});
 }
+
+void placeAnew(Widget& widget) { dynamic_cast<QtWidget&>(widget).placeAnew(); }
 
 QWidget& widgetOf(const Widget& widget) { return dynamic_cast<const QtWidget&>(widget).qwidget(); }
 

@@ -59,6 +59,12 @@ public:
 
     [[nodiscard]] virtual QWidget& qwidget() const = 0;
     [[nodiscard]] const Context& context() const noexcept { return m_context; }
+    [[nodiscard]] int number() const noexcept { return m_number; }
+    [[nodiscard]] const Scale& scale() const noexcept { return m_context.container->scale(); }
+    /// Takes the pixels that its twips are now.
+    virtual void placeAnew() = 0;
+    /// Tells a screen reader, if one listens, that there is something new to say.
+    void announce() const;
     /// Reports; what a handler throws goes to the container, never through Qt's event loop.
     void report(Notice notice, EventArgs args = {}) const;
     /// Whether a release of the mouse (`second`: after a double click) is a Click. A widget that reports its
@@ -145,12 +151,20 @@ bool reported(QtWidget* const& owner, QEvent* event, Handle&& handle)
     return handled || isMouse;
 }
 
+/// A Qt widget of this platform, whatever else it is; `owner` is nullptr once the interface object has ended.
+struct Reports {
+    QtWidget* owner = nullptr;
+
+protected:
+    Reports() = default;
+    virtual ~Reports() = default;
+};
+
 /// A Qt widget whose events are reported.
 template <class Base>
-class Reporting : public Base {
+class Reporting : public Base, public Reports {
 public:
     using Base::Base;
-    QtWidget* owner = nullptr;
 
     bool event(QEvent* event) override
     {
@@ -198,7 +212,8 @@ public:
     ~QtBase() override
     {
         m_widget->owner = nullptr;
-        m_widget->disconnect();
+        // Our own connections only: Qt's accessibility must still hear that the widget ends.
+        QObject::disconnect(m_widget, nullptr, m_widget, nullptr);
         this->context().container->discard(*m_widget);
     }
     QtBase(const QtBase&) = delete;
@@ -210,8 +225,9 @@ public:
         if (m_geometry == geometry)
             return;
         m_geometry = geometry;
-        m_widget->setGeometry(toPixels(m_geometry));
+        m_widget->setGeometry(scale().pixels(m_geometry));
     }
+    void placeAnew() override { m_widget->setGeometry(scale().pixels(m_geometry)); }
     [[nodiscard]] bool isVisible() const override { return !m_widget->isHidden(); }
     void setVisible(bool visible) override
     {
@@ -233,8 +249,10 @@ public:
     [[nodiscard]] Colour backColour() const override { return m_backColour; }
     void setBackColour(Colour colour) override
     {
-        if (std::exchange(m_backColour, colour) != colour)
-            paintColours();
+        if (std::exchange(m_backColour, colour) == colour)
+            return;
+        paintColours();
+        announce();
     }
     [[nodiscard]] std::string toolTip() const override { return m_toolTip; }
     void setToolTip(std::string_view text) override
@@ -243,14 +261,8 @@ public:
             return;
         m_toolTip = text;
         m_widget->setToolTip(plainToolTip(m_toolTip));
+        announce();
     }
-    void setAccessible(std::string_view name, std::string_view description) override
-    {
-        constexpr int kLimit = 500;
-        m_widget->setAccessibleName(shownText(name, kLimit));
-        m_widget->setAccessibleDescription(shownText(description, kLimit));
-    }
-
     [[nodiscard]] QWidget& qwidget() const override { return *m_widget; }
     void themeChanged() override { paintColours(); }
 
@@ -282,8 +294,10 @@ public:
     [[nodiscard]] Colour foreColour() const override { return m_foreColour; }
     void setForeColour(Colour colour) override
     {
-        if (std::exchange(m_foreColour, colour) != colour)
-            this->paintColours();
+        if (std::exchange(m_foreColour, colour) == colour)
+            return;
+        this->paintColours();
+        this->announce();
     }
     [[nodiscard]] bool isBold() const override { return this->widget().font().bold(); }
     void setBold(bool bold) override

@@ -95,6 +95,11 @@ public:
         report(Notice::Change);
     }
     void setSelectable(bool selectable) override { widget().setSelectable(selectable); }
+    void placeAnew() override
+    {
+        QtFontBase::placeAnew();
+        fit();
+    }
 
 private:
     void fontChanged() override { fit(); }
@@ -102,11 +107,11 @@ private:
     {
         const QSize size = widget().fontMetrics().size(0, widget().text());
         Rect fitted = m_geometry;
-        fitted.width = size.width() * kTwipsPerPixel;
+        fitted.width = scale().twips(size.width());
         m_lines = std::max(size.height(), widget().fontMetrics().height());
         // One line is as high as designed, also where the font needs a pixel more: it hangs below.
-        fitted.height = m_lines * kTwipsPerPixel;
-        if (std::abs(fitted.height - kLineHeight) <= kTwipsPerPixel)
+        fitted.height = scale().twips(m_lines);
+        if (std::abs(fitted.height - kLineHeight) <= scale().twips(1))
             fitted.height = kLineHeight;
         place(fitted);
     }

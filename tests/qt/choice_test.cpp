@@ -50,6 +50,31 @@ TEST_F(ChoiceTest, TheWheelTurnsADropDownListOnlyForWhoeverWorksIt)
     EXPECT_EQ(part(*combo).toolTip(), "Communication Failure !");
 }
 
+TEST_F(ChoiceTest, AFailureIsReadInEveryThemeAndState)
+{
+    const auto combo = makeCombo();
+    combo->CFail(true);
+    const QPalette before = QApplication::palette();
+    for (const QColor& base : {QColor(Qt::white), QColor(35, 38, 41), QColor(Qt::black)}) {
+        QPalette theme(base, base);
+        theme.setColor(QPalette::Base, base);
+        QApplication::setPalette(theme);
+        for (const bool isModified : {false, true}) {
+            combo->DataModified(isModified);
+            QWidget& list = part(*combo);
+            const QImage picture = list.grab().toImage();
+            double worst = 21;
+            // Between the text and the arrow, inside the frame.
+            for (int y = 4; y < picture.height() - 4; ++y) {
+                const QColor shade = picture.pixelColor(picture.width() - 40, y);
+                worst = std::min(worst, platform::qt::contrast(list.palette().color(QPalette::ButtonText), shade));
+            }
+            EXPECT_GE(worst, 4.5) << base.name().toStdString() << isModified;
+        }
+    }
+    QApplication::setPalette(before);
+}
+
 TEST_F(ChoiceTest, AnOpenListClosesWhenTheConnectionIsLost)
 {
     const auto combo = makeCombo();

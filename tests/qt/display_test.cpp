@@ -1,4 +1,4 @@
-// What only a real screen has: the keyboard on a picture, marked text, what a screen reader is told.
+// What only a real screen has: the keyboard on a picture, marked text.
 
 #include <zor/controls/display/image/ctx_ZorImage.h>
 #include <zor/controls/display/label/ctx_ZorLabel.h>
@@ -37,30 +37,6 @@ TEST_F(DisplayTest, ThePictureAnswersTheKeyboardAsItAnswersTheMouse)
     const QImage focused = grab();
     other.setFocus();
     EXPECT_NE(focused, grab()) << "the focus shows";
-}
-
-TEST_F(DisplayTest, AScreenReaderHearsTheStateInWords)
-{
-    const auto image = make<ctx_ZorImage>();
-    QWidget& picture = part(*image);
-    image->MessageHeader("Tank 4");
-    EXPECT_EQ(picture.accessibleName(), "Tank 4");
-    EXPECT_EQ(picture.accessibleDescription(), "- No Information. Status OK");
-    image->DeviceValue(3);
-    EXPECT_EQ(picture.accessibleDescription(), "Status Not OK");
-    QTest::mouseClick(&picture, Qt::LeftButton);
-    image->WaitingForData(true);
-    EXPECT_EQ(picture.accessibleDescription(), "Waiting for data");
-    image->WaitingForData(false);
-    EXPECT_EQ(picture.accessibleDescription(), "Status Not OK") << "not the list of the last click";
-    image->CFail(true);
-    EXPECT_EQ(picture.accessibleDescription(), "Communication Failure !");
-
-    const auto label = make<ctx_ZorLabel>();
-    label->DeviceTag("Name1");
-    label->DataNotAvailable(true);
-    EXPECT_EQ(part(*label).accessibleName(), "Name1");
-    EXPECT_EQ(part(*label).accessibleDescription(), "Data Not Available");
 }
 
 TEST_F(DisplayTest, ACaptionIsMarkedAndCopiedWithoutTakingAnEventOrTheFocus)

@@ -1,4 +1,4 @@
-// What only a real screen has: the focus among neighbours, the mouse on what is disabled, a screen reader.
+// What only a real screen has: the focus among neighbours, the mouse on what is disabled.
 
 #include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
 #include <zor/tests/qt/screen_fixture.h>
@@ -51,17 +51,6 @@ TEST_F(TextBoxOnScreenTest, TheMouseDoesNothingToWhatIsDisabled)
     QTest::mouseClick(&part(3), Qt::LeftButton);
     EXPECT_EQ(events, "imgClick");
     EXPECT_EQ(boxes.size(), 1U);
-}
-
-TEST_F(TextBoxOnScreenTest, AScreenReaderHearsTagUnitAndState)
-{
-    first->DeviceTag("LEVEL");
-    first->OutputUnit(LgthU_Mtr);
-    EXPECT_EQ(part(1).accessibleName(), "LEVEL");
-    EXPECT_EQ(part(1).accessibleDescription(), "m");
-    first->CFail(true);
-    first->UnitLabelCaption("metres");
-    EXPECT_EQ(part(1).accessibleDescription(), "metres, Communication Failure !");
 }
 
 } // namespace

@@ -2,13 +2,16 @@
 
 #include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
 #include <zor/controls/registration.h>
+#include <zor/platform/qt/container.h>
 #include <zor/widgets.h>
 #include <zor/widgets/conversion.h>
 #include <zor/widgets/form_loader.h>
 
+#include <QAbstractSlider>
 #include <QApplication>
 #include <QBuffer>
 #include <QDataWidgetMapper>
+#include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QMetaProperty>
 #include <QSignalSpy>
@@ -198,33 +201,173 @@ TEST(Widgets, AStyleSheetOfTheProgramHidesNoState)
     EXPECT_EQ(field(), form.palette().color(QPalette::Base));
 }
 
-TEST(Widgets, ADataMapperShowsAndTakesTheValue)
+// Keys, submit() and a model that changes: our widgets beside a spin box of Qt's, which shows what is usual.
+TEST(Widgets, ADataMapperTakesThemAsItTakesASpinBox)
 {
     QWidget form;
     QVBoxLayout layout(&form);
     auto* box = new ZorTextBox;
+    auto* whole = new ZorUpDown;
+    auto* spin = new QDoubleSpinBox;
     auto* other = new QLineEdit;
-    layout.addWidget(box);
-    layout.addWidget(other);
-    box->setDeviceUnit(ZorWidget::LgthU_MM);
-    box->setMaxValue(100);
-    QStandardItemModel model(2, 1);
-    model.setData(model.index(0, 0), 12.0);
-    model.setData(model.index(1, 0), 34.0);
+    const std::vector<QWidget*> fields{box, whole, spin};
+    QStandardItemModel model(2, 3);
     QDataWidgetMapper mapper;
     mapper.setModel(&model);
-    mapper.addMapping(box, 0);
-    mapper.toFirst();
-    EXPECT_EQ(box->findChild<QLineEdit*>()->text(), "12");
-    mapper.toNext();
-    EXPECT_EQ(box->findChild<QLineEdit*>()->text(), "34");
+    for (int i = 0; i < 3; ++i) {
+        layout.addWidget(fields[i]);
+        mapper.addMapping(fields[i], i);
+        fields[i]->setProperty("DeviceUnit", "LgthU_MM");
+        fields[i]->setProperty("MaxValue", 100);
+        model.setData(model.index(0, i), 12.0);
+        model.setData(model.index(1, i), 34.0);
+    }
+    layout.addWidget(other);
     form.show();
     QApplication::setActiveWindow(&form);
+    mapper.toFirst();
+    mapper.toNext();
+    for (int i = 0; i < 3; ++i) {
+        const auto stored = [&] { return model.data(model.index(1, i)).toDouble(); };
+        auto* field = i < 2 ? fields[i]->focusProxy() : fields[i];
+        const auto type = [&](const char* text) {
+            field->setFocus();
+            QMetaObject::invokeMethod(field, "selectAll");
+            QTest::keyClicks(field, text);
+        };
+        const auto settle = [] { QTest::qWait(0); };
+        const auto shown = [&] { return fields[i]->property("value").toDouble(); };
+        EXPECT_EQ(shown(), 34) << i;
+        type("56");
+        EXPECT_EQ(shown(), 56) << i << ": under way";
+        EXPECT_EQ(stored(), 34) << i;
+        QTest::keyClick(field, Qt::Key_Return);
+        settle();
+        EXPECT_EQ(stored(), 56) << i << ": Return";
+        type("57");
+        QTest::keyClick(field, Qt::Key_Escape);
+        settle();
+        EXPECT_EQ(shown(), 56) << i << ": Escape";
+        type("58");
+        other->setFocus();
+        settle();
+        EXPECT_EQ(stored(), 58) << i << ": left";
+        mapper.setSubmitPolicy(QDataWidgetMapper::ManualSubmit);
+        type("59");
+        EXPECT_TRUE(mapper.submit());
+        EXPECT_EQ(stored(), 59) << i << ": submit";
+        mapper.setSubmitPolicy(QDataWidgetMapper::AutoSubmit);
+        mapper.setCurrentIndex(1);
+    }
+    model.setData(model.index(1, 0), 12.345);
     box->setFocus();
-    QTest::keyClicks(box->focusProxy(), "56");
     other->setFocus();
     QTest::qWait(0);
-    EXPECT_EQ(model.data(model.index(1, 0)).toDouble(), 56);
+    EXPECT_EQ(model.data(model.index(1, 0)).toDouble(), 12.345) << "what nobody edited is not rounded";
+    box->setFocus();
+    QTest::keyClicks(box->focusProxy(), "999");
+    EXPECT_EQ(box->value(), 12.345) << "what is no valid entry";
+}
+
+TEST(Widgets, OnlyWhatTheOperatorHandsOverIsCommitted)
+{
+    QWidget form;
+    QVBoxLayout layout(&form);
+    auto* box = new ZorTextBox;
+    auto* slider = new ZorSlider;
+    auto* choice = new ZorOptionButton;
+    auto* other = new QLineEdit;
+    for (QWidget* widget : std::initializer_list<QWidget*>{box, slider, choice, other})
+        layout.addWidget(widget);
+    form.show();
+    QApplication::setActiveWindow(&form);
+    box->setMaxValue(1000);
+    box->setDeviceUnit(ZorWidget::LgthU_MM);
+    QVariantList committed;
+    for (ZorControl* control : std::initializer_list<ZorControl*>{box, slider, choice})
+        QObject::connect(control, &ZorControl::valueCommitted, &form, [&](const QVariant& v) { committed << v; });
+    const auto leave = [&](const char* text) {
+        box->setFocus();
+        QTest::keyClicks(box->focusProxy(), text);
+        other->setFocus();
+    };
+    // As a program does that answers a commit by reading the device.
+    QObject::connect(box, &ZorControl::valueCommitted, box, [box](const QVariant& v) { box->setDeviceValue(v); });
+    box->setDeviceValue(5);
+    box->setModifiedValue(6);
+    leave("");
+    box->setDeviceUnit(ZorWidget::LgthU_CM);
+    leave("");
+    EXPECT_EQ(committed, QVariantList());
+    leave("70");
+    EXPECT_EQ(committed, QVariantList{7.0}) << "in the device's unit, once";
+    leave("70");
+    leave("9999");
+    EXPECT_EQ(committed, QVariantList{7.0});
+
+    committed.clear();
+    auto& track = dynamic_cast<QAbstractSlider&>(*slider->focusProxy());
+    track.setSliderDown(true);
+    track.setSliderPosition(3);
+    track.setSliderPosition(5);
+    EXPECT_EQ(committed, QVariantList());
+    track.setSliderDown(false);
+    EXPECT_EQ(committed, QVariantList{50.0});
+
+    committed.clear();
+    choice->setEnumEntryValue(2);
+    for (int device : {1, 1}) {
+        choice->setDeviceValue(device);
+        QTest::mouseClick(choice->focusProxy(), Qt::LeftButton, {}, QPoint(8, choice->focusProxy()->height() / 2));
+    }
+    EXPECT_EQ(committed, (QVariantList{2, 2}));
+}
+
+TEST(Widgets, WhatChangesByItselfSaysSo)
+{
+    ZorTextBox box;
+    box.setMaxValue(1000);
+    QSignalSpy modified(&box, &ZorTextBox::DataModifiedChanged);
+    QSignalSpy upper(&box, &ZorTextBox::MaxParamValueChanged);
+    QSignalSpy support(&box, &ZorTextBox::DeviceTypeNotSupportedChanged);
+    QSignalSpy value(&box, &ZorTextBox::valueChanged);
+    box.setModifiedValue(50);
+    box.setModifiedValue(60);
+    EXPECT_EQ(modified.size(), 1);
+    box.setDeviceValue(60);
+    EXPECT_EQ(modified.size(), 2);
+    EXPECT_EQ(value.size(), 3);
+    box.setDefaultUnit(ZorWidget::LgthU_CM);
+    EXPECT_EQ(upper.size(), 1);
+    box.setDeviceTypeSupported("A");
+    box.setDeviceType("B");
+    EXPECT_EQ(support.size(), 1);
+}
+
+TEST(Widgets, ALargerFontMakesThemLargerAndCutsNothing)
+{
+    for (const int points : {8, 9, 12, 16, 24}) {
+        QFont font = QApplication::font();
+        font.setPointSize(points);
+        for (const core::ClassInfo* info : classes()) {
+            QWidget form;
+            QVBoxLayout layout(&form);
+            ZorControl* widget = make(info->name).release();
+            layout.addWidget(widget);
+            widget->setProperty("OutputUnit", "LgthU_Mtr");
+            form.setFont(font);
+            form.show();
+            for (QWidget* part : platform::qt::widgetOf(widget->control().surface()).findChildren<QWidget*>()) {
+                if (!part->isVisible() || part->parentWidget()->parentWidget() != widget)
+                    continue;
+                EXPECT_EQ(part->font().pointSize(), points) << info->name;
+                EXPECT_TRUE(part->parentWidget()->rect().contains(part->geometry()))
+                    << info->name << ' ' << points << ' ' << part->metaObject()->className();
+                EXPECT_GE(part->height() + 1, QFontMetrics(font).height())
+                    << info->name << ' ' << points << ' ' << part->metaObject()->className();
+            }
+        }
+    }
 }
 
 TEST(Widgets, AFormAtRunTimeKnowsThem)

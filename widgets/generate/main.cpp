@@ -69,6 +69,16 @@ bool isKept(const core::PropertyRow& row)
     return !row.key.empty() && row.access != core::Access::Derived && row.access != core::Access::ReadOnly;
 }
 
+/// The signal that tells of a change of a property which can change without being written; empty for any other.
+/// The value handed over has the signal that tells of it for all classes.
+string notifierOf(const core::PropertyRow& row)
+{
+    if (row.name == "OutputValue" || row.name == "ModifiedValue")
+        return "valueChanged";
+    const bool follows = row.access == core::Access::Derived || row.access == core::Access::ReadOnly;
+    return isReadable(row) && (row.isLive || follows) ? string(row.name) + "Changed" : string();
+}
+
 std::size_t indexOf(const core::ClassInfo& info, const core::PropertyRow* row)
 {
     return static_cast<std::size_t>(std::ranges::find(info.properties, row) - info.properties.begin());
@@ -109,8 +119,10 @@ void declareProperties(std::ostream& out, const core::ClassInfo& info)
 {
     for (const core::PropertyRow* row : core::settingOrder(info)) {
         const string name(row->name);
+        const string notifier = notifierOf(*row);
         out << "    Q_PROPERTY(" << qtType(row->field.kind) << ' ' << name << " READ " << name << " WRITE set"
-            << name << (isKept(*row) ? "" : " STORED false") << ")\n";
+            << name << (notifier.empty() ? "" : " NOTIFY " + notifier) << (isKept(*row) ? "" : " STORED false")
+            << ")\n";
     }
 }
 
@@ -160,6 +172,10 @@ void declareClass(std::ostream& out, const core::ClassInfo& info)
     for (const core::EventRow& row : info.events) {
         if (row.isRaised)
             out << "    /// " << core::meaningOf(row) << "\n    void " << signalOf(row) << ";\n";
+    }
+    for (const core::PropertyRow* row : info.properties) {
+        if (const string notifier = notifierOf(*row); !notifier.empty() && notifier != "valueChanged")
+            out << "    void " << notifier << "();\n";
     }
     out << "\nprotected:\n    void emitEvent(std::size_t event, platform::EventArgs arguments) override;\n};\n\n";
 }

@@ -43,8 +43,7 @@ struct ctx_ZorImage::Rows {
         S::MessageHeader
             .saying("What the status word stands for: tooltip, part of the titles and texts of the message boxes, "
                     "and the name that is read out.")
-            .initially("Qex")
-            .then<&This::describeForReaders>();
+            .initially("Qex");
 
     // Three texts of a new image are not those of a form that says nothing; forms in the field rely on both.
     static constexpr auto MsgDefault =
@@ -67,7 +66,8 @@ struct ctx_ZorImage::Rows {
             .saying("Message when a bit is set; a click puts the list of the set bits in its place.")
             .stored("Status Not OK")
             .with(Access::Silent)
-            .refreshing({Refresh::Status});
+            .refreshing({Refresh::Status})
+            .live();
     static constexpr auto MsgUndefined =
         fieldRow<&This::m_texts, &Texts::undefined>("MsgUndefined", core::Topic::Messages)
             .saying("Words for a set bit that has no name; the bit's number is added behind MsgBit.")

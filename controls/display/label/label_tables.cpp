@@ -36,7 +36,8 @@ struct ctx_ZorLabel::Rows {
                                              .then<[](This& label) {
                                                  label.showWrittenCaption();
                                                  label.s_PlaceIcon();
-                                             }>();
+                                             }>()
+                                             .live();
     static constexpr auto LabelFontItalic =
         computedRow<[](This& label) { return label.LabelFontItalic(); }>("LabelFontItalic",
                                                                          core::Topic::Appearance)
@@ -46,7 +47,8 @@ struct ctx_ZorLabel::Rows {
     static constexpr auto LabelFontBold =
         computedRow<[](This& label) { return label.LabelFontBold(); }>("LabelFontBold", core::Topic::Appearance)
             .saying("Whether the label's text is bold.")
-            .written<[](This& label, bool bold) { label.LabelFontBold(bold); }>();
+            .written<[](This& label, bool bold) { label.LabelFontBold(bold); }>()
+            .live();
 };
 
 // --- The class

@@ -225,6 +225,16 @@ void ctx_ZorSlider::s_AfterLoading()
     s_Layout();
 }
 
+void ctx_ZorSlider::describe(platform::Spoken& spoken) const
+{
+    UnitControl::describe(spoken);
+    if (m_scaleFactor == 0)
+        return;
+    spoken.value = platform::doubleToText(unscaled(m_track->value()));
+    spoken.ends = {unscaled(m_units.minParam), unscaled(m_units.maxParam)};
+    spoken.limits = {platform::doubleToText(spoken.ends->first), platform::doubleToText(spoken.ends->second)};
+}
+
 // --- Properties that are not simply fields
 
 double ctx_ZorSlider::OutputValue() const { return unscaled(m_output); }

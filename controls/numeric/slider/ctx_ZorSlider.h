@@ -109,6 +109,7 @@ private:
     void setEnds(Set&& set);
     void putBack();
     void undoEdit() override;
+    void describe(platform::Spoken& spoken) const override;
     void assignOutput(double value);
     [[nodiscard]] double scaled(double value) const;
     [[nodiscard]] double unscaled(double value) const;
@@ -117,6 +118,7 @@ private:
     {
         return widget >= kMinPrefix && widget <= kMaxUnit;
     }
+    [[nodiscard]] std::string shownUnit() const override { return label(kMinUnit).caption(); }
 
     // Display
     void s_UpdateColors() override {}

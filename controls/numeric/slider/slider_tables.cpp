@@ -79,7 +79,8 @@ struct ctx_ZorSlider::Rows : RangeRows {
     static constexpr auto TickFrequency =
         computedRow<[](This& slider) { return slider.TickFrequency(); }>("TickFrequency", core::Topic::Appearance)
             .saying("Distance of the ticks, in units of the value.")
-            .written<[](This& slider, double value) { slider.TickFrequency(value); }>();
+            .written<[](This& slider, double value) { slider.TickFrequency(value); }>()
+            .live();
     static constexpr auto GetNumTicks =
         computedRow<[](This& slider) { return slider.GetNumTicks(); }>("GetNumTicks", core::Topic::Appearance)
             .saying("Number of ticks on the track.");

@@ -160,10 +160,13 @@ private:
     [[nodiscard]] platform::Image& icon() noexcept override { return m_field.icon(); }
     void onNotice(int widget, platform::Notice notice, platform::EventArgs args) override;
     void undoEdit() override;
+    void describe(platform::Spoken& spoken) const override;
+    [[nodiscard]] std::optional<Variant> entryUnderWay() const override;
     [[nodiscard]] bool isLabel(int widget) const noexcept override
     {
         return widget == controls::EntryField::kUnits;
     }
+    [[nodiscard]] std::string shownUnit() const override { return m_field.units().caption(); }
 
     controls::EntryField m_field;
     std::array<platform::Widget*, 2> m_body;

@@ -48,6 +48,15 @@ void ctx_ZorTextBox::s_UpdateUnitLabelVisibility()
 
 void ctx_ZorTextBox::s_ShowUnit(std::string_view caption) { m_field.showUnit(caption, showsUnit()); }
 
+void ctx_ZorTextBox::describe(platform::Spoken& spoken) const
+{
+    UnitControl::describe(spoken);
+    if (isNumeric() && m_invalidEntryEnable && !isReadOnlyForOperator())
+        return;
+    spoken.limits.reset();
+    spoken.ends.reset();
+}
+
 void ctx_ZorTextBox::s_AlignText()
 {
     m_field.text().setAlignment(isNumeric() ? platform::Alignment::Right : platform::Alignment::Left);

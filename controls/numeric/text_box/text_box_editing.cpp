@@ -111,6 +111,22 @@ void ctx_ZorTextBox::s_ForceOutputValueUpdate()
     run([this] { s_CommitEntry(false); });
 }
 
+std::optional<Variant> ctx_ZorTextBox::entryUnderWay() const
+{
+    if (!m_editPending || m_source != Source::Edit)
+        return {};
+    const std::optional<double> number = m_field.number();
+    const bool isOutside = number && (*number < m_units.minParam || *number > m_units.maxParam);
+    const bool isTooLong = std::cmp_greater(platform::characterCount(m_field.text().text()), m_maxLength);
+    if (isNumeric() ? !number || (m_invalidEntryEnable && isOutside) : isTooLong)
+        return {};
+    try {
+        return entry();
+    } catch (const RunTimeError&) {
+        return {};
+    }
+}
+
 // --- Undo
 
 void ctx_ZorTextBox::undoEdit()

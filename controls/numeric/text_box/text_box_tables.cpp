@@ -96,7 +96,8 @@ struct ctx_ZorTextBox::Rows : UnitRows {
         computedRow<[](This& box) { return box.SelectedText(); }>("SelectedText", core::Topic::Value)
             .saying("The selected part of the text. Writing replaces it, or inserts at the caret, and counts as "
                     "an edit.")
-            .written<[](This& box, const std::string& text) { box.SelectedText(text); }>();
+            .written<[](This& box, const std::string& text) { box.SelectedText(text); }>()
+            .live();
 
     static constexpr auto MsgInvalidEntry =
         fieldRow<&This::m_entryMessages, &EntryMessages::invalid>("MsgInvalidEntry", core::Topic::Messages)

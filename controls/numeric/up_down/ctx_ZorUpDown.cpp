@@ -241,8 +241,7 @@ void ctx_ZorUpDown::s_CommitEntry()
         return;
     const std::uint32_t turn = this->turn();
     if (const std::optional<double> number = m_field.number()) {
-        // As the button cuts: where the limits are the wrong way round, the lower one counts.
-        const double taken = std::max<double>(std::min<double>(*number, m_spin->maximum()), m_spin->minimum());
+        const double taken = cut(*number);
         if (taken != *number)
             showNumber(roundToInt32(taken));
         if (!isOvertaken(turn))
@@ -254,6 +253,23 @@ void ctx_ZorUpDown::s_CommitEntry()
     }
     m_editPending = false;
     m_isEntry = false;
+}
+
+double ctx_ZorUpDown::cut(double number) const
+{
+    return std::max<double>(std::min<double>(number, m_spin->maximum()), m_spin->minimum());
+}
+
+std::optional<Variant> ctx_ZorUpDown::entryUnderWay() const
+{
+    const std::optional<double> number = m_field.number();
+    if (!m_isEntry || !number)
+        return {};
+    try {
+        return roundToInt32(m_units.toDevice(roundToInt32(cut(*number))));
+    } catch (const RunTimeError&) {
+        return {};
+    }
 }
 
 void ctx_ZorUpDown::undoEdit()

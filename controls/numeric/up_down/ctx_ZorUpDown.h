@@ -104,11 +104,16 @@ private:
     void onTextChanged();
     void s_CommitEntry();
     void undoEdit() override;
+    [[nodiscard]] std::optional<Variant> entryUnderWay() const override;
+    /// What the limits leave of a number. As the button cuts: where they are the wrong way round, the lower
+    /// counts.
+    [[nodiscard]] double cut(double number) const;
     void onNotice(int widget, platform::Notice notice, platform::EventArgs args) override;
     [[nodiscard]] bool isLabel(int widget) const noexcept override
     {
         return widget == controls::EntryField::kUnits;
     }
+    [[nodiscard]] std::string shownUnit() const override { return m_field.units().caption(); }
 
     // Display
     void s_UpdateColors() override;
