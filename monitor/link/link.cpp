@@ -14,9 +14,9 @@ Link::Link(int deadlineMilliseconds) : m_deadlineMilliseconds(deadlineMillisecon
     connect(&m_later, &QTimer::timeout, this, [this] { deliver(std::exchange(m_outcome, {})); });
 }
 
-void Link::send(Request request, Done done)
+void Link::send(Request request, Done done, std::optional<unsigned> connection)
 {
-    m_queue.push_back({std::move(request), std::move(done)});
+    m_queue.push_back({std::move(request), std::move(done), connection});
     next();
 }
 
@@ -29,7 +29,11 @@ void Link::next()
     m_finished = false;
     m_deadline.start(m_deadlineMilliseconds);
     m_clock.start();
-    transmit(current());
+    const std::optional<unsigned> wanted = m_queue.front().connection;
+    if (wanted && connection() != wanted)
+        fail("the connection was lost");
+    else
+        transmit(current());
 }
 
 void Link::sent()

@@ -12,6 +12,7 @@
 #include <array>
 #include <deque>
 #include <functional>
+#include <optional>
 
 namespace zor::monitor {
 
@@ -36,8 +37,15 @@ public:
 
     explicit Link(int deadlineMilliseconds);
 
-    /// `done` hears the outcome once, never before send() has returned, and never after the link has ended.
-    void send(Request request, Done done);
+    /// `done` hears the outcome once, never before send() has returned, and never after the link has ended. With
+    /// the number of a connection the request goes over that one or not at all: at the other end of another there
+    /// may be another device.
+    void send(Request request, Done done, std::optional<unsigned> connection = std::nullopt);
+    /// A number that tells this connection from every other; nothing when there is none.
+    [[nodiscard]] std::optional<unsigned> connection() const
+    {
+        return isConnected() ? std::optional(m_connection) : std::nullopt;
+    }
     /// Requests that wait or are under way.
     [[nodiscard]] std::size_t pending() const { return m_queue.size(); }
     [[nodiscard]] int deadline() const { return m_deadlineMilliseconds; }
@@ -53,6 +61,9 @@ protected:
     virtual void transmit(const Request& request) = 0;
     /// Gives the connection up; must not call finish().
     virtual void drop() = 0;
+    [[nodiscard]] virtual bool isConnected() const = 0;
+    /// There is a new connection.
+    void connected() { ++m_connection; }
 
     [[nodiscard]] bool isBusy() const { return m_busy; }
     [[nodiscard]] const Request& current() const { return m_queue.front().request; }
@@ -66,6 +77,7 @@ private:
     struct Waiting {
         Request request;
         Done done;
+        std::optional<unsigned> connection;
     };
 
     void next();
@@ -78,6 +90,7 @@ private:
     QElapsedTimer m_clock;
     Reply m_outcome;
     int m_deadlineMilliseconds;
+    unsigned m_connection = 0;
     bool m_busy = false;
     bool m_sent = false;
     bool m_finished = false;

@@ -45,6 +45,12 @@ struct Reply {
 {
     return exception == 10 || exception == 11;
 }
+/// The exceptions after which a write may have been carried out all the same, or may yet be: the device is still
+/// working on it, or has not answered its gateway.
+[[nodiscard]] constexpr bool leavesOpen(std::uint8_t exception) noexcept
+{
+    return exception == 5 || exception == 11;
+}
 /// The device works on it or is busy: ask again later.
 [[nodiscard]] constexpr bool isBusyException(std::uint8_t exception) noexcept
 {

@@ -24,8 +24,11 @@ QString RtuLink::description() const { return "rtu:" + m_device; }
 
 void RtuLink::transmit(const Request& request)
 {
-    if (m_client.state() != QModbusDevice::ConnectedState && !m_client.connectDevice())
-        return fail(m_client.errorString());
+    if (!isConnected()) {
+        if (!m_client.connectDevice())
+            return fail(m_client.errorString());
+        connected();
+    }
     const std::vector<std::uint8_t> pdu = requestPdu(request);
     const QByteArray data(reinterpret_cast<const char*>(pdu.data() + 1), static_cast<qsizetype>(pdu.size() - 1));
     m_reply = m_client.sendRawRequest(

@@ -25,6 +25,7 @@ public:
 private:
     void transmit(const Request& request) override;
     void drop() override;
+    [[nodiscard]] bool isConnected() const override { return m_client.state() == QModbusDevice::ConnectedState; }
     void hear(const QModbusReply& reply);
 
     QModbusRtuSerialClient m_client;

@@ -46,7 +46,10 @@ TcpLink::TcpLink(QString host, quint16 port, std::uint8_t unit, int deadlineMill
     : Link(deadlineMilliseconds), m_host(std::move(host)), m_port(port), m_unit(unit)
 {
     m_socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
-    connect(&m_socket, &QTcpSocket::connected, this, [this] { write(); });
+    connect(&m_socket, &QTcpSocket::connected, this, [this] {
+        connected();
+        write();
+    });
     connect(&m_socket, &QTcpSocket::readyRead, this, [this] { receive(); });
     connect(&m_socket, &QTcpSocket::errorOccurred, this, [this] { fail(reasonOf(m_socket)); });
 }
@@ -65,13 +68,15 @@ QString TcpLink::description() const
 
 void TcpLink::transmit(const Request& /*request*/)
 {
-    if (m_socket.state() == QAbstractSocket::ConnectedState)
+    if (isConnected())
         return write();
     m_socket.abort();
     m_socket.connectToHost(m_host, m_port);
 }
 
 void TcpLink::drop() { m_socket.abort(); }
+
+bool TcpLink::isConnected() const { return m_socket.state() == QAbstractSocket::ConnectedState; }
 
 void TcpLink::write()
 {

@@ -19,6 +19,7 @@ public:
 private:
     void transmit(const Request& request) override;
     void drop() override;
+    [[nodiscard]] bool isConnected() const override;
     void write();
     void receive();
     void judge();

@@ -100,6 +100,13 @@ std::vector<Change> collectChanges(const ParameterFile& file, std::span<const st
     return changes;
 }
 
+bool isAsReviewed(const Change& change, const Location& location, const Registers& registers)
+{
+    if (change.mask == 0 || registers.empty() || change.before.empty())
+        return registers == change.before;
+    return ((decodeBits(location, registers) ^ decodeBits(location, change.before)) & change.mask) == 0;
+}
+
 bool isFulfilled(const Change& change, const Location& location, const Registers& registers)
 {
     if (change.mask == 0)

@@ -33,6 +33,7 @@ struct Origin {
 /// One parameter to be written: its whole value, or some of its bits.
 struct Change {
     std::size_t parameter = 0;
+    unsigned device = 0; ///< as the session counts them
     std::vector<Origin> origins{};
     Problem problem = Problem::None;
     Registers before{};     ///< what the device held when last read
@@ -54,6 +55,9 @@ struct Change {
 [[nodiscard]] std::vector<Change> collectChanges(const ParameterFile& file,
                                                  std::span<const std::unique_ptr<Binding>> bindings,
                                                  const std::string& language);
+
+/// Whether the device still holds what the change was reviewed against.
+[[nodiscard]] bool isAsReviewed(const Change& change, const Location& location, const Registers& registers);
 
 /// Whether what was read back is what the change was to bring about.
 [[nodiscard]] bool isFulfilled(const Change& change, const Location& location, const Registers& registers);

@@ -6,6 +6,8 @@
 namespace zor::monitor {
 namespace {
 
+constexpr int kIdentityRounds = 20; ///< a device is rarely exchanged, but it is
+
 ReadOutcome outcomeOf(const Reply& reply)
 {
     if (reply.outcome == Outcome::Answered)
@@ -157,39 +159,60 @@ void Poller::end()
     ++m_rounds;
     if (!m_answered) {
         // What comes back may be another device, or the same with other firmware.
-        m_identified = false;
+        m_identifiedOn.reset();
         m_cuts.clear();
-    } else if (!m_identified) {
-        readIdentity();
+    } else if (!isIdentified() || ++m_sinceIdentity >= kIdentityRounds) {
+        identify([](const Reply&) {});
     }
     onRound(m_answered);
     if (m_again)
         m_soon.start(0);
 }
 
-void Poller::readIdentity()
+// --- Identity
+
+bool Poller::isIdentified() const { return m_identifiedOn && m_identifiedOn == m_link.connection(); }
+
+void Poller::identify(std::function<void(const Reply&)> done)
 {
-    m_identified = true;
-    if (!m_file.identity.type)
-        return readVersion({});
-    read(*m_file.identity.type, [this](const Reply& reply) {
-        if (reply.outcome != Outcome::Answered)
-            m_identified = reply.outcome == Outcome::Refused;
-        else
-            readVersion(identityText(*m_file.identity.type, reply.registers));
+    readPart(m_file.identity.type, [this, done = std::move(done)](const Reply& asked, const std::string& type) {
+        if (asked.outcome != Outcome::Answered)
+            return done(asked);
+        readPart(m_file.identity.version, [this, done, type](const Reply& reply, std::string version) {
+            if (reply.outcome == Outcome::Answered)
+                tellIdentity(type, std::move(version));
+            done(reply);
+        });
     });
 }
 
-void Poller::readVersion(const std::string& type)
+void Poller::readPart(const std::optional<Location>& part,
+                      std::function<void(const Reply&, std::string text)> done)
 {
-    if (!m_file.identity.version)
-        return onIdentity(type, {});
-    read(*m_file.identity.version, [this, type](const Reply& reply) {
-        if (reply.outcome != Outcome::Answered)
-            m_identified = reply.outcome == Outcome::Refused;
-        else
-            onIdentity(type, identityText(*m_file.identity.version, reply.registers));
+    Reply unasked;
+    unasked.outcome = Outcome::Answered;
+    if (!part)
+        return done(unasked, {});
+    m_link.send(readRequest(*part), [part, unasked, done = std::move(done)](const Reply& reply) {
+        if (reply.outcome == Outcome::Answered)
+            return done(reply, identityText(*part, reply.registers));
+        const bool refused = reply.outcome == Outcome::Refused && outcomeOf(reply) == ReadOutcome::NotAvailable;
+        done(refused ? unasked : reply, {});
     });
+}
+
+void Poller::tellIdentity(std::string type, std::string version)
+{
+    m_identifiedOn = m_link.connection();
+    m_sinceIdentity = 0;
+    std::optional<std::pair<std::string, std::string>> identity;
+    identity.emplace(std::move(type), std::move(version));
+    if (m_identity == identity)
+        return;
+    m_identity = std::move(identity);
+    m_cuts.clear();
+    m_silent.clear();
+    onIdentity(m_identity->first, m_identity->second);
 }
 
 } // namespace zor::monitor

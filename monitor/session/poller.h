@@ -10,6 +10,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -39,7 +40,8 @@ public:
     /// Asked at the start of each round: the parameters to read.
     std::function<std::vector<std::size_t>()> wanted;
     std::function<void(std::size_t parameter, const Reading&)> onReading;
-    /// Device type and firmware version, read when a connection has begun to answer.
+    /// Device type and firmware version, when they are known or have become others. They are read again with every
+    /// new connection and now and then between. A device that does not say has neither.
     std::function<void(const std::string& type, const std::string& version)> onIdentity;
     /// After each round; whether the device answered at all.
     std::function<void(bool answered)> onRound;
@@ -50,8 +52,12 @@ public:
     /// Begins a round now, or as soon as the present one has ended.
     void pollNow();
 
-    /// Reads one parameter beside the rounds.
-    void read(const Location& location, Link::Done done) { m_link.send(readRequest(location), std::move(done)); }
+    /// Whether the device at the other end is known to be the one that was last identified.
+    [[nodiscard]] bool isIdentified() const;
+    /// The connection over which it was.
+    [[nodiscard]] std::optional<unsigned> identifiedOn() const { return m_identifiedOn; }
+    /// Asks the device what it is; `done` hears, after onIdentity, why it did not answer.
+    void identify(std::function<void(const Reply&)> done);
     [[nodiscard]] static Request readRequest(const Location& location);
 
     [[nodiscard]] int rounds() const { return m_rounds; }
@@ -66,8 +72,8 @@ private:
     void tell(const Batch& batch, const Reading& reading);
     void divide(const Batch& batch, const Cut& cut);
     void end();
-    void readIdentity();
-    void readVersion(const std::string& type);
+    void readPart(const std::optional<Location>& part, std::function<void(const Reply&, std::string text)> done);
+    void tellIdentity(std::string type, std::string version);
 
     Link& m_link;
     const ParameterFile& m_file;
@@ -78,11 +84,13 @@ private:
     std::set<std::size_t> m_silent;
     std::deque<Batch> m_todo;
     Reply m_failure;
+    std::optional<std::pair<std::string, std::string>> m_identity;
+    std::optional<unsigned> m_identifiedOn; ///< the connection
+    int m_sinceIdentity = 0;                ///< rounds
     int m_rounds = 0;
     bool m_inRound = false;
     bool m_late = false;
     bool m_answered = false;
-    bool m_identified = false;
     bool m_again = false;
 };
 

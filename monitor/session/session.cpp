@@ -15,7 +15,8 @@ namespace {
 constexpr std::array<std::string_view, 6> kReadWords{"live",    "not available", "busy", "communication failure",
                                                      "waiting", "no value"};
 // In the order of WriteOutcome.
-constexpr std::array<std::string_view, 5> kWriteWords{"written", "refused", "not sent", "unconfirmed", "differs"};
+constexpr std::array<std::string_view, 7> kWriteWords{"written", "refused",       "not sent", "unconfirmed",
+                                                      "differs", "not read back", "overtaken"};
 
 std::string withReason(std::string_view word, const std::string& reason)
 {
@@ -26,34 +27,24 @@ std::string withReason(std::string_view word, const std::string& reason)
 
 Session::Session(std::unique_ptr<Link> link, ParameterFile file, Log* log)
     : m_link(std::move(link)), m_file(std::move(file)), m_log(log), m_poller(*m_link, m_file),
-      m_writer(*m_link, m_file), m_states(m_file.parameters.size())
+      m_writer(*m_link, m_file), m_states(m_file.parameters.size()), m_shownBy(m_states.size())
 {
     m_clock.start();
     m_poller.wanted = [this] { return wanted(); };
     m_poller.onReading = [this](std::size_t parameter, const Reading& reading) { hear(parameter, reading); };
     m_poller.onRound = [this](bool answered) { hearRound(answered); };
     m_poller.onIdentity = [this](const std::string& type, const std::string& version) {
-        m_type = type;
-        m_version = version;
-        for (const auto& binding : m_bindings) {
-            binding->control().DeviceType(type);
-            binding->control().DeviceVersion(version);
-        }
+        hearIdentity(type, version);
     };
     m_writer.onResult = [this](const Change& change, const WriteResult& result) { hearResult(change, result); };
-    m_writer.onDone = [this] {
-        if (onWritten)
-            onWritten(std::exchange(m_results, {}));
-    };
+    m_writer.onDone = [this] { endWriting(); };
 }
 
 template <class Action>
 void Session::forEach(std::size_t parameter, Action&& action) const
 {
-    for (const auto& binding : m_bindings) {
-        if (binding->parameter() == &m_file.parameters[parameter])
-            action(*binding);
-    }
+    for (Binding* binding : m_shownBy[parameter])
+        action(*binding);
 }
 
 void Session::bind(core::Control& control)
@@ -70,6 +61,8 @@ void Session::bind(core::Control& control)
         Binding* chooser = binding.get();
         chooser->onChosen = [this, chooser](const Variant& value) { chosen(*chooser, value); };
     }
+    if (index)
+        m_shownBy[*index].push_back(binding.get());
     m_views.push_back({binding->outputUnit()});
     m_bindings.push_back(std::move(binding));
 }
@@ -132,7 +125,7 @@ void Session::hear(std::size_t parameter, const Reading& reading)
 void Session::hearValue(std::size_t parameter, const Registers& registers)
 {
     State& state = m_states[parameter];
-    if (state.unconfirmed)
+    if (state.unconfirmed && m_poller.isIdentified())
         settle(parameter, registers);
     const bool foreign = !state.written.empty() && state.written != registers;
     if (foreign)
@@ -148,9 +141,9 @@ bool Session::isInEdit(const Binding& binding) const
 {
     if (binding.isInHand() || !binding.isChoice())
         return binding.isInHand();
-    return std::ranges::any_of(m_bindings, [&](const auto& other) {
-        return other->parameter() == binding.parameter() && other->isChoice() && other->isModified();
-    });
+    const auto parameter = static_cast<std::size_t>(binding.parameter() - m_file.parameters.data());
+    return std::ranges::any_of(m_shownBy[parameter],
+                               [](const Binding* other) { return other->isChoice() && other->isModified(); });
 }
 
 void Session::update(Binding& binding, const Registers& registers, bool foreign, bool again)
@@ -195,7 +188,13 @@ bool Session::hasEdits() const
     return std::ranges::any_of(m_bindings, [](const auto& binding) { return binding->isModified(); });
 }
 
-std::vector<Change> Session::pending() const { return collectChanges(m_file, m_bindings, m_language); }
+std::vector<Change> Session::pending() const
+{
+    std::vector<Change> changes = collectChanges(m_file, m_bindings, m_language);
+    for (Change& change : changes)
+        change.device = m_device;
+    return changes;
+}
 
 bool Session::write(const std::vector<Change>& changes)
 {
@@ -204,19 +203,80 @@ bool Session::write(const std::vector<Change>& changes)
     std::vector<Change> writable;
     std::ranges::copy_if(changes, std::back_inserter(writable),
                          [](const Change& change) { return change.problem == Problem::None; });
-    m_writer.write(std::move(writable));
+    m_isWriting = true;
+    if (m_poller.isIdentified()) {
+        Reply known;
+        known.outcome = Outcome::Answered;
+        writeIdentified(std::move(writable), known);
+    } else {
+        // What was reviewed for one device is not written into whatever has come in its place.
+        m_poller.identify(
+            [this, writable = std::move(writable)](const Reply& reply) { writeIdentified(writable, reply); });
+    }
     return true;
+}
+
+void Session::writeIdentified(std::vector<Change> changes, const Reply& identified)
+{
+    std::vector<Change> writable;
+    for (Change& change : changes) {
+        if (identified.outcome != Outcome::Answered)
+            hearResult(change, {WriteOutcome::NotSent, identified.exception, {}, identified.reason});
+        else if (change.device != m_device)
+            hearResult(change, {WriteOutcome::Overtaken, 0, {}, "another device"});
+        else
+            writable.push_back(std::move(change));
+    }
+    m_writer.write(std::move(writable), m_poller.identifiedOn());
+}
+
+void Session::endWriting()
+{
+    m_isWriting = false;
+    if (onWritten)
+        onWritten(std::exchange(m_results, {}));
+}
+
+void Session::hearIdentity(const std::string& type, const std::string& version)
+{
+    // The first is the one that has been read, and perhaps edited, all along.
+    const bool other = std::exchange(m_isKnown, true);
+    if (other && m_log != nullptr)
+        m_log->record("device", {}, m_type + ' ' + m_version, type + ' ' + version, "another device");
+    m_type = type;
+    m_version = version;
+    m_device += other ? 1U : 0U;
+    for (const auto& binding : m_bindings) {
+        binding->control().DeviceType(type);
+        binding->control().DeviceVersion(version);
+        if (!other || binding->parameter() == nullptr)
+            continue;
+        // What the last device held says nothing about this one.
+        binding->await();
+        if (binding->isModified() && !binding->seen.empty())
+            binding->tellOther(Registers(binding->seen));
+    }
+    for (State& state : m_states) {
+        if (other) {
+            state.written.clear();
+            state.unconfirmed.reset();
+            state.readAt = -1;
+        }
+    }
+    m_poller.pollNow();
 }
 
 void Session::hearResult(const Change& change, const WriteResult& result)
 {
     State& state = m_states[change.parameter];
     logWrite(change, result, kWriteWords[static_cast<std::size_t>(result.outcome)]);
+    state.unconfirmed.reset();
+    state.wasDoubted = false;
     if (result.outcome == WriteOutcome::Written) {
         endEdits(change, result.readBack);
-    } else if (result.outcome == WriteOutcome::Unconfirmed) {
+    } else if (result.outcome == WriteOutcome::Unconfirmed || result.outcome == WriteOutcome::Unread) {
         state.unconfirmed = change;
-    } else if (result.outcome == WriteOutcome::Differs) {
+    } else if (!result.readBack.empty()) {
         state.last = result.readBack;
         for (const Origin& origin : change.origins) {
             origin.binding->seen = result.readBack;
@@ -248,10 +308,15 @@ void Session::endEdits(const Change& change, const Registers& registers)
 
 void Session::settle(std::size_t parameter, const Registers& registers)
 {
-    const Change change = *std::exchange(m_states[parameter].unconfirmed, std::nullopt);
+    State& state = m_states[parameter];
+    const Change change = *state.unconfirmed;
     const bool done = isFulfilled(change, m_file.parameters[parameter].location, registers);
-    logWrite(change, {done ? WriteOutcome::Written : WriteOutcome::NotSent, 0, registers, {}},
-             done ? "confirmed" : "not carried out");
+    const bool open = std::ranges::any_of(change.origins, [](const Origin& o) { return o.binding->isModified(); });
+    // A device may take its time: as long as the edit stands, it may yet be carried out.
+    if (done || !open)
+        state.unconfirmed.reset();
+    if (done || !std::exchange(state.wasDoubted, true))
+        logWrite(change, {}, done ? "confirmed" : "not carried out");
     if (done)
         endEdits(change, registers);
 }
@@ -348,7 +413,7 @@ std::string Session::report() const
         const Parameter& row = m_file.parameters[i];
         MEAS_TYPE unit = row.appearance.unit;
         forEach(i, [&](const Binding& binding) { unit = binding.shownUnit(); });
-        const ShownValue value = describe(row, m_states[i].last, unit, m_language);
+        const ShownValue value = describeExactly(row, m_states[i].last, unit, m_language);
         const std::string_view label = fc_GetUnitLabel(value.unit);
         lines.append(row.tag).append("  ").append(value.text);
         lines.append(label.empty() ? "" : " ").append(label).append("  ");

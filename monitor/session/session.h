@@ -49,9 +49,10 @@ public:
     /// @{
     [[nodiscard]] bool hasEdits() const;
     [[nodiscard]] std::vector<Change> pending() const;
-    /// Writes those of the changes that have no problem; false when a list is still being written.
+    /// Writes those of the changes that have no problem, and of which the device still is and holds what it was
+    /// and held in the list; false when a list is still being written.
     bool write(const std::vector<Change>& changes);
-    [[nodiscard]] bool isWriting() const { return m_writer.isWriting(); }
+    [[nodiscard]] bool isWriting() const { return m_isWriting; }
     /// Every edit goes back to what the device holds.
     void undoAll();
     /// @}
@@ -93,7 +94,8 @@ private:
         ReadOutcome outcome = ReadOutcome::Late;
         ReadOutcome recorded = ReadOutcome::Late; ///< the last outcome in the record; never late again
         std::optional<Change> unconfirmed{};
-        qint64 readAt = -1; ///< on the session's clock
+        bool wasDoubted = false; ///< the unconfirmed change was found not to be carried out
+        qint64 readAt = -1;      ///< on the session's clock
         bool wasModified = false;
     };
     struct View {
@@ -107,6 +109,9 @@ private:
     void update(Binding& binding, const Registers& registers, bool foreign, bool again);
     void hearRound(bool answered);
     void settle(std::size_t parameter, const Registers& registers);
+    void hearIdentity(const std::string& type, const std::string& version);
+    void writeIdentified(std::vector<Change> changes, const Reply& identified);
+    void endWriting();
     void hearResult(const Change& change, const WriteResult& result);
     void endEdits(const Change& change, const Registers& registers);
     void chosen(Binding& binding, const Variant& value);
@@ -123,16 +128,20 @@ private:
     Writer m_writer;
     std::vector<State> m_states;
     std::vector<std::unique_ptr<Binding>> m_bindings;
-    std::vector<View> m_views; ///< one for each binding
+    std::vector<std::vector<Binding*>> m_shownBy; ///< those of each parameter
+    std::vector<View> m_views;                    ///< one for each binding
     std::vector<Written> m_results;
     QElapsedTimer m_clock;
     std::string m_language = "en";
     std::string m_type;
     std::string m_version;
     int m_timeout = 0;
+    unsigned m_device = 0; ///< counts the devices
     int m_failedRounds = 0;
     bool m_readsAll = false;
     bool m_healthy = false;
+    bool m_isWriting = false;
+    bool m_isKnown = false; ///< what the device is
 };
 
 } // namespace zor::monitor

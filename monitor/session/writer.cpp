@@ -12,7 +12,9 @@ WriteResult resultOf(const Reply& reply)
     result.reason = reply.reason;
     switch (reply.outcome) {
     case Outcome::Answered: result.outcome = WriteOutcome::Written; break;
-    case Outcome::Refused: result.outcome = WriteOutcome::Refused; break;
+    case Outcome::Refused:
+        result.outcome = leavesOpen(reply.exception) ? WriteOutcome::Unconfirmed : WriteOutcome::Refused;
+        break;
     case Outcome::NotSent: result.outcome = WriteOutcome::NotSent; break;
     case Outcome::NoAnswer: result.outcome = WriteOutcome::Unconfirmed; break;
     }
@@ -29,8 +31,9 @@ bool Writer::isWriting(std::size_t parameter) const
     });
 }
 
-void Writer::write(std::vector<Change> changes)
+void Writer::write(std::vector<Change> changes, std::optional<unsigned> connection)
 {
+    m_connection = connection;
     std::ranges::stable_sort(changes, {}, [this](const Change& change) {
         return m_file.parameters[change.parameter].location.address;
     });
@@ -64,44 +67,69 @@ void Writer::next()
 {
     if (m_jobs.empty()) {
         onDone();
-    } else if (m_jobs.front().bits) {
-        readFirst();
-    } else {
+    } else if (m_jobs.front().changes.front().before.empty()) {
+        // The device does not let it be read.
         send(m_jobs.front().changes.front().target);
+    } else {
+        readFirst();
     }
+}
+
+Registers Writer::partOf(const Registers& registers, const Change& change) const
+{
+    const Location& location = m_file.parameters[change.parameter].location;
+    const auto at = registers.begin() + (location.address - m_jobs.front().first);
+    return {at, at + location.registers};
 }
 
 void Writer::readFirst()
 {
-    m_link.send(readRequest(), [this](const Reply& reply) {
-        if (reply.outcome != Outcome::Answered) {
-            WriteResult result = resultOf(reply);
-            // The read has failed; the write has not been sent.
-            if (result.outcome == WriteOutcome::Unconfirmed)
-                result.outcome = WriteOutcome::NotSent;
-            return finish(result, {});
-        }
-        Registers registers = reply.registers;
-        for (const Change& change : m_jobs.front().changes) {
-            const Location& location = m_file.parameters[change.parameter].location;
-            const auto at = registers.begin() + (location.address - m_jobs.front().first);
-            const Registers merged =
-                mergeBits(location, std::span(at, location.registers), change.mask, change.bits);
-            std::ranges::copy(merged, at);
-        }
-        send(std::move(registers));
+    const auto hear = [this](const Reply& reply) {
+        if (reply.outcome == Outcome::Answered)
+            return compare(reply.registers);
+        // The read has failed; the write has not been sent.
+        WriteResult result = resultOf(reply);
+        result.outcome = WriteOutcome::NotSent;
+        finish(result, {});
+    };
+    m_link.send(readRequest(), hear, m_connection);
+}
+
+void Writer::compare(const Registers& held)
+{
+    Job& job = m_jobs.front();
+    const auto overtaken = std::stable_partition(job.changes.begin(), job.changes.end(), [&](const Change& change) {
+        return isAsReviewed(change, m_file.parameters[change.parameter].location, partOf(held, change));
     });
+    const std::vector<Change> stopped(overtaken, job.changes.end());
+    job.changes.erase(overtaken, job.changes.end());
+    for (const Change& change : stopped)
+        onResult(change, {WriteOutcome::Overtaken, 0, partOf(held, change), {}});
+    if (job.changes.empty()) {
+        m_jobs.pop_front();
+        return next();
+    }
+    if (!job.bits)
+        return send(job.changes.front().target);
+    Registers registers = held;
+    for (const Change& change : job.changes) {
+        const Location& location = m_file.parameters[change.parameter].location;
+        const Registers merged = mergeBits(location, partOf(registers, change), change.mask, change.bits);
+        std::ranges::copy(merged, registers.begin() + (location.address - job.first));
+    }
+    send(std::move(registers));
 }
 
 void Writer::send(Registers registers)
 {
     const auto address = static_cast<std::uint16_t>(m_jobs.front().first);
-    m_link.send(writeRequest(address, std::move(registers)), [this](const Reply& reply) {
+    const auto hear = [this](const Reply& reply) {
         const WriteResult result = resultOf(reply);
         if (result.outcome == WriteOutcome::Refused || result.outcome == WriteOutcome::NotSent)
             return finish(result, {});
         readBack(result);
-    });
+    };
+    m_link.send(writeRequest(address, std::move(registers)), hear, m_connection);
 }
 
 void Writer::readBack(const WriteResult& written)
@@ -110,30 +138,29 @@ void Writer::readBack(const WriteResult& written)
         if (reply.outcome == Outcome::Answered)
             return finish(written, reply.registers);
         WriteResult result = written;
-        result.outcome = WriteOutcome::Unconfirmed;
-        result.reason = reply.reason;
+        if (written.outcome == WriteOutcome::Written) {
+            result.outcome = WriteOutcome::Unread;
+            result.reason = reply.reason;
+        }
         finish(result, {});
     });
 }
 
 void Writer::finish(const WriteResult& result, const Registers& registers)
 {
-    const Job job = std::move(m_jobs.front());
-    m_jobs.pop_front();
-    for (const Change& change : job.changes) {
-        const Location& location = m_file.parameters[change.parameter].location;
+    for (const Change& change : m_jobs.front().changes) {
         WriteResult own = result;
         if (!registers.empty()) {
-            const auto at = registers.begin() + (location.address - job.first);
-            own.readBack.assign(at, at + location.registers);
+            own.readBack = partOf(registers, change);
             // A write whose answer was lost may have been carried out all the same, and may yet be.
-            if (isFulfilled(change, location, own.readBack))
+            if (isFulfilled(change, m_file.parameters[change.parameter].location, own.readBack))
                 own.outcome = WriteOutcome::Written;
             else if (own.outcome == WriteOutcome::Written)
                 own.outcome = WriteOutcome::Differs;
         }
         onResult(change, own);
     }
+    m_jobs.pop_front();
     next();
 }
 

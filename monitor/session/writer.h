@@ -18,6 +18,8 @@ enum class WriteOutcome : std::uint8_t {
     NotSent,     ///< no connection; nothing has changed
     Unconfirmed, ///< sent, but whether it was carried out is not known
     Differs,     ///< carried out, but the device holds something else
+    Unread,      ///< carried out as the device says, but it could not be read back
+    Overtaken,   ///< not sent: the device is not, or does not hold, what was reviewed
 };
 
 struct WriteResult {
@@ -27,7 +29,9 @@ struct WriteResult {
     std::string reason{};
 };
 
-/// Changes of bits that share registers are read, merged and written together, so that no other bit is touched.
+/// Each change is written only when the device still holds what was reviewed as the old value. Changes of bits
+/// that share registers are merged into what was read for that, and written together, so that no other bit is
+/// touched.
 class Writer : public QObject {
 public:
     Writer(Link& link, const ParameterFile& file) : m_link(link), m_file(file) {}
@@ -35,8 +39,9 @@ public:
     std::function<void(const Change&, const WriteResult&)> onResult;
     std::function<void()> onDone;
 
-    /// Changes with a problem must not be among them. Not while isWriting().
-    void write(std::vector<Change> changes);
+    /// Changes with a problem must not be among them. Not while isWriting(). With a connection, nothing is written
+    /// over any other.
+    void write(std::vector<Change> changes, std::optional<unsigned> connection = std::nullopt);
     [[nodiscard]] bool isWriting() const { return !m_jobs.empty(); }
     [[nodiscard]] bool isWriting(std::size_t parameter) const;
 
@@ -51,6 +56,8 @@ private:
 
     void next();
     void readFirst();
+    void compare(const Registers& held);
+    [[nodiscard]] Registers partOf(const Registers& registers, const Change& change) const;
     void send(Registers registers);
     void readBack(const WriteResult& written);
     void finish(const WriteResult& result, const Registers& registers);
@@ -59,6 +66,7 @@ private:
     Link& m_link;
     const ParameterFile& m_file;
     std::deque<Job> m_jobs;
+    std::optional<unsigned> m_connection;
 };
 
 } // namespace zor::monitor

@@ -15,6 +15,10 @@
 <context>
     <name>ReviewDialog</name>
     <message>
+        <source>The device has changed while this list was open. I have seen what is marked.</source>
+        <translation>Das Gerät hat sich geändert, während diese Liste offen war. Ich habe gesehen, was hervorgehoben ist.</translation>
+    </message>
+    <message>
         <source>Write to the device</source>
         <translation>In das Gerät schreiben</translation>
     </message>
@@ -92,6 +96,10 @@
 </context>
 <context>
     <name>Window</name>
+    <message>
+        <source>Not taken: this field cannot be edited now</source>
+        <translation>Nicht übernommen: dieses Feld lässt sich jetzt nicht bearbeiten</translation>
+    </message>
     <message>
         <source>As on the &amp;form</source>
         <translation>Wie im &amp;Formular</translation>
@@ -194,6 +202,14 @@
 </context>
 <context>
     <name>Words</name>
+    <message>
+        <source>not written: the device has changed since the review</source>
+        <translation>nicht geschrieben: das Gerät hat sich seit der Durchsicht geändert</translation>
+    </message>
+    <message>
+        <source>carried out, the device says, but it could not be read back; it is settled by the next read</source>
+        <translation>laut Gerät ausgeführt, aber nicht zurückzulesen; die nächste Lesung klärt es</translation>
+    </message>
     <message>
         <source>written and read back</source>
         <translation>geschrieben und zurückgelesen</translation>

@@ -15,6 +15,10 @@
 <context>
     <name>ReviewDialog</name>
     <message>
+        <source>The device has changed while this list was open. I have seen what is marked.</source>
+        <translation>L'appareil a changé pendant que cette liste était ouverte. J'ai vu ce qui est marqué.</translation>
+    </message>
+    <message>
         <source>Write to the device</source>
         <translation>Écrire dans l&apos;appareil</translation>
     </message>
@@ -92,6 +96,10 @@
 </context>
 <context>
     <name>Window</name>
+    <message>
+        <source>Not taken: this field cannot be edited now</source>
+        <translation>Non pris : ce champ ne peut être modifié maintenant</translation>
+    </message>
     <message>
         <source>As on the &amp;form</source>
         <translation>Comme sur le &amp;formulaire</translation>
@@ -194,6 +202,14 @@
 </context>
 <context>
     <name>Words</name>
+    <message>
+        <source>not written: the device has changed since the review</source>
+        <translation>non écrit : l'appareil a changé depuis la vérification</translation>
+    </message>
+    <message>
+        <source>carried out, the device says, but it could not be read back; it is settled by the next read</source>
+        <translation>exécuté, selon l'appareil, mais la relecture a échoué ; la prochaine lecture en décidera</translation>
+    </message>
     <message>
         <source>written and read back</source>
         <translation>écrit et relu</translation>

@@ -1,6 +1,7 @@
 #include <zor/monitor/ui/review_dialog.h>
 #include <zor/monitor/ui/words.h>
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -22,6 +23,15 @@ QString withUnit(const std::string& value, MEAS_TYPE unit)
     return value.empty() || value == "?" || label.isEmpty() ? shown(value) : shown(value) + ' ' + label;
 }
 
+void mark(QTableWidget& table, int row)
+{
+    for (int column = 0; column < table.columnCount(); ++column) {
+        QFont font = table.font();
+        font.setBold(true);
+        table.item(row, column)->setFont(font);
+    }
+}
+
 } // namespace
 
 ReviewDialog::ReviewDialog(std::vector<Change> changes, const ParameterFile& file, std::string language,
@@ -36,6 +46,11 @@ ReviewDialog::ReviewDialog(std::vector<Change> changes, const ParameterFile& fil
         column->addWidget(part.heading);
         column->addWidget(part.table, 1);
     }
+    m_seen =
+        new QCheckBox(tr("The device has changed while this list was open. I have seen what is marked."), this);
+    m_seen->hide();
+    connect(m_seen, &QCheckBox::toggled, this, [this] { allowWriting(); });
+    column->addWidget(m_seen);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     m_write = buttons->addButton(tr("&Write"), QDialogButtonBox::AcceptRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -66,8 +81,37 @@ void ReviewDialog::show(std::vector<Change> changes)
     m_changes = std::move(changes);
     for (const Part& part : m_parts)
         fill(part);
-    m_write->setEnabled(
-        std::ranges::any_of(m_changes, [](const Change& change) { return change.problem == Problem::None; }));
+    allowWriting();
+}
+
+void ReviewDialog::allowWriting()
+{
+    const bool some =
+        std::ranges::any_of(m_changes, [](const Change& change) { return change.problem == Problem::None; });
+    m_write->setEnabled(some && (m_news.empty() || m_seen->isChecked()));
+}
+
+bool ReviewDialog::isNews(const Change& change) const
+{
+    const auto last = std::ranges::find(m_changes, change.parameter, &Change::parameter);
+    return last == m_changes.end() || last->device != change.device ||
+           !isAsReviewed(*last, m_file.parameters[change.parameter].location, change.before);
+}
+
+void ReviewDialog::follow(std::vector<Change> changes)
+{
+    bool news = changes.size() != m_changes.size();
+    for (const Change& change : changes) {
+        if (isNews(change)) {
+            m_news.insert(change.parameter);
+            news = true;
+        }
+    }
+    if (!news)
+        return;
+    m_seen->setChecked(false);
+    m_seen->setVisible(!m_news.empty());
+    show(std::move(changes));
 }
 
 void ReviewDialog::fill(const Part& part)
@@ -81,6 +125,8 @@ void ReviewDialog::fill(const Part& part)
         int column = 0;
         for (const QString& text : textsOf(change))
             part.table->setItem(row, column++, new QTableWidgetItem(text));
+        if (m_news.contains(change.parameter))
+            mark(*part.table, row);
     }
     const bool used = part.table->rowCount() > 0;
     part.heading->setVisible(used);

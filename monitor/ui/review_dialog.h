@@ -7,6 +7,9 @@
 #include <QCoreApplication>
 #include <QDialog>
 
+#include <set>
+
+class QCheckBox;
 class QLabel;
 class QPushButton;
 class QTableWidget;
@@ -22,8 +25,9 @@ public:
     ReviewDialog(std::vector<Change> changes, const ParameterFile& file, std::string language, QWidget* parent);
 
     [[nodiscard]] const std::vector<Change>& changes() const { return m_changes; }
-    /// Shows other changes instead.
-    void show(std::vector<Change> changes);
+    /// Shows the changes as they are by now. Where the device does not hold any more what was shown as the old
+    /// value, the row is marked, and nothing is written before the operator has said that he has seen it.
+    void follow(std::vector<Change> changes);
 
 private:
     struct Part {
@@ -32,6 +36,9 @@ private:
         bool writable;
     };
 
+    void show(std::vector<Change> changes);
+    void allowWriting();
+    [[nodiscard]] bool isNews(const Change& change) const;
     [[nodiscard]] Part addPart(const QString& heading, bool writable);
     void fill(const Part& part);
     [[nodiscard]] QStringList textsOf(const Change& change) const;
@@ -40,6 +47,8 @@ private:
     const ParameterFile& m_file;
     std::string m_language;
     std::vector<Part> m_parts;
+    std::set<std::size_t> m_news; ///< parameters
+    QCheckBox* m_seen;
     QPushButton* m_write;
 };
 

@@ -184,6 +184,9 @@ void showNote(QLabel& note, core::Control& control, const Parameter& parameter, 
     if (const auto shown = shownBy(surfaceOf(control))) {
         text = overflowText(*shown, note.fontMetrics());
         note.setToolTip(text.isEmpty() ? QString() : platform::qt::plainToolTip(shown->text.toStdString()));
+        const core::PropertyRow* unit = control.info().property("OutputUnit");
+        if (unit != nullptr && MEAS_TYPE{control.get(*unit).toInt32()} == NoneU)
+            text = (Words::unit(parameter.unit) + ' ' + text).trimmed();
     } else if (slider && (known || edited)) {
         text = valueText(control, parameter, language);
         if (edited)

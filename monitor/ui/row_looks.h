@@ -36,8 +36,9 @@ void setOwnCaption(core::Control& control, const QString& caption);
 /// icon over its edge, and hides it while the device does not have the parameter.
 void fitSize(core::Control& control);
 
-/// Beside a control: the value where it has no text for it, or one that its field is too narrow for. A value that
-/// is not known has no text.
+/// Beside a control: the value where it has no text for it, or one that its field is too narrow for; and the unit
+/// of numbers that are shown without it, because it has too few decimals for them. A value that is not known has
+/// no text.
 void showNote(QLabel& note, core::Control& control, const Parameter& parameter, bool known,
               const std::string& language);
 

@@ -1,4 +1,3 @@
-#include <zor/monitor/ui/review_dialog.h>
 #include <zor/monitor/ui/window.h>
 #include <zor/monitor/ui/words.h>
 #include <zor/units/unit_catalogue.h>
@@ -7,6 +6,8 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QInputDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPainter>
@@ -269,6 +270,20 @@ void Window::commitEntry()
         focus->clearFocus();
 }
 
+void Window::keyPressEvent(QKeyEvent* event)
+{
+    // What a field takes does not come here; what one that is frozen or locked leaves must not vanish unnoticed.
+    const QWidget* focus = QApplication::focusWidget();
+    const auto* field = qobject_cast<const QLineEdit*>(focus);
+    const bool takesNothing =
+        focus != nullptr && (!focus->isEnabled() || (field != nullptr && field->isReadOnly()));
+    if (takesNothing && !event->text().isEmpty() && event->text().front().isPrint()) {
+        QApplication::beep();
+        m_status.say(tr("Not taken: this field cannot be edited now"));
+    }
+    QMainWindow::keyPressEvent(event);
+}
+
 void Window::review()
 {
     if (m_review != nullptr || m_session->isWriting())
@@ -346,6 +361,8 @@ void Window::showRound(bool answered)
 {
     m_answered = answered;
     m_status.showRound(answered);
+    if (m_review != nullptr)
+        m_review->follow(m_session->pending());
     showEdits();
 }
 

@@ -6,6 +6,7 @@
 #include <zor/monitor/session/session.h>
 #include <zor/monitor/ui/form.h>
 #include <zor/monitor/ui/languages.h>
+#include <zor/monitor/ui/review_dialog.h>
 #include <zor/monitor/ui/status_line.h>
 
 #include <QCoreApplication>
@@ -45,6 +46,7 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     [[nodiscard]] QSize usualSize() const;
@@ -69,7 +71,7 @@ private:
     Simulator* m_device;
     QToolBar* m_bar;
     StatusLine m_status;
-    QPointer<QDialog> m_review;
+    QPointer<ReviewDialog> m_review;
     QTimer m_soon; ///< until the edits are shown
     QSettings* m_settings = nullptr;
     UnitSystem m_units = UnitSystem::Form;

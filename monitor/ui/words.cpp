@@ -28,6 +28,9 @@ constexpr std::array kOutcomes{
     QT_TRANSLATE_NOOP("Words", "not sent: no connection"),
     QT_TRANSLATE_NOOP("Words", "unconfirmed: the device did not answer; it is settled by the next read"),
     QT_TRANSLATE_NOOP("Words", "the device holds another value than was written"),
+    QT_TRANSLATE_NOOP("Words", "carried out, the device says, but it could not be read back; it is "
+                               "settled by the next read"),
+    QT_TRANSLATE_NOOP("Words", "not written: the device has changed since the review"),
 };
 
 } // namespace

@@ -114,12 +114,13 @@ struct Host {
         hands.type(field(tag), text);
         hands.blur(field(tag));
     }
-    /// Writes what is pending and waits for the results.
-    std::vector<Written> write()
+    /// Writes what is pending, or was, and waits for the results.
+    std::vector<Written> write() { return write(session->pending()); }
+    std::vector<Written> write(const std::vector<Change>& changes)
     {
         std::optional<std::vector<Written>> heard;
         session->onWritten = [&](const std::vector<Written>& results) { heard = results; };
-        EXPECT_TRUE(session->write(session->pending()));
+        EXPECT_TRUE(session->write(changes));
         EXPECT_TRUE(until([&] { return heard.has_value(); }));
         session->onWritten = nullptr;
         return heard.value_or(std::vector<Written>{});

@@ -186,10 +186,26 @@ TEST_F(SessionTest, ARefusedWriteKeepsItsEditAndTheOthersEnd)
     EXPECT_FALSE(host.get("Far", "DataModified").toBoolean());
 }
 
-TEST(Sessions, AWriteWithoutAnAnswerIsSentOnceAndSettledByTheNextRead)
+TEST(Sessions, AWriteThatIsLeftOpenIsSentOnceAndSettledByReading)
 {
-    for (const bool carriedOut : {true, false}) {
-        SCOPED_TRACE(carriedOut ? "carried out" : "not carried out");
+    enum Carried { AtOnce, Late, Never };
+    struct Row {
+        const char* name;
+        int exception; // 0 for silence, -1 for an answer after which the device cannot be read
+        Carried carried;
+        WriteOutcome outcome;
+        const char* record;
+    };
+    const std::vector<Row> rows{
+        {"silence, carried out", 0, AtOnce, WriteOutcome::Unconfirmed, "unconfirmed: no complete answer in time"},
+        {"silence, not carried out", 0, Never, WriteOutcome::Unconfirmed,
+         "unconfirmed: no complete answer in time"},
+        {"the device works on it", 5, Late, WriteOutcome::Unconfirmed, "unconfirmed: exception 5"},
+        {"a gateway waits in vain", 11, Late, WriteOutcome::Unconfirmed, "unconfirmed: exception 11"},
+        {"an answer, then silence", -1, AtOnce, WriteOutcome::Unread, "not read back: no complete answer in time"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
         QTemporaryDir folder;
         Log log(folder.filePath("log.csv"));
         Peer peer;
@@ -197,32 +213,97 @@ TEST(Sessions, AWriteWithoutAnAnswerIsSentOnceAndSettledByTheNextRead)
         Host host(peer.serverPort(), &log);
         host.run({"Limit"});
         host.type("Limit", "5");
-        bool blocked = true;
-        peer.answer = [&](QTcpSocket& socket, const QByteArray& reply) {
-            if (reply[7] == 6 && !carriedOut)
+        bool blocked = false;
+        peer.answer = [&](QTcpSocket& socket, QByteArray reply) {
+            const bool write = reply[7] == 6;
+            if (write && row.carried != AtOnce)
                 peer.registers[20] = 20;
-            if (!blocked)
+            if (write && row.exception > 0)
+                reply = reply.left(5) + QByteArray("\x03\x01\x86", 3) + static_cast<char>(row.exception);
+            if (!blocked && !(write && row.exception == 0))
                 good(socket, reply);
+            blocked = blocked || (write && row.exception <= 0);
         };
         peer.functions.clear();
-        EXPECT_EQ(only(host.write()), WriteOutcome::Unconfirmed);
+        EXPECT_EQ(only(host.write()), row.outcome);
         EXPECT_TRUE(host.get("Limit", "DataModified").toBoolean()) << "the edit was lost";
         blocked = false;
         host.rounds(3);
+        if (row.carried == Late)
+            peer.registers[20] = 5;
+        host.rounds(2);
         EXPECT_EQ(std::ranges::count(peer.functions, 6), 1) << "resent blindly";
-        EXPECT_EQ(host.get("Limit", "DataModified").toBoolean(), !carriedOut);
+        EXPECT_EQ(host.get("Limit", "DataModified").toBoolean(), row.carried == Never);
         EXPECT_EQ(host.text("Limit"), "5");
         QFile file(folder.filePath("log.csv"));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
         const QString record = file.readAll();
         EXPECT_TRUE(record.startsWith("time,event,tag,old,new,result\n"));
         EXPECT_TRUE(record.contains(",read,Limit,?,20,live\n")) << record.toStdString();
-        EXPECT_TRUE(record.contains(",write,Limit,20,5,unconfirmed: no complete answer in time\n"))
-            << record.toStdString();
-        EXPECT_TRUE(
-            record.contains(carriedOut ? ",write,Limit,20,5,confirmed\n" : ",write,Limit,20,5,not carried out\n"))
+        EXPECT_TRUE(record.contains(QString(",write,Limit,20,5,") + row.record)) << record.toStdString();
+        EXPECT_EQ(record.contains(",write,Limit,20,5,confirmed\n"), row.carried != Never) << record.toStdString();
+        EXPECT_EQ(record.count(",write,Limit,20,5,not carried out\n"), row.carried == AtOnce ? 0 : 1)
             << record.toStdString();
     }
+}
+
+TEST_F(SessionTest, WhatHasChangedSinceTheReviewIsNotWritten)
+{
+    host.run({"Limit"});
+    host.type("Limit", "25");
+    const std::vector<Change> reviewed = host.session->pending();
+    peer.registers[20] = 44; // another master
+    EXPECT_EQ(only(host.write(reviewed)), WriteOutcome::Overtaken);
+    EXPECT_EQ(peer.registers[20], 44);
+    EXPECT_EQ(host.text("Limit"), "25") << "the edit was lost";
+    EXPECT_EQ(host.session->pending().at(0).oldText, "44");
+    EXPECT_EQ(only(host.write()), WriteOutcome::Written);
+}
+
+TEST(Sessions, AnotherDeviceIsNoticedAndJudgedAnew)
+{
+    for (const bool connectsAnew : {true, false}) {
+        SCOPED_TRACE(connectsAnew ? "with another connection" : "in its place");
+        Peer peer;
+        peer.registers[100] = 0x5A54;
+        Host host(peer.serverPort());
+        for (const char* tag : {"Level", "Far"})
+            host.add("ctx_ZorTextBox", tag)->DeviceTypeSupported(*tag == 'F' ? "XY" : "ZT");
+        host.run({"Limit"});
+        EXPECT_TRUE(host.until([&] { return host.session->deviceType() == "ZT"; }));
+        EXPECT_FALSE(host.controls[0]->DeviceTypeNotSupported());
+        EXPECT_TRUE(host.controls[1]->DeviceTypeNotSupported());
+        host.type("Limit", "25");
+        const std::vector<Change> reviewed = host.session->pending();
+        peer.registers[100] = 0x5859;
+        if (connectsAnew) {
+            for (const auto& socket : peer.sockets)
+                socket->abort();
+            QTest::qWait(kPeriod / 3);
+        } else {
+            EXPECT_TRUE(host.until([&] { return host.session->deviceType() == "XY"; }));
+        }
+        EXPECT_EQ(only(host.write(reviewed)), WriteOutcome::Overtaken);
+        EXPECT_EQ(host.session->deviceType(), "XY");
+        EXPECT_EQ(peer.registers[20], 20) << "written into another device than was reviewed";
+        EXPECT_TRUE(host.controls[0]->DeviceTypeNotSupported());
+        EXPECT_FALSE(host.controls[1]->DeviceTypeNotSupported());
+        EXPECT_TRUE(host.get("Limit", "DataChanged").toBoolean());
+    }
+}
+
+TEST(Sessions, ADeviceThatDoesNotSayWhatItIsHasNoRestrictedParameter)
+{
+    std::string parameters = tests::kParameters;
+    parameters.replace(parameters.find("100"), 3, "250"); // refused
+    Peer peer;
+    Host host(peer.serverPort(), nullptr, parameters.c_str());
+    host.add("ctx_ZorTextBox", "Level")->DeviceTypeSupported("ZT");
+    host.run({"Limit"});
+    host.rounds();
+    EXPECT_TRUE(host.controls[0]->DeviceTypeNotSupported());
+    host.type("Limit", "25");
+    EXPECT_EQ(only(host.write()), WriteOutcome::Written);
 }
 
 TEST_F(SessionTest, AWriteWhoseAnswerIsLostButReadsBackIsWritten)
@@ -382,11 +463,11 @@ TEST(Sessions, ARestartDuringAWriteLosesNothing)
     Host host(port);
     host.run({"Limit"});
     host.type("Limit", "5");
-    peer.answer = [&](QTcpSocket&, const QByteArray& reply) {
-        if (reply[7] == 6) {
-            peer.registers[20] = 20;
-            peer.die();
-        }
+    peer.answer = [&](QTcpSocket& socket, const QByteArray& reply) {
+        if (reply[7] != 6)
+            return good(socket, reply);
+        peer.registers[20] = 20;
+        peer.die();
     };
     EXPECT_EQ(only(host.write()), WriteOutcome::Unconfirmed);
     EXPECT_EQ(host.text("Limit"), "5");
@@ -398,18 +479,22 @@ TEST(Sessions, ARestartDuringAWriteLosesNothing)
     EXPECT_EQ(peer.registers[20], 5);
 }
 
-TEST_F(SessionTest, ASlowDeviceIsWaitedFor)
+TEST_F(SessionTest, ASlowDeviceIsWaitedForAndHoldsUpNoOperator)
 {
     const auto good = peer.answer;
-    host.run({"Level", "Limit"});
+    host.run({"Level", "Limit", "Wide", "Name", "Damping", "Ratio", "Far"});
     host.session->link().setDeadline(10 * kPeriod);
-    host.type("Limit", "5");
     peer.answer = [&](QTcpSocket& socket, const QByteArray& reply) {
         QTimer::singleShot(3 * kPeriod, &socket, [&socket, reply] { socket.write(reply); });
     };
     EXPECT_TRUE(host.until([&] { return host.box("Level").WaitingForData(); }));
-    EXPECT_FALSE(host.box("Limit").WaitingForData()) << "the operator was thrown out of his edit";
     EXPECT_FALSE(host.box("Level").CFail());
+    for (const char* tag : {"Limit", "Wide", "Name", "Damping", "Ratio", "Far"}) {
+        host.hands.focus(host.field(tag));
+        QTest::qWait(kPeriod);
+        host.type(tag, "7");
+    }
+    EXPECT_EQ(host.session->pending().size(), 6U) << "an entry was not taken";
     peer.answer = good;
     EXPECT_TRUE(host.untilLive());
 }

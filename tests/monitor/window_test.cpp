@@ -4,6 +4,7 @@
 #include <zor/monitor/link/tcp_link.h>
 #include <zor/monitor/ui/window.h>
 
+#include <QCheckBox>
 #include <QFile>
 #include <QLabel>
 #include <QMenu>
@@ -34,7 +35,7 @@ ParameterFile demoFile()
 
 struct Demo : testing::Test {
     /// With the form of a file, or else a generated one.
-    explicit Demo(const char* drawn = nullptr)
+    explicit Demo(const char* drawn = nullptr, ParameterFile parameters = demoFile()) : file(std::move(parameters))
     {
         registerControls(classes);
         languages.use("en");
@@ -106,7 +107,7 @@ struct Demo : testing::Test {
 
     core::ClassRegistry classes;
     Languages languages;
-    const ParameterFile file = demoFile();
+    const ParameterFile file;
     Simulator device{file};
     std::unique_ptr<Window> window;
 };
@@ -151,6 +152,10 @@ TEST_F(Demo, WritesWhatHasBeenReviewed)
     EXPECT_EQ(row, "High temperature alarm|HighAlarm|85.0 \u00B0C|91.3 \u00B0C||")
         << "what is shown is what the registers will hold";
     EXPECT_EQ(device.registers(HoldingRegister, 2, 1), (Registers{850})) << "written before the review has ended";
+    device.setRegisters(HoldingRegister, 2, {870}); // another master
+    EXPECT_TRUE(QTest::qWaitFor([&] { return table->item(0, 2)->text() == "87.0 \u00B0C"; }, kPatience));
+    EXPECT_FALSE(button(*window->openReview(), "&Write")->isEnabled()) << "not without another yes";
+    window->openReview()->findChild<QCheckBox*>()->click();
     button(*window->openReview(), "&Write")->click();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window->session().hasEdits(); }, kPatience));
     EXPECT_EQ(device.registers(HoldingRegister, 2, 1), (Registers{913}));
@@ -262,6 +267,30 @@ TEST(DrawnForm, KeepsTheSizeItWasDrawnInAndScrollsInLessRoom)
     auto& area = dynamic_cast<QScrollArea&>(window.form().widget());
     area.ensureWidgetVisible(&box);
     EXPECT_FALSE(box.visibleRegion().isEmpty());
+}
+
+/// What the manual's tutorial makes.
+struct Tutorial : Demo {
+    Tutorial() : Demo(ZOR_TEST_DATA "/forms/flow.ui", parameters()) {}
+    static ParameterFile parameters()
+    {
+        QFile manual(ZOR_TEST_DATA "/../../docs/monitor.md");
+        EXPECT_TRUE(manual.open(QIODevice::ReadOnly));
+        const QString text = manual.readAll();
+        return readParameterFile(text.section("```json flow.json", 1, 1).section("```", 0, 0).toStdString(),
+                                 "monitor.md");
+    }
+};
+
+TEST_F(Tutorial, CanBeFollowedToItsEnd)
+{
+    type("Damping", "4.5");
+    window->review();
+    ASSERT_NE(window->openReview(), nullptr);
+    button(*window->openReview(), "&Write")->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->session().hasEdits(); }, kPatience));
+    EXPECT_EQ(device.registers(HoldingRegister, 100, 1), (Registers{45}));
+    EXPECT_EQ(field("Damping").text(), "4.5");
 }
 
 } // namespace
