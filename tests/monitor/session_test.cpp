@@ -281,6 +281,8 @@ TEST(Sessions, AnotherDeviceIsNoticedAndJudgedAnew)
                 socket->abort();
             QTest::qWait(kPeriod / 3);
         } else {
+            for (int i = 0; i < 4; ++i)
+                host.rounds(5);
             EXPECT_TRUE(host.until([&] { return host.session->deviceType() == "XY"; }));
         }
         EXPECT_EQ(only(host.write(reviewed)), WriteOutcome::Overtaken);
