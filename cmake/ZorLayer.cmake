@@ -34,9 +34,11 @@ function(zor_view name)
   endforeach()
 endfunction()
 
-# zor_layer(NAME DIR folder [RECURSE] [BELOW layers] [LINK targets] [GENERATED sources]): target zor_layer_NAME.
+# zor_layer(NAME DIR folder [RECURSE] [BELOW layers] [LINK targets] [GENERATED sources] [ALONE regex]):
+# target zor_layer_NAME. ALONE: sources that CMAKE_UNITY_BUILD must not put together with others, because their own
+# constants go by the same names.
 function(zor_layer name)
-  cmake_parse_arguments(L "RECURSE" "DIR" "BELOW;LINK;GENERATED" ${ARGN})
+  cmake_parse_arguments(L "RECURSE" "DIR;ALONE" "BELOW;LINK;GENERATED" ${ARGN})
   set(glob GLOB)
   if(L_RECURSE)
     set(glob GLOB_RECURSE)
@@ -47,6 +49,11 @@ function(zor_layer name)
     message(FATAL_ERROR "layer ${name}: no sources in ${L_DIR}")
   endif()
   set(target zor_layer_${name})
+  if(L_ALONE)
+    set(alone ${sources})
+    list(FILTER alone INCLUDE REGEX ${L_ALONE})
+    set_source_files_properties(${alone} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+  endif()
   list(TRANSFORM headers PREPEND ${PROJECT_SOURCE_DIR}/ OUTPUT_VARIABLE shown)
   add_library(${target} OBJECT ${sources} ${shown} ${L_GENERATED})
   target_link_libraries(${target} PRIVATE zor_warnings PUBLIC ${L_LINK})

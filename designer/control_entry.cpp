@@ -12,11 +12,6 @@
 namespace zor::designer {
 namespace {
 
-QString toQString(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 /// "ZorTextBox" of "zor::ZorTextBox".
 QString shortName(const WidgetClass& widgetClass) { return toQString(widgetClass.name).section("::", -1); }
 

@@ -4,6 +4,8 @@
 
 #include <zor/core/class_info.h>
 
+#include <QString>
+
 #include <string_view>
 
 namespace zor::designer {
@@ -17,6 +19,11 @@ struct Description {
 
 /// A class's description; a general one for a class without its own.
 [[nodiscard]] const Description& descriptionOf(std::string_view controlClass) noexcept;
+
+[[nodiscard]] inline QString toQString(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
 
 /// The heading under which the property editor shows a property.
 [[nodiscard]] std::string_view headingOf(const core::PropertyRow& row) noexcept;

@@ -11,11 +11,6 @@ namespace {
 
 constexpr const char* kSorted = "_zor_sorted";
 
-QString toQString(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 void sort(QDesignerPropertySheetExtension& sheet, const core::ClassInfo& info)
 {
     for (const core::PropertyRow* row : info.properties) {

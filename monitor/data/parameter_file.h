@@ -55,6 +55,9 @@ struct Supported {
     std::string maxVersions;
 };
 
+/// Decimals of a number without a unit that the file says nothing of.
+inline constexpr std::int16_t kUsualDigits = 3;
+
 /// What the generated form shows of a parameter.
 struct Appearance {
     LocalText caption;   ///< the tag when the file gives none

@@ -10,8 +10,6 @@
 namespace zor::monitor {
 namespace {
 
-constexpr std::int16_t kUsualDigits = 3;
-
 std::string nameOf(const std::vector<Entry>& entries, std::int32_t value, const std::string& language)
 {
     const auto found = std::ranges::find(entries, value, &Entry::value);

@@ -24,8 +24,6 @@ constexpr int kFrame = 4; ///< around what stands beside a caption
 
 QString text(const std::string& utf8) { return QString::fromStdString(utf8); }
 
-constexpr std::int16_t kUsualDigits = 3;
-
 /// Decimals that a unit is shown with; any number without a unit.
 int decimalsIn(MEAS_TYPE unit)
 {
