@@ -47,6 +47,8 @@ std::string describeNumber(const Parameter& parameter, double value, MEAS_TYPE s
 
 std::string describeNumberExactly(const Parameter& parameter, double value, MEAS_TYPE shown)
 {
+    if (parameter.location.type == ValueType::Bit)
+        return describeNumber(parameter, value, shown);
     constexpr std::int16_t kMostDigits = 15;
     const Encoded wanted = encode(parameter, value);
     const double number = convert(value, parameter.unitType, parameter.unit, shown);
