@@ -99,8 +99,9 @@ string enumerations()
 {
     std::ostringstream out;
     out << "#pragma once\n\n"
-        << kNotice << "#include <QWidget>\n\nnamespace zor {\n\n"
-        << "/// The published enumerations, with names that Qt can look up. Any other integer may stand in them.\n"
+        << kNotice
+        << "#include <zor/platform/macros_aside.h>\n\n#include <QWidget>\n\nnamespace zor {\n\n"
+           "/// The published enumerations, with names that Qt can look up. Any other integer may stand in them.\n"
            "class ZorWidget : public QWidget {\n    Q_OBJECT\n\npublic:\n";
     const auto plain = [](const auto& row) { return row.value; };
     writeEnumeration(out, "UNIT_TYPE", units::kUnitTypes,
@@ -109,7 +110,8 @@ string enumerations()
                      [](const auto& row) { return static_cast<std::int32_t>(row.unit); });
     writeEnumeration(out, "REGISTER_TYPE", units::kRegisterTypes, plain);
     writeEnumeration(out, "ENTRY_TYPE", units::kEntryTypes, plain);
-    out << "\nprotected:\n    using QWidget::QWidget;\n};\n\n} // namespace zor\n";
+    out << "\nprotected:\n    using QWidget::QWidget;\n};\n\n} // namespace zor\n\n"
+           "#include <zor/platform/macros_back.h>\n";
     return out.str();
 }
 
