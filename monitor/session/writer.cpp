@@ -98,9 +98,10 @@ void Writer::readFirst()
 void Writer::compare(const Registers& held)
 {
     Job& job = m_jobs.front();
-    const auto overtaken = std::stable_partition(job.changes.begin(), job.changes.end(), [&](const Change& change) {
-        return isAsReviewed(change, m_file.parameters[change.parameter].location, partOf(held, change));
-    });
+    const auto overtaken =
+        std::stable_partition(job.changes.begin(), job.changes.end(), [&](const Change& change) {
+            return isAsReviewed(change, m_file.parameters[change.parameter].location, partOf(held, change));
+        });
     const std::vector<Change> stopped(overtaken, job.changes.end());
     job.changes.erase(overtaken, job.changes.end());
     for (const Change& change : stopped)
