@@ -1,6 +1,7 @@
 #include <zor/core/control.h>
 #include <zor/core/shared_rows.h>
 #include <zor/platform/error.h>
+#include <zor/platform/text.h>
 #include <zor/units/mod_Common.h>
 
 #include <algorithm>
@@ -25,36 +26,73 @@ Control::Control(const ClassInfo& info, platform::Container& container, platform
     : m_info(info), m_container(container), m_surface(container.createSurface(*this, width, height))
 {}
 
-Control::~Control() = default;
+Control::~Control()
+{
+    // Nobody who is in the middle of something is left without it.
+    assert(m_holds == 0 && m_actions.isNone() && m_widgetWrites.isNone());
+}
 
 // --- By name
 
+namespace {
+
+/// What does not fit a property, as an error shows it: a text in quotation marks, cut where nobody reads on.
+std::string handed(ErrorNumber number, const Variant& value)
+{
+    if (number != ErrorNumber::TypeMismatch && number != ErrorNumber::Overflow)
+        return {};
+    constexpr std::size_t kMost = 40;
+    const std::string text = platform::validUtf8(value.toText());
+    std::string shown = text.substr(0, platform::byteOffset(text, kMost));
+    std::ranges::replace_if(
+        shown, [](unsigned char byte) { return byte < ' '; }, ' ');
+    shown += shown.size() < text.size() ? "..." : "";
+    return value.isText() ? "\"" + shown + "\"" : shown;
+}
+
+/// As `naming`, for a value that may not fit.
+template <class Action>
+void namingWritten(std::string_view object, std::string_view member, const Variant& value, Action&& action)
+{
+    try {
+        action();
+    } catch (const RunTimeError& error) {
+        if (error.namesMember())
+            throw;
+        throw error.of(object, member, handed(error.number(), value));
+    }
+}
+
+template <class Row>
+const Row& found(const Row* row)
+{
+    if (row == nullptr)
+        raiseError(ErrorNumber::NoSuchMember);
+    return *row;
+}
+
+} // namespace
+
 Variant Control::property(std::string_view name) const
 {
-    const PropertyRow* row = m_info.property(name);
-    if (row == nullptr)
-        raiseError(ErrorNumber::NoSuchMember, name);
-    return read(*row);
+    return naming(m_info.name, name, [&] { return read(found(m_info.property(name))); });
 }
 
 void Control::setProperty(std::string_view name, const Variant& value)
 {
-    const PropertyRow* row = m_info.property(name);
-    if (row == nullptr)
-        raiseError(ErrorNumber::NoSuchMember, name);
-    assign(*row, value);
+    namingWritten(m_info.name, name, value, [&] { assign(found(m_info.property(name)), value); });
 }
 
 MethodResult Control::call(std::string_view method, std::span<const Variant> arguments)
 {
-    const MethodRow* row = m_info.method(method);
-    if (row == nullptr)
-        raiseError(ErrorNumber::NoSuchMember, method);
-    if (row->argumentCount != arguments.size())
-        raiseError(ErrorNumber::WrongArguments, method);
-    MethodResult result;
-    run([&] { result = row->call(*this, arguments); });
-    return result;
+    return naming(m_info.name, method, [&] {
+        const MethodRow& row = found(m_info.method(method));
+        if (row.argumentCount != arguments.size())
+            raiseError(ErrorNumber::WrongArguments);
+        MethodResult result;
+        carryOut([&] { result = row.call(*this, arguments); });
+        return result;
+    });
 }
 
 const PropertyRow& Control::own(const PropertyRow& row) const
@@ -64,9 +102,15 @@ const PropertyRow& Control::own(const PropertyRow& row) const
     return row;
 }
 
-Variant Control::get(const PropertyRow& row) const { return read(own(row)); }
+Variant Control::get(const PropertyRow& row) const
+{
+    return naming(m_info.name, row.name, [&] { return read(own(row)); });
+}
 
-void Control::put(const PropertyRow& row, const Variant& value) { assign(own(row), value); }
+void Control::put(const PropertyRow& row, const Variant& value)
+{
+    namingWritten(m_info.name, row.name, value, [&] { assign(own(row), value); });
+}
 
 Variant Control::read(const PropertyRow& row) const
 {
@@ -75,7 +119,7 @@ Variant Control::read(const PropertyRow& row) const
     if (row.get != nullptr)
         return row.get(control);
     if (row.field.at == nullptr)
-        raiseError(ErrorNumber::NoSuchMember, row.name);
+        raiseError(ErrorNumber::NoSuchMember);
     return valueOf(row.field.at(control));
 }
 
@@ -84,7 +128,7 @@ void Control::assign(const PropertyRow& row, const Variant& value)
     if (refusesWrite(row))
         return;
     if (row.put != nullptr) {
-        run([&] { row.put(*this, value); });
+        carryOut([&] { row.put(*this, value); });
         return;
     }
     std::visit(
@@ -95,7 +139,7 @@ void Control::assign(const PropertyRow& row, const Variant& value)
 bool Control::refusesWrite(const PropertyRow& row) const
 {
     if (row.access == Access::ReadOnly || (row.access == Access::Derived && m_container.userMode()))
-        raiseError(ErrorNumber::ReadOnly, row.name);
+        raiseError(ErrorNumber::ReadOnly);
     return row.access == Access::Derived;
 }
 
@@ -249,6 +293,7 @@ bool Control::fb_SetMessage(std::int16_t i_MessageNumber, std::string_view c_Mes
 
 void Control::raise(const EventRow* event, platform::EventArgs args)
 {
+    // A class that raises an event has it in its table.
     assert(event >= &*m_info.events.begin() && event < &*m_info.events.begin() + m_info.events.size());
     // Who destroyed the control does not expect to hear from it again.
     if (m_sinks.empty() || m_ended)
@@ -258,6 +303,22 @@ void Control::raise(const EventRow* event, platform::EventArgs args)
             deliver(entry, *event, args);
     });
 }
+
+namespace {
+
+/// The exception that is being handled; one that tells what it is about tells the event as well.
+std::exception_ptr thrownIn(const ClassInfo& info, const EventRow& event)
+{
+    try {
+        throw;
+    } catch (const RunTimeError& error) {
+        return std::make_exception_ptr(error.of(info.name, event.name));
+    } catch (...) {
+        return std::current_exception();
+    }
+}
+
+} // namespace
 
 void Control::deliver(const SinkList::Entry& entry, const EventRow& row, platform::EventArgs args)
 {
@@ -269,7 +330,7 @@ void Control::deliver(const SinkList::Entry& entry, const EventRow& row, platfor
     } catch (...) {
         // The control finishes what it is doing and the other listeners are heard; then the caller learns it.
         if (!m_handlerError)
-            m_handlerError = std::current_exception();
+            m_handlerError = thrownIn(m_info, row);
     }
 }
 
@@ -282,14 +343,14 @@ void Control::notice(int widget, platform::Notice notice, platform::EventArgs ar
     if (m_ended)
         return;
     // A report in the middle of something goes back to whoever is doing it.
-    const bool isByOperator = m_runs.isNone() || m_isByOperator;
+    const bool isByOperator = m_actions.isNone() || m_isByOperator;
     const auto answer = [&] {
-        run([&] {
+        carryOut([&] {
             m_isByOperator = isByOperator;
             onNotice(widget, notice, args);
         });
     };
-    if (m_settings.isNone())
+    if (m_widgetWrites.isNone())
         return answer();
     try {
         answer();
@@ -321,7 +382,7 @@ platform::Widget* Control::widget(int number) noexcept
 
 void Control::initialiseProperties()
 {
-    run([this] {
+    carryOut([this] {
         for (const PropertyRow* row : m_info.initialOrder) {
             const bool isDefault = std::holds_alternative<std::monostate>(row->initial);
             if (row->access != Access::Derived)
@@ -330,24 +391,28 @@ void Control::initialiseProperties()
     });
 }
 
-void Control::load(const PropertyRow& row, const Variant& value)
+void Control::load(const PropertyRow& row, const platform::PropertyBag& bag)
 {
-    if (row.field.at == nullptr)
-        return row.put(*this, value);
-    // Published with 32 bits, stored with 16.
-    const ValueKind kind = row.field.kind;
-    const bool isShort =
-        kind == ValueKind::UnitType || kind == ValueKind::MeasType || kind == ValueKind::RegisterType;
-    storeInto(row.field.at(*this), isShort ? Variant(value.toInt16()) : value);
+    Variant value;
+    namingWritten(m_info.name, row.key, value, [&] {
+        value = bag.ReadProperty(row.key, toVariant(row.bagDefault));
+        if (row.field.at == nullptr)
+            return row.put(*this, value);
+        // Published with 32 bits, stored with 16.
+        const ValueKind kind = row.field.kind;
+        const bool isShort =
+            kind == ValueKind::UnitType || kind == ValueKind::MeasType || kind == ValueKind::RegisterType;
+        storeInto(row.field.at(*this), isShort ? Variant(value.toInt16()) : value);
+    });
 }
 
 void Control::readProperties(const platform::PropertyBag& bag)
 {
-    run([&] {
+    carryOut([&] {
         m_isDefaultShown = false;
         for (const PropertyRow* row : m_info.readOrder.empty() ? m_info.properties : m_info.readOrder) {
             if (!row->key.empty())
-                naming(row->key, [&] { load(*row, bag.ReadProperty(row->key, toVariant(row->bagDefault))); });
+                load(*row, bag);
         }
         s_AfterLoading();
     });
@@ -366,7 +431,7 @@ void Control::writeProperties(platform::PropertyBag& bag)
 
 void Control::resized()
 {
-    run([this] { s_Layout(); });
+    carryOut([this] { s_Layout(); });
 }
 
 // --- Shared properties

@@ -8,6 +8,7 @@
 #include <zor/platform/depth.h>
 #include <zor/platform/macros_aside.h>
 
+#include <cassert>
 #include <cstdint>
 #include <exception>
 #include <optional>
@@ -60,9 +61,13 @@ struct Messages {
 ///
 /// Properties are published as pairs of overloads, `bool CFail() const` and `void CFail(bool)`. A write
 /// stores the value, notifies the container under the property's own name and runs the refreshes that depend
-/// on it. When an exception leaves a write, the property has its old value again, unless the class keeps what
-/// was done before the failing step. An exception thrown by an event handler is passed on to the caller after
-/// the control has finished its work.
+/// on it.
+///
+/// What remains after an error: a value of the wrong type or beyond its range has changed nothing. When a later
+/// step fails, the property has its old value again, but what the steps before it did to other things stays; a
+/// class that keeps failed writes (ClassInfo::keepsFailedWrites: up-down and slider) keeps the property's new
+/// value as well. An exception thrown by an event handler undoes nothing: the control finishes its work, then the
+/// caller gets it, a RunTimeError with the event's name in front.
 class Control : public platform::Component, public platform::WidgetListener {
 public:
     Control(const Control&) = delete;
@@ -71,7 +76,8 @@ public:
     [[nodiscard]] const ClassInfo& info() const noexcept { return m_info; }
 
     /// @name By name
-    /// A name that the class does not have raises NoSuchMember.
+    /// A name that the class does not have raises NoSuchMember. An error begins with class and member:
+    /// `ctx_ZorTextBox.NumberOfDigits: type mismatch ("abc")`.
     /// @{
     [[nodiscard]] Variant property(std::string_view name) const;
     void setProperty(std::string_view name, const Variant& value);
@@ -174,6 +180,7 @@ public:
     void hold() noexcept final { ++m_holds; }
     void release() noexcept final
     {
+        assert(m_holds > 0); // each release has its hold
         if (--m_holds == 0 && m_ended)
             delete this;
     }
@@ -242,18 +249,19 @@ protected:
     template <class C, class T>
     void write(const Row<C, T>& row, std::type_identity_t<T> value)
     {
-        write(row, row.in(*this), std::move(value));
+        assert(row.in != nullptr); // a property that a function answers is not written into a field
+        naming(m_info.name, row.name, [&] { write(row, row.in(*this), std::move(value)); });
     }
 
-    /// Runs an action that may raise events: keeps the control alive, and passes a handler's exception on
-    /// when the outermost action has ended.
+    /// Carries out what the host or the operator asks for, which may raise events: keeps the control alive, and
+    /// passes a handler's exception on when the outermost action has ended.
     template <class Action>
-    void run(Action&& action);
+    void carryOut(Action&& action);
 
-    /// Sets something of a widget. What fails in answering the widget's report fails here, also on a platform
+    /// Writes something into a widget. What fails in answering the widget's report fails here, also on a platform
     /// that lets no exception through its event loop.
     template <class Set>
-    void settle(Set&& set);
+    void writeWidget(Set&& set);
 
     /// Raises an event of the class's table: one of `raised()`, or the one that `forward` has found.
     void raise(const EventRow* event, platform::EventArgs args = {});
@@ -266,9 +274,11 @@ protected:
     /// A widget reports while a value is on its way into it, and a handler may write the next one there and then.
     /// What was under way must not be laid over the newer value.
     /// @{
-    std::uint32_t newTurn() noexcept { return ++m_turn; }
-    [[nodiscard]] std::uint32_t turn() const noexcept { return m_turn; }
-    [[nodiscard]] bool isOvertaken(std::uint32_t turn) const noexcept { return turn != m_turn; }
+    /// A value sets out: every earlier one is overtaken from here on.
+    std::uint32_t newValue() noexcept { return ++m_value; }
+    /// The one that set out last.
+    [[nodiscard]] std::uint32_t valueUnderWay() const noexcept { return m_value; }
+    [[nodiscard]] bool isOvertaken(std::uint32_t underWay) const noexcept { return underWay != m_value; }
     /// @}
 
     void addTypedSink(void* sink) { m_sinks.add({nullptr, sink}); }
@@ -297,7 +307,7 @@ private:
     void deliver(const SinkList::Entry& entry, const EventRow& row, platform::EventArgs args);
     void passOnHandlerError();
     void passOnReportError();
-    void load(const PropertyRow& row, const Variant& value);
+    void load(const PropertyRow& row, const platform::PropertyBag& bag);
 
     const ClassInfo& m_info;
     platform::Container& m_container;
@@ -305,10 +315,10 @@ private:
     SinkList m_sinks;
     std::exception_ptr m_handlerError;
     std::exception_ptr m_reportError;
-    std::uint32_t m_holds = 0;
-    platform::Depth m_runs;
-    platform::Depth m_settings;
-    std::uint32_t m_turn = 0;
+    std::uint32_t m_holds = 0;      ///< who needs the control alive, whatever its owner does
+    platform::Depth m_actions;      ///< a handler's exception waits for the outermost to end
+    platform::Depth m_widgetWrites; ///< a report's exception waits for the write that caused it
+    std::uint32_t m_value = 0;      ///< counts the values that set out
     bool m_isByOperator = false;
     bool m_ended = false;
     /// The default text is shown as it stands: another state takes it away, a new text is shown by the next
@@ -325,7 +335,7 @@ public:
     ~Acting()
     {
         m_control.m_isByOperator = m_before;
-        if (m_control.m_runs.isNone() && !m_control.m_ended)
+        if (m_control.m_actions.isNone() && !m_control.m_ended)
             m_control.m_container.settled(m_control);
     }
     Acting(const Acting&) = delete;
@@ -337,29 +347,29 @@ private:
 };
 
 template <class Action>
-void Control::run(Action&& action)
+void Control::carryOut(Action&& action)
 {
     const platform::Hold hold(*this);
     const Acting acting(*this);
     try {
-        const platform::Depth::Level level(m_runs);
+        const platform::Depth::Level level(m_actions);
         std::forward<Action>(action)();
     } catch (...) {
         // What the caller gets is why the action itself failed.
-        if (m_runs.isNone())
+        if (m_actions.isNone())
             m_handlerError = nullptr;
         throw;
     }
-    if (m_runs.isNone() && m_handlerError)
+    if (m_actions.isNone() && m_handlerError)
         passOnHandlerError();
 }
 
 template <class Set>
-void Control::settle(Set&& set)
+void Control::writeWidget(Set&& set)
 {
     const platform::Hold hold(*this);
     {
-        const platform::Depth::Level level(m_settings);
+        const platform::Depth::Level level(m_widgetWrites);
         std::forward<Set>(set)();
     }
     if (m_reportError)
@@ -373,7 +383,7 @@ void Control::write(const PropertyRow& row, T& field, std::type_identity_t<T>&& 
         return;
     if constexpr (std::is_same_v<T, double> || std::is_same_v<T, Variant>)
         requireFinite(value);
-    run([&] {
+    carryOut([&] {
         std::swap(field, value);
         try {
             stored(row);

@@ -87,7 +87,7 @@ string setProperty(core::Control& control, const pugi::xml_node& property, strin
     try {
         control.put(*row, *value);
     } catch (const RunTimeError& error) {
-        return error.what();
+        return string(error.reason());
     }
     return {};
 }

@@ -33,6 +33,21 @@ RunTimeError::RunTimeError(ErrorNumber number, std::string_view what)
     : std::runtime_error(fullText(number, what)), m_number(number)
 {}
 
+RunTimeError::RunTimeError(ErrorNumber number, const std::string& text, std::size_t reasonAt)
+    : std::runtime_error(text), m_number(number), m_reasonAt(reasonAt)
+{}
+
+RunTimeError RunTimeError::of(std::string_view object, std::string_view member, std::string_view handed) const
+{
+    std::string text(object);
+    text.append(".").append(member).append(": ");
+    const std::size_t reasonAt = text.size() + m_reasonAt;
+    text.append(what());
+    if (!handed.empty())
+        text.append(" (").append(handed).append(")");
+    return {m_number, text, reasonAt};
+}
+
 void raiseError(ErrorNumber number, std::string_view what) { throw RunTimeError(number, what); }
 
 } // namespace zor

@@ -2,8 +2,10 @@
 
 /// Run-time errors: the one exception type that crosses the library's interface.
 
+#include <cstddef>
 #include <cstdint>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 
 namespace zor {
@@ -24,16 +26,28 @@ enum class ErrorNumber : std::int32_t {
 /// The short text that goes with a number ("type mismatch").
 [[nodiscard]] std::string_view errorText(ErrorNumber number) noexcept;
 
-/// Thrown to the caller of a property, a method or a bag. After it nothing is half written.
+/// Thrown to the caller of a property, a method or a bag. A value that cannot be what is asked for changes
+/// nothing; what remains of a write that fails later is said at core::Control.
 class RunTimeError : public std::runtime_error {
 public:
     /// `what` names what is missing or wrong, where that is known: "object required: level2".
     explicit RunTimeError(ErrorNumber number, std::string_view what = {});
 
     [[nodiscard]] ErrorNumber number() const noexcept { return m_number; }
+    /// Whether the text begins with the member that the error is about.
+    [[nodiscard]] bool namesMember() const noexcept { return m_reasonAt > 0; }
+    /// The text without it: `type mismatch ("abc")`.
+    [[nodiscard]] std::string_view reason() const noexcept { return std::string_view(what()).substr(m_reasonAt); }
+    /// The same error as one of a member, and of what was handed to it, if that is given as a text:
+    /// `ctx_ZorTextBox.NumberOfDigits: type mismatch ("abc")`.
+    [[nodiscard]] RunTimeError of(std::string_view object, std::string_view member,
+                                  std::string_view handed = {}) const;
 
 private:
+    RunTimeError(ErrorNumber number, const std::string& text, std::size_t reasonAt);
+
     ErrorNumber m_number;
+    std::size_t m_reasonAt = 0;
 };
 
 [[noreturn]] void raiseError(ErrorNumber number, std::string_view what = {});
@@ -48,6 +62,20 @@ decltype(auto) naming(std::string_view what, Action&& action)
         if (error.what() != errorText(error.number()))
             throw;
         raiseError(error.number(), what);
+    }
+}
+
+/// Runs what is asked of an object's member; an error that names no member yet names this one. Costs nothing as
+/// long as there is no error.
+template <class Action>
+decltype(auto) naming(std::string_view object, std::string_view member, Action&& action)
+{
+    try {
+        return action();
+    } catch (const RunTimeError& error) {
+        if (error.namesMember())
+            throw;
+        throw error.of(object, member);
     }
 }
 

@@ -70,7 +70,7 @@ struct ZorControl::Inner final : QObject, core::EventSink {
         const QPointer<ZorControl> alive = owner;
         if (alive.isNull())
             return;
-        const Telling telling(*this);
+        const Telling telling(tellings);
         const bool isValue = row.name == "OutputValueChange";
         const bool isCommit = isValue && takesOver();
         const QVariant committed = isCommit ? widgets::toQVariant(*handedOver) : QVariant();
@@ -87,16 +87,7 @@ struct ZorControl::Inner final : QObject, core::EventSink {
     void released();
 
     /// While slots are being called, any of which may delete the widget.
-    class Telling {
-    public:
-        explicit Telling(Inner& inner) noexcept : m_inner(inner) { ++m_inner.tellings; }
-        ~Telling() { --m_inner.tellings; }
-        Telling(const Telling&) = delete;
-        Telling& operator=(const Telling&) = delete;
-
-    private:
-        Inner& m_inner;
-    };
+    using Telling = platform::Depth::Level;
 
     /// A property whose changes somebody wants to hear of.
     struct Watch {
@@ -122,7 +113,7 @@ struct ZorControl::Inner final : QObject, core::EventSink {
     bool keepsFocus = false;                   ///< while the control itself hides its widget
     bool isValueNew = false;                   ///< a device value has come, and nobody has been told
     bool isDragged = false;                    ///< what is handed over at the end of a drag
-    int tellings = 0;
+    platform::Depth tellings;
 };
 
 void ZorControl::Inner::written(std::string_view name)
@@ -134,7 +125,7 @@ void ZorControl::Inner::written(std::string_view name)
         isValueNew = true;
         handedOver.reset();
     }
-    const Telling telling(*this);
+    const Telling telling(tellings);
     emit alive->propertyChanged(toQString(name));
 }
 
@@ -154,7 +145,7 @@ bool ZorControl::Inner::takesOver()
 void ZorControl::Inner::released()
 {
     const QPointer<ZorControl> alive = owner;
-    const Telling telling(*this);
+    const Telling telling(tellings);
     if (std::exchange(isDragged, false) && handedOver && !alive.isNull())
         emit alive->valueCommitted(widgets::toQVariant(*handedOver));
 }
@@ -165,7 +156,7 @@ void ZorControl::Inner::settled() noexcept
     if (alive.isNull() || (!isValueNew && watches.empty()))
         return;
     const platform::Hold hold(*control);
-    const Telling telling(*this);
+    const Telling telling(tellings);
     if (std::exchange(isValueNew, false))
         emit alive->valueChanged();
     for (std::size_t i = 0; i < watches.size() && !alive.isNull(); ++i) {
@@ -198,7 +189,7 @@ ZorControl::~ZorControl()
     Inner& inner = *m_inner;
     inner.owner = nullptr;
     inner.control->unsubscribe(inner);
-    if (inner.container.eventDepth == 0 && inner.tellings == 0) {
+    if (inner.container.events.isNone() && inner.tellings.isNone()) {
         inner.control.reset();
         return;
     }

@@ -38,7 +38,7 @@ void ChoiceControl::DeviceValue(std::int32_t value) { write(ChoiceRows::DeviceVa
 void ChoiceControl::OutputValue(std::int32_t value) { write(ChoiceRows::OutputValue, value); }
 void ChoiceControl::ModifiedValue(std::int32_t value)
 {
-    run([&] { s_ApplyModifiedValue(value); });
+    carryOut([&] { s_ApplyModifiedValue(value); });
 }
 
 void ChoiceControl::assignOutput(std::int32_t value)

@@ -21,7 +21,7 @@ void UnitControl::DeviceUnit(MEAS_TYPE value) { write(UnitRows::DeviceUnit, valu
 void UnitControl::OutputUnit(MEAS_TYPE value)
 {
     // A handler may end the control and throw: it lives until the previous unit is settled.
-    run([&] {
+    carryOut([&] {
         const MEAS_TYPE before = std::exchange(m_units.previousOutputUnit, m_units.outputUnit);
         try {
             write(UnitRows::OutputUnit, value);

@@ -270,7 +270,7 @@ void QtContainer::discard(QWidget& widget)
 {
     // Qt would hand the focus of a widget that disappears to its neighbour, which nobody has entered.
     widget.clearFocus();
-    if (eventDepth == 0) {
+    if (events.isNone()) {
         delete &widget;
         return;
     }

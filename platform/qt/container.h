@@ -3,6 +3,7 @@
 /// A form of real Qt widgets.
 
 #include <zor/platform/container.h>
+#include <zor/platform/depth.h>
 #include <zor/platform/qt/looks.h>
 
 #include <cstddef>
@@ -65,7 +66,7 @@ public:
     /// Takes a Qt widget away; inside one of its events it is deleted when the event has ended.
     void discard(QWidget& widget);
     /// Counts the events under way.
-    int eventDepth = 0;
+    Depth events;
     /// @}
 
 private:

@@ -32,21 +32,16 @@ struct Context {
 /// earliest, and its Qt widgets, still in use further up, are deleted later.
 class EventScope {
 public:
-    explicit EventScope(const Context& context) noexcept : m_context(context)
-    {
-        ++m_context.container->eventDepth;
-        m_context.listener->hold();
-    }
-    ~EventScope()
-    {
-        m_context.listener->release();
-        --m_context.container->eventDepth;
-    }
+    explicit EventScope(const Context& context) noexcept
+        : m_level(context.container->events), m_hold(*context.listener)
+    {}
     EventScope(const EventScope&) = delete;
     EventScope& operator=(const EventScope&) = delete;
 
 private:
-    Context m_context;
+    // In this order: the control ends while its event still counts.
+    Depth::Level m_level;
+    Hold<WidgetListener> m_hold;
 };
 
 /// What the platform needs of a widget without knowing its interface.

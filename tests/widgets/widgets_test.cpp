@@ -114,6 +114,7 @@ TEST(Widgets, WhatIsRefusedIsSaidAndChangesNothing)
         if (error != 0) {
             EXPECT_EQ(refused[0][0], property);
             EXPECT_EQ(refused[0][1], error) << property;
+            EXPECT_TRUE(refused[0][2].toString().startsWith(QString("ctx_ZorTextBox.") + property + ": "));
             EXPECT_EQ(box.property(property), before) << property;
         }
     }

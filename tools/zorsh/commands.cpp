@@ -111,14 +111,20 @@ void list(Session& session, const Call&)
 
 // --- The host
 
+/// The member that was looked up, if there is one.
+template <class Row>
+const Row* memberOf(const core::Control& control, std::string_view name, const Row* row)
+{
+    if (row == nullptr)
+        naming(control.info().name, name, [] { raiseError(ErrorNumber::NoSuchMember); });
+    return row;
+}
+
 void put(core::Control& control, std::string_view member, std::string_view value)
 {
     // A member that does not exist is reported before a value that cannot be read.
-    const core::PropertyRow* row = control.info().property(member);
-    if (row == nullptr)
-        raiseError(ErrorNumber::NoSuchMember, member);
-    const Variant read = parseValue(value);
-    naming(member, [&] { control.put(*row, read); });
+    const core::PropertyRow* row = memberOf(control, member, control.info().property(member));
+    control.put(*row, parseValue(value));
 }
 
 /// Several properties of a control in one line; the first that fails ends it. The control may end on the way.
@@ -153,12 +159,10 @@ void get(Session& session, const Call& call)
 void callMethod(Session& session, const Call& call)
 {
     const auto [object, method] = resolve(session, call[0]);
-    if (object.control->info().method(method) == nullptr)
-        raiseError(ErrorNumber::NoSuchMember, method);
+    memberOf(*object.control, method, object.control->info().method(method));
     std::vector<Variant> values;
     std::ranges::transform(call.words.subspan(1), std::back_inserter(values), parseValue);
-    const core::MethodResult result =
-        naming(method, [&, &target = object, &name = method] { return target.control->call(name, values); });
+    const core::MethodResult result = object.control->call(method, values);
     if (!std::holds_alternative<std::monostate>(result))
         session.print(print(result));
 }
@@ -185,9 +189,7 @@ void addHandler(Recorder& recorder, const core::EventRow& event, const Call& cal
 void host(Session& session, const Call& call)
 {
     const auto [object, eventName] = resolve(session, call[0]);
-    const core::EventRow* event = object.control->info().event(eventName);
-    if (event == nullptr)
-        raiseError(ErrorNumber::NoSuchMember, eventName);
+    const core::EventRow* event = memberOf(*object.control, eventName, object.control->info().event(eventName));
     if (call[1] != "off")
         return addHandler(*object.recorder, *event, call);
     if (call.words.size() != 2)

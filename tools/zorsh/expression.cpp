@@ -1,5 +1,6 @@
 // Sums over numbers and what can be read.
 
+#include <zor/platform/depth.h>
 #include <zor/platform/error.h>
 #include <zor/tools/zorsh/commands.h>
 #include <zor/tools/zorsh/notation.h>
@@ -76,17 +77,12 @@ private:
 
     double factor()
     {
-        if (++m_depth > kDeepest)
+        const platform::Depth::Level level(m_depth);
+        if (m_depth.levels() > kDeepest)
             raiseError(ErrorNumber::InvalidCall, "too many brackets and signs within each other");
-        double value = 0;
         if (take('-'))
-            value = -factor();
-        else if (take('('))
-            value = bracketed();
-        else
-            value = operand();
-        --m_depth;
-        return value;
+            return -factor();
+        return take('(') ? bracketed() : operand();
     }
 
     double bracketed()
@@ -143,7 +139,7 @@ private:
 
     std::string_view m_rest;
     Session& m_session;
-    int m_depth = 0;
+    platform::Depth m_depth;
 };
 
 } // namespace

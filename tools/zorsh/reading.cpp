@@ -72,7 +72,7 @@ Reading read(Session& session, std::string_view path)
     const auto [object, member] = resolve(session, path);
     const auto point = member.find('.');
     if (point == std::string_view::npos)
-        return {naming(path, [&owner = object, &name = member] { return owner.control->property(name); })};
+        return {object.control->property(member)};
     return aspect(widgetNamed(*object.control, member.substr(0, point)), member.substr(point + 1));
 }
 

@@ -30,13 +30,13 @@ bool ctx_ZorCheckBox::isBitSet(std::int32_t value) const noexcept
 
 void ctx_ZorCheckBox::s_ApplyDeviceValue()
 {
-    const auto turn = newTurn();
+    const auto underWay = newValue();
     m_loaded = isBitSet(m_deviceValue);
     setChecked(m_loaded);
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     assignOutput(m_deviceValue);
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     m_status.dataModified = false;
     s_UpdateColors();
@@ -45,9 +45,9 @@ void ctx_ZorCheckBox::s_ApplyDeviceValue()
 
 void ctx_ZorCheckBox::s_ApplyModifiedValue(std::int32_t value)
 {
-    const auto turn = newTurn();
+    const auto underWay = newValue();
     setChecked(isBitSet(value));
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     // No click has judged what a locked operator could not have done.
     if (isInputLocked())
@@ -74,7 +74,7 @@ void ctx_ZorCheckBox::s_HandleClick()
             setChecked(m_loaded);
         return;
     }
-    const auto before = turn();
+    const auto before = valueUnderWay();
     m_status.dataModified = m_check->isOn() != m_loaded;
     raise(m_status.dataModified ? raised().dataModifiedSetTrue : raised().dataModifiedReset);
     // The bit alone: the others are the device's, or other check boxes'.
@@ -88,13 +88,13 @@ void ctx_ZorCheckBox::s_UndoEdit()
 {
     if (!m_status.dataModified)
         return;
-    const auto turn = newTurn();
+    const auto underWay = newValue();
     // A box that shows the device's bit already does not report: the flag came from elsewhere.
     if (m_check->isOn() == m_loaded)
         s_HandleClick();
     else
         setChecked(m_loaded);
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     // Where the operator is locked out, no click ends his edit.
     if (isInputLocked()) {

@@ -25,13 +25,13 @@ core::ControlPtr<ctx_ZorComboBox> ctx_ZorComboBox::create(platform::Container& c
 
 void ctx_ZorComboBox::s_ApplyDeviceValue()
 {
-    const auto turn = newTurn();
+    const auto underWay = newValue();
     m_reference = m_deviceValue;
     s_SelectValue(m_reference);
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     assignOutput(m_reference);
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     m_status.dataModified = false;
     s_UpdateColors();
@@ -40,9 +40,9 @@ void ctx_ZorComboBox::s_ApplyDeviceValue()
 
 void ctx_ZorComboBox::s_ApplyModifiedValue(std::int32_t value)
 {
-    const auto turn = newTurn();
+    const auto underWay = newValue();
     s_SelectValue(value);
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     assignOutput(value);
     s_UpdateColors();
@@ -73,7 +73,7 @@ void ctx_ZorComboBox::s_HandleClick()
         m_outputValue = *value;
         return;
     }
-    const auto before = turn();
+    const auto before = valueUnderWay();
     m_status.dataModified = *value != m_reference;
     if (m_status.dataModified)
         raise(raised().dataModifiedSetTrue);
@@ -88,13 +88,13 @@ void ctx_ZorComboBox::s_UndoEdit()
 {
     if (!m_status.dataModified)
         return;
-    const auto turn = newTurn();
+    const auto underWay = newValue();
     const std::int32_t before = m_combo->current();
     s_SelectValue(m_reference);
     // A list that shows the device's value already does not report: the flag came from elsewhere.
     if (m_entries.currentValue() == m_reference && m_combo->current() == before)
         s_HandleClick();
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     assignOutput(m_reference);
     s_UpdateStatusDisplay();

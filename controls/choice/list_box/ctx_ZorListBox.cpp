@@ -31,13 +31,13 @@ core::ControlPtr<ctx_ZorListBox> ctx_ZorListBox::create(platform::Container& con
 
 void ctx_ZorListBox::s_ApplyDeviceValue()
 {
-    const auto turn = newTurn();
+    const auto underWay = newValue();
     m_reference = m_deviceValue;
     m_outputValue = m_deviceValue;
     if (!s_MarkList(m_reference))
         return;
     raise(raised().outputValueChange);
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     m_status.dataModified = false;
     s_UpdateColors();
@@ -46,11 +46,11 @@ void ctx_ZorListBox::s_ApplyDeviceValue()
 
 void ctx_ZorListBox::s_ApplyModifiedValue(std::int32_t value)
 {
-    const auto turn = newTurn();
+    const auto underWay = newValue();
     if (!s_MarkList(value))
         return;
     assignOutput(value);
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     judge();
     s_UpdateColors();
@@ -59,16 +59,15 @@ void ctx_ZorListBox::s_ApplyModifiedValue(std::int32_t value)
 
 bool ctx_ZorListBox::s_MarkList(std::int32_t value)
 {
-    const auto turn = this->turn();
-    ++m_markings;
+    const auto underWay = valueUnderWay();
+    const platform::Depth::Level marking(m_markings);
     // An entry that a handler adds meanwhile waits for the next value, as every later one does.
     const std::int32_t last = m_list->count();
-    for (std::int32_t i = 0; i < std::min(last, m_list->count()) && !isOvertaken(turn); ++i)
+    for (std::int32_t i = 0; i < std::min(last, m_list->count()) && !isOvertaken(underWay); ++i)
         m_list->setSelected(i, (value & controls::bitMask(m_list->datum(i))) != 0);
-    if (!m_entries.isEmpty() && !isOvertaken(turn))
+    if (!m_entries.isEmpty() && !isOvertaken(underWay))
         m_list->setCurrent(0);
-    --m_markings;
-    return !isOvertaken(turn);
+    return !isOvertaken(underWay);
 }
 
 /// The clicks of a marking judge what there is at the time: bits without an entry come last.
@@ -80,7 +79,7 @@ void ctx_ZorListBox::s_HandleClick()
 {
     if (isInputLocked()) {
         // The operator's change is undone, the control's own is not.
-        if (m_markings == 0)
+        if (m_markings.isNone())
             s_MarkList(m_outputValue);
         return;
     }
@@ -100,11 +99,11 @@ void ctx_ZorListBox::s_UndoEdit()
 {
     if (!m_status.dataModified)
         return;
-    const auto turn = newTurn();
+    const auto underWay = newValue();
     if (!s_MarkList(m_reference))
         return;
     assignOutput(m_reference);
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     judge();
     s_UpdateColors();

@@ -85,8 +85,8 @@ private:
     controls::EntryList m_entries;
     controls::InvalidMark m_invalid;
     std::int32_t m_otherUser = 0;
-    /// How many markings are under way: the reports they cause are not the operator's.
-    int m_markings = 0;
+    /// Markings under way: the reports they cause are not the operator's.
+    platform::Depth m_markings;
 };
 
 } // namespace zor

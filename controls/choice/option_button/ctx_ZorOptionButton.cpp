@@ -30,7 +30,7 @@ void ctx_ZorOptionButton::s_ApplyDeviceValue()
 
 void ctx_ZorOptionButton::s_ApplyEnumValue()
 {
-    newTurn();
+    newValue();
     m_reference = m_deviceValue;
     const bool wasOn = m_option->isOn();
     const bool isOn = m_enumValue == m_entryValue;
@@ -45,7 +45,7 @@ void ctx_ZorOptionButton::s_ApplyEnumValue()
 
 void ctx_ZorOptionButton::s_ApplyModifiedValue(std::int32_t value)
 {
-    newTurn();
+    newValue();
     const bool isOn = value == m_entryValue;
     s_Select(isOn);
     if (!isOn)
@@ -97,9 +97,9 @@ void ctx_ZorOptionButton::s_TakeChoice()
 
 void ctx_ZorOptionButton::s_UndoEdit()
 {
-    const auto turn = newTurn();
+    const auto underWay = newValue();
     m_option->setOn(m_reference == m_entryValue);
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     m_outputValue = m_deviceValue;
     // Without a click nobody else notices that the edit is over.

@@ -39,11 +39,11 @@ double finite(double value)
 
 void ctx_ZorSlider::s_ApplyDeviceValue()
 {
-    const std::uint32_t turn = newTurn();
+    const auto underWay = newValue();
     testValue(m_deviceValue);
     m_reference = m_units.toOutput(m_deviceValue);
     moveTo(m_reference);
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     assignOutput(m_deviceValue);
     m_status.dataModified = false;
@@ -52,11 +52,11 @@ void ctx_ZorSlider::s_ApplyDeviceValue()
 
 void ctx_ZorSlider::ModifiedValue(double value)
 {
-    run([&] {
-        const std::uint32_t turn = newTurn();
+    carryOut([&] {
+        const auto underWay = newValue();
         testValue(value);
         moveTo(m_units.toOutput(value));
-        if (isOvertaken(turn))
+        if (isOvertaken(underWay))
             return;
         assignOutput(value);
         s_UpdateStatusDisplay();
@@ -75,7 +75,7 @@ void ctx_ZorSlider::moveTo(double position)
 void ctx_ZorSlider::setPosition(std::int32_t position)
 {
     const Temporarily own(m_report, Report::Own);
-    settle([&] { m_track->setValue(position); });
+    writeWidget([&] { m_track->setValue(position); });
 }
 
 void ctx_ZorSlider::assignOutput(double value)
@@ -88,9 +88,9 @@ void ctx_ZorSlider::assignOutput(double value)
 
 void ctx_ZorSlider::s_TrackMoved()
 {
-    const std::uint32_t turn = this->turn();
+    const auto underWay = valueUnderWay();
     judge(m_track->value() != roundToInt32(m_reference));
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     assignOutput(m_units.toDevice(m_track->value()));
     raise(raised().changed);
@@ -106,9 +106,9 @@ void ctx_ZorSlider::undoEdit()
 {
     if (!m_status.dataModified)
         return;
-    const std::uint32_t turn = newTurn();
+    const auto underWay = newValue();
     setPosition(roundToInt32(m_reference));
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     // Also where the track cannot go back as far as the device value lies.
     m_status.dataModified = false;

@@ -8,7 +8,7 @@ using platform::Alignment;
 
 void ctx_ZorTextBox::s_ApplyDeviceValue()
 {
-    const std::uint32_t turn = newTurn();
+    const auto underWay = newValue();
     const std::optional<double> number = isNumeric() ? validNumber(m_deviceValue) : std::nullopt;
     // What can fail comes first: a value that is refused changes nothing.
     const double output = number ? m_units.toOutput(*number) : 0.0;
@@ -27,7 +27,7 @@ void ctx_ZorTextBox::s_ApplyDeviceValue()
     } else {
         show(m_displayValue);
     }
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     // A unit without a display pattern shows nothing: then there is nothing to hand back either.
     if (!number || showsDisplayValue() || m_field.number())
@@ -89,13 +89,13 @@ bool ctx_ZorTextBox::equalsDisplayValue() const
 void ctx_ZorTextBox::ModifiedValue(const Variant& value)
 {
     core::requireFinite(value);
-    run([&] {
-        const std::uint32_t turn = newTurn();
+    carryOut([&] {
+        const auto underWay = newValue();
         const std::optional<double> number = validNumber(value);
         const Variant output = number ? Variant(m_units.toOutput(*number)) : value;
         m_source = Source::Output;
         show(output);
-        if (isOvertaken(turn))
+        if (isOvertaken(underWay))
             return;
         if (!number || m_field.number())
             assignOutput(value);
@@ -131,9 +131,9 @@ void ctx_ZorTextBox::s_OutputUnitChanged()
     m_shownDisplay.reset();
     // Showing the same value in another unit is no edit, even though rounding may part text and value.
     const bool modified = m_status.dataModified;
-    const std::uint32_t turn = this->turn();
+    const auto underWay = valueUnderWay();
     show(newText);
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     m_status.dataModified = modified;
     m_shownDisplay = fc_FormatValue(m_displayValue, m_units.outputUnit, m_numberOfDigits).toText();

@@ -108,7 +108,7 @@ Variant ctx_ZorTextBox::entry() const
 
 void ctx_ZorTextBox::s_ForceOutputValueUpdate()
 {
-    run([this] { s_CommitEntry(false); });
+    carryOut([this] { s_CommitEntry(false); });
 }
 
 std::optional<Variant> ctx_ZorTextBox::entryUnderWay() const
@@ -133,12 +133,12 @@ void ctx_ZorTextBox::undoEdit()
 {
     if (!m_status.dataModified)
         return;
-    const std::uint32_t turn = newTurn();
+    const auto underWay = newValue();
     m_source = Source::Device;
     m_isUndoing = true;
     show(m_displayValue);
     m_isUndoing = false;
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     // A field that shows the device's value already does not report: the flag came from elsewhere.
     m_status.dataModified = false;

@@ -275,7 +275,7 @@ void ctx_ZorTextBox::MsgInvalidEntryForText(string_view value)
 std::string ctx_ZorTextBox::SelectedText() const { return m_field.text().selectedText(); }
 void ctx_ZorTextBox::SelectedText(string_view value)
 {
-    run([&] { m_field.text().replaceSelection(value); });
+    carryOut([&] { m_field.text().replaceSelection(value); });
 }
 bool ctx_ZorTextBox::UnitsFontBold() const { return m_field.units().isBold(); }
 void ctx_ZorTextBox::UnitsFontBold(bool value) { m_field.units().setBold(value); }

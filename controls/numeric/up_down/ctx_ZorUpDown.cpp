@@ -30,12 +30,12 @@ std::int32_t nearestWhole(double number)
 
 void ctx_ZorUpDown::s_ApplyDeviceValue()
 {
-    const std::uint32_t turn = newTurn();
+    const auto underWay = newValue();
     testValue(m_deviceValue);
     m_reference = roundToInt32(m_units.toOutput(m_deviceValue));
     showNumber(m_reference);
     spinTo(m_reference);
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     assignOutput(m_deviceValue);
     m_status.dataModified = false;
@@ -45,14 +45,14 @@ void ctx_ZorUpDown::s_ApplyDeviceValue()
 
 void ctx_ZorUpDown::ModifiedValue(std::int32_t value)
 {
-    run([&] {
-        const std::uint32_t turn = newTurn();
+    carryOut([&] {
+        const auto underWay = newValue();
         testValue(value);
         showText(platform::doubleToText(m_units.toOutput(value)));
         m_isEntry = false;
         if (const std::optional<double> number = m_field.number()) {
             spinToNumber(*number);
-            if (isOvertaken(turn))
+            if (isOvertaken(underWay))
                 return;
             assignOutput(value);
         }
@@ -64,7 +64,7 @@ void ctx_ZorUpDown::ModifiedValue(std::int32_t value)
 void ctx_ZorUpDown::showText(std::string_view text)
 {
     m_isShowing = true;
-    settle([&] { m_field.text().setText(text); });
+    writeWidget([&] { m_field.text().setText(text); });
     m_isShowing = false;
 }
 
@@ -183,13 +183,13 @@ void ctx_ZorUpDown::onSpin()
         m_spinningBack = false;
         return;
     }
-    const std::uint32_t turn = this->turn();
+    const auto underWay = valueUnderWay();
     settleSpin();
     showNumber(m_spinValue);
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     assignEntry(m_spinValue);
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     judge(m_spinValue != m_reference);
     s_UpdateColors();
@@ -202,10 +202,10 @@ void ctx_ZorUpDown::onNotice(int widget, Notice notice, platform::EventArgs args
     if (widget == EntryField::kText && notice == Notice::Change)
         return onTextChanged();
     if (widget == kSpin && notice == Notice::Change) {
-        const std::uint32_t turn = this->turn();
+        const auto underWay = valueUnderWay();
         if (!m_spinningBack)
             forward(widget, notice, args);
-        m_stepOvertaken = isOvertaken(turn);
+        m_stepOvertaken = isOvertaken(underWay);
         return;
     }
     m_field.followFocus(widget, notice);
@@ -239,14 +239,14 @@ void ctx_ZorUpDown::s_CommitEntry()
     // something back, who was at work before it became one.
     if (!m_editPending || (isReadOnlyForOperator() && !m_isEntry))
         return;
-    const std::uint32_t turn = this->turn();
+    const auto underWay = valueUnderWay();
     if (const std::optional<double> number = m_field.number()) {
         const double taken = cut(*number);
         if (taken != *number)
             showNumber(roundToInt32(taken));
-        if (!isOvertaken(turn))
+        if (!isOvertaken(underWay))
             spinToNumber(taken);
-        if (!isOvertaken(turn))
+        if (!isOvertaken(underWay))
             assignEntry(taken);
     } else {
         showNumber(m_spin->value());
@@ -276,10 +276,10 @@ void ctx_ZorUpDown::undoEdit()
 {
     if (!m_status.dataModified)
         return;
-    const std::uint32_t turn = newTurn();
+    const auto underWay = newValue();
     showNumber(m_reference);
     spinTo(m_reference);
-    if (isOvertaken(turn))
+    if (isOvertaken(underWay))
         return;
     // A field that shows the device's value already does not report: the flag came from elsewhere.
     m_status.dataModified = false;
