@@ -111,24 +111,7 @@ void appendCodePoint(string& text, std::uint32_t code)
 {
     const bool isCharacter = code == '\t' || code == '\n' || code == '\r' ||
                              (code >= 0x20 && code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF));
-    const auto byte = [&](std::uint32_t bits) { text += static_cast<char>(bits); };
-    if (!isCharacter) {
-        text += kReplacement;
-    } else if (code < 0x80) {
-        byte(code);
-    } else if (code < 0x800) {
-        byte(0xC0 | code >> 6);
-        byte(0x80 | (code & 0x3F));
-    } else if (code < 0x10000) {
-        byte(0xE0 | code >> 12);
-        byte(0x80 | (code >> 6 & 0x3F));
-        byte(0x80 | (code & 0x3F));
-    } else {
-        byte(0xF0 | code >> 18);
-        byte(0x80 | (code >> 12 & 0x3F));
-        byte(0x80 | (code >> 6 & 0x3F));
-        byte(0x80 | (code & 0x3F));
-    }
+    platform::appendCharacter(text, isCharacter ? code : U'\uFFFD');
 }
 
 void appendReference(string& text, string_view name)

@@ -7,8 +7,20 @@ namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
 
-/// Takes the next character off the front; a byte that is not valid UTF-8 counts as one replacement.
-char32_t next(std::string_view& text) noexcept
+bool isCharacter(char32_t code) noexcept { return code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF); }
+
+char32_t upper(char32_t code) noexcept
+{
+    if (code >= 'a' && code <= 'z')
+        return code - 32;
+    if (code >= 0xE0 && code <= 0xFE && code != 0xF7)
+        return code - 32;
+    return code;
+}
+
+} // namespace
+
+char32_t takeCharacter(std::string_view& text) noexcept
 {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned char lead = byte(0);
@@ -28,27 +40,38 @@ char32_t next(std::string_view& text) noexcept
         code = code << 6U | (byte(i) & 0x3FU);
     }
     constexpr char32_t kLeast[] = {0, 0, 0x80, 0x800, 0x10000};
-    if (code < kLeast[length] || code > 0x10FFFF || (code >= 0xD800 && code <= 0xDFFF))
+    if (code < kLeast[length] || !isCharacter(code))
         return take(1, kReplacement);
     return take(length, code);
 }
 
-char32_t upper(char32_t code) noexcept
+void appendCharacter(std::string& text, char32_t character)
 {
-    if (code >= 'a' && code <= 'z')
-        return code - 32;
-    if (code >= 0xE0 && code <= 0xFE && code != 0xF7)
-        return code - 32;
-    return code;
+    if (!isCharacter(character))
+        character = kReplacement;
+    const auto append = [&](char32_t bits) { text += static_cast<char>(bits); };
+    const auto appendTail = [&](unsigned shift) { append(0x80U | (character >> shift & 0x3FU)); };
+    if (character < 0x80)
+        return append(character);
+    if (character < 0x800) {
+        append(0xC0U | character >> 6U);
+        return appendTail(0);
+    }
+    if (character < 0x10000) {
+        append(0xE0U | character >> 12U);
+    } else {
+        append(0xF0U | character >> 18U);
+        appendTail(12);
+    }
+    appendTail(6);
+    appendTail(0);
 }
-
-} // namespace
 
 std::size_t characterCount(std::string_view text) noexcept
 {
     std::size_t count = 0;
     for (; !text.empty(); ++count)
-        next(text);
+        takeCharacter(text);
     return count;
 }
 
@@ -56,7 +79,7 @@ std::size_t byteOffset(std::string_view text, std::size_t index) noexcept
 {
     const std::size_t size = text.size();
     for (; index > 0 && !text.empty(); --index)
-        next(text);
+        takeCharacter(text);
     return size - text.size();
 }
 
@@ -66,7 +89,7 @@ std::string validUtf8(std::string_view text)
     valid.reserve(text.size());
     while (!text.empty()) {
         const std::string_view before = text;
-        if (next(text) == kReplacement)
+        if (takeCharacter(text) == kReplacement)
             valid += "\xEF\xBF\xBD";
         else
             valid += before.substr(0, before.size() - text.size());
@@ -85,8 +108,8 @@ std::string_view trimmed(std::string_view text) noexcept
 int compareIgnoringCase(std::string_view left, std::string_view right) noexcept
 {
     while (!left.empty() && !right.empty()) {
-        const char32_t a = upper(next(left));
-        const char32_t b = upper(next(right));
+        const char32_t a = upper(takeCharacter(left));
+        const char32_t b = upper(takeCharacter(right));
         if (a != b)
             return a < b ? -1 : 1;
     }
@@ -104,14 +127,12 @@ std::string upperCase(std::string_view text)
     result.reserve(text.size());
     while (!text.empty()) {
         const std::string_view before = text;
-        const char32_t code = next(text);
+        const char32_t code = takeCharacter(text);
         const char32_t big = upper(code);
         if (big == code)
             result += before.substr(0, before.size() - text.size());
-        else if (big < 0x80)
-            result += static_cast<char>(big);
         else
-            result.append({static_cast<char>(0xC0U | big >> 6U), static_cast<char>(0x80U | (big & 0x3FU))});
+            appendCharacter(result, big);
     }
     return result;
 }

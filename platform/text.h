@@ -15,6 +15,12 @@ namespace zor::platform {
 /// no such character.
 [[nodiscard]] std::size_t byteOffset(std::string_view text, std::size_t index) noexcept;
 
+/// Takes the first character off a text that is not empty; U+FFFD for a byte that is not valid UTF-8.
+char32_t takeCharacter(std::string_view& text) noexcept;
+
+/// Appends a character in UTF-8; U+FFFD for a number that is none.
+void appendCharacter(std::string& text, char32_t character);
+
 /// The text with every byte that is not valid UTF-8 (overlong forms and surrogates included) replaced by
 /// U+FFFD. Embedded NULs stay.
 [[nodiscard]] std::string validUtf8(std::string_view text);

@@ -77,6 +77,9 @@ void EntryField::selectAll() { m_text->select(0, platform::characterCount(m_text
 void EntryField::paint(const core::Status& status, bool isReadOnly, std::optional<Colour> normal, bool isBold)
 {
     const bool modified = status.dataModified;
+    const Looks looks{modified, status.cFail, isReadOnly, isBold, normal};
+    if (m_painted == looks)
+        return;
     if (status.cFail) {
         m_text->setForeColour(kRed);
         m_text->setBold(true);
@@ -93,6 +96,7 @@ void EntryField::paint(const core::Status& status, bool isReadOnly, std::optiona
         m_text->setBold(modified || isBold);
     }
     m_text->setLocked(status.cFail || isReadOnly);
+    m_painted = looks;
 }
 
 void EntryField::showSupported(bool isSupported, bool unitEnable)

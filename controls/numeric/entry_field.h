@@ -38,7 +38,15 @@ public:
 
     /// Colours, lock and boldness of the text. `normal` stands in for the system's back colours, except the
     /// yellow of a modification; `isBold` keeps a text bold that nobody has modified.
+    /// Called wherever one of these may have changed, often several times for one value: what has not is not
+    /// painted anew.
     void paint(const core::Status& status, bool isReadOnly, std::optional<Colour> normal, bool isBold);
+    /// The text, for looks of the caller's own, which the next painting may overrule.
+    [[nodiscard]] platform::TextField& textToStyle() noexcept
+    {
+        m_painted.reset();
+        return *m_text;
+    }
     /// Shows the text, and the unit where it is enabled; hides both and the icon for a device that does not
     /// offer the parameter.
     void showSupported(bool isSupported, bool unitEnable);
@@ -55,11 +63,22 @@ public:
 private:
     void selectAll();
 
+    /// What the text's looks follow from.
+    struct Looks {
+        bool isModified;
+        bool isFailed;
+        bool isReadOnly;
+        bool isBold;
+        std::optional<Colour> normal;
+        bool operator==(const Looks&) const = default;
+    };
+
     std::unique_ptr<platform::TextField> m_text;
     std::unique_ptr<platform::Label> m_units;
     std::unique_ptr<platform::Image> m_icon;
     platform::Twips m_heightMargin = 0;
     bool m_selectAllPending = false;
+    std::optional<Looks> m_painted;
 };
 
 } // namespace zor::controls

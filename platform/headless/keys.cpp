@@ -102,23 +102,16 @@ void moveInList(EntryWidget& list, std::int16_t code)
 
 std::string characterOf(std::int16_t code)
 {
-    const auto value = static_cast<unsigned>(code);
-    const auto tail = [](unsigned bits) { return static_cast<char>(0x80U | (bits & 0x3FU)); };
-    if (value < 0x80)
-        return {static_cast<char>(value)};
-    if (value < 0x800)
-        return {static_cast<char>(0xC0U | value >> 6U), tail(value)};
-    return {static_cast<char>(0xE0U | value >> 12U), tail(value >> 6U), tail(value)};
+    std::string character;
+    appendCharacter(character, static_cast<std::uint16_t>(code));
+    return character;
 }
 
 std::int16_t codeOf(std::string_view character)
 {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(character[i]); };
-    if (character.size() == 1)
-        return static_cast<std::int16_t>(byte(0) < 0x80 ? byte(0) : '?');
-    if (character.size() == 2 && byte(0) <= 0xC3)
-        return static_cast<std::int16_t>((byte(0) & 0x03U) << 6U | (byte(1) & 0x3FU));
-    return '?';
+    constexpr char32_t kLast = 0xFF; // of the codes that a key press has
+    const char32_t code = takeCharacter(character);
+    return static_cast<std::int16_t>(code <= kLast ? code : U'?');
 }
 
 bool isTyped(std::int16_t ascii) { return ascii >= ' ' && (ascii < 0x7F || ascii > 0x9F); }

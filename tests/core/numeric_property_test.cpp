@@ -5,14 +5,13 @@
 #include <zor/platform/error.h>
 #include <zor/platform/headless/container.h>
 #include <zor/platform/headless/operator.h>
+#include <zor/tests/random.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdlib>
-#include <random>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -33,13 +32,6 @@ constexpr std::array kUnits{
     UnitsOfType{PRESSURE, {PrU_Bar, PrU_Psi, PrU_Bar, PrU_Psi}},
     UnitsOfType{OTHERS, {NoneU, NoneU, NoneU, NoneU}},
 };
-
-/// The seed of a run: a given one, to repeat a failure, or a new one.
-unsigned seedOfRun()
-{
-    const char* given = std::getenv("ZOR_SEED");
-    return given != nullptr ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : std::random_device{}();
-}
 
 /// A host that writes the next device value inside one of the control's events.
 struct Overtaker : core::EventSink {
@@ -328,20 +320,19 @@ private:
     }
 };
 
-template <class Random>
-void run(unsigned seed)
+template <class AnyHistory>
+void run()
 {
-    SCOPED_TRACE("ZOR_SEED=" + std::to_string(seed));
-    std::mt19937 random(seed);
+    Random random;
     for (int i = 0; i < kControls && !testing::Test::HasFailure(); ++i) {
-        Random history(random);
+        AnyHistory history(random);
         for (int step = 0; step < kSteps && !testing::Test::HasFailure(); ++step)
             history.step([&] { history.act(); });
     }
 }
 
-TEST(NumericProperties, OfTheUpDownHoldInEveryHistory) { run<UpDownHistory>(seedOfRun()); }
-TEST(NumericProperties, OfTheSliderHoldInEveryHistory) { run<SliderHistory>(seedOfRun()); }
+TEST(NumericProperties, OfTheUpDownHoldInRandomHistories) { run<UpDownHistory>(); }
+TEST(NumericProperties, OfTheSliderHoldInRandomHistories) { run<SliderHistory>(); }
 
 } // namespace
 } // namespace zor::tests

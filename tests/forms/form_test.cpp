@@ -8,11 +8,11 @@
 #include <zor/forms/xml_check.h>
 #include <zor/fuzz/form_round.h>
 #include <zor/platform/headless/container.h>
+#include <zor/tests/random.h>
 
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <random>
 #include <sstream>
 
 namespace zor::forms {
@@ -126,9 +126,7 @@ TEST(FormFile, WhatIsNotTouchedKeepsEveryByte)
 /// A control with random settings, written and opened again, has the same settings.
 TEST(FormFile, EveryClassSurvivesARandomRound)
 {
-    const auto seed = std::random_device{}();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
+    tests::Random random;
     const auto pick = [&](int least, int most) { return std::uniform_int_distribution(least, most)(random); };
     constexpr std::array<std::string_view, 6> kTexts{"", "a", " <&> \"'\r\n\t", "°µ€\U0001F600", "]]>", "True"};
     for (const core::ClassInfo* info : classes().classes()) {

@@ -2,11 +2,10 @@
 
 #include <zor/monitor/data/codec.h>
 #include <zor/monitor/session/plan.h>
+#include <zor/tests/random.h>
 
 #include <QFile>
 #include <gtest/gtest.h>
-
-#include <random>
 
 namespace zor::monitor {
 namespace {
@@ -86,15 +85,13 @@ TEST(ParameterFile, SaysWhatIsWrongAndWhere)
     }
 }
 
-TEST(ParameterFile, AnyDamageIsReadOrRefused)
+TEST(ParameterFile, RandomDamageIsReadOrRefused)
 {
     QFile demo(ZOR_TEST_DATA "/../../monitor/device/demo.json");
     ASSERT_TRUE(demo.open(QIODevice::ReadOnly));
     const std::string whole = demo.readAll().toStdString();
     EXPECT_GT(readParameterFile(whole, "demo").parameters.size(), 20U);
-    const unsigned seed = std::random_device{}();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
+    tests::Random random;
     int refused = 0;
     for (int i = 0; i < 600; ++i) {
         std::string text = whole.substr(0, i % 3 == 0 ? random() % whole.size() : whole.size());
@@ -159,11 +156,9 @@ TEST(Codec, NumbersLieInRegistersAsOtherProgramsPutThem)
     }
 }
 
-TEST(Codec, AnyRegistersComeBackTheSame)
+TEST(Codec, RandomRegistersComeBackTheSame)
 {
-    const unsigned seed = std::random_device{}();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
+    tests::Random random;
     for (int i = 0; i < 5000; ++i) {
         const Coded& row = kCoded[random() % kCoded.size()];
         const Parameter parameter = parameterOf(R"("type": ")" + row.type + R"(", "order": ")" + row.order + '"');
@@ -240,11 +235,9 @@ TEST(Plan, ReadsNeighboursTogetherAndDividesWhatIsRefused)
     EXPECT_EQ(cutOf(file.parameters, plan(file.parameters, {3}, {}).at(0)), std::nullopt);
 }
 
-TEST(Plan, NoRequestIsLongerThanTheProtocolAllowsAndNoValueIsTorn)
+TEST(Plan, OfRandomParametersHasNoRequestLongerThanTheProtocolAllowsAndTearsNoValue)
 {
-    const unsigned seed = std::random_device{}();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
+    tests::Random random;
     std::string rows;
     for (int i = 0; i < 300; ++i) {
         const auto registers = 1 + random() % 123;

@@ -1,6 +1,7 @@
 #include <zor/platform/error.h>
 #include <zor/platform/number_text.h>
 #include <zor/platform/regional.h>
+#include <zor/tests/random.h>
 #include <zor/units/mod_Common.h>
 
 #include <gtest/gtest.h>
@@ -11,7 +12,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <limits>
-#include <random>
 
 namespace zor {
 namespace {
@@ -42,11 +42,9 @@ TEST_F(ValueText, RoundsHalfAwayFromZeroOnTheShortestDecimal)
     EXPECT_THROW(static_cast<void>(formatFixed(std::numeric_limits<double>::infinity(), 1)), RunTimeError);
 }
 
-TEST_F(ValueText, AgreesWithThePrinterOfTheStandardLibraryAwayFromHalves)
+TEST_F(ValueText, OfRandomNumbersAgreesWithThePrinterOfTheStandardLibraryAwayFromHalves)
 {
-    const unsigned seed = std::random_device{}();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937_64 random(seed);
+    tests::Random random;
     std::uniform_real_distribution<double> exponent(-4, 12);
     std::array<char, 64> printed{};
     for (int i = 0; i < 200'000; ++i) {

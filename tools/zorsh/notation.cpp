@@ -34,26 +34,6 @@ std::size_t quotedLength(std::string_view text)
     return 0;
 }
 
-void appendUtf8(std::string& text, char32_t code)
-{
-    const auto byte = [&](char32_t value) { text.push_back(static_cast<char>(value)); };
-    if (code < 0x80) {
-        byte(code);
-    } else if (code < 0x800) {
-        byte(0xC0 | code >> 6U);
-        byte(0x80 | (code & 0x3FU));
-    } else if (code < 0x10000) {
-        byte(0xE0 | code >> 12U);
-        byte(0x80 | (code >> 6U & 0x3FU));
-        byte(0x80 | (code & 0x3FU));
-    } else {
-        byte(0xF0 | code >> 18U);
-        byte(0x80 | (code >> 12U & 0x3FU));
-        byte(0x80 | (code >> 6U & 0x3FU));
-        byte(0x80 | (code & 0x3FU));
-    }
-}
-
 /// Reads the escape after a backslash; `rest` starts behind the backslash.
 void appendEscape(std::string& text, std::string_view& rest)
 {
@@ -76,7 +56,7 @@ void appendEscape(std::string& text, std::string_view& rest)
     const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
     if (error != std::errc() || at == stop || *at != '}' || code > 0x10FFFF || isSurrogate)
         raiseError(ErrorNumber::InvalidCall);
-    appendUtf8(text, code);
+    platform::appendCharacter(text, code);
     rest.remove_prefix(static_cast<std::size_t>(at - rest.data()) + 1);
 }
 
@@ -152,24 +132,6 @@ bool isUnprintable(char32_t code) noexcept
            (code >= 0xFFF9 && code <= 0xFFFB);
 }
 
-/// The code point of a character in valid UTF-8.
-char32_t codePoint(std::string_view character) noexcept
-{
-    const auto lead = static_cast<unsigned char>(character[0]);
-    if (character.size() == 1)
-        return lead;
-    char32_t code = lead & (0xFFU >> (character.size() + 1));
-    for (const char c : character.substr(1))
-        code = code << 6U | (static_cast<unsigned char>(c) & 0x3FU);
-    return code;
-}
-
-std::size_t characterLength(char lead) noexcept
-{
-    const auto byte = static_cast<unsigned char>(lead);
-    return byte < 0x80 ? 1 : byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
-}
-
 std::string hexadecimal(std::string_view prefix, std::uint32_t number, int digits, std::string_view suffix)
 {
     std::array<char, 16> buffer{};
@@ -177,7 +139,7 @@ std::string hexadecimal(std::string_view prefix, std::uint32_t number, int digit
     return std::string(prefix).append(buffer.data(), static_cast<std::size_t>(length)).append(suffix);
 }
 
-void appendPrinted(std::string& result, std::string_view character)
+void appendPrinted(std::string& result, std::string_view character, char32_t code)
 {
     constexpr std::string_view kEscaped = "\"\\\r\n\t";
     constexpr std::string_view kLetters = "\"\\rnt";
@@ -187,7 +149,6 @@ void appendPrinted(std::string& result, std::string_view character)
         result.push_back(kLetters[escape]);
         return;
     }
-    const char32_t code = codePoint(character);
     if (isUnprintable(code))
         result += hexadecimal("\\u{", code, 1, "}");
     else
@@ -310,9 +271,9 @@ std::string printText(std::string_view text)
     std::string result = "\"";
     result.reserve(valid.size() + 2);
     for (std::string_view rest = valid; !rest.empty();) {
-        const std::string_view character = rest.substr(0, characterLength(rest.front()));
-        rest.remove_prefix(character.size());
-        appendPrinted(result, character);
+        const std::string_view before = rest;
+        const char32_t code = platform::takeCharacter(rest);
+        appendPrinted(result, before.substr(0, before.size() - rest.size()), code);
     }
     result.push_back('"');
     return result;

@@ -1,6 +1,6 @@
 // The check box as data: properties, messages, events, states, methods.
 
-#include <zor/controls/choice/check_box/ctx_ZorCheckBox.h>
+#include <zor/controls/choice/check_box/check_box_rows.h>
 #include <zor/core/event_rows.h>
 
 namespace zor {
@@ -9,33 +9,10 @@ using controls::kFace;
 using controls::kState;
 using core::declared;
 using core::event;
-using core::fieldRow;
 using core::joined;
 using core::named;
 using core::ownEvent;
 using platform::Notice;
-
-struct ctx_ZorCheckBox::Rows
-    : controls::CaptionChoiceRows<&ctx_ZorCheckBox::m_otherUser, &ctx_ZorCheckBox::m_loaded> {
-    using This = ctx_ZorCheckBox;
-
-    // A new box starts with another caption than a form means that says nothing.
-    static constexpr auto CheckBoxCaption = fieldRow<&This::m_caption>("CheckBoxCaption", core::Topic::Appearance)
-                                                .saying("Text beside the box.")
-                                                .stored("check")
-                                                .initially("Check1")
-                                                .then<&This::s_ShowCaption>();
-    static constexpr auto BitFieldEntryIndex =
-        fieldRow<&This::m_bit>("BitFieldEntryIndex", core::Topic::Value)
-            .saying("Number of the bit that the box shows and sets, 0 to 30; with any other it shows none. Takes "
-                    "effect with the next DeviceValue.")
-            .stored(0);
-    static constexpr auto CheckBoxValue =
-        core::computedRow<[](This& box) { return box.CheckBoxValue(); }>("CheckBoxValue", core::Topic::Appearance)
-            .saying("Whether the box is ticked.")
-            .with(core::Access::Derived);
-    static constexpr auto OtherUser = R::OtherUserValue<&This::m_otherUser>;
-};
 
 struct ctx_ZorCheckBox::Tables {
     using R = Rows;
@@ -98,12 +75,5 @@ const core::ClassInfo& ctx_ZorCheckBox::classInfo() noexcept
          .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
     return info;
 }
-
-// --- Accessors
-
-void ctx_ZorCheckBox::BitFieldEntryIndex(std::int16_t value) { write(Rows::BitFieldEntryIndex, value); }
-void ctx_ZorCheckBox::CheckBoxCaption(std::string_view value) { write(Rows::CheckBoxCaption, std::string(value)); }
-void ctx_ZorCheckBox::CheckBoxValue(bool value) { put(Rows::CheckBoxValue, value); }
-void ctx_ZorCheckBox::OtherUserValue(bool value) { write(Rows::OtherUser, value); }
 
 } // namespace zor

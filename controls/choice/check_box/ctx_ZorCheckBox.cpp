@@ -1,5 +1,5 @@
 #include <zor/controls/choice/bit_mask.h>
-#include <zor/controls/choice/check_box/ctx_ZorCheckBox.h>
+#include <zor/controls/choice/check_box/check_box_rows.h>
 
 #include <utility>
 
@@ -103,5 +103,12 @@ void ctx_ZorCheckBox::s_UndoEdit()
     }
     assignOutput(m_deviceValue);
 }
+
+// --- Properties
+
+void ctx_ZorCheckBox::BitFieldEntryIndex(std::int16_t value) { write(Rows::BitFieldEntryIndex, value); }
+void ctx_ZorCheckBox::CheckBoxCaption(std::string_view value) { write(Rows::CheckBoxCaption, std::string(value)); }
+void ctx_ZorCheckBox::CheckBoxValue(bool value) { put(Rows::CheckBoxValue, value); }
+void ctx_ZorCheckBox::OtherUserValue(bool value) { write(Rows::OtherUser, value); }
 
 } // namespace zor

@@ -1,6 +1,6 @@
 // The combo box as data: properties, messages, events, states, methods.
 
-#include <zor/controls/choice/combo_box/ctx_ZorComboBox.h>
+#include <zor/controls/choice/combo_box/combo_box_rows.h>
 #include <zor/core/event_rows.h>
 
 namespace zor {
@@ -14,16 +14,6 @@ using core::method;
 using core::named;
 using core::ownEvent;
 using platform::Notice;
-
-struct ctx_ZorComboBox::Rows
-    : controls::EntryChoiceRows<&ctx_ZorComboBox::m_invalid, &ctx_ZorComboBox::m_otherUser,
-                                &ctx_ZorComboBox::m_reference> {
-    static constexpr auto SelectedText =
-        core::computedRow<[](ctx_ZorComboBox& box) { return box.SelectedText(); }>("SelectedText",
-                                                                                   core::Topic::Value)
-            .saying("The text of the chosen entry.");
-    static constexpr auto OtherUser = R::OtherUserValue<&ctx_ZorComboBox::m_otherUser>;
-};
 
 struct ctx_ZorComboBox::Tables {
     using R = Rows;
@@ -102,11 +92,5 @@ const core::ClassInfo& ctx_ZorComboBox::classInfo() noexcept
          .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
     return info;
 }
-
-// --- Accessors
-
-void ctx_ZorComboBox::InvalidValue(bool value) { write(Rows::InvalidValue, value); }
-void ctx_ZorComboBox::MsgInvalidValue(std::string_view value) { write(Rows::MsgInvalidValue, std::string(value)); }
-void ctx_ZorComboBox::OtherUserValue(std::int16_t value) { write(Rows::OtherUser, value); }
 
 } // namespace zor

@@ -1,4 +1,4 @@
-#include <zor/controls/choice/combo_box/ctx_ZorComboBox.h>
+#include <zor/controls/choice/combo_box/combo_box_rows.h>
 
 namespace zor {
 namespace {
@@ -141,5 +141,11 @@ Variant ctx_ZorComboBox::GetEnumEntryValue(const std::string& EnumText) const
 }
 std::vector<Variant> ctx_ZorComboBox::GetEnumEntryValueArray() const { return m_entries.values(); }
 Variant ctx_ZorComboBox::GetEnumEntryCount() const { return m_entries.count(); }
+
+// --- Properties
+
+void ctx_ZorComboBox::InvalidValue(bool value) { write(Rows::InvalidValue, value); }
+void ctx_ZorComboBox::MsgInvalidValue(std::string_view value) { write(Rows::MsgInvalidValue, std::string(value)); }
+void ctx_ZorComboBox::OtherUserValue(std::int16_t value) { write(Rows::OtherUser, value); }
 
 } // namespace zor

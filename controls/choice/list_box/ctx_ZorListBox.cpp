@@ -1,5 +1,5 @@
 #include <zor/controls/choice/bit_mask.h>
-#include <zor/controls/choice/list_box/ctx_ZorListBox.h>
+#include <zor/controls/choice/list_box/list_box_rows.h>
 
 #include <algorithm>
 
@@ -149,5 +149,11 @@ Variant ctx_ZorListBox::GetBitFieldEntryValue(const std::string& BitFieldText) c
 }
 std::vector<Variant> ctx_ZorListBox::GetBitFieldEntryValueArray() const { return m_entries.values(); }
 Variant ctx_ZorListBox::GetBitFieldEntryCount() const { return m_entries.count(); }
+
+// --- Properties
+
+void ctx_ZorListBox::InvalidValue(bool value) { write(Rows::InvalidValue, value); }
+void ctx_ZorListBox::MsgInvalidValue(std::string_view value) { write(Rows::MsgInvalidValue, std::string(value)); }
+void ctx_ZorListBox::OtherUserValue(std::int32_t value) { write(Rows::OtherUser, value); }
 
 } // namespace zor

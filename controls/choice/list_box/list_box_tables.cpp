@@ -1,6 +1,6 @@
 // The list box as data: properties, messages, events, states, methods.
 
-#include <zor/controls/choice/list_box/ctx_ZorListBox.h>
+#include <zor/controls/choice/list_box/list_box_rows.h>
 #include <zor/core/event_rows.h>
 
 namespace zor {
@@ -14,14 +14,6 @@ using core::method;
 using core::named;
 using core::ownEvent;
 using platform::Notice;
-
-struct ctx_ZorListBox::Rows : controls::EntryChoiceRows<&ctx_ZorListBox::m_invalid, &ctx_ZorListBox::m_otherUser,
-                                                        &ctx_ZorListBox::m_reference> {
-    static constexpr auto SelCount =
-        core::computedRow<[](ctx_ZorListBox& box) { return box.SelCount(); }>("SelCount", core::Topic::Appearance)
-            .saying("Number of marked entries.");
-    static constexpr auto OtherUser = R::OtherUserValue<&ctx_ZorListBox::m_otherUser>;
-};
 
 struct ctx_ZorListBox::Tables {
     using R = Rows;
@@ -100,11 +92,5 @@ const core::ClassInfo& ctx_ZorListBox::classInfo() noexcept
          .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
     return info;
 }
-
-// --- Accessors
-
-void ctx_ZorListBox::InvalidValue(bool value) { write(Rows::InvalidValue, value); }
-void ctx_ZorListBox::MsgInvalidValue(std::string_view value) { write(Rows::MsgInvalidValue, std::string(value)); }
-void ctx_ZorListBox::OtherUserValue(std::int32_t value) { write(Rows::OtherUser, value); }
 
 } // namespace zor

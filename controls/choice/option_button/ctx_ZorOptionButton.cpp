@@ -1,4 +1,4 @@
-#include <zor/controls/choice/option_button/ctx_ZorOptionButton.h>
+#include <zor/controls/choice/option_button/option_button_rows.h>
 
 #include <utility>
 
@@ -106,5 +106,15 @@ void ctx_ZorOptionButton::s_UndoEdit()
     m_status.dataModified = m_outputValue != m_reference;
     s_UpdateColors();
 }
+
+// --- Properties
+
+void ctx_ZorOptionButton::EnumEntryValue(std::int32_t value) { write(Rows::EnumEntryValue, value); }
+void ctx_ZorOptionButton::EnumValue(std::int32_t value) { write(Rows::EnumValue, value); }
+void ctx_ZorOptionButton::OptionButtonCaption(std::string_view value)
+{
+    write(Rows::OptionButtonCaption, std::string(value));
+}
+void ctx_ZorOptionButton::OtherUserValue(std::int32_t value) { write(Rows::OtherUser, value); }
 
 } // namespace zor

@@ -1,6 +1,6 @@
 // The option button as data: properties, messages, events, states, methods.
 
-#include <zor/controls/choice/option_button/ctx_ZorOptionButton.h>
+#include <zor/controls/choice/option_button/option_button_rows.h>
 #include <zor/core/event_rows.h>
 
 namespace zor {
@@ -9,38 +9,10 @@ using controls::kFace;
 using controls::kState;
 using core::declared;
 using core::event;
-using core::fieldRow;
 using core::joined;
 using core::named;
 using core::ownEvent;
 using platform::Notice;
-
-struct ctx_ZorOptionButton::Rows
-    : controls::CaptionChoiceRows<&ctx_ZorOptionButton::m_otherUser, &ctx_ZorOptionButton::m_reference> {
-    using This = ctx_ZorOptionButton;
-
-    static constexpr auto EnumValue =
-        fieldRow<&This::m_enumValue>("EnumValue", core::Topic::Value)
-            .saying("The present value of the parameter; the button is on when it equals EnumEntryValue.")
-            .placed(core::Placing::Chosen)
-            .initially(0)
-            .then<&This::s_ApplyEnumValue>();
-    static constexpr auto OptionButtonCaption =
-        fieldRow<&This::m_caption>("OptionButtonCaption", core::Topic::Appearance)
-            .saying("Text beside the button.")
-            .stored("option")
-            .then<&This::s_ShowCaption>();
-    // A form says what its button stands for, even when that is 0.
-    static constexpr auto EnumEntryValue = fieldRow<&This::m_entryValue>("EnumEntryValue", core::Topic::Value)
-                                               .saying("The value that this button stands for.")
-                                               .alwaysStored(0);
-    static constexpr auto OptionButtonValue =
-        core::computedRow<[](This& button) { return button.OptionButtonValue(); }>("OptionButtonValue",
-                                                                                   core::Topic::Appearance)
-            .saying("Whether the button is on.")
-            .written<[](This& button, bool value) { button.OptionButtonValue(value); }>();
-    static constexpr auto OtherUser = R::OtherUserValue<&This::m_otherUser>;
-};
 
 struct ctx_ZorOptionButton::Tables {
     using R = Rows;
@@ -98,15 +70,5 @@ const core::ClassInfo& ctx_ZorOptionButton::classInfo() noexcept
          .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
     return info;
 }
-
-// --- Accessors
-
-void ctx_ZorOptionButton::EnumEntryValue(std::int32_t value) { write(Rows::EnumEntryValue, value); }
-void ctx_ZorOptionButton::EnumValue(std::int32_t value) { write(Rows::EnumValue, value); }
-void ctx_ZorOptionButton::OptionButtonCaption(std::string_view value)
-{
-    write(Rows::OptionButtonCaption, std::string(value));
-}
-void ctx_ZorOptionButton::OtherUserValue(std::int32_t value) { write(Rows::OtherUser, value); }
 
 } // namespace zor

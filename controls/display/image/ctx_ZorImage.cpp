@@ -1,4 +1,4 @@
-#include <zor/controls/display/image/ctx_ZorImage.h>
+#include <zor/controls/display/image/image_rows.h>
 #include <zor/core/frm_Container.h>
 #include <zor/platform/error.h>
 
@@ -106,5 +106,17 @@ void ctx_ZorImage::s_Layout()
     const platform::Rect area = surface().geometry();
     m_picture->setGeometry({0, 0, area.width, area.height});
 }
+
+// --- Properties
+
+void ctx_ZorImage::DeviceValue(std::int32_t value) { write(Rows::DeviceValue, value); }
+void ctx_ZorImage::UseAuxIcon(bool value) { write(Rows::UseAuxIcon, value); }
+void ctx_ZorImage::ReadOnly(bool value) { write(Rows::ReadOnly, value); }
+void ctx_ZorImage::MessageHeader(std::string_view value) { write(Rows::MessageHeader, std::string(value)); }
+void ctx_ZorImage::StatusText(std::string_view value) { write(Rows::StatusText, std::string(value)); }
+void ctx_ZorImage::MsgStatusNotOK(std::string_view value) { write(Rows::MsgStatusNotOK, std::string(value)); }
+void ctx_ZorImage::MsgStatusOK(std::string_view value) { write(Rows::MsgStatusOK, std::string(value)); }
+void ctx_ZorImage::MsgUndefined(std::string_view value) { write(Rows::MsgUndefined, std::string(value)); }
+void ctx_ZorImage::MsgBit(std::string_view value) { write(Rows::MsgBit, std::string(value)); }
 
 } // namespace zor

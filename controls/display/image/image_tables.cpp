@@ -1,81 +1,20 @@
 // The status image as data: properties, messages, events, states, methods.
 
-#include <zor/controls/display/image/ctx_ZorImage.h>
+#include <zor/controls/display/image/image_rows.h>
 #include <zor/core/event_rows.h>
 #include <zor/core/joined.h>
 #include <zor/core/shared_methods.h>
-#include <zor/core/shared_rows.h>
 
 #include <array>
 
 namespace zor {
 
-using core::Access;
 using core::declared;
 using core::event;
-using core::fieldRow;
 using core::method;
 using core::Refresh;
 using core::SharedRows;
 using platform::Notice;
-
-// --- Properties
-
-struct ctx_ZorImage::Rows {
-    using This = ctx_ZorImage;
-    using S = SharedRows;
-
-    static constexpr auto DeviceValue =
-        fieldRow<&This::m_deviceValue>("DeviceValue", core::Topic::Value)
-            .saying("The status word from the device: 0 is well, each set bit a condition.")
-            .placed(core::Placing::Device)
-            .stored(0)
-            .refreshing({Refresh::Status});
-    static constexpr auto UseAuxIcon =
-        fieldRow<&This::m_useAuxIcon>("UseAuxIcon", core::Topic::Appearance)
-            .saying("Shows the second pair of pictures. Takes effect with the next refresh of the state.")
-            .stored(false);
-    static constexpr auto ReadOnly =
-        S::ReadOnly.saying("Kept for the host, without effect: nothing is edited here.")
-            .with(Access::Silent)
-            .refreshing({});
-    static constexpr auto MessageHeader =
-        S::MessageHeader
-            .saying("What the status word stands for: tooltip, part of the titles and texts of the message boxes, "
-                    "and the name that is read out.")
-            .initially("Qex");
-
-    // Three texts of a new image are not those of a form that says nothing; forms in the field rely on both.
-    static constexpr auto MsgDefault =
-        S::MsgDefault.saying("First words of the message boxes, before MessageHeader.")
-            .stored("Detailed Information about ")
-            .initially("Status OK");
-    static constexpr auto StatusText =
-        fieldRow<&This::m_texts, &Texts::status>("StatusText", core::Topic::Messages)
-            .saying("First words of the titles of the message boxes.")
-            .stored("Status")
-            .initially("");
-    static constexpr auto MsgStatusOK = fieldRow<&This::m_texts, &Texts::ok>("MsgStatusOK", core::Topic::Messages)
-                                            .saying("Message when no bit is set.")
-                                            .stored("- No Information. Status OK.")
-                                            .initially("- No Information. Status OK")
-                                            .with(Access::Silent)
-                                            .refreshing({Refresh::Status});
-    static constexpr auto MsgStatusNotOK =
-        fieldRow<&This::m_texts, &Texts::notOk>("MsgStatusNotOK", core::Topic::Messages)
-            .saying("Message when a bit is set; a click puts the list of the set bits in its place.")
-            .stored("Status Not OK")
-            .with(Access::Silent)
-            .refreshing({Refresh::Status})
-            .live();
-    static constexpr auto MsgUndefined =
-        fieldRow<&This::m_texts, &Texts::undefined>("MsgUndefined", core::Topic::Messages)
-            .saying("Words for a set bit that has no name; the bit's number is added behind MsgBit.")
-            .with(Access::Silent);
-    static constexpr auto MsgBit = fieldRow<&This::m_texts, &Texts::bit>("MsgBit", core::Topic::Messages)
-                                       .saying("Word before the number of a set bit that has no name.")
-                                       .with(Access::Silent);
-};
 
 // --- States
 
@@ -208,17 +147,5 @@ const core::ClassInfo& ctx_ZorImage::classInfo() noexcept
          .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
     return info;
 }
-
-// --- Accessors
-
-void ctx_ZorImage::DeviceValue(std::int32_t value) { write(Rows::DeviceValue, value); }
-void ctx_ZorImage::UseAuxIcon(bool value) { write(Rows::UseAuxIcon, value); }
-void ctx_ZorImage::ReadOnly(bool value) { write(Rows::ReadOnly, value); }
-void ctx_ZorImage::MessageHeader(std::string_view value) { write(Rows::MessageHeader, std::string(value)); }
-void ctx_ZorImage::StatusText(std::string_view value) { write(Rows::StatusText, std::string(value)); }
-void ctx_ZorImage::MsgStatusNotOK(std::string_view value) { write(Rows::MsgStatusNotOK, std::string(value)); }
-void ctx_ZorImage::MsgStatusOK(std::string_view value) { write(Rows::MsgStatusOK, std::string(value)); }
-void ctx_ZorImage::MsgUndefined(std::string_view value) { write(Rows::MsgUndefined, std::string(value)); }
-void ctx_ZorImage::MsgBit(std::string_view value) { write(Rows::MsgBit, std::string(value)); }
 
 } // namespace zor

@@ -1,4 +1,4 @@
-#include <zor/controls/display/label/ctx_ZorLabel.h>
+#include <zor/controls/display/label/label_rows.h>
 
 #include <utility>
 
@@ -85,5 +85,10 @@ void ctx_ZorLabel::s_AfterLoading()
     s_UpdateEnabledState();
     s_PlaceIcon();
 }
+
+// --- Properties
+
+void ctx_ZorLabel::DeviceValue(std::string_view value) { write(Rows::DeviceValue, std::string(value)); }
+void ctx_ZorLabel::LabelCaption(std::string_view value) { write(Rows::LabelCaption, std::string(value)); }
 
 } // namespace zor

@@ -1,6 +1,6 @@
 // The label as data: properties, messages, events, states, methods.
 
-#include <zor/controls/display/label/ctx_ZorLabel.h>
+#include <zor/controls/display/label/label_rows.h>
 #include <zor/core/event_rows.h>
 #include <zor/core/joined.h>
 #include <zor/core/shared_methods.h>
@@ -10,46 +10,11 @@
 
 namespace zor {
 
-using core::computedRow;
 using core::declared;
 using core::event;
-using core::fieldRow;
 using core::Refresh;
 using core::SharedRows;
 using platform::Notice;
-
-// --- Properties
-
-struct ctx_ZorLabel::Rows {
-    using This = ctx_ZorLabel;
-
-    static constexpr auto DeviceValue =
-        fieldRow<&This::m_deviceValue>("DeviceValue", core::Topic::Value)
-            .saying("The text from the device, shown as it comes.")
-            .placed(core::Placing::Device)
-            .stored("")
-            .then<[](This& label) { label.m_label->setCaption(label.m_deviceValue); }>();
-    static constexpr auto LabelCaption = fieldRow<&This::m_writtenCaption>("LabelCaption", core::Topic::Appearance)
-                                             .saying("Text of the label; a DeviceValue replaces it.")
-                                             .stored("Label")
-                                             .reading<[](This& label) { return label.LabelCaption(); }>()
-                                             .then<[](This& label) {
-                                                 label.showWrittenCaption();
-                                                 label.s_PlaceIcon();
-                                             }>()
-                                             .live();
-    static constexpr auto LabelFontItalic =
-        computedRow<[](This& label) { return label.LabelFontItalic(); }>("LabelFontItalic",
-                                                                         core::Topic::Appearance)
-            .saying("Whether the label's text is italic.")
-            .written<[](This& label, bool italic) { label.LabelFontItalic(italic); }>()
-            .stored(false);
-    static constexpr auto LabelFontBold =
-        computedRow<[](This& label) { return label.LabelFontBold(); }>("LabelFontBold", core::Topic::Appearance)
-            .saying("Whether the label's text is bold.")
-            .written<[](This& label, bool bold) { label.LabelFontBold(bold); }>()
-            .live();
-};
 
 // --- The class
 
@@ -135,10 +100,5 @@ const core::ClassInfo& ctx_ZorLabel::classInfo() noexcept
          .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
     return info;
 }
-
-// --- Accessors
-
-void ctx_ZorLabel::DeviceValue(std::string_view value) { write(Rows::DeviceValue, std::string(value)); }
-void ctx_ZorLabel::LabelCaption(std::string_view value) { write(Rows::LabelCaption, std::string(value)); }
 
 } // namespace zor

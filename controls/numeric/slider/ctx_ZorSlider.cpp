@@ -1,4 +1,4 @@
-#include <zor/controls/numeric/slider/ctx_ZorSlider.h>
+#include <zor/controls/numeric/slider/slider_rows.h>
 #include <zor/platform/error.h>
 #include <zor/platform/number_text.h>
 
@@ -35,7 +35,41 @@ double finite(double value)
 
 } // namespace
 
+ctx_ZorSlider::ctx_ZorSlider(platform::Container& container)
+    : RangeControl(classInfo(), container, kDesignedWidth, kHeight, LgthU_1By10_MM),
+      m_track(surface().createTrack(kTrack)), m_icon(surface().createImage(kState))
+{
+    auto body = m_body.begin();
+    *body++ = m_track.get();
+    for (std::size_t i = 0; i < kLabelCount; ++i) {
+        m_labels[i] = surface().createLabel(kMinPrefix + static_cast<int>(i));
+        *body++ = m_labels[i].get();
+    }
+    s_PlaceAsDesigned();
+    constexpr double kInitialMaximum = 10;
+    m_units.maxValue = m_units.maxParam = kInitialMaximum;
+    s_ShowUnit(fc_GetUnitLabel(m_units.outputUnit));
+}
+
+core::ControlPtr<ctx_ZorSlider> ctx_ZorSlider::create(platform::Container& container)
+{
+    return core::ControlPtr<ctx_ZorSlider>(new ctx_ZorSlider(container));
+}
+
+platform::Widget* ctx_ZorSlider::widget(int number) noexcept
+{
+    if (number == kTrack)
+        return m_track.get();
+    if (number == Number::kState)
+        return m_icon.get();
+    if (number >= kMinPrefix && number <= kMaxUnit)
+        return &label(static_cast<Number>(number));
+    return Control::widget(number);
+}
+
 // --- From the device to the operator
+
+void ctx_ZorSlider::DeviceValue(double value) { write(Rows::DeviceValue, scaled(value)); }
 
 void ctx_ZorSlider::s_ApplyDeviceValue()
 {
@@ -243,5 +277,14 @@ void ctx_ZorSlider::TickType(std::int16_t value) { m_track->setTickStyle(value);
 double ctx_ZorSlider::TickFrequency() const { return unscaled(m_track->tickFrequency()); }
 void ctx_ZorSlider::TickFrequency(double value) { m_track->setTickFrequency(roundToInt32(scaled(value))); }
 std::int32_t ctx_ZorSlider::GetNumTicks() const { return m_track->tickCount(); }
+
+// --- Properties
+
+void ctx_ZorSlider::ScaleFactor(std::int32_t value) { write(Rows::ScaleFactor, value); }
+void ctx_ZorSlider::OutputValue(double value) { write(Rows::OutputValue, value); }
+void ctx_ZorSlider::OtherUserValue(double value) { write(Rows::OtherUserValue, value); }
+void ctx_ZorSlider::EnableValues(bool value) { write(Rows::EnableValues, value); }
+void ctx_ZorSlider::MinPrefix(std::string_view value) { write(Rows::MinPrefix, std::string(value)); }
+void ctx_ZorSlider::MaxPrefix(std::string_view value) { write(Rows::MaxPrefix, std::string(value)); }
 
 } // namespace zor

@@ -6,6 +6,7 @@
 #include <zor/controls/numeric/slider/slider_events.h>
 
 #include <array>
+#include <cassert>
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -91,6 +92,9 @@ private:
 
     enum Number : int { kTrack = 1, kState, kMinPrefix, kMinValue, kMinUnit, kMaxPrefix, kMaxValue, kMaxUnit };
     static constexpr std::size_t kLabelCount = 6;
+    // The composite as designed; only its width is the container's.
+    static constexpr platform::Twips kDesignedWidth = 3000;
+    static constexpr platform::Twips kHeight = 770;
     enum class Report : std::uint8_t { Taken, Own, Ignored };
 
     explicit ctx_ZorSlider(platform::Container& container);
@@ -125,6 +129,7 @@ private:
     void s_UpdateDeviceSupportDisplay() override;
     void s_UpdateUnitLabelVisibility() override;
     void s_ShowUnit(std::string_view caption) override;
+    void s_PlaceAsDesigned();
     void s_ShowLimits();
     void s_ShowPrefixes();
     void s_Layout() override;
@@ -133,6 +138,7 @@ private:
     [[nodiscard]] platform::Image& icon() noexcept override { return *m_icon; }
     [[nodiscard]] platform::Label& label(Number number) const noexcept
     {
+        assert(number >= kMinPrefix && number <= kMaxUnit);
         return *m_labels[static_cast<std::size_t>(number - kMinPrefix)];
     }
 

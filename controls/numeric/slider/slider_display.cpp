@@ -11,9 +11,6 @@ using platform::Twips;
 
 namespace {
 
-// The composite as designed; only its width is the container's.
-constexpr Twips kDesignedWidth = 3000;
-constexpr Twips kHeight = 770;
 constexpr Twips kTrackHeight = 510;
 constexpr Twips kLabelTop = 515;
 constexpr Twips kLabelHeight = 195;
@@ -48,39 +45,13 @@ Twips place(const Group& group, Twips left)
 
 } // namespace
 
-ctx_ZorSlider::ctx_ZorSlider(platform::Container& container)
-    : RangeControl(classInfo(), container, kDesignedWidth, kHeight, LgthU_1By10_MM),
-      m_track(surface().createTrack(kTrack)), m_icon(surface().createImage(kState))
+void ctx_ZorSlider::s_PlaceAsDesigned()
 {
     m_track->setGeometry({0, 0, kDesignedWidth - kBesideTrack, kTrackHeight});
     m_icon->setVisible(false);
     m_icon->setGeometry({kDesignedWidth - kBesideTrack + kIconGap, kIconTop, kIconSize, kIconSize});
-    auto body = m_body.begin();
-    *body++ = m_track.get();
-    for (std::size_t i = 0; i < kLabelCount; ++i) {
-        m_labels[i] = surface().createLabel(kMinPrefix + static_cast<int>(i));
-        m_labels[i]->setGeometry({0, kLabelTop, 0, kLabelHeight});
-        *body++ = m_labels[i].get();
-    }
-    constexpr double kInitialMaximum = 10;
-    m_units.maxValue = m_units.maxParam = kInitialMaximum;
-    s_ShowUnit(fc_GetUnitLabel(m_units.outputUnit));
-}
-
-core::ControlPtr<ctx_ZorSlider> ctx_ZorSlider::create(platform::Container& container)
-{
-    return core::ControlPtr<ctx_ZorSlider>(new ctx_ZorSlider(container));
-}
-
-platform::Widget* ctx_ZorSlider::widget(int number) noexcept
-{
-    if (number == kTrack)
-        return m_track.get();
-    if (number == Number::kState)
-        return m_icon.get();
-    if (number >= kMinPrefix && number <= kMaxUnit)
-        return &label(static_cast<Number>(number));
-    return Control::widget(number);
+    for (const auto& label : m_labels)
+        label->setGeometry({0, kLabelTop, 0, kLabelHeight});
 }
 
 void ctx_ZorSlider::s_ChangeBackColor(Colour l_ColorValue)

@@ -1,10 +1,33 @@
-#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
+#include <zor/controls/numeric/text_box/text_box_rows.h>
 
 namespace zor {
 
+using controls::EntryField;
 using platform::Alignment;
 
+ctx_ZorTextBox::ctx_ZorTextBox(platform::Container& container)
+    : UnitControl(classInfo(), container, EntryField::kDesignedWidth, EntryField::kDesignedHeight, LgthU_1By10_MM),
+      m_field(surface()), m_body{&m_field.text(), &m_field.units()}
+{
+    s_AlignText();
+    s_UpdateColors();
+    s_Layout();
+}
+
+core::ControlPtr<ctx_ZorTextBox> ctx_ZorTextBox::create(platform::Container& container)
+{
+    return core::ControlPtr<ctx_ZorTextBox>(new ctx_ZorTextBox(container));
+}
+
+platform::Widget* ctx_ZorTextBox::widget(int number) noexcept
+{
+    platform::Widget* own = m_field.widget(number);
+    return own != nullptr ? own : Control::widget(number);
+}
+
 // --- From the device to the operator
+
+void ctx_ZorTextBox::DeviceValue(const Variant& value) { write(Rows::DeviceValue, value); }
 
 void ctx_ZorTextBox::s_ApplyDeviceValue()
 {
@@ -174,5 +197,38 @@ std::string ctx_ZorTextBox::rangeText() const
     text.append(Variant(m_units.maxParam).toText()).append(" ").append(unit);
     return text;
 }
+
+// --- Properties
+
+void ctx_ZorTextBox::OutputValue(const Variant& value) { write(Rows::OutputValue, value); }
+void ctx_ZorTextBox::EntryType(ENTRY_TYPE value) { write(Rows::EntryType, value); }
+void ctx_ZorTextBox::NumberOfDigits(std::int16_t value) { write(Rows::NumberOfDigits, value); }
+void ctx_ZorTextBox::NumberOfDecimals(std::int16_t value) { write(Rows::NumberOfDecimals, value); }
+void ctx_ZorTextBox::InvalidEntryEnable(bool value) { write(Rows::InvalidEntryEnable, value); }
+void ctx_ZorTextBox::InvalidEntry(bool value) { write(Rows::InvalidEntry, value); }
+void ctx_ZorTextBox::MaxLength(std::int16_t value) { write(Rows::MaxLength, value); }
+void ctx_ZorTextBox::TextFontBold(bool value) { write(Rows::TextFontBold, value); }
+void ctx_ZorTextBox::WidthDifference(std::int16_t value) { write(Rows::WidthDifference, value); }
+void ctx_ZorTextBox::MsgInvalidEntry(std::string_view value) { write(Rows::MsgInvalidEntry, std::string(value)); }
+void ctx_ZorTextBox::MsgInvalidEntryTo(std::string_view value)
+{
+    write(Rows::MsgInvalidEntryTo, std::string(value));
+}
+void ctx_ZorTextBox::MsgInvalidEntryNAN(std::string_view value)
+{
+    write(Rows::MsgInvalidEntryNAN, std::string(value));
+}
+void ctx_ZorTextBox::MsgInvalidEntryForText(std::string_view value)
+{
+    write(Rows::MsgInvalidEntryForText, std::string(value));
+}
+
+std::string ctx_ZorTextBox::SelectedText() const { return m_field.text().selectedText(); }
+void ctx_ZorTextBox::SelectedText(std::string_view value)
+{
+    carryOut([&] { m_field.text().replaceSelection(value); });
+}
+bool ctx_ZorTextBox::UnitsFontBold() const { return m_field.units().isBold(); }
+void ctx_ZorTextBox::UnitsFontBold(bool value) { m_field.units().setBold(value); }
 
 } // namespace zor

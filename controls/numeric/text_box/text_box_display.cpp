@@ -4,28 +4,6 @@
 
 namespace zor {
 
-using controls::EntryField;
-
-ctx_ZorTextBox::ctx_ZorTextBox(platform::Container& container)
-    : UnitControl(classInfo(), container, EntryField::kDesignedWidth, EntryField::kDesignedHeight, LgthU_1By10_MM),
-      m_field(surface()), m_body{&m_field.text(), &m_field.units()}
-{
-    s_AlignText();
-    s_UpdateColors();
-    s_Layout();
-}
-
-core::ControlPtr<ctx_ZorTextBox> ctx_ZorTextBox::create(platform::Container& container)
-{
-    return core::ControlPtr<ctx_ZorTextBox>(new ctx_ZorTextBox(container));
-}
-
-platform::Widget* ctx_ZorTextBox::widget(int number) noexcept
-{
-    platform::Widget* own = m_field.widget(number);
-    return own != nullptr ? own : Control::widget(number);
-}
-
 void ctx_ZorTextBox::s_UpdateColors()
 {
     m_field.paint(m_status, isReadOnlyForOperator(), m_customBackColour, m_textFontBold);
@@ -35,7 +13,7 @@ void ctx_ZorTextBox::s_ChangeBackColor(Colour l_ColorValue)
 {
     Control::s_ChangeBackColor(l_ColorValue);
     m_field.units().setBackColour(l_ColorValue);
-    m_field.text().setBackColour(l_ColorValue);
+    m_field.textToStyle().setBackColour(l_ColorValue);
     m_customBackColour = l_ColorValue;
 }
 

@@ -1,4 +1,4 @@
-#include <zor/controls/numeric/up_down/ctx_ZorUpDown.h>
+#include <zor/controls/numeric/up_down/up_down_rows.h>
 #include <zor/platform/error.h>
 #include <zor/platform/number_text.h>
 
@@ -26,7 +26,33 @@ std::int32_t nearestWhole(double number)
 
 } // namespace
 
+ctx_ZorUpDown::ctx_ZorUpDown(platform::Container& container)
+    : RangeControl(classInfo(), container, EntryField::kDesignedWidth, EntryField::kDesignedHeight, LgthU_MM),
+      m_field(surface()),
+      m_spin(surface().createSpinButton(kSpin)), m_body{&m_field.text(), &m_field.units(), m_spin.get()}
+{
+    m_field.text().setAlignment(platform::Alignment::Right);
+    m_spin->setBuddy(m_field.text());
+    s_UpdateColors();
+    s_Layout();
+}
+
+core::ControlPtr<ctx_ZorUpDown> ctx_ZorUpDown::create(platform::Container& container)
+{
+    return core::ControlPtr<ctx_ZorUpDown>(new ctx_ZorUpDown(container));
+}
+
+platform::Widget* ctx_ZorUpDown::widget(int number) noexcept
+{
+    if (number == kSpin)
+        return m_spin.get();
+    platform::Widget* own = m_field.widget(number);
+    return own != nullptr ? own : Control::widget(number);
+}
+
 // --- From the device to the operator
+
+void ctx_ZorUpDown::DeviceValue(std::int32_t value) { write(Rows::DeviceValue, value); }
 
 void ctx_ZorUpDown::s_ApplyDeviceValue()
 {
@@ -286,5 +312,12 @@ void ctx_ZorUpDown::undoEdit()
     s_UpdateColors();
     assignOutput(m_deviceValue);
 }
+
+// --- Properties
+
+void ctx_ZorUpDown::OutputValue(std::int32_t value) { write(Rows::OutputValue, value); }
+void ctx_ZorUpDown::OtherUserValue(std::int32_t value) { write(Rows::OtherUserValue, value); }
+void ctx_ZorUpDown::NumberOfDigits(std::int16_t value) { write(Rows::NumberOfDigits, value); }
+void ctx_ZorUpDown::WidthDifference(std::int16_t value) { write(Rows::WidthDifference, value); }
 
 } // namespace zor

@@ -4,7 +4,6 @@
 
 namespace zor {
 
-using controls::EntryField;
 using platform::Rect;
 using platform::Twips;
 
@@ -14,30 +13,6 @@ constexpr Twips kSpinWidth = 240;
 constexpr Twips kMinTextHeight = 30;
 
 } // namespace
-
-ctx_ZorUpDown::ctx_ZorUpDown(platform::Container& container)
-    : RangeControl(classInfo(), container, EntryField::kDesignedWidth, EntryField::kDesignedHeight, LgthU_MM),
-      m_field(surface()),
-      m_spin(surface().createSpinButton(kSpin)), m_body{&m_field.text(), &m_field.units(), m_spin.get()}
-{
-    m_field.text().setAlignment(platform::Alignment::Right);
-    m_spin->setBuddy(m_field.text());
-    s_UpdateColors();
-    s_Layout();
-}
-
-core::ControlPtr<ctx_ZorUpDown> ctx_ZorUpDown::create(platform::Container& container)
-{
-    return core::ControlPtr<ctx_ZorUpDown>(new ctx_ZorUpDown(container));
-}
-
-platform::Widget* ctx_ZorUpDown::widget(int number) noexcept
-{
-    if (number == kSpin)
-        return m_spin.get();
-    platform::Widget* own = m_field.widget(number);
-    return own != nullptr ? own : Control::widget(number);
-}
 
 void ctx_ZorUpDown::s_UpdateColors() { m_field.paint(m_status, isReadOnlyForOperator(), std::nullopt, false); }
 

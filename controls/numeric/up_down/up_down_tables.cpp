@@ -1,8 +1,7 @@
 // The up-down as data: properties, messages, events, states, methods.
 
 #include <zor/controls/numeric/entry_field_rows.h>
-#include <zor/controls/numeric/range_rows.h>
-#include <zor/controls/numeric/up_down/ctx_ZorUpDown.h>
+#include <zor/controls/numeric/up_down/up_down_rows.h>
 #include <zor/core/event_rows.h>
 #include <zor/core/joined.h>
 
@@ -11,47 +10,11 @@
 namespace zor {
 
 using controls::EntryField;
-using controls::RangeRows;
 using core::event;
-using core::fieldRow;
 using core::named;
 using core::ownEvent;
 using core::SharedRows;
 using platform::Notice;
-
-struct ctx_ZorUpDown::Rows : RangeRows {
-    using This = ctx_ZorUpDown;
-
-    static constexpr auto DeviceValue =
-        fieldRow<&This::m_deviceValue>("DeviceValue", core::Topic::Value)
-            .saying("Raw value from the device, a whole number in DeviceUnit. A write shows it rounded in "
-                    "OutputUnit, sets OutputValue and ends the operator's edit.")
-            .placed(core::Placing::Device)
-            .stored(0)
-            .then<&This::s_ApplyDeviceValue>();
-    static constexpr auto OutputValue =
-        fieldRow<&This::m_outputValue>("OutputValue", core::Topic::Value)
-            .saying("The value to write to the device, a whole number in DeviceUnit.")
-            .stored(0)
-            .with(core::Access::Derived);
-    static constexpr auto ModifiedValue =
-        core::computedRow<[](This& control) { return control.ModifiedValue(); }>("ModifiedValue",
-                                                                                 core::Topic::Value)
-            .saying("Reading gives OutputValue. Writing shows a whole number, in DeviceUnit, as if the operator "
-                    "had entered it.")
-            .written<[](This& control, std::int32_t value) { control.ModifiedValue(value); }>();
-    static constexpr auto OtherUserValue = OtherUser<&This::m_otherUser>;
-    // The key's small "o" is in every form ever saved.
-    static constexpr auto NumberOfDigits =
-        fieldRow<&This::m_numberOfDigits>("NumberOfDigits", core::Topic::Value)
-            .saying("Kept and stored for the host, without effect: the up-down shows whole numbers.")
-            .storedAs("NumberofDigits", 3);
-    static constexpr auto WidthDifference =
-        fieldRow<&This::m_field, &EntryField::widthDifference>("WidthDifference", core::Topic::Appearance)
-            .saying("Room right of the text field for unit label and state icon, in twips.")
-            .stored(1305)
-            .then<&This::s_Layout>();
-};
 
 struct ctx_ZorUpDown::Tables {
     using S = SharedRows;
@@ -116,13 +79,5 @@ const core::ClassInfo& ctx_ZorUpDown::classInfo() noexcept
          .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
     return info;
 }
-
-// --- Accessors
-
-void ctx_ZorUpDown::DeviceValue(std::int32_t value) { write(Rows::DeviceValue, value); }
-void ctx_ZorUpDown::OutputValue(std::int32_t value) { write(Rows::OutputValue, value); }
-void ctx_ZorUpDown::OtherUserValue(std::int32_t value) { write(Rows::OtherUserValue, value); }
-void ctx_ZorUpDown::NumberOfDigits(std::int16_t value) { write(Rows::NumberOfDigits, value); }
-void ctx_ZorUpDown::WidthDifference(std::int16_t value) { write(Rows::WidthDifference, value); }
 
 } // namespace zor
