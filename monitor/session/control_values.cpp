@@ -66,6 +66,8 @@ void showNothing(core::Control& control)
             field->setText("");
         else if (auto* list = dynamic_cast<platform::ComboBox*>(widget))
             list->setCurrent(-1);
+        else if (auto* button = dynamic_cast<platform::OptionButton*>(widget))
+            button->setOn(false); // else the one that stands for 0 would be pressed
     }
 }
 

@@ -11,6 +11,10 @@
         <source>%1 (edited)</source>
         <translation>%1 (geändert)</translation>
     </message>
+    <message>
+        <source>no value</source>
+        <translation>kein Wert</translation>
+    </message>
 </context>
 <context>
     <name>ReviewDialog</name>

@@ -11,6 +11,10 @@
         <source>%1 (edited)</source>
         <translation>%1 (modifié)</translation>
     </message>
+    <message>
+        <source>no value</source>
+        <translation>aucune valeur</translation>
+    </message>
 </context>
 <context>
     <name>ReviewDialog</name>

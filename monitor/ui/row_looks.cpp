@@ -179,7 +179,8 @@ void showNote(QLabel& note, core::Control& control, const Parameter& parameter, 
               const std::string& language)
 {
     const bool slider = control.info().name == "ctx_ZorSlider";
-    const bool edited = slider && control.property("DataModified").toBoolean();
+    const core::PropertyRow* modified = control.info().property("DataModified");
+    const bool edited = modified != nullptr && control.get(*modified).toBoolean();
     QString text;
     if (const auto shown = shownBy(surfaceOf(control))) {
         text = overflowText(*shown, note.fontMetrics());
@@ -187,7 +188,10 @@ void showNote(QLabel& note, core::Control& control, const Parameter& parameter, 
         const core::PropertyRow* unit = control.info().property("OutputUnit");
         if (unit != nullptr && MEAS_TYPE{control.get(*unit).toInt32()} == NoneU)
             text = (Words::unit(parameter.unit) + ' ' + text).trimmed();
-    } else if (slider && (known || edited)) {
+    } else if (!known && !edited && control.info().name != "ctx_ZorLabel") {
+        // A track, a mark or a picture cannot be empty.
+        text = QCoreApplication::translate("GeneratedForm", "no value");
+    } else if (slider) {
         text = valueText(control, parameter, language);
         if (edited)
             text = QCoreApplication::translate("GeneratedForm", "%1 (edited)").arg(text);
@@ -195,8 +199,9 @@ void showNote(QLabel& note, core::Control& control, const Parameter& parameter, 
     if (note.text() != text)
         note.setText(text);
     note.setEnabled(!control.WaitingForData());
-    if (note.autoFillBackground() != edited)
-        markEdited(note, edited);
+    const bool marked = slider && edited;
+    if (note.autoFillBackground() != marked)
+        markEdited(note, marked);
 }
 
 QString breakable(const QString& text)

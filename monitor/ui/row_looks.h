@@ -37,8 +37,8 @@ void setOwnCaption(core::Control& control, const QString& caption);
 void fitSize(core::Control& control);
 
 /// Beside a control: the value where it has no text for it, or one that its field is too narrow for; and the unit
-/// of numbers that are shown without it, because it has too few decimals for them. A value that is not known has
-/// no text.
+/// of numbers that are shown without it, because it has too few decimals for them. Of a control that
+/// cannot be empty, that there is no value.
 void showNote(QLabel& note, core::Control& control, const Parameter& parameter, bool known,
               const std::string& language);
 

@@ -110,10 +110,12 @@ TEST_F(Classes, AnotherLanguageKeepsTheChoiceThatIsBeingEdited)
     core::Control& combo = *host.add("ctx_ZorComboBox", "Mode");
     core::Control& still = *host.add("ctx_ZorComboBox", "Mode");
     core::Control& steps = *host.add("ctx_ZorUpDown", "Gone");
+    core::Control& button = *host.add("ctx_ZorOptionButton", "Gone");
     host.start();
     auto& box = widgetOf<platform::ComboBox>(combo);
     EXPECT_EQ(box.selectedText(), "Forty");
     EXPECT_EQ(widgetOf<platform::TextField>(steps).text(), "") << "never read";
+    EXPECT_FALSE(widgetOf<platform::ToggleButton>(button).isOn()) << "stands for 0, which nobody has read";
     EXPECT_EQ(get(steps, "MaxValue"), Variant(65535.0));
     host.hands.choose(box, 1);
     host.session->setLanguage("de");
