@@ -1,6 +1,7 @@
 #include <zor/controls/registration.h>
 #include <zor/forms/form_error.h>
 #include <zor/monitor/link/device_address.h>
+#include <zor/monitor/settings/settings_commands.h>
 #include <zor/monitor/ui/window.h>
 #include <zor/platform/version.h>
 
@@ -27,6 +28,7 @@ struct Settings {
     int runFor = 0;
     int serve = 0;
     int tab = 0;
+    SettingsTask task;
 };
 
 enum ExitStatus : int { kWell = 0, kUnhealthy = 1, kUsage = 2 };
@@ -59,6 +61,18 @@ void addOptions(CLI::App& app, Settings& settings)
         ->check(CLI::IsMember({"en", "de", "fr"}));
     app.add_option("--units", settings.units, "form, metric, us or device")->check(CLI::IsMember(kUnitSystems));
     app.add_option("--tab", settings.tab, "number of the tab in front, from 0")->check(CLI::Range(0, 1000));
+    auto* save = app.add_option("--save-settings", settings.task.save,
+                                "file for what every parameter that can be written holds");
+    auto* load = app.add_option("--load-settings", settings.task.load,
+                                "settings file to be written into the device, with --yes; without it, only the "
+                                "list of what would be");
+    auto* compare = app.add_option("--compare", settings.task.compare,
+                                   "settings file to be compared with the device, or with another file");
+    save->excludes(load, compare);
+    load->excludes(compare);
+    app.add_flag("--yes", settings.task.yes, "writes what --load-settings lists")->needs(load);
+    app.add_option("--against", settings.task.against, "settings file instead of the device")->needs(compare);
+    app.add_flag("--json", settings.task.json, "prints the comparison as JSON")->needs(compare);
     app.add_option("--serve", settings.serve, "run only the simulated device, on this port")
         ->check(CLI::Range(1, 65535));
 }
@@ -111,6 +125,42 @@ int finish(Window& window, const Settings& settings)
     return kWell;
 }
 
+/// The session with the device that the options name, or with a simulated one.
+struct Device {
+    Device(const Settings& settings, ParameterFile file)
+    {
+        if (!settings.log.empty())
+            log.emplace(QString::fromStdString(settings.log));
+        QString address = QString::fromStdString(settings.device);
+        if (address.isEmpty()) {
+            simulated = file;
+            simulator = std::make_unique<Simulator>(simulated);
+            if (!simulator->start())
+                throw std::runtime_error("the simulated device: " + simulator->error().toStdString());
+            address = QString("tcp://127.0.0.1:%1").arg(simulator->port());
+        }
+        auto link = openLink(address, settings.timeout > 0 ? settings.timeout : settings.period);
+        session = std::make_unique<Session>(std::move(link), std::move(file), log ? &*log : nullptr);
+    }
+
+    std::optional<Log> log;
+    ParameterFile simulated;
+    std::unique_ptr<Simulator> simulator;
+    std::unique_ptr<Session> session;
+};
+
+int transfer(const Settings& settings, ParameterFile file)
+{
+    if (!settings.task.needsDevice())
+        return compareFiles(file, settings.task, std::cout);
+    const Device device(settings, std::move(file));
+    device.session->start(settings.period, settings.timeout);
+    const int status = runSettings(*device.session, settings.task, std::cout, std::cerr);
+    if (!device.session->recordError().isEmpty())
+        return fail(kUsage, settings.log + ": " + device.session->recordError().toStdString());
+    return status;
+}
+
 int monitor(const Settings& settings, ParameterFile file)
 {
     Languages languages;
@@ -118,20 +168,8 @@ int monitor(const Settings& settings, ParameterFile file)
                                             : QString::fromStdString(settings.language));
     zor::core::ClassRegistry classes;
     zor::registerControls(classes);
-    std::optional<Log> log;
-    if (!settings.log.empty())
-        log.emplace(QString::fromStdString(settings.log));
-    std::unique_ptr<Simulator> device;
-    QString address = QString::fromStdString(settings.device);
-    const ParameterFile simulated = file;
-    if (address.isEmpty()) {
-        device = std::make_unique<Simulator>(simulated);
-        if (!device->start())
-            return fail(kUnhealthy, "the simulated device: " + device->error().toStdString());
-        address = QString("tcp://127.0.0.1:%1").arg(device->port());
-    }
-    auto link = openLink(address, settings.timeout > 0 ? settings.timeout : settings.period);
-    auto session = std::make_unique<Session>(std::move(link), std::move(file), log ? &*log : nullptr);
+    Device device(settings, std::move(file));
+    std::unique_ptr<Session> session = std::move(device.session);
     std::unique_ptr<Form> form;
     if (settings.form.empty())
         form = std::make_unique<GeneratedForm>(session->file(), classes);
@@ -144,13 +182,13 @@ int monitor(const Settings& settings, ParameterFile file)
     if (form->tabs() != nullptr)
         form->tabs()->setCurrentIndex(settings.tab);
     QSettings sizes("ZorSmartControls", "zor-monitor");
-    Window window(std::move(session), std::move(form), languages, device.get());
+    Window window(std::move(session), std::move(form), languages, device.simulator.get());
     if (settings.runFor == 0 && settings.screenshot.empty())
         window.remember(sizes); // what nobody watches leaves no traces and looks the same each time
     if (settings.units != "form")
         window.setUnits(kUnitSystems.at(settings.units));
     window.show();
-    if (settings.runFor > 0 || log)
+    if (settings.runFor > 0 || device.log)
         window.session().readEverything();
     window.session().start(settings.period, settings.timeout);
     if (settings.runFor > 0) {
@@ -178,6 +216,8 @@ int run(int argc, char** argv)
     const QApplication application(argc, argv);
     const Languages resources;
     ParameterFile file = loadParameters(settings);
+    if (settings.task.isGiven())
+        return transfer(settings, std::move(file));
     return settings.serve > 0 ? serve(file, settings.serve) : monitor(settings, std::move(file));
 }
 

@@ -18,7 +18,7 @@ void takeValue(Change& change, const Parameter& parameter, const Variant& value)
     if (!change.target.empty() && change.target != encoded.registers)
         change.problem = Problem::Conflict;
     else if (encoded.unfit != Unfit::No)
-        change.problem = kProblemOf[static_cast<std::size_t>(encoded.unfit)];
+        change.problem = problemOf(encoded.unfit);
     else if (!isWithinLimits(parameter, encoded.registers))
         change.problem = Problem::OutsideLimits;
     change.target = encoded.registers;
@@ -80,6 +80,8 @@ void describeChange(Change& change, const Parameter& parameter, const std::strin
 }
 
 } // namespace
+
+Problem problemOf(Unfit unfit) noexcept { return kProblemOf[static_cast<std::size_t>(unfit)]; }
 
 std::vector<Change> collectChanges(const ParameterFile& file, std::span<const std::unique_ptr<Binding>> bindings,
                                    const std::string& language)

@@ -24,6 +24,8 @@ enum class Problem : std::uint8_t {
     Conflict,  ///< two controls hold different edits of the parameter
 };
 
+[[nodiscard]] Problem problemOf(Unfit unfit) noexcept;
+
 /// An edit of one control, as it was when the list was made.
 struct Origin {
     Binding* binding;

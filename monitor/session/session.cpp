@@ -1,30 +1,11 @@
 #include <zor/monitor/session/session.h>
-#include <zor/monitor/session/value_texts.h>
 #include <zor/platform/error.h>
-#include <zor/units/mod_Common.h>
 
 #include <algorithm>
-#include <array>
 #include <numeric>
 #include <utility>
 
 namespace zor::monitor {
-namespace {
-
-// In the order of ReadOutcome.
-constexpr std::array<std::string_view, 6> kReadWords{"live",    "not available", "busy", "communication failure",
-                                                     "waiting", "no value"};
-// In the order of WriteOutcome.
-constexpr std::array<std::string_view, 7> kWriteWords{"written", "refused",       "not sent", "unconfirmed",
-                                                      "differs", "not read back", "overtaken"};
-
-std::string withReason(std::string_view word, const std::string& reason)
-{
-    return reason.empty() ? std::string(word) : std::string(word) + ": " + reason;
-}
-
-} // namespace
-
 Session::Session(std::unique_ptr<Link> link, ParameterFile file, Log* log)
     : m_link(std::move(link)), m_file(std::move(file)), m_log(log), m_poller(*m_link, m_file),
       m_writer(*m_link, m_file), m_states(m_file.parameters.size()), m_shownBy(m_states.size())
@@ -38,13 +19,6 @@ Session::Session(std::unique_ptr<Link> link, ParameterFile file, Log* log)
     };
     m_writer.onResult = [this](const Change& change, const WriteResult& result) { hearResult(change, result); };
     m_writer.onDone = [this] { endWriting(); };
-}
-
-template <class Action>
-void Session::forEach(std::size_t parameter, Action&& action) const
-{
-    for (Binding* binding : m_shownBy[parameter])
-        action(*binding);
 }
 
 void Session::bind(core::Control& control)
@@ -269,7 +243,7 @@ void Session::hearIdentity(const std::string& type, const std::string& version)
 void Session::hearResult(const Change& change, const WriteResult& result)
 {
     State& state = m_states[change.parameter];
-    logWrite(change, result, kWriteWords[static_cast<std::size_t>(result.outcome)]);
+    logWrite(change, result, nameOf(result.outcome));
     state.unconfirmed.reset();
     state.wasDoubted = false;
     if (result.outcome == WriteOutcome::Written) {
@@ -376,51 +350,6 @@ bool Session::setUnit(Binding& binding, MEAS_TYPE unit)
     }
     binding.texts().applyUnitLabel();
     return true;
-}
-
-// --- For people
-
-void Session::logRead(std::size_t parameter, const Reading& reading)
-{
-    State& state = m_states[parameter];
-    // Waiting is not an outcome yet: a slow or a silent device would fill the record with it.
-    if (m_log == nullptr || reading.outcome == ReadOutcome::Late || state.recorded == reading.outcome)
-        return;
-    state.recorded = reading.outcome;
-    const Parameter& row = m_file.parameters[parameter];
-    m_log->record("read", row.tag, recordText(row, state.last), recordText(row, reading.registers),
-                  withReason(kReadWords[static_cast<std::size_t>(reading.outcome)], reading.reason));
-}
-
-void Session::logWrite(const Change& change, const WriteResult& result, std::string_view outcome)
-{
-    if (m_log == nullptr)
-        return;
-    const Parameter& row = m_file.parameters[change.parameter];
-    m_log->record("write", row.tag, recordText(row, change.before, change.mask),
-                  recordText(row, change.target, change.mask), withReason(outcome, result.reason));
-}
-
-bool Session::hasValues() const
-{
-    return std::ranges::any_of(m_states, [](const State& state) { return !state.last.empty(); });
-}
-
-std::string Session::report() const
-{
-    std::string lines;
-    for (std::size_t i = 0; i < m_states.size(); ++i) {
-        const Parameter& row = m_file.parameters[i];
-        MEAS_TYPE unit = row.appearance.unit;
-        forEach(i, [&](const Binding& binding) { unit = binding.shownUnit(); });
-        const ShownValue value = describeExactly(row, m_states[i].last, unit, m_language);
-        const std::string_view label = fc_GetUnitLabel(value.unit);
-        lines.append(row.tag).append("  ").append(value.text);
-        lines.append(label.empty() ? "" : " ").append(label).append("  ");
-        const bool read = m_states[i].readAt >= 0 || m_states[i].outcome == ReadOutcome::NoAnswer;
-        lines.append(read ? kReadWords[static_cast<std::size_t>(m_states[i].outcome)] : "not read").append("\n");
-    }
-    return lines;
 }
 
 } // namespace zor::monitor

@@ -34,7 +34,8 @@ public:
     void start(int periodMilliseconds, int timeoutMilliseconds = 0);
     void setPeriod(int milliseconds);
     /// Reads every parameter of the file, seen or not: for a record or a report that is to be whole.
-    void readEverything() { m_readsAll = true; }
+    void readEverything(bool all = true) { m_readsAll = all; }
+    [[nodiscard]] bool readsEverything() const { return m_readsAll; }
 
     /// Whether the operator can see a control; without it, he sees all.
     std::function<bool(core::Control&)> isVisible;
@@ -82,6 +83,16 @@ public:
     /// Device type and firmware version, once they are known.
     [[nodiscard]] const std::string& deviceType() const { return m_type; }
     [[nodiscard]] const std::string& deviceVersion() const { return m_version; }
+    /// Counts the devices: another number, another device.
+    [[nodiscard]] unsigned device() const { return m_device; }
+    /// Whether it has been found out what the device is.
+    [[nodiscard]] bool isDeviceKnown() const { return m_isKnown; }
+    /// What a parameter held when it was last read; empty when it never was.
+    [[nodiscard]] const Registers& held(std::size_t parameter) const { return m_states[parameter].last; }
+    [[nodiscard]] ReadOutcome outcome(std::size_t parameter) const { return m_states[parameter].outcome; }
+    /// Milliseconds on the session's clock: now, and when the device last answered for a parameter, -1 for never.
+    [[nodiscard]] qint64 now() const { return m_clock.elapsed(); }
+    [[nodiscard]] qint64 readAt(std::size_t parameter) const { return m_states[parameter].readAt; }
     /// A line for each parameter: tag, value, unit, state.
     [[nodiscard]] std::string report() const;
     /// @}
@@ -119,7 +130,11 @@ private:
     void logWrite(const Change& change, const WriteResult& result, std::string_view outcome);
     [[nodiscard]] bool isInEdit(const Binding& binding) const;
     template <class Action>
-    void forEach(std::size_t parameter, Action&& action) const;
+    void forEach(std::size_t parameter, Action&& action) const
+    {
+        for (Binding* binding : m_shownBy[parameter])
+            action(*binding);
+    }
 
     std::unique_ptr<Link> m_link;
     ParameterFile m_file;

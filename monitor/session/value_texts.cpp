@@ -89,6 +89,16 @@ double withoutRest(double value)
     return value;
 }
 
+std::string numberText(const Parameter& parameter, std::span<const std::uint16_t> registers)
+{
+    const double value = decode(parameter, registers).number();
+    switch (parameter.location.type) {
+    case ValueType::Float32: return shortest(static_cast<float>(value));
+    case ValueType::Float64: return shortest(value);
+    default: return shortest(withoutRest(value));
+    }
+}
+
 ShownValue describeWith(DescribeNumber number, const Parameter& parameter,
                         std::span<const std::uint16_t> registers, MEAS_TYPE shown, const std::string& language,
                         std::uint32_t mask)
@@ -135,14 +145,17 @@ ShownValue describeExactly(const Parameter& parameter, std::span<const std::uint
 std::string recordText(const Parameter& parameter, std::span<const std::uint16_t> registers, std::uint32_t mask)
 {
     const bool named = mask != 0 || !parameter.bits.empty() || !parameter.entries.empty();
-    const Variant value = named || registers.empty() ? Variant() : decode(parameter, registers);
-    if (!value.isNumber())
+    if (named || registers.empty() || !decode(parameter, registers).isNumber())
         return describe(parameter, registers, parameter.unit, "en", mask).text;
-    switch (parameter.location.type) {
-    case ValueType::Float32: return shortest(static_cast<float>(value.number()));
-    case ValueType::Float64: return shortest(value.number());
-    default: return shortest(withoutRest(value.number()));
-    }
+    return numberText(parameter, registers);
+}
+
+double recordNumber(const Parameter& parameter, std::span<const std::uint16_t> registers)
+{
+    const std::string text = numberText(parameter, registers);
+    double number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
 }
 
 } // namespace zor::monitor

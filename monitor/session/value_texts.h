@@ -28,4 +28,7 @@ struct ShownValue {
 [[nodiscard]] std::string recordText(const Parameter& parameter, std::span<const std::uint16_t> registers,
                                      std::uint32_t mask = 0);
 
+/// The number that the record shows, of registers that hold one; entries and bits count as numbers.
+[[nodiscard]] double recordNumber(const Parameter& parameter, std::span<const std::uint16_t> registers);
+
 } // namespace zor::monitor

@@ -22,6 +22,9 @@ enum class WriteOutcome : std::uint8_t {
     Overtaken,   ///< not sent: the device is not, or does not hold, what was reviewed
 };
 
+/// As the record names it.
+[[nodiscard]] std::string_view nameOf(WriteOutcome outcome) noexcept;
+
 struct WriteResult {
     WriteOutcome outcome = WriteOutcome::Unconfirmed;
     std::uint8_t exception = 0;

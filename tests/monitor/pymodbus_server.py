@@ -1,11 +1,12 @@
-"""A Modbus TCP server by others: registers 0 to 199 hold their own address. Prints "ready" when it listens."""
+"""A Modbus TCP server by others: registers 0 to 199 hold their own address, or that and argument 2. Prints "ready" when it listens."""
 import sys
 import threading
 
 from pymodbus.datastore import ModbusSequentialDataBlock, ModbusServerContext, ModbusSlaveContext
 from pymodbus.server import StartTcpServer
 
-block = lambda: ModbusSequentialDataBlock(0, list(range(200)))
+more = int(sys.argv[2]) if len(sys.argv) > 2 else 0
+block = lambda: ModbusSequentialDataBlock(0, list(range(more, more + 200)))
 slave = ModbusSlaveContext(hr=block(), ir=block(), zero_mode=True)
 context = ModbusServerContext(slaves={1: slave}, single=False)
 

@@ -1,0 +1,72 @@
+// What a session tells people: the record, and the report at its end.
+
+#include <zor/monitor/session/session.h>
+#include <zor/monitor/session/value_texts.h>
+#include <zor/units/mod_Common.h>
+
+#include <algorithm>
+#include <array>
+
+namespace zor::monitor {
+namespace {
+
+// In the order of ReadOutcome.
+constexpr std::array<std::string_view, 6> kReadWords{"live",    "not available", "busy", "communication failure",
+                                                     "waiting", "no value"};
+// In the order of WriteOutcome.
+constexpr std::array<std::string_view, 7> kWriteWords{"written", "refused",       "not sent", "unconfirmed",
+                                                      "differs", "not read back", "overtaken"};
+
+std::string withReason(std::string_view word, const std::string& reason)
+{
+    return reason.empty() ? std::string(word) : std::string(word) + ": " + reason;
+}
+
+} // namespace
+
+void Session::logRead(std::size_t parameter, const Reading& reading)
+{
+    State& state = m_states[parameter];
+    // Waiting is not an outcome yet: a slow or a silent device would fill the record with it.
+    if (m_log == nullptr || reading.outcome == ReadOutcome::Late || state.recorded == reading.outcome)
+        return;
+    state.recorded = reading.outcome;
+    const Parameter& row = m_file.parameters[parameter];
+    m_log->record("read", row.tag, recordText(row, state.last), recordText(row, reading.registers),
+                  withReason(kReadWords[static_cast<std::size_t>(reading.outcome)], reading.reason));
+}
+
+void Session::logWrite(const Change& change, const WriteResult& result, std::string_view outcome)
+{
+    if (m_log == nullptr)
+        return;
+    const Parameter& row = m_file.parameters[change.parameter];
+    m_log->record("write", row.tag, recordText(row, change.before, change.mask),
+                  recordText(row, change.target, change.mask), withReason(outcome, result.reason));
+}
+
+std::string_view nameOf(WriteOutcome outcome) noexcept { return kWriteWords[static_cast<std::size_t>(outcome)]; }
+
+bool Session::hasValues() const
+{
+    return std::ranges::any_of(m_states, [](const State& state) { return !state.last.empty(); });
+}
+
+std::string Session::report() const
+{
+    std::string lines;
+    for (std::size_t i = 0; i < m_states.size(); ++i) {
+        const Parameter& row = m_file.parameters[i];
+        MEAS_TYPE unit = row.appearance.unit;
+        forEach(i, [&](const Binding& binding) { unit = binding.shownUnit(); });
+        const ShownValue value = describeExactly(row, m_states[i].last, unit, m_language);
+        const std::string_view label = fc_GetUnitLabel(value.unit);
+        lines.append(row.tag).append("  ").append(value.text);
+        lines.append(label.empty() ? "" : " ").append(label).append("  ");
+        const bool read = m_states[i].readAt >= 0 || m_states[i].outcome == ReadOutcome::NoAnswer;
+        lines.append(read ? kReadWords[static_cast<std::size_t>(m_states[i].outcome)] : "not read").append("\n");
+    }
+    return lines;
+}
+
+} // namespace zor::monitor

@@ -1,0 +1,245 @@
+#include <zor/monitor/settings/comparison.h>
+#include <zor/monitor/settings/settings_commands.h>
+#include <zor/monitor/settings/survey.h>
+#include <zor/units/mod_Common.h>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QSaveFile>
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <numeric>
+#include <ostream>
+
+namespace zor::monitor {
+namespace {
+
+constexpr int kSilent = 3; ///< exit status of a comparison without a device
+constexpr const char* kLanguage = "en";
+
+/// A text of a device or a file must not steer a terminal.
+std::string printable(std::string_view text)
+{
+    std::string safe(text);
+    for (std::size_t i = 0; i < safe.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(safe[i]);
+        const bool second =
+            byte == 0xC2U && i + 1 < safe.size() && static_cast<unsigned char>(safe[i + 1]) < 0xA0U;
+        if (second)
+            safe.replace(i, 2, "?");
+        else if (byte < 0x20U || byte == 0x7FU)
+            safe[i] = '?';
+    }
+    return safe;
+}
+
+std::string withUnit(const std::string& text, MEAS_TYPE unit)
+{
+    const std::string_view label = fc_GetUnitLabel(unit);
+    if (text.empty())
+        return "-";
+    return printable(text) + (label.empty() || text == "?" ? "" : ' ' + std::string(label));
+}
+
+void warn(const Comparison& comparison, const SettingsFile& file, const Held& held, std::ostream& out)
+{
+    if (comparison.otherType)
+        out << "warning: saved from a device of type " << printable(file.deviceType) << ", compared with "
+            << printable(held.deviceType) << '\n';
+    if (comparison.otherVersion)
+        out << "warning: saved from version " << printable(file.deviceVersion) << ", compared with "
+            << printable(held.deviceVersion) << '\n';
+}
+
+void printCounts(const Comparison& comparison, std::ostream& out)
+{
+    const auto names = verdictNames();
+    for (std::size_t i = 0; i < names.size(); ++i)
+        out << (i == 0 ? "" : ", ") << comparison.count(static_cast<Verdict>(i)) << ' ' << names[i];
+    out << '\n';
+}
+
+std::string remark(const Compared& row)
+{
+    const std::string_view reason = reasonOf(row.problem);
+    const std::string name(verdictNames()[static_cast<std::size_t>(row.verdict)]);
+    return reason.empty() || row.verdict == Verdict::NotWritable ? name : name + ": " + std::string(reason);
+}
+
+void printText(const Comparison& comparison, std::ostream& out)
+{
+    for (const Compared& row : comparison.rows) {
+        if (row.verdict != Verdict::Same)
+            out << printable(row.tag) << "  " << withUnit(row.fileText, row.unit) << "  "
+                << withUnit(row.deviceText, row.unit) << "  " << remark(row) << '\n';
+    }
+    printCounts(comparison, out);
+}
+
+void printJson(const Comparison& comparison, std::ostream& out)
+{
+    nlohmann::ordered_json root;
+    root["same"] = comparison.isSame();
+    root["otherType"] = comparison.otherType;
+    root["otherVersion"] = comparison.otherVersion;
+    for (std::size_t i = 0; i < verdictNames().size(); ++i)
+        root["counts"][std::string(verdictNames()[i])] = comparison.count(static_cast<Verdict>(i));
+    root["differences"] = nlohmann::ordered_json::array();
+    for (const Compared& row : comparison.rows) {
+        if (row.verdict == Verdict::Same)
+            continue;
+        nlohmann::ordered_json& one = root["differences"].emplace_back();
+        one["tag"] = row.tag;
+        one["verdict"] = verdictNames()[static_cast<std::size_t>(row.verdict)];
+        one["file"] = row.fileText;
+        one["device"] = row.deviceText;
+        one["unit"] = fc_GetUnitLabel(row.unit);
+        one["reason"] = reasonOf(row.problem);
+    }
+    constexpr int kIndent = 2;
+    out << root.dump(kIndent, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
+}
+
+int tell(const Comparison& comparison, const SettingsFile& file, const Held& held, const SettingsTask& task,
+         std::ostream& out)
+{
+    if (task.json) {
+        printJson(comparison, out);
+    } else {
+        warn(comparison, file, held, out);
+        printText(comparison, out);
+    }
+    return comparison.isSame() ? 0 : 1;
+}
+
+/// Whether the device answered for each of the parameters.
+bool survey(Session& session, std::vector<std::size_t> parameters)
+{
+    Survey survey(session, std::move(parameters));
+    QEventLoop loop;
+    bool complete = false;
+    session.onRound = [&](bool answered) {
+        const Survey::State state = survey.hearRound(answered);
+        complete = state == Survey::State::Complete;
+        if (state != Survey::State::Going)
+            loop.quit();
+    };
+    loop.exec();
+    session.onRound = nullptr;
+    return complete;
+}
+
+/// The parameters that can be written, and those of a file.
+std::vector<std::size_t> concerned(const ParameterFile& parameters, const SettingsFile& file)
+{
+    std::vector<std::size_t> all;
+    for (std::size_t i = 0; i < parameters.parameters.size(); ++i) {
+        const Parameter& parameter = parameters.parameters[i];
+        if (parameter.writable ||
+            std::ranges::find(file.settings, parameter.tag, &Setting::tag) != file.settings.end())
+            all.push_back(i);
+    }
+    return all;
+}
+
+int noAnswer(Session& session, std::ostream& errors, int status)
+{
+    const std::string& reason = session.poller().failure().reason;
+    errors << "zor-monitor: the device did not answer" << (reason.empty() ? "" : ": ") << reason << '\n';
+    return status;
+}
+
+int save(Session& session, const SettingsTask& task, std::ostream& out, std::ostream& errors)
+{
+    // Nothing is seen of it before it is whole; what stood there stays until then.
+    QSaveFile target(QString::fromStdString(task.save));
+    if (!target.open(QIODevice::WriteOnly))
+        throw FileError(task.save, 0, target.errorString().toStdString());
+    if (!survey(session, concerned(session.file(), {})))
+        return noAnswer(session, errors, 1);
+    const SettingsFile file = settingsOf(session);
+    if (file.settings.empty()) {
+        errors << "zor-monitor: the device has none of the parameters that can be written\n";
+        return 1;
+    }
+    target.write(textOf(file));
+    if (!target.commit())
+        throw FileError(task.save, 0, target.errorString().toStdString());
+    out << file.settings.size() << " settings saved\n";
+    return 0;
+}
+
+void printReview(const std::vector<Change>& changes, std::ostream& out)
+{
+    for (const Change& change : changes) {
+        out << printable(change.tag) << "  " << withUnit(change.oldText, change.unit) << " -> "
+            << withUnit(change.newText, change.unit);
+        if (change.problem != Problem::None)
+            out << "  cannot be written: " << reasonOf(change.problem);
+        out << '\n';
+    }
+}
+
+void write(Session& session, const std::vector<Change>& changes, std::ostream& out)
+{
+    QEventLoop loop;
+    session.onWritten = [&](const std::vector<Written>& results) {
+        for (const Written& one : results)
+            out << printable(one.change.tag) << "  " << nameOf(one.result.outcome)
+                << (one.result.reason.empty() ? "" : ": ") << one.result.reason << '\n';
+        loop.quit();
+    };
+    // Where nothing can be written it ends at once, and the loop must not miss that.
+    QTimer::singleShot(0, &session, [&] { session.write(changes); });
+    loop.exec();
+    session.onWritten = nullptr;
+}
+
+int load(Session& session, const SettingsTask& task, const SettingsFile& file, std::ostream& out,
+         std::ostream& errors)
+{
+    const auto parameters = concerned(session.file(), file);
+    if (!survey(session, parameters))
+        return noAnswer(session, errors, 1);
+    const Held held = heldBy(session);
+    const Comparison before = compare(session.file(), file, held, kLanguage);
+    warn(before, file, held, errors);
+    const std::vector<Change> changes = changesOf(session.file(), before, kLanguage);
+    printReview(changes, out);
+    if (!task.yes) {
+        errors << "zor-monitor: nothing has been written; with --yes it is\n";
+        return 2;
+    }
+    write(session, changes, out);
+    // What was not confirmed may have been carried out all the same, and what was may have moved another value.
+    if (!survey(session, parameters))
+        return noAnswer(session, errors, 1);
+    const Comparison after = compare(session.file(), file, heldBy(session), kLanguage);
+    printText(after, out);
+    return after.count(Verdict::Same) + after.count(Verdict::MissingThere) == after.rows.size() ? 0 : 1;
+}
+
+} // namespace
+
+int compareFiles(const ParameterFile& parameters, const SettingsTask& task, std::ostream& out)
+{
+    const SettingsFile file = loadSettingsFile(task.compare);
+    const Held other = heldBy(parameters, loadSettingsFile(task.against));
+    return tell(compare(parameters, file, other, kLanguage), file, other, task, out);
+}
+
+int runSettings(Session& session, const SettingsTask& task, std::ostream& out, std::ostream& errors)
+{
+    if (!task.save.empty())
+        return save(session, task, out, errors);
+    const SettingsFile file = loadSettingsFile(task.load.empty() ? task.compare : task.load);
+    if (!task.load.empty())
+        return load(session, task, file, out, errors);
+    if (!survey(session, concerned(session.file(), file)))
+        return noAnswer(session, errors, kSilent);
+    const Held held = heldBy(session);
+    return tell(compare(session.file(), file, held, kLanguage), file, held, task, out);
+}
+
+} // namespace zor::monitor
