@@ -131,6 +131,7 @@ void Control::assign(const PropertyRow& row, const Variant& value)
         carryOut([&] { row.put(*this, value); });
         return;
     }
+    assert(row.field.at != nullptr); // what has neither is read-only, and refused above
     std::visit(
         [&](auto* field) { write(row, *field, detail::convertTo<std::remove_pointer_t<decltype(field)>>(value)); },
         row.field.at(*this));

@@ -384,12 +384,12 @@ void Control::write(const PropertyRow& row, T& field, std::type_identity_t<T>&& 
     if constexpr (std::is_same_v<T, double> || std::is_same_v<T, Variant>)
         requireFinite(value);
     carryOut([&] {
-        std::swap(field, value);
+        T before = std::exchange(field, std::move(value));
         try {
             stored(row);
         } catch (...) {
             if (!m_info.keepsFailedWrites)
-                std::swap(field, value);
+                field = std::move(before);
             m_isDefaultShown = false;
             throw;
         }

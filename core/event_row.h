@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -79,6 +80,7 @@ public:
     /// The event that a report of a widget is re-raised as; nullptr for none.
     [[nodiscard]] const EventRow* of(int widget, platform::Notice notice) const noexcept
     {
+        assert(static_cast<std::size_t>(notice) < kNotices); // the last one is named below
         if (static_cast<std::size_t>(widget) >= kMostWidgets)
             return nullptr;
         const std::uint8_t number = m_numbers[static_cast<std::size_t>(widget)][static_cast<std::size_t>(notice)];

@@ -5,6 +5,7 @@
 #include <zor/core/property_row.h>
 
 #include <array>
+#include <cassert>
 #include <cstddef>
 #include <span>
 #include <string>
@@ -89,6 +90,7 @@ template <auto Function, class Traits, std::size_t... I>
 MethodResult callMethod(Control& control, [[maybe_unused]] std::span<const Variant> values,
                         std::index_sequence<I...>)
 {
+    assert(values.size() == sizeof...(I)); // Control::call refuses any other number
     auto& object = static_cast<typename Traits::Class&>(control);
     [[maybe_unused]] const std::tuple<Held<std::tuple_element_t<I, typename Traits::Arguments>>...> held{
         convertTo<Held<std::tuple_element_t<I, typename Traits::Arguments>>>(values[I])...};

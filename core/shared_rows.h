@@ -88,6 +88,22 @@ struct SharedRows {
             .stored(false)
             .refreshing({Refresh::Status})
             .live();
+    /// The value that another user wrote, for the text that tells of it: the host's, never the control's.
+    template <auto Field>
+    static constexpr auto OtherUserValue =
+        fieldRow<Field>("OtherUserValue", Topic::Value)
+            .saying("What another user wrote, shown first in the text of DataChanged, in OutputUnit where there "
+                    "are units. The host's own; the control never sets it.")
+            .with(Access::Silent)
+            .refreshing({Refresh::Status});
+    /// The flag at the end of a path of member pointers.
+    template <auto... Path>
+    static constexpr auto InvalidValue =
+        fieldRow<Path...>("InvalidValue", Topic::State)
+            .saying("The last value from the device, or from the host, lies outside what the control can show as "
+                    "valid. The control's own.")
+            .stored(false)
+            .with(Access::Derived);
     // The flag follows every keystroke; the container is not told.
     static constexpr auto DataModified =
         fieldRow<&Control::m_status, &Status::dataModified>("DataModified", Topic::State)

@@ -42,7 +42,7 @@ struct CaptionChoiceRows {
     using R = ChoiceRows;
 
     static constexpr auto kStored = joined(R::kFirst, R::kState, R::kSettings);
-    static constexpr auto kNotStored = joined(R::kNotStored, core::rows(&R::template OtherUserValue<Other>));
+    static constexpr auto kNotStored = joined(R::kNotStored, core::rows(&S::OtherUserValue<Other>));
 
     static constexpr std::array kMessages{
         core::MessageRow{"MSG_CFAIL", &S::MsgCfail},

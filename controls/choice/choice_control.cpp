@@ -1,6 +1,8 @@
 #include <zor/controls/choice/choice_control.h>
 #include <zor/controls/choice/choice_rows.h>
 
+#include <cassert>
+
 namespace zor::controls {
 
 using platform::Notice;
@@ -18,6 +20,7 @@ void ChoiceControl::adopt(platform::FontWidget& face)
     m_icon = surface().createImage(kState);
     m_icon->setGeometry({0, kIconTop, kIconSize, kIconSize});
     m_icon->setVisible(false);
+    assert(m_face == nullptr); // once, at the end of the class's constructor
     m_face = &face;
     m_body = {&face};
     s_Layout();

@@ -34,15 +34,6 @@ struct ChoiceRows {
         core::computedRow<[](C& control) { return control.ModifiedValue(); }>("ModifiedValue", core::Topic::Value)
             .saying("Reading gives OutputValue. Writing makes the host's choice for the operator.")
             .written<[](C& control, std::int32_t value) { control.ModifiedValue(value); }>();
-    /// The value that another user wrote, for the text that tells of it: the host's, never the control's.
-    template <auto Field>
-    static constexpr auto OtherUserValue =
-        core::fieldRow<Field>("OtherUserValue", core::Topic::Value)
-            .saying("What another user wrote, shown first in the text of DataChanged, in OutputUnit where there "
-                    "are units. The host's own; the control never sets it.")
-            .with(core::Access::Silent)
-            .refreshing({core::Refresh::Status});
-
     // --- The order in which properties are stored, and in which a new control sets them
     static constexpr auto kFirst = core::rows(&S::CFail);
     static constexpr auto kState =

@@ -34,12 +34,7 @@ struct EntryChoiceRows {
     using R = ChoiceRows;
     using Class = typename core::detail::Member<decltype(Mark)>::Class;
 
-    static constexpr auto InvalidValue =
-        core::fieldRow<Mark, &InvalidMark::isSet>("InvalidValue", core::Topic::State)
-            .saying("The last value from the device, or from the host, lies outside what the control can show as "
-                    "valid. The control's own.")
-            .stored(false)
-            .with(core::Access::Derived);
+    static constexpr auto InvalidValue = S::InvalidValue<Mark, &InvalidMark::isSet>;
     // A new control starts with another text than a form means that says nothing.
     static constexpr auto MsgInvalidValue =
         core::fieldRow<Mark, &InvalidMark::message>("MsgInvalidValue", core::Topic::Messages)
@@ -50,7 +45,7 @@ struct EntryChoiceRows {
 
     static constexpr auto kStored =
         joined(R::kFirst, core::rows(&InvalidValue), R::kState, core::rows(&MsgInvalidValue), R::kSettings);
-    static constexpr auto kNotStored = joined(R::kNotStored, core::rows(&R::template OtherUserValue<Other>));
+    static constexpr auto kNotStored = joined(R::kNotStored, core::rows(&S::OtherUserValue<Other>));
 
     static constexpr std::array kMessages{
         core::MessageRow{"MSG_CFAIL", &S::MsgCfail},

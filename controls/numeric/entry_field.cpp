@@ -74,28 +74,25 @@ void EntryField::selectAll() { m_text->select(0, platform::characterCount(m_text
 
 // --- Looks
 
-void EntryField::paint(const core::Status& status, bool isReadOnly, std::optional<Colour> normal, bool isBold)
+void EntryField::paint(const Looks& looks)
 {
-    const bool modified = status.dataModified;
-    const Looks looks{modified, status.cFail, isReadOnly, isBold, normal};
-    if (m_painted == looks)
-        return;
-    if (status.cFail) {
+    const auto& [isModified, isFailed, isReadOnly, isBold, normal] = looks;
+    if (isFailed) {
         m_text->setForeColour(kRed);
         m_text->setBold(true);
-        m_text->setBackColour(isReadOnly ? normal.value_or(ButtonFace)
-                              : modified ? kYellow
-                                         : normal.value_or(WindowBackground));
+        m_text->setBackColour(isReadOnly   ? normal.value_or(ButtonFace)
+                              : isModified ? kYellow
+                                           : normal.value_or(WindowBackground));
     } else {
         // Who gave a read-only field a colour of its own may have given it another since.
         if (!isReadOnly)
-            m_text->setBackColour(modified ? kYellow : normal.value_or(WindowBackground));
+            m_text->setBackColour(isModified ? kYellow : normal.value_or(WindowBackground));
         else if (!normal)
             m_text->setBackColour(ButtonFace);
         m_text->setForeColour(ButtonText);
-        m_text->setBold(modified || isBold);
+        m_text->setBold(isModified || isBold);
     }
-    m_text->setLocked(status.cFail || isReadOnly);
+    m_text->setLocked(isFailed || isReadOnly);
     m_painted = looks;
 }
 

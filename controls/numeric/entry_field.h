@@ -40,7 +40,12 @@ public:
     /// yellow of a modification; `isBold` keeps a text bold that nobody has modified.
     /// Called wherever one of these may have changed, often several times for one value: what has not is not
     /// painted anew.
-    void paint(const core::Status& status, bool isReadOnly, std::optional<Colour> normal, bool isBold);
+    void paint(const core::Status& status, bool isReadOnly, std::optional<Colour> normal, bool isBold)
+    {
+        const Looks looks{status.dataModified, status.cFail, isReadOnly, isBold, normal};
+        if (m_painted != looks)
+            paint(looks);
+    }
     /// The text, for looks of the caller's own, which the next painting may overrule.
     [[nodiscard]] platform::TextField& textToStyle() noexcept
     {
@@ -61,8 +66,6 @@ public:
     std::int16_t widthDifference = 1305;
 
 private:
-    void selectAll();
-
     /// What the text's looks follow from.
     struct Looks {
         bool isModified;
@@ -72,6 +75,9 @@ private:
         std::optional<Colour> normal;
         bool operator==(const Looks&) const = default;
     };
+
+    void selectAll();
+    void paint(const Looks& looks);
 
     std::unique_ptr<platform::TextField> m_text;
     std::unique_ptr<platform::Label> m_units;

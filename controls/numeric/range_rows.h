@@ -18,27 +18,16 @@ inline constexpr std::string_view kOutOfRange =
 struct RangeRows : UnitRows {
     using S = core::SharedRows;
 
-    static constexpr auto InvalidValue =
-        core::fieldRow<&RangeControl::m_invalidValue>("InvalidValue", core::Topic::State)
-            .saying("The last value from the device, or from the host, lies outside what the control can show as "
-                    "valid. The control's own.")
-            .stored(false)
-            .with(core::Access::Derived);
+    static constexpr auto InvalidValue = S::InvalidValue<&RangeControl::m_invalidValue>;
     static constexpr auto MsgInvalidValue =
         core::fieldRow<&RangeControl::m_msgInvalidValue>("MsgInvalidValue", core::Topic::Messages)
             .saying("A text for a host's own use: up-down and slider show an invalid value as it is and explain "
                     "nothing.")
             .stored("Invalid Entry")
             .refreshing({core::Refresh::Status});
-    /// The value that another user wrote, for the text that tells of it: the host's, never the control's.
+    /// It follows OutputUnit.
     template <auto Field>
-    static constexpr auto OtherUser =
-        core::fieldRow<Field>("OtherUserValue", core::Topic::Value)
-            .saying("What another user wrote, shown first in the text of DataChanged, in OutputUnit where there "
-                    "are units. The host's own; the control never sets it.")
-            .with(core::Access::Silent)
-            .refreshing({core::Refresh::Status})
-            .live();
+    static constexpr auto OtherUser = S::OtherUserValue<Field>.live();
 
     static constexpr std::array kMessages{
         core::MessageRow{"MSG_CFAIL", &S::MsgCfail},

@@ -60,7 +60,6 @@ public:
     void setBackColour(Colour colour) override { m_backColour = colour; }
     [[nodiscard]] std::string toolTip() const override { return m_toolTip; }
     void setToolTip(std::string_view text) override { m_toolTip = text; }
-    // No screen reader listens without a screen.
 
     [[nodiscard]] Host& host() const noexcept override { return m_host; }
     [[nodiscard]] int number() const noexcept override { return m_number; }

@@ -26,7 +26,7 @@ struct ctx_ZorCheckBox::Rows
         core::computedRow<[](This& box) { return box.CheckBoxValue(); }>("CheckBoxValue", core::Topic::Appearance)
             .saying("Whether the box is ticked.")
             .with(core::Access::Derived);
-    static constexpr auto OtherUser = R::OtherUserValue<&This::m_otherUser>;
+    static constexpr auto OtherUser = S::OtherUserValue<&This::m_otherUser>;
 };
 
 } // namespace zor

@@ -13,7 +13,7 @@ struct ctx_ZorComboBox::Rows
         core::computedRow<[](ctx_ZorComboBox& box) { return box.SelectedText(); }>("SelectedText",
                                                                                    core::Topic::Value)
             .saying("The text of the chosen entry.");
-    static constexpr auto OtherUser = R::OtherUserValue<&ctx_ZorComboBox::m_otherUser>;
+    static constexpr auto OtherUser = S::OtherUserValue<&ctx_ZorComboBox::m_otherUser>;
 };
 
 } // namespace zor

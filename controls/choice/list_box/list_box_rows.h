@@ -11,7 +11,7 @@ struct ctx_ZorListBox::Rows : controls::EntryChoiceRows<&ctx_ZorListBox::m_inval
     static constexpr auto SelCount =
         core::computedRow<[](ctx_ZorListBox& box) { return box.SelCount(); }>("SelCount", core::Topic::Appearance)
             .saying("Number of marked entries.");
-    static constexpr auto OtherUser = R::OtherUserValue<&ctx_ZorListBox::m_otherUser>;
+    static constexpr auto OtherUser = S::OtherUserValue<&ctx_ZorListBox::m_otherUser>;
 };
 
 } // namespace zor

@@ -31,7 +31,7 @@ struct ctx_ZorOptionButton::Rows
                                                                                    core::Topic::Appearance)
             .saying("Whether the button is on.")
             .written<[](This& button, bool value) { button.OptionButtonValue(value); }>();
-    static constexpr auto OtherUser = R::OtherUserValue<&This::m_otherUser>;
+    static constexpr auto OtherUser = S::OtherUserValue<&This::m_otherUser>;
 };
 
 } // namespace zor
