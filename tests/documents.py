@@ -118,8 +118,8 @@ def project(line, content):
     """What builds the project itself cannot run inside its test: scripts, options and targets must exist."""
     known = "".join(p.read_text() for p in [*TOP.glob("**/CMakeLists.txt"), *TOP.glob("cmake/*")])
     for offset, command in enumerate(content, 1):
-        for name in re.findall(r"ZOR_\w+|ZorSmartControls::(\w+)", command):
-            if name not in known:
+        for name in re.findall(r"ZOR_\w+|(?<=ZorSmartControls::)\w+", command):
+            if not re.search(rf"\b{name}\b", known):
                 fail(line + offset, f"the build does not know {name}")
         script = re.search(r"scripts/[\w-]+", command)
         for option in re.findall(r"--[a-z][\w-]*", command) if script else []:
