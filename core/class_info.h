@@ -26,6 +26,7 @@ class Control;
 
 /// Destroys a control, or, inside one of its own events, lets it end when the event has returned.
 struct ControlDeleter {
+    /// Destroys the control, now or when its event has ended.
     void operator()(Control* control) const noexcept;
 };
 
@@ -35,12 +36,15 @@ using ControlPtr = std::unique_ptr<T, ControlDeleter>;
 
 /// A numbered message: hosts look its text up by the identifier and replace it by the number.
 struct MessageRow {
+    /// For an identifier and the property that holds the text.
     template <class C>
     constexpr MessageRow(std::string_view id, const Row<C, std::string>* text) noexcept
         : identifier(id), property(text)
     {}
 
+    /// Under which a host looks the text up.
     std::string_view identifier;
+    /// Holds the text.
     const PropertyRow* property;
 };
 
@@ -74,8 +78,11 @@ struct EffectRow {
     Refreshes refreshes;
 };
 
+/// A widget of a class.
 struct WidgetRow {
+    /// Its number, for Control::widget().
     int widget;
+    /// Its published name.
     std::string_view name;
     std::string_view meaning; ///< what it is to the operator
 };
@@ -88,7 +95,9 @@ inline constexpr WidgetRow kSurfaceRow{platform::kSurfaceWidget, "Surface", "The
     return {widget, "img_State", "The state icon; a click explains the state."};
 }
 
+/// A class of controls.
 struct ClassInfo {
+    /// Its published name.
     std::string_view name;
     /// In the order in which they are stored, the properties that are not stored last.
     std::span<const PropertyRow* const> properties;
@@ -100,11 +109,17 @@ struct ClassInfo {
     std::span<const MessageRow> messages;
     /// Answered for a number without a message.
     std::string_view otherMessage = "ERROR_RETURNED";
+    /// By number.
     EventTable events;
+    /// Those that the control raises by itself.
     RaisedEvents raised{};
+    /// By the published order.
     std::span<const MethodRow> methods;
+    /// In the order of precedence.
     std::span<const StatusRow> states;
+    /// Where a write refreshes something else than the row says.
     std::span<const EffectRow> effects{};
+    /// What it is composed of.
     std::span<const WidgetRow> widgets;
     /// What a control that is nothing but its picture stands for: its tooltip in every state, and its name for a
     /// screen reader. nullptr: the tooltip is the state in words, and the name is DeviceTag.
@@ -113,10 +128,14 @@ struct ClassInfo {
     bool keepsFailedWrites = false;
     /// Title of the message boxes; nullptr for MessageHeader alone.
     std::string (*boxTitle)(const Control&) = nullptr;
+    /// Makes one, not yet initialised.
     ControlPtr<> (*create)(platform::Container&);
 
+    /// By name; nullptr for another name.
     [[nodiscard]] const PropertyRow* property(std::string_view property) const noexcept;
+    /// By name; nullptr for another name.
     [[nodiscard]] const MethodRow* method(std::string_view method) const noexcept;
+    /// By name; nullptr for another name.
     [[nodiscard]] const EventRow* event(std::string_view event) const noexcept;
 };
 
@@ -161,11 +180,13 @@ public:
             raiseError(ErrorNumber::InvalidCall);
         m_rows.push_back(&info);
     }
+    /// By name; nullptr for another name.
     [[nodiscard]] const Info* find(std::string_view name) const noexcept
     {
         const auto at = std::ranges::find(m_rows, name, &Info::name);
         return at == m_rows.end() ? nullptr : *at;
     }
+    /// All, in the order in which they were added.
     [[nodiscard]] std::span<const Info* const> rows() const noexcept { return m_rows; }
 
 private:
@@ -175,6 +196,7 @@ private:
 /// The classes of controls that a program offers.
 class ClassRegistry : public Registry<ClassInfo> {
 public:
+    /// All classes, in the order in which they were added.
     [[nodiscard]] std::span<const ClassInfo* const> classes() const noexcept { return rows(); }
 };
 

@@ -73,18 +73,22 @@ public:
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
 
+    /// The tables of its class.
     [[nodiscard]] const ClassInfo& info() const noexcept { return m_info; }
 
     /// @name By name
     /// A name that the class does not have raises NoSuchMember. An error begins with class and member:
     /// `ctx_ZorTextBox.NumberOfDigits: type mismatch ("abc")`.
     /// @{
+    /// Reads a property.
     [[nodiscard]] Variant property(std::string_view name) const;
+    /// Writes a property; what the row says of the write holds.
     void setProperty(std::string_view name, const Variant& value);
     /// Another number of arguments than the method has raises WrongArguments.
     MethodResult call(std::string_view method, std::span<const Variant> arguments);
     /// By a row of the class's table; one of another class raises NoSuchMember.
     [[nodiscard]] Variant get(const PropertyRow& row) const;
+    /// Writes by a row.
     void put(const PropertyRow& row, const Variant& value);
     /// @}
 
@@ -159,25 +163,33 @@ public:
     /// @name Listening by name
     /// A listener must be taken away before it ends.
     /// @{
+    /// Hears every event, by its row.
     void subscribe(EventSink& sink) { m_sinks.add({&sink, nullptr}); }
     void unsubscribe(EventSink& sink) noexcept { m_sinks.remove({&sink, nullptr}); }
     /// @}
 
     /// @name The container's side
     /// @{
+    /// The area that its widgets stand on.
     [[nodiscard]] platform::Surface& surface() noexcept { return *m_surface; }
+    /// The area that its widgets stand on.
     [[nodiscard]] const platform::Surface& surface() const noexcept { return *m_surface; }
     /// A constituent widget by the number in the class's table; nullptr for another number.
     [[nodiscard]] virtual platform::Widget* widget(int number) noexcept;
     /// The menu behind the right mouse button, if the class has one.
     [[nodiscard]] virtual platform::PopupMenu* menu() { return nullptr; }
+    /// Gives a new control its initial values.
     void initialiseProperties() final;
+    /// Takes the stored properties.
     void readProperties(const platform::PropertyBag& bag) final;
+    /// Stores the properties.
     void writeProperties(platform::PropertyBag& bag) final;
     void resized() final;
+    /// A widget reports.
     void notice(int widget, platform::Notice notice, platform::EventArgs args) final;
     [[nodiscard]] platform::Spoken spoken(int widget) final;
     void hold() noexcept final { ++m_holds; }
+    /// Ends a hold; an owner may have destroyed the control meanwhile, which then ends here.
     void release() noexcept final
     {
         assert(m_holds > 0); // each release has its hold

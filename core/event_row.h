@@ -26,21 +26,29 @@ class Control;
 /// to call the member of the control's sink interface. Its position in the class's table, counted from 1,
 /// is its published number, which no code needs: what a control raises is found by name (see `named`).
 struct EventRow {
+    /// Most arguments an event has.
     static constexpr std::size_t kMaxArguments = 7;
 
+    /// Published name.
     std::string_view name;
+    /// Number of the widget whose report it re-raises; -1 for none.
     int widget = -1;
+    /// The report that it re-raises.
     platform::Notice notice = platform::Notice::None;
+    /// Names of its arguments.
     std::array<std::string_view, kMaxArguments> arguments{};
     /// Their types; the position of a type is that of its pointer in platform::ArgRef.
     std::array<std::uint8_t, kMaxArguments> types{};
+    /// Number of its arguments.
     std::size_t argumentCount = 0;
     /// Whether it ever comes: not, where the interface only declares it or no platform reports what it re-raises.
     bool isRaised = true;
+    /// Calls the member of a sink interface.
     void (*call)(void* sink, platform::EventArgs args) = nullptr;
     /// When it is raised, for people; empty where the report that it re-raises says it all (`meaningOf`).
     std::string_view meaning{};
 
+    /// The row with its meaning.
     [[nodiscard]] constexpr EventRow saying(std::string_view words) const
     {
         EventRow row = *this;
@@ -60,6 +68,7 @@ struct EventRow {
 /// The events of a class in the order of their numbers, and which of them re-raises which report.
 class EventTable {
 public:
+    /// From the rows in the order of their numbers.
     template <std::size_t N>
     consteval EventTable(const std::array<EventRow, N>& rows) : m_rows(rows)
     {
@@ -87,9 +96,13 @@ public:
         return number == kNone ? nullptr : &m_rows[number];
     }
 
+    /// Number of events.
     [[nodiscard]] constexpr std::size_t size() const noexcept { return m_rows.size(); }
+    /// Event number `index` + 1.
     [[nodiscard]] constexpr const EventRow& operator[](std::size_t index) const noexcept { return m_rows[index]; }
+    /// The first event.
     [[nodiscard]] constexpr auto begin() const noexcept { return m_rows.begin(); }
+    /// Behind the last event.
     [[nodiscard]] constexpr auto end() const noexcept { return m_rows.end(); }
 
 private:
@@ -104,6 +117,7 @@ private:
 /// Hears every event of a control by name: for the console, scripting hosts and adaptors.
 class EventSink {
 public:
+    /// An event of the control. Arguments are by reference.
     virtual void event(Control& control, const EventRow& row, platform::EventArgs args) = 0;
     /// The control has been destroyed by its owner; it is not to be used any more. A listener that outlives the
     /// controls it listens to takes itself away here.

@@ -21,18 +21,28 @@ namespace zor::core {
 /// What a method answers: nothing, a value, or an array.
 using MethodResult = std::variant<std::monostate, Variant, std::vector<Variant>>;
 
+/// A method as data.
 struct MethodRow {
+    /// Most arguments a method has.
     static constexpr std::size_t kMaxArguments = 3;
 
+    /// One argument.
     struct Argument {
+        /// As published.
         std::string_view name;
+        /// What may be passed.
         ValueKind kind = ValueKind::Any;
     };
+    /// What comes back.
     enum class Answers : std::uint8_t { Nothing, Value, Array };
 
+    /// Published name.
     std::string_view name;
+    /// From left to right.
     std::array<Argument, kMaxArguments> arguments{};
+    /// How many of them count.
     std::size_t argumentCount = 0;
+    /// Nothing, a value or an array.
     Answers answers = Answers::Nothing;
     ValueKind result = ValueKind::Any; ///< kind of the value, or of the array's elements
     /// The arguments must be as many as the method takes. TypeMismatch and Overflow for values that do not fit.
@@ -40,6 +50,7 @@ struct MethodRow {
     /// What it does, for people.
     std::string_view meaning{};
 
+    /// The row with its meaning.
     [[nodiscard]] constexpr MethodRow saying(std::string_view words) const
     {
         MethodRow row = *this;

@@ -47,6 +47,7 @@ enum class ValueKind : std::uint8_t {
 /// A constant in a table.
 using Literal = std::variant<std::monostate, bool, std::int32_t, double, std::string_view>;
 
+/// The constant as a value.
 [[nodiscard]] Variant toVariant(const Literal& literal);
 
 /// Where a control keeps a property.
@@ -105,8 +106,11 @@ enum class Placing : std::uint8_t {
 
 /// One property, for those who read all rows alike. Rows are built as Row<Class, Type>.
 struct PropertyRow {
+    /// Published name.
     std::string_view name;
+    /// Its heading.
     Topic topic = Topic::Appearance;
+    /// Where it is kept.
     FieldSpec field{};
     /// What it means, for people: unit, range, and what a host does with it.
     std::string_view meaning{};
@@ -116,20 +120,26 @@ struct PropertyRow {
     Literal bagDefault{};
     /// Stored whatever its value; bagDefault is what a bag without the key means.
     bool isAlwaysStored = false;
+    /// Value of a new instance, where it is not the default.
     Literal initial{};
+    /// How it answers a write.
     Access access = Access::ReadWrite;
+    /// The bag gets the field, not what the accessor answers.
     bool storesField = false;
+    /// When a form sets it.
     Placing placing = Placing::ByKind;
     /// A text that names something to the device or the program, not to people: no translator sees it.
     bool isIdentifier = false;
     /// Can change without being written itself. A derived value always can.
     bool isLive = false;
+    /// What a write refreshes.
     Refreshes refreshes{};
     /// Runs after the refreshes.
     void (*after)(Control&) = nullptr;
     /// For a property that is not simply a field, or whose write is not a plain write. A row with neither a
     /// field nor the function has no such accessor.
     Variant (*get)(Control&) = nullptr;
+    /// Writes it.
     void (*put)(Control&, const Variant&) = nullptr;
 };
 

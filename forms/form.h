@@ -19,14 +19,18 @@
 
 namespace zor::forms {
 
+/// A form file: its controls, and all else as it stands.
 class Form {
 public:
     /// A control on the form.
     struct Item {
+        /// Its class.
         const core::ClassInfo* info = nullptr;
+        /// Its object name.
         std::string name;
         /// Where the form puts it, in twips of its parent; nothing where a layout does.
         std::optional<platform::Rect> place;
+        /// Where it begins in the file.
         std::size_t line = 0;
         /// A control on the form was filled from it, or stored under its name.
         bool isTaken = false;
@@ -36,8 +40,11 @@ public:
     explicit Form(const core::ClassRegistry& registry);
     /// Reads a file or a text. Raises FormError, with file and line, for what is no form.
     [[nodiscard]] static Form read(const core::ClassRegistry& registry, const std::filesystem::path& file);
+    /// As read(), from a text; the name stands in errors and notes.
     [[nodiscard]] static Form parse(const core::ClassRegistry& registry, std::string_view text, std::string name);
+    /// The other may be assigned to and destroyed afterwards, and nothing else.
     Form(Form&&) noexcept;
+    /// The other may be assigned to and destroyed afterwards, and nothing else.
     Form& operator=(Form&&) noexcept;
     ~Form();
 
@@ -48,6 +55,7 @@ public:
     void fill(std::size_t item, core::Control& control);
     /// What could not be taken over so far, a line each, beginning with file and line.
     [[nodiscard]] std::span<const std::string> notes() const noexcept;
+    /// Adds a note.
     void note(std::size_t line, std::string_view text);
 
     /// Takes a control's stored properties and place into the form, under a name that is new or an item's. Only
@@ -57,6 +65,7 @@ public:
     /// Takes the items out for which `keep` says no.
     void keepOnly(const std::function<bool(const Item&)>& keep);
 
+    /// The file as it would be written.
     [[nodiscard]] std::string text() const;
     /// Writes the file, whole or not at all. Raises FormError.
     void write(const std::filesystem::path& file) const;

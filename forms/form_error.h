@@ -20,6 +20,7 @@ namespace zor::forms {
 /// A form file that cannot be read or written at all. The text names file and line.
 class FormError : public std::runtime_error {
 public:
+    /// For a file, a line (0: none) and what is wrong.
     FormError(std::string_view file, std::size_t line, std::string_view text)
         : std::runtime_error(located(file, line, text))
     {}

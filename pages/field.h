@@ -30,16 +30,23 @@ enum class FieldKind : std::uint8_t {
     return "?";
 }
 
+/// A field of a page.
 struct Field {
+    /// Its name on the page.
     std::string_view widget;
+    /// What it is made of.
     FieldKind kind;
+    /// What stands beside it, or on it.
     std::string_view caption;
+    /// What it shows and writes.
     std::string_view property;
     /// Of a list.
     std::span<const std::string_view> items{};
     /// Of a number: the name of the spin buttons, and their ends.
     std::string_view spinButton{};
+    /// Lowest number.
     std::int32_t minimum = 0;
+    /// Highest number.
     std::int32_t maximum = 0;
     /// What Apply does instead of writing the property.
     void (*write)(Page&) = nullptr;

@@ -26,6 +26,7 @@ public:
     Page(const Page&) = delete;
     Page& operator=(const Page&) = delete;
 
+    /// The class of the page.
     [[nodiscard]] const PageInfo& info() const noexcept { return m_info; }
     [[nodiscard]] std::string_view caption() const noexcept override { return m_info.caption; }
     [[nodiscard]] platform::Surface& surface() noexcept override { return *m_surface; }
@@ -38,6 +39,7 @@ public:
     [[nodiscard]] core::Control* control() const noexcept { return m_control; }
     /// Raises ObjectRequired when nothing is selected.
     void apply() override;
+    /// Whether the page shows something that has not been applied.
     [[nodiscard]] bool isChanged() const noexcept { return m_frame.isChanged(); }
 
     /// Takes the place of setProperty(), for a form designer that records what is written.
@@ -47,6 +49,7 @@ public:
 
     /// A widget of the page by its name, nullptr for another name. Captions are named as their fields, with lbl_.
     [[nodiscard]] platform::Widget* widget(std::string_view name) noexcept;
+    /// The names of its widgets, captions included.
     [[nodiscard]] std::vector<std::string> widgetNames() const;
 
     /// @name For the fields' own rules
@@ -54,16 +57,22 @@ public:
     /// @{
     /// Writes a property of the selected control.
     void write(std::string_view property, const Variant& value);
+    /// Whether a check box is ticked.
     [[nodiscard]] bool isTicked(const Field& check) const noexcept;
+    /// The chosen position of a list, -1 for none.
     [[nodiscard]] std::int32_t position(const Field& list) const noexcept;
+    /// Chooses a position of a list.
     void choose(const Field& list, std::int32_t position);
     /// @}
 
+    /// A widget of the page reports.
     void notice(int widget, platform::Notice notice, platform::EventArgs args) override;
     [[nodiscard]] platform::Spoken spoken(int widget) override;
     // No report of a page's widget reaches anybody who could end the page.
     void hold() noexcept override {}
+    /// Nothing to hold.
     void release() noexcept override {}
+    /// The selected control's events do not concern the page.
     void event(core::Control& /*control*/, const core::EventRow& /*row*/, platform::EventArgs /*args*/) override {}
     void ended(core::Control& control) noexcept override;
 

@@ -10,8 +10,11 @@
 
 namespace zor::pages {
 
+/// A class of pages.
 struct PageInfo {
+    /// Its published name.
     std::string_view name;
+    /// What a frame calls it.
     std::string_view caption;
     /// From top to bottom.
     std::span<const Field* const> fields;
@@ -19,6 +22,7 @@ struct PageInfo {
     std::span<const std::string_view> controls;
 };
 
+/// The pages that a program offers.
 class PageRegistry : public core::Registry<PageInfo> {
 public:
     /// The page for a class of controls; nullptr for a class without one.

@@ -15,10 +15,14 @@ using Colour = std::uint32_t;
     return (red & 0xFFU) << 16U | (green & 0xFFU) << 8U | (blue & 0xFFU);
 }
 
+/// Marks a system colour.
 inline constexpr Colour kSystemColourBit = 0x80000000U;
 
+/// Back of text fields and lists.
 inline constexpr Colour WindowBackground = kSystemColourBit | 0x05U;
+/// Back of forms and buttons.
 inline constexpr Colour ButtonFace = kSystemColourBit | 0x0FU;
+/// Text on them.
 inline constexpr Colour ButtonText = kSystemColourBit | 0x12U;
 
 inline constexpr Colour kRed = rgb(255, 0, 0);      ///< text of a control without communication

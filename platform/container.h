@@ -14,8 +14,11 @@ namespace zor::platform {
 /// What the container tells a control. Either initialise or readProperties comes once, after creation.
 class Component {
 public:
+    /// Gives a new control its initial values.
     virtual void initialiseProperties() = 0;
+    /// Takes the stored properties; what the bag does not have gets its default.
     virtual void readProperties(const PropertyBag& bag) = 0;
+    /// Stores the properties.
     virtual void writeProperties(PropertyBag& bag) = 0;
     /// The container has given the surface a new size.
     virtual void resized() = 0;
@@ -24,15 +27,20 @@ protected:
     ~Component() = default;
 };
 
+/// The picture of a message box.
 enum class BoxIcon : std::uint8_t { Critical, Information, Exclamation };
 
 /// A message box with one OK button. The texts are data from outside and shown as plain text.
 struct MessageBox {
+    /// How serious it is.
     BoxIcon icon = BoxIcon::Information;
+    /// Title of the box.
     std::string_view title;
+    /// The message, of several lines if need be.
     std::string_view text;
 };
 
+/// A form, as its controls see it. A platform implements it.
 class Container {
 public:
     /// True while the host runs, false while a form is being designed.
@@ -41,6 +49,7 @@ public:
     virtual void propertyChanged(Component& component, std::string_view name) = 0;
     /// What a write, a call or an action of the operator has set going is done, down to the last handler.
     virtual void settled(Component& /*component*/) noexcept {}
+    /// Shows a message box; returns when it is closed.
     virtual void showMessage(Component& component, const MessageBox& box) = 0;
     /// Creates the surface of a control in the given size (twips). It does not outlive the container.
     [[nodiscard]] virtual std::unique_ptr<Surface> createSurface(WidgetListener& listener, Twips width,

@@ -33,6 +33,7 @@ public:
     /// `what` names what is missing or wrong, where that is known: "object required: level2".
     explicit RunTimeError(ErrorNumber number, std::string_view what = {});
 
+    /// What went wrong.
     [[nodiscard]] ErrorNumber number() const noexcept { return m_number; }
     /// Whether the text begins with the member that the error is about.
     [[nodiscard]] bool namesMember() const noexcept { return m_reasonAt > 0; }
@@ -50,6 +51,7 @@ private:
     std::size_t m_reasonAt = 0;
 };
 
+/// Throws a RunTimeError.
 [[noreturn]] void raiseError(ErrorNumber number, std::string_view what = {});
 
 /// Runs an action on what goes by a name; an error that names nothing yet names it.

@@ -17,6 +17,7 @@ namespace zor::platform {
 /// One argument of an event, by reference: what a handler changes, the widget (or the control) receives.
 using ArgRef = std::variant<std::int16_t*, std::int32_t*, float*, bool*, std::string*>;
 
+/// The arguments of one report, in the order given with its kind.
 using EventArgs = std::span<const ArgRef>;
 
 /// The kinds of reports. The arguments, where there are any, are given with each.
@@ -82,12 +83,16 @@ enum class Notice : std::uint8_t {
 
 /// Mouse buttons as they stand in Button (a bit each).
 inline constexpr std::int16_t kLeftButton = 1;
+/// The right mouse button.
 inline constexpr std::int16_t kRightButton = 2;
+/// The middle mouse button.
 inline constexpr std::int16_t kMiddleButton = 4;
 
 /// Key states as they stand in Shift (a bit each).
 inline constexpr std::int16_t kShiftMask = 1;
+/// A Ctrl key is held.
 inline constexpr std::int16_t kCtrlMask = 2;
+/// An Alt key is held.
 inline constexpr std::int16_t kAltMask = 4;
 
 /// The number under which a surface reports; a control's own widgets are numbered from 1.
@@ -111,6 +116,7 @@ struct Spoken {
 /// when it created it.
 class WidgetListener {
 public:
+    /// A widget reports.
     virtual void notice(int widget, Notice notice, EventArgs args) = 0;
     /// Asked whenever somebody wants to hear it; nothing of it is kept with the widget.
     [[nodiscard]] virtual Spoken spoken(int /*widget*/) { return {}; }
@@ -119,6 +125,7 @@ public:
     /// A widget holds its listener through every operator action; release() must be the last thing it does,
     /// because the widget itself may be gone afterwards.
     virtual void hold() noexcept = 0;
+    /// Ends a hold; the listener may be gone afterwards.
     virtual void release() noexcept = 0;
 
 protected:
@@ -129,6 +136,7 @@ protected:
 template <class Listener>
 class Hold {
 public:
+    /// Holds the listener until the scope ends.
     explicit Hold(Listener& listener) noexcept : m_listener(listener) { m_listener.hold(); }
     ~Hold() { m_listener.release(); }
     Hold(const Hold&) = delete;

@@ -35,7 +35,9 @@ enum class Refusal : std::uint8_t { None, Hidden, Disabled, Locked, Closed };
 
 /// Where on a widget the operator points, in twips. One rule for all platforms, because events carry it.
 struct Spot {
+    /// From the left edge.
     Twips x = 0;
+    /// From the top edge.
     Twips y = 0;
 };
 
@@ -59,6 +61,7 @@ struct Spot {
 /// How far from the left edge the text of a list box's entries is clicked: behind the mark.
 inline constexpr Twips kListText = 450;
 
+/// What the mouse does.
 enum class Pointer : std::uint8_t { Click, DoubleClick, RightClick };
 
 /// Each action returns why it was refused, or None. A widget that cannot do what is asked (a label does not
@@ -71,12 +74,17 @@ class Operator {
 public:
     virtual ~Operator() = default;
 
+    /// Gives the widget the focus.
     virtual Refusal focus(Widget& widget) = 0;
     /// Moves the focus to nothing; refused by none, without effect when the widget has not the focus.
     virtual Refusal blur(Widget& widget) = 0;
+    /// Clicks the widget.
     virtual Refusal pointer(Widget& widget, Pointer action) = 0;
+    /// Types a text, character by character, over the selection or at the caret.
     virtual Refusal type(TextField& field, std::string_view text) = 0;
+    /// Puts a text in the place of the selection at once.
     virtual Refusal paste(TextField& field, std::string_view text) = 0;
+    /// Selects characters; both numbers are cut to the text.
     virtual Refusal select(TextField& field, std::size_t start, std::size_t length) = 0;
     /// Key down, key press where the key has a character, key up. 8 Backspace, 13 Enter, 27 Escape, 32 Space,
     /// 33 to 40 Page Up, Page Down, End, Home and the arrows, 46 Delete, and the upper-case letters and digits do
@@ -86,11 +94,15 @@ public:
     virtual Refusal spin(SpinButton& button, bool up) = 0;
     /// Drags the handle to a position: Scroll, then Change.
     virtual Refusal moveTo(Track& track, std::int32_t position) = 0;
+    /// Chooses an entry by its position.
     virtual Refusal choose(ComboBox& box, std::int32_t index) = 0;
+    /// Opens the list.
     virtual Refusal dropDown(ComboBox& box) = 0;
+    /// Clicks the mark of an entry.
     virtual Refusal toggle(ListBox& box, std::int32_t index) = 0;
     /// A click on a check box or an option button.
     virtual Refusal press(ToggleButton& button) = 0;
+    /// Chooses an item of an open menu by its position.
     virtual Refusal chooseItem(PopupMenu& menu, std::size_t item) = 0;
 };
 

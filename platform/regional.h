@@ -10,9 +10,12 @@ namespace zor::platform {
 /// UTF-8 texts: some regions group with a narrow no-break space. The decimal separator is never empty;
 /// an empty grouping separator means that the region groups nothing.
 struct RegionalSettings {
+    /// Between the whole number and its decimals.
     std::string decimal = ".";
+    /// Between groups of digits.
     std::string group = ",";
 
+    /// Equal separators.
     bool operator==(const RegionalSettings&) const = default;
 };
 

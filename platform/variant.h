@@ -28,6 +28,7 @@ concept NotCharacter = !std::is_same_v<std::remove_const_t<T>, char>;
 /// not fit raises Overflow.
 class Variant {
 public:
+    /// What it holds.
     using Storage = std::variant<std::monostate, bool, std::int16_t, std::int32_t, double, std::string>;
 
     Variant() noexcept = default;
@@ -36,16 +37,22 @@ public:
     template <Arithmetic T>
     Variant(T value) noexcept(alwaysFits<T>) : m_value(stored(value))
     {}
+    /// A text in UTF-8.
     Variant(std::string value) noexcept : m_value(std::move(value)) {}
+    /// A text in UTF-8.
     Variant(std::string_view value) : m_value(std::string(value)) {}
+    /// A text in UTF-8.
     Variant(const char* value) : m_value(std::string(value)) {}
     /// No other pointer is a value.
     template <NotCharacter T>
     Variant(T* value) = delete;
     Variant(std::nullptr_t) = delete;
 
+    /// Whether there is no value.
     [[nodiscard]] bool isEmpty() const noexcept { return holds<std::monostate>(); }
+    /// Whether it is a text.
     [[nodiscard]] bool isText() const noexcept { return holds<std::string>(); }
+    /// Whether it is a boolean.
     [[nodiscard]] bool isBoolean() const noexcept { return holds<bool>(); }
     /// An integer or a double; a boolean and a numeric text are not.
     [[nodiscard]] bool isNumber() const noexcept
@@ -53,15 +60,20 @@ public:
         return holds<std::int16_t>() || holds<std::int32_t>() || holds<double>();
     }
 
+    /// Whether it holds this type exactly.
     template <class T>
     [[nodiscard]] bool holds() const noexcept
     {
         return std::holds_alternative<T>(m_value);
     }
 
+    /// Any number other than 0 is true; the texts "True" and "False" as they say, any other text as its number.
     [[nodiscard]] bool toBoolean() const;
+    /// As an integer of 16 bits.
     [[nodiscard]] std::int16_t toInt16() const;
+    /// As an integer of 32 bits.
     [[nodiscard]] std::int32_t toInt32() const;
+    /// As a number.
     [[nodiscard]] double toDouble() const;
     /// Numbers as plain decimal text with the user's decimal separator; booleans as "True" and "False".
     [[nodiscard]] std::string toText() const;
@@ -70,6 +82,7 @@ public:
     /// The number of a value that isNumber(), as a double.
     [[nodiscard]] double number() const noexcept;
 
+    /// The value as it is kept.
     [[nodiscard]] const Storage& storage() const noexcept { return m_value; }
     [[nodiscard]] Storage& storage() noexcept { return m_value; }
 
@@ -109,6 +122,7 @@ private:
 /// Rounds to the nearest whole number, halves to the even neighbour, whatever the floating-point mode;
 /// raises Overflow outside the type's range and for a value that is not a number.
 [[nodiscard]] std::int32_t roundToInt32(double value);
+/// As roundToInt32(), to 16 bits.
 [[nodiscard]] std::int16_t roundToInt16(double value);
 
 } // namespace zor

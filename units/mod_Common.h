@@ -16,10 +16,13 @@ namespace zor {
 /// @name Constants of the conversions
 /// The catalogue's own, in the precision in which devices of this family use them.
 /// @{
+/// Millimetres to the inch.
 inline constexpr double MM_PER_INCH = 25.4;
 inline constexpr double GAL_PER_M3 = 264.172; ///< US gallons per cubic metre
+/// Pounds to the square inch in a bar.
 inline constexpr double PSI_PER_BAR = 14.50377;
 inline constexpr double GAL_PER_IMPGAL = 1.20095; ///< US gallons per imperial gallon
+/// Litres to the imperial gallon.
 inline constexpr double LITRE_PER_IMPGAL = 4.54609;
 inline constexpr double YD3_PER_M3 = 1.30795;     ///< cubic yards per cubic metre
 inline constexpr double IN3_PER_LITRE = 61.02374; ///< cubic inches per litre

@@ -15,14 +15,18 @@ namespace zor::units {
 /// How many decimals a value in the unit is shown with; the unit without a unit takes the caller's number.
 inline constexpr int kCallersDecimals = -1;
 
+/// One unit.
 struct UnitRow {
+    /// Its value.
     MEAS_TYPE unit;
     std::string_view name;      ///< the enumeration's member name
     std::string_view label;     ///< shown beside the value
     std::string_view messageId; ///< under which a host looks up a translated label
+    /// Of its value texts, or kCallersDecimals.
     int decimals;
 };
 
+/// All units, by value.
 inline constexpr std::array kUnits{
     UnitRow{LgthU_MM, "LgthU_MM", "mm", "UNIT_LENGTH_MM", 0},
     UnitRow{LgthU_Mtr, "LgthU_Mtr", "m", "UNIT_LENGTH_MTR", 3},
@@ -79,15 +83,20 @@ inline constexpr std::array kUnits{
     UnitRow{NoneU, "NoneU", "", "UNIT_NONE", kCallersDecimals},
 };
 
+/// One kind of quantity.
 struct UnitTypeRow {
+    /// Its value.
     UNIT_TYPE type;
+    /// The enumeration's member name.
     std::string_view name;
     std::string_view displayName; ///< empty for a type that no picker offers
     std::int32_t first;           ///< its units, by value; first > last for a type without units
+    /// The last of its units.
     std::int32_t last;
     MEAS_TYPE start; ///< what a design-time page sets; NoneU for a type without units
 };
 
+/// All kinds, by value.
 inline constexpr std::array kUnitTypes{
     UnitTypeRow{Length, "Length", "Length", 0, 7, LgthU_MM},
     UnitTypeRow{VELOCITY, "VELOCITY", "Velocity", 8, 14, VelU_MtrPerSec},
@@ -127,16 +136,21 @@ static_assert(detail::isInOrder(kUnitTypes, &UnitTypeRow::type),
 
 /// A member of the smaller enumerations with its word for people.
 struct WordRow {
+    /// Its value.
     std::int32_t value;
+    /// The enumeration's member name.
     std::string_view name;
+    /// For people.
     std::string_view word;
 };
 
+/// The register banks, by value.
 inline constexpr std::array kRegisterTypes{
     WordRow{0, "HoldingRegister", "Holding"},
     WordRow{1, "InputRegister", "Input"},
 };
 
+/// What a text box accepts, by value.
 inline constexpr std::array kEntryTypes{
     WordRow{0, "Text", "Text"},
     WordRow{1, "Numeric", "Numeric"},

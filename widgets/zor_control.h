@@ -47,6 +47,7 @@ public:
 
     /// The control itself, with everything that the library offers.
     [[nodiscard]] core::Control& control() const noexcept;
+    /// The tables of the control's class.
     [[nodiscard]] const core::ClassInfo& info() const noexcept;
 
     /// Whether the program runs (true) or a form is being designed.
@@ -60,6 +61,7 @@ public:
 
     /// The size in which the control was designed, in the widget's font.
     [[nodiscard]] QSize sizeHint() const override;
+    /// As sizeHint().
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
     /// While the device does not offer the parameter, a control in user mode is hidden as any hidden widget is: a
@@ -121,6 +123,7 @@ struct WidgetClass {
     std::string_view name;
     /// The control's class ("ctx_ZorTextBox").
     std::string_view controlClass;
+    /// Makes one, in user mode.
     ZorControl* (*create)(QWidget* parent);
 };
 

@@ -13,6 +13,7 @@ struct CaptionLayout {
     platform::Twips iconTop; ///< of the icon below the button's top, in a control that centres it
 };
 
+/// A choice control with a caption.
 class CaptionChoice : public ChoiceControl {
 public:
     /// Surface and button.

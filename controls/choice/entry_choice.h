@@ -23,7 +23,9 @@ struct InvalidMark {
 
 /// A list's width and, right of it, the icon's place.
 inline constexpr platform::Twips kListRoom = 415; ///< right of the list, for the icon
+/// Narrowest list, in twips.
 inline constexpr platform::Twips kSmallestList = 285;
+/// Gives list and icon the width of the control.
 void layOutListWidth(platform::Twips controlWidth, platform::Widget& list, platform::Widget& icon);
 
 /// The tables of a class `Class` whose InvalidMark is `Mark`, whose other-user value is `Other` and whose

@@ -9,6 +9,7 @@
 
 namespace zor::controls {
 
+/// A numeric control with a judged value.
 class RangeControl : public UnitControl {
 public:
     /// Whether the last device value or modification lies outside the limits. A value that differs from a limit by

@@ -15,6 +15,7 @@ class HeadlessMenu;
 class HeadlessContainer final : public Container {
 public:
     [[nodiscard]] bool userMode() const noexcept override { return m_userMode; }
+    /// Runs the form, or goes back to designing.
     void setUserMode(bool userMode) noexcept { m_userMode = userMode; }
 
     void propertyChanged(Component& component, std::string_view name) override
@@ -40,13 +41,16 @@ public:
 
     /// @name For the widgets of this container
     /// @{
+    /// The widget that has the focus; nullptr for none.
     [[nodiscard]] Widget* focused() const noexcept { return m_focused; }
     void setFocused(Widget* widget) noexcept { m_focused = widget; }
+    /// The widget ends.
     void forget(const Widget& widget) noexcept
     {
         if (m_focused == &widget)
             m_focused = nullptr;
     }
+    /// A menu opened; nullptr: it closed.
     void setOpenMenu(HeadlessMenu* menu) noexcept { m_openMenu = menu; }
     /// @}
 

@@ -15,6 +15,7 @@ namespace zor::platform::headless {
 /// Keeps the values in the order in which they were written.
 class MemoryPropertyBag final : public PropertyBag {
 public:
+    /// Name and value.
     using Entry = std::pair<std::string, Variant>;
 
     [[nodiscard]] Variant ReadProperty(std::string_view name, const Variant& defaultValue) const override;
@@ -22,6 +23,7 @@ public:
 
     /// Puts a value under a name, whatever the default; replaces an earlier one.
     void set(std::string_view name, Variant value);
+    /// All values, in the order in which they were written.
     [[nodiscard]] std::span<const Entry> entries() const noexcept { return m_entries; }
 
 private:

@@ -7,6 +7,7 @@
 
 namespace zor::platform::headless {
 
+/// Works widgets by what their platform keeps of them.
 class HeadlessOperator final : public Operator {
 public:
     /// The container whose widgets it works; it must outlive the operator.

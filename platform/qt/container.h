@@ -24,6 +24,7 @@ public:
     QtContainer(QWidget& parent, std::span<const std::string_view> pictures);
 
     [[nodiscard]] bool userMode() const noexcept override { return m_userMode; }
+    /// Runs the form, or goes back to designing.
     void setUserMode(bool userMode) noexcept { m_userMode = userMode; }
     void propertyChanged(Component& component, std::string_view name) override
     {
@@ -58,10 +59,15 @@ public:
 
     /// @name For the widgets of this container
     /// @{
+    /// Parent of the surfaces.
     [[nodiscard]] QWidget& parent() const noexcept { return m_parent; }
+    /// Twips and pixels of the form.
     [[nodiscard]] const Scale& scale() const noexcept { return m_scale; }
+    /// The SVG text of a picture; empty for another number.
     [[nodiscard]] std::string_view picture(int index) const noexcept;
+    /// A menu opened; nullptr: it closed.
     void setOpenMenu(PopupMenu* menu) noexcept { m_openMenu = menu; }
+    /// Passes on what a handler threw.
     void failed(const std::exception_ptr& error);
     /// Takes a Qt widget away; inside one of its events it is deleted when the event has ended.
     void discard(QWidget& widget);

@@ -16,6 +16,7 @@ namespace zor::platform::qt {
 /// new selection by the program.
 class PageDialog final : public QDialog, public PageFrame {
 public:
+    /// A dialog without a page yet.
     explicit PageDialog(QWidget* parent = nullptr);
     ~PageDialog() override;
     PageDialog(const PageDialog&) = delete;
@@ -26,6 +27,7 @@ public:
     [[nodiscard]] bool isChanged() const noexcept override { return m_changed; }
     void setChanged(bool changed) override;
 
+    /// OK: applies what was changed, and closes when that went well.
     void accept() override;
 
 private:

@@ -20,6 +20,7 @@ namespace zor::platform::qt {
     return settings;
 }
 
+/// The separators of a locale, made acceptable.
 [[nodiscard]] inline RegionalSettings localeRegionalSettings(const QLocale& locale = QLocale())
 {
     return acceptable({locale.decimalPoint().toStdString(), locale.groupSeparator().toStdString()});

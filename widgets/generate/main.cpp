@@ -89,7 +89,7 @@ std::size_t indexOf(const core::ClassInfo& info, const core::PropertyRow* row)
 template <class Rows, class Value>
 void writeEnumeration(std::ostream& out, string_view name, const Rows& rows, Value&& value)
 {
-    out << "    enum " << name << " : qint32 {\n";
+    out << "    /// As zor::" << name << ".\n    enum " << name << " : qint32 {\n";
     for (const auto& row : rows)
         out << "        " << row.name << " = " << value(row) << ",\n";
     out << "    };\n    Q_ENUM(" << name << ")\n";
@@ -159,8 +159,10 @@ void declareClass(std::ostream& out, const core::ClassInfo& info)
     const string name = widgetName(info);
     out << "/// " << info.name << " as a QWidget.\nclass " << name << " : public ZorControl {\n    Q_OBJECT\n";
     declareProperties(out, info);
-    out << "\npublic:\n    explicit " << name << "(QWidget* parent = nullptr);\n    [[nodiscard]] " << info.name
-        << "& control() const noexcept;\n\n";
+    out << "\npublic:\n    /// In user mode.\n    explicit " << name
+        << "(QWidget* parent = nullptr);\n    /// The control itself, with everything that it offers.\n    "
+           "[[nodiscard]] "
+        << info.name << "& control() const noexcept;\n\n";
     for (const core::PropertyRow* row : info.properties)
         out << "    /// " << row->meaning << "\n    [[nodiscard]] " << qtType(row->field.kind) << ' ' << row->name
             << "() const;\n";
@@ -177,7 +179,7 @@ void declareClass(std::ostream& out, const core::ClassInfo& info)
     }
     for (const core::PropertyRow* row : info.properties) {
         if (const string notifier = notifierOf(*row); !notifier.empty() && notifier != "valueChanged")
-            out << "    void " << notifier << "();\n";
+            out << "    /// " << row->name << " is another one.\n    void " << notifier << "();\n";
     }
     out << "\nprotected:\n    void emitEvent(std::size_t event, platform::EventArgs arguments) override;\n};\n\n";
 }
