@@ -69,13 +69,6 @@ std::optional<Variant> Binding::getIfThere(std::string_view property) const
     return row != nullptr ? std::optional(m_control.get(*row)) : std::nullopt;
 }
 
-template <class Action>
-void Binding::quietly(Action&& action)
-{
-    const platform::Depth::Level level(m_quiet);
-    std::forward<Action>(action)();
-}
-
 void Binding::setFlag(const core::PropertyRow* row, bool value)
 {
     // A write that changes nothing would still paint.
@@ -293,115 +286,6 @@ Registers Binding::relevant(std::span<const std::uint16_t> registers) const
     }
     const Registers none(registers.size(), 0);
     return mergeBits(m_parameter->location, none, mask, decodeBits(m_parameter->location, registers));
-}
-
-bool Binding::isModified() const
-{
-    return m_parameter != nullptr && m_row.modified != nullptr && m_control.get(*m_row.modified).toBoolean();
-}
-
-bool Binding::isInvalid() const { return m_row.invalid != nullptr && m_control.get(*m_row.invalid).toBoolean(); }
-
-bool Binding::isBitwise() const
-{
-    return m_parameter->location.type == ValueType::Bit || m_row.bitIndex != nullptr ||
-           m_control.info().method("AddBitFieldEntry") != nullptr;
-}
-
-Edit Binding::edit() const
-{
-    Edit edit{entry()};
-    if (!isBitwise() || isInvalid())
-        return edit;
-    edit.bits = static_cast<std::uint32_t>(edit.value.toInt32());
-    edit.mask = edit.bits ^ static_cast<std::uint32_t>(m_control.get(*m_row.value).toInt32());
-    return edit;
-}
-
-Variant Binding::entry() const { return m_typed.value().value_or(m_control.get(*m_row.output)); }
-
-void Binding::showEntry(const Variant& value)
-{
-    putIfThere("ModifiedValue", value);
-    // Where both look the same, the control takes it for none.
-    setFlag(m_row.modified, true);
-}
-
-void Binding::takeTyped()
-{
-    if (isModified() || shown.empty() || m_parameter->location.type == ValueType::Bit)
-        return;
-    // The control compares with what it shows; what the device holds may be something else.
-    const Encoded typed = encode(*m_parameter, entry());
-    if (typed.unfit == Unfit::No && typed.registers != seen)
-        setFlag(m_row.modified, true);
-    else
-        showValue(Registers(shown), {});
-}
-
-MEAS_TYPE Binding::shownUnit() const
-{
-    const MEAS_TYPE unit = outputUnit();
-    return unit == NoneU && m_parameter != nullptr ? m_parameter->unit : unit;
-}
-
-MEAS_TYPE Binding::outputUnit() const
-{
-    if (m_row.unit != nullptr)
-        return MEAS_TYPE{m_control.get(*m_row.unit).toInt32()};
-    return m_textUnit;
-}
-
-void Binding::showIn(MEAS_TYPE unit, const std::string& language)
-{
-    m_textUnit = unit;
-    putIfThere("OutputUnit", static_cast<std::int32_t>(unit));
-    quietly([&] { renewLimits(m_control); });
-    // The control converts the text that it shows; from the value itself no rounding adds up.
-    if (isModified() && !isInvalid())
-        showEntry(entry());
-    else if (!isModified() && !shown.empty())
-        showValue(Registers(shown), language);
-}
-
-void Binding::refresh(const std::string& language)
-{
-    if (m_parameter == nullptr)
-        return;
-    // Filling a list anew moves its selection, and that must not become the operator's choice.
-    const bool modified = isModified();
-    const Variant output = modified ? entry() : Variant();
-    const bool valid = !isInvalid();
-    applyEntries(language);
-    if (modified && valid)
-        showEntry(output);
-    else if (!modified && shown.empty())
-        showNothing();
-    else if (!modified)
-        showValue(Registers(shown), language);
-}
-
-void Binding::follow(const Variant& chosen) { putIfThere("ModifiedValue", chosen); }
-
-void Binding::event(core::Control& control, const core::EventRow& row, platform::EventArgs /*args*/)
-{
-    const core::RaisedEvents& raised = control.info().raised;
-    const bool chosen = &row == raised.outputValueChange;
-    const bool edited =
-        chosen || &row == raised.changed || &row == raised.dataModifiedSetTrue || &row == raised.dataModifiedReset;
-    if (edited && onEdit)
-        onEdit();
-    if (!m_quiet.isNone())
-        return;
-    bool typed = false;
-    if (m_parameter != nullptr)
-        quietly([&] { typed = m_typed.hear(row); });
-    if (typed)
-        takeTyped();
-    if (edited)
-        ++m_actions;
-    if (chosen && isChoice() && onChosen)
-        onChosen(control.get(*m_row.output));
 }
 
 } // namespace zor::monitor

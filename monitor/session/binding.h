@@ -82,6 +82,8 @@ public:
     /// Called when the operator has chosen this button of several.
     std::function<void(const Variant& value)> onChosen;
     void follow(const Variant& chosen);
+    /// Makes a value an edit, as if the operator had entered it. False where the control cannot take it.
+    bool propose(std::span<const std::uint16_t> registers);
     /// @}
 
     /// What the control was last given; empty before the first value.
@@ -108,7 +110,11 @@ private:
     [[nodiscard]] Variant entry() const;
     void showEntry(const Variant& value);
     template <class Action>
-    void quietly(Action&& action);
+    void quietly(Action&& action)
+    {
+        const platform::Depth::Level level(m_quiet);
+        std::forward<Action>(action)();
+    }
     void setFlag(const core::PropertyRow* row, bool value);
 
     /// Properties that are read and written again and again; nullptr where the class has none.

@@ -295,6 +295,27 @@ void Session::settle(std::size_t parameter, const Registers& registers)
         endEdits(change, registers);
 }
 
+std::set<std::size_t> Session::editable() const
+{
+    std::set<std::size_t> parameters;
+    for (std::size_t i = 0; i < m_states.size(); ++i) {
+        forEach(i, [&](const Binding& binding) {
+            const core::Control& control = binding.control();
+            if (m_file.parameters[i].writable && binding.has("ModifiedValue") &&
+                !control.DeviceTypeNotSupported() && !control.DeviceVerNotSupported())
+                parameters.insert(i);
+        });
+    }
+    return parameters;
+}
+
+bool Session::propose(std::size_t parameter, const Registers& registers)
+{
+    bool taken = false;
+    forEach(parameter, [&](Binding& binding) { taken = binding.propose(registers) || taken; });
+    return taken;
+}
+
 void Session::undoAll()
 {
     for (std::size_t i = 0; i < m_states.size(); ++i) {

@@ -13,6 +13,7 @@
 
 #include <functional>
 #include <memory>
+#include <set>
 
 namespace zor::monitor {
 
@@ -54,6 +55,10 @@ public:
     /// and held in the list; false when a list is still being written.
     bool write(const std::vector<Change>& changes);
     [[nodiscard]] bool isWriting() const { return m_isWriting; }
+    /// The parameters that the operator can edit: those with a control for it that the device has.
+    [[nodiscard]] std::set<std::size_t> editable() const;
+    /// Makes a value an edit in the parameter's controls, to be reviewed as any other. False when none took it.
+    bool propose(std::size_t parameter, const Registers& registers);
     /// Every edit goes back to what the device holds.
     void undoAll();
     /// @}

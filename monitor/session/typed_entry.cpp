@@ -36,6 +36,12 @@ void TypedEntry::forget()
     m_value.reset();
 }
 
+void TypedEntry::put(Variant value)
+{
+    forget();
+    m_value = std::move(value);
+}
+
 void TypedEntry::leave()
 {
     m_leaving = true;

@@ -17,6 +17,8 @@ public:
 
     /// Follows what the operator does. True when he has left the field and an entry has been taken over.
     bool hear(const core::EventRow& row);
+    /// An entry that nobody typed, to the last digit.
+    void put(Variant value);
     /// The entry has ended.
     void forget();
 

@@ -203,6 +203,18 @@ std::vector<Change> changesOf(const ParameterFile& parameters, const Comparison&
     return changes;
 }
 
+std::vector<std::size_t> concerned(const ParameterFile& parameters, const SettingsFile& file)
+{
+    std::vector<std::size_t> all;
+    for (std::size_t i = 0; i < parameters.parameters.size(); ++i) {
+        const Parameter& parameter = parameters.parameters[i];
+        if (parameter.writable ||
+            std::ranges::find(file.settings, parameter.tag, &Setting::tag) != file.settings.end())
+            all.push_back(i);
+    }
+    return all;
+}
+
 SettingsFile settingsOf(const Session& session)
 {
     SettingsFile file;

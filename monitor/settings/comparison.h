@@ -60,6 +60,10 @@ struct Comparison {
 /// Whether a device offers a parameter.
 [[nodiscard]] bool isSupported(const Supported& by, const std::string& type, const std::string& version);
 
+/// The parameters that must have been read for a comparison with the file, or for a new file: those that can be
+/// written, and those that it has.
+[[nodiscard]] std::vector<std::size_t> concerned(const ParameterFile& parameters, const SettingsFile& file);
+
 /// For a settings file: what the parameters that can be written hold, as far as the device has a value.
 [[nodiscard]] SettingsFile settingsOf(const Session& session);
 

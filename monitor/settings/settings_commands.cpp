@@ -9,7 +9,6 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
-#include <numeric>
 #include <ostream>
 
 namespace zor::monitor {
@@ -128,19 +127,6 @@ bool survey(Session& session, std::vector<std::size_t> parameters)
     loop.exec();
     session.onRound = nullptr;
     return complete;
-}
-
-/// The parameters that can be written, and those of a file.
-std::vector<std::size_t> concerned(const ParameterFile& parameters, const SettingsFile& file)
-{
-    std::vector<std::size_t> all;
-    for (std::size_t i = 0; i < parameters.parameters.size(); ++i) {
-        const Parameter& parameter = parameters.parameters[i];
-        if (parameter.writable ||
-            std::ranges::find(file.settings, parameter.tag, &Setting::tag) != file.settings.end())
-            all.push_back(i);
-    }
-    return all;
 }
 
 int noAnswer(Session& session, std::ostream& errors, int status)

@@ -64,6 +64,151 @@
     </message>
 </context>
 <context>
+    <name>SettingsDialog</name>
+    <message>
+        <source>Attention: the file is of another type of device.</source>
+        <translation>Achtung: Die Datei ist von einem anderen Gerätetyp.</translation>
+    </message>
+    <message>
+        <source>Attention: the file is of another version of the device.</source>
+        <translation>Achtung: Die Datei ist von einer anderen Version des Geräts.</translation>
+    </message>
+    <message>
+        <source>Filter: parameter or tag</source>
+        <translation>Filter: Parameter oder Kennung</translation>
+    </message>
+    <message>
+        <source>Only differences</source>
+        <translation>Nur Unterschiede</translation>
+    </message>
+    <message>
+        <source>All parameters</source>
+        <translation>Alle Parameter</translation>
+    </message>
+    <message>
+        <source>What is shown</source>
+        <translation>Was gezeigt wird</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Kennung</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Bemerkung</translation>
+    </message>
+    <message>
+        <source>&amp;Load...</source>
+        <translation>&amp;Laden...</translation>
+    </message>
+    <message>
+        <source>Tick &amp;all shown</source>
+        <translation>&amp;Alle gezeigten wählen</translation>
+    </message>
+    <message>
+        <source>Tick &amp;none shown</source>
+        <translation>&amp;Keine gezeigten wählen</translation>
+    </message>
+    <message>
+        <source>Neither has a parameter.</source>
+        <translation>Beide haben keine Parameter.</translation>
+    </message>
+    <message>
+        <source>this form has no field for it</source>
+        <translation>dieses Formular hat kein Feld dafür</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsTransfer</name>
+    <message>
+        <source>Settings file</source>
+        <translation>Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>Settings files (*.json)</source>
+        <translation>Einstellungsdateien (*.json)</translation>
+    </message>
+    <message>
+        <source>This is no settings file that can be used:</source>
+        <translation>Diese Einstellungsdatei ist nicht brauchbar:</translation>
+    </message>
+    <message>
+        <source>Reading the device...</source>
+        <translation>Das Gerät wird gelesen...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing has been written</source>
+        <translation>Abgebrochen; nichts wurde geschrieben</translation>
+    </message>
+    <message>
+        <source>The device did not answer for all parameters</source>
+        <translation>Das Gerät hat nicht für alle Parameter geantwortet</translation>
+    </message>
+    <message>
+        <source>Save settings</source>
+        <translation>Einstellungen speichern</translation>
+    </message>
+    <message>
+        <source>The device has none of the parameters that can be written</source>
+        <translation>Das Gerät hat keinen der schreibbaren Parameter</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) saved</source>
+        <translation>
+            <numerusform>%n Einstellung gespeichert</numerusform>
+            <numerusform>%n Einstellungen gespeichert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Compare with file</source>
+        <translation>Mit Datei vergleichen</translation>
+    </message>
+    <message>
+        <source>Load settings</source>
+        <translation>Einstellungen laden</translation>
+    </message>
+    <message>
+        <source>Compare two files: the first</source>
+        <translation>Zwei Dateien vergleichen: die erste</translation>
+    </message>
+    <message>
+        <source>Compare two files: the second</source>
+        <translation>Zwei Dateien vergleichen: die zweite</translation>
+    </message>
+    <message>
+        <source>Compare two files</source>
+        <translation>Zwei Dateien vergleichen</translation>
+    </message>
+    <message>
+        <source>Second file</source>
+        <translation>Zweite Datei</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Another device has taken over since; nothing has been loaded</source>
+        <translation>Inzwischen antwortet ein anderes Gerät; nichts wurde geladen</translation>
+    </message>
+    <message>
+        <source>Not every value could be entered in its field: %1</source>
+        <translation>Nicht jeder Wert ließ sich in sein Feld eintragen: %1</translation>
+    </message>
+</context>
+<context>
     <name>StatusLine</name>
     <message>
         <source>The record cannot be written: %1</source>
@@ -203,6 +348,22 @@
         <source>Holds edits that have not been written</source>
         <translation>Enthält Änderungen, die nicht geschrieben sind</translation>
     </message>
+    <message>
+        <source>&amp;Save settings...</source>
+        <translation>Einstellungen &amp;speichern...</translation>
+    </message>
+    <message>
+        <source>&amp;Load settings...</source>
+        <translation>Einstellungen &amp;laden...</translation>
+    </message>
+    <message>
+        <source>&amp;Compare with file...</source>
+        <translation>Mit Datei &amp;vergleichen...</translation>
+    </message>
+    <message>
+        <source>Compare &amp;two files...</source>
+        <translation>&amp;Zwei Dateien vergleichen...</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>
@@ -273,6 +434,30 @@
     <message>
         <source>two fields hold different values</source>
         <translation>zwei Felder enthalten verschiedene Werte</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>gleich</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>verschieden</translation>
+    </message>
+    <message>
+        <source>only in the file</source>
+        <translation>nur in der Datei</translation>
+    </message>
+    <message>
+        <source>not in the file</source>
+        <translation>nicht in der Datei</translation>
+    </message>
+    <message>
+        <source>can only be read</source>
+        <translation>nur lesbar</translation>
+    </message>
+    <message>
+        <source>cannot be held</source>
+        <translation>nicht möglich</translation>
     </message>
 </context>
 <context>

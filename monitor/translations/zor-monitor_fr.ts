@@ -64,6 +64,151 @@
     </message>
 </context>
 <context>
+    <name>SettingsDialog</name>
+    <message>
+        <source>Attention: the file is of another type of device.</source>
+        <translation>Attention : le fichier vient d&apos;un autre type d&apos;appareil.</translation>
+    </message>
+    <message>
+        <source>Attention: the file is of another version of the device.</source>
+        <translation>Attention : le fichier vient d&apos;une autre version de l&apos;appareil.</translation>
+    </message>
+    <message>
+        <source>Filter: parameter or tag</source>
+        <translation>Filtre : paramètre ou repère</translation>
+    </message>
+    <message>
+        <source>Only differences</source>
+        <translation>Seulement les différences</translation>
+    </message>
+    <message>
+        <source>All parameters</source>
+        <translation>Tous les paramètres</translation>
+    </message>
+    <message>
+        <source>What is shown</source>
+        <translation>Ce qui est affiché</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Paramètre</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Repère</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>&amp;Load...</source>
+        <translation>&amp;Charger...</translation>
+    </message>
+    <message>
+        <source>Tick &amp;all shown</source>
+        <translation>&amp;Cocher tout ce qui est affiché</translation>
+    </message>
+    <message>
+        <source>Tick &amp;none shown</source>
+        <translation>&amp;Décocher tout ce qui est affiché</translation>
+    </message>
+    <message>
+        <source>Neither has a parameter.</source>
+        <translation>Aucun des deux n&apos;a de paramètre.</translation>
+    </message>
+    <message>
+        <source>this form has no field for it</source>
+        <translation>ce formulaire n&apos;a pas de champ pour lui</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsTransfer</name>
+    <message>
+        <source>Settings file</source>
+        <translation>Fichier de réglages</translation>
+    </message>
+    <message>
+        <source>Settings files (*.json)</source>
+        <translation>Fichiers de réglages (*.json)</translation>
+    </message>
+    <message>
+        <source>This is no settings file that can be used:</source>
+        <translation>Ce fichier de réglages est inutilisable :</translation>
+    </message>
+    <message>
+        <source>Reading the device...</source>
+        <translation>Lecture de l&apos;appareil...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing has been written</source>
+        <translation>Annulé ; rien n&apos;a été écrit</translation>
+    </message>
+    <message>
+        <source>The device did not answer for all parameters</source>
+        <translation>L&apos;appareil n&apos;a pas répondu pour tous les paramètres</translation>
+    </message>
+    <message>
+        <source>Save settings</source>
+        <translation>Enregistrer les réglages</translation>
+    </message>
+    <message>
+        <source>The device has none of the parameters that can be written</source>
+        <translation>L&apos;appareil n&apos;a aucun des paramètres modifiables</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) saved</source>
+        <translation>
+            <numerusform>%n réglage enregistré</numerusform>
+            <numerusform>%n réglages enregistrés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Compare with file</source>
+        <translation>Comparer avec un fichier</translation>
+    </message>
+    <message>
+        <source>Load settings</source>
+        <translation>Charger des réglages</translation>
+    </message>
+    <message>
+        <source>Compare two files: the first</source>
+        <translation>Comparer deux fichiers : le premier</translation>
+    </message>
+    <message>
+        <source>Compare two files: the second</source>
+        <translation>Comparer deux fichiers : le second</translation>
+    </message>
+    <message>
+        <source>Compare two files</source>
+        <translation>Comparer deux fichiers</translation>
+    </message>
+    <message>
+        <source>Second file</source>
+        <translation>Second fichier</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Appareil</translation>
+    </message>
+    <message>
+        <source>Another device has taken over since; nothing has been loaded</source>
+        <translation>Un autre appareil répond depuis ; rien n&apos;a été chargé</translation>
+    </message>
+    <message>
+        <source>Not every value could be entered in its field: %1</source>
+        <translation>Certaines valeurs n&apos;ont pas pu être saisies dans leur champ : %1</translation>
+    </message>
+</context>
+<context>
     <name>StatusLine</name>
     <message>
         <source>The record cannot be written: %1</source>
@@ -203,6 +348,22 @@
         <source>Holds edits that have not been written</source>
         <translation>Contient des modifications non écrites</translation>
     </message>
+    <message>
+        <source>&amp;Save settings...</source>
+        <translation>&amp;Enregistrer les réglages...</translation>
+    </message>
+    <message>
+        <source>&amp;Load settings...</source>
+        <translation>&amp;Charger des réglages...</translation>
+    </message>
+    <message>
+        <source>&amp;Compare with file...</source>
+        <translation>Co&amp;mparer avec un fichier...</translation>
+    </message>
+    <message>
+        <source>Compare &amp;two files...</source>
+        <translation>Comparer &amp;deux fichiers...</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>
@@ -273,6 +434,30 @@
     <message>
         <source>two fields hold different values</source>
         <translation>deux champs contiennent des valeurs différentes</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>identique</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>différent</translation>
+    </message>
+    <message>
+        <source>only in the file</source>
+        <translation>seulement dans le fichier</translation>
+    </message>
+    <message>
+        <source>not in the file</source>
+        <translation>absent du fichier</translation>
+    </message>
+    <message>
+        <source>can only be read</source>
+        <translation>en lecture seule</translation>
+    </message>
+    <message>
+        <source>cannot be held</source>
+        <translation>impossible</translation>
     </message>
 </context>
 <context>

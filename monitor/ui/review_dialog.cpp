@@ -16,13 +16,6 @@ namespace {
 
 QString shown(const std::string& utf8) { return QString::fromStdString(utf8); }
 
-/// A value that is not known has no unit either.
-QString withUnit(const std::string& value, MEAS_TYPE unit)
-{
-    const QString label = Words::unit(unit);
-    return value.empty() || value == "?" || label.isEmpty() ? shown(value) : shown(value) + ' ' + label;
-}
-
 void mark(QTableWidget& table, int row)
 {
     for (int column = 0; column < table.columnCount(); ++column) {
@@ -146,7 +139,7 @@ QStringList ReviewDialog::textsOf(const Change& change) const
     if (change.changedByOther)
         remark += (remark.isEmpty() ? "" : "; ") + tr("changed by another user in the meantime");
     return {shown(parameter.appearance.caption.in(m_language)), shown(change.tag),
-            withUnit(change.oldText, change.unit), withUnit(change.newText, change.unit), remark};
+            Words::value(change.oldText, change.unit), Words::value(change.newText, change.unit), remark};
 }
 
 } // namespace zor::monitor

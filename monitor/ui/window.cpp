@@ -1,45 +1,22 @@
 #include <zor/monitor/ui/window.h>
 #include <zor/monitor/ui/words.h>
-#include <zor/units/unit_catalogue.h>
 
-#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QInputDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMenuBar>
 #include <QMessageBox>
 #include <QPainter>
 #include <QScreen>
 #include <QToolBar>
 
-#include <array>
 #include <set>
 #include <utility>
 
 namespace zor::monitor {
 namespace {
 
-constexpr int kShortestPeriod = 100;
-constexpr int kLongestPeriod = 60000;
-
-struct SystemRow {
-    UnitSystem system;
-    const char* name;
-};
-
-constexpr std::array kSystems{
-    SystemRow{UnitSystem::Form, QT_TRANSLATE_NOOP("Window", "As on the &form")},
-    SystemRow{UnitSystem::Metric, QT_TRANSLATE_NOOP("Window", "&Metric")},
-    SystemRow{UnitSystem::Us, QT_TRANSLATE_NOOP("Window", "&US")},
-    SystemRow{UnitSystem::Device, QT_TRANSLATE_NOOP("Window", "As in the &device")},
-};
-
 QString plain(const std::string& utf8) { return QString::fromStdString(utf8); }
-
-/// In a menu an ampersand marks a key.
-QString inMenu(QString text) { return text.replace('&', "&&"); }
 
 /// The mark of a tab that holds edits.
 QIcon dot(QSize size)
@@ -66,6 +43,9 @@ Window::Window(std::unique_ptr<Session> session, std::unique_ptr<Form> form, Lan
 {
     setCentralWidget(&m_form->widget());
     m_bar->setMovable(false);
+    m_transfer = std::make_unique<SettingsTransfer>(*this, *m_session);
+    m_transfer->say = [this](const QString& text) { m_status.say(text); };
+    m_transfer->onProposed = [this] { review(); };
     m_soon.setSingleShot(true);
     connect(&m_soon, &QTimer::timeout, this, [this] { showEdits(); });
     m_session->isVisible = isInSight;
@@ -122,6 +102,7 @@ void Window::keep(const QWidget& window, const QString& name)
 Window::~Window()
 {
     delete m_review;
+    m_transfer.reset();
     m_session.reset();
     // The form owns its controls, the window its widget: the controls go first.
     takeCentralWidget()->setParent(nullptr);
@@ -134,6 +115,7 @@ void Window::setLanguage(const QString& code)
     m_languages.use(code);
     const std::string language = m_languages.current().toStdString();
     m_session->setLanguage(language);
+    m_transfer->setLanguage(language);
     m_form->translate(language);
     const QString title = plain(m_session->file().title.in(language));
     setWindowTitle(title.isEmpty() ? tr("ZorSmartControls Monitor") : tr("%1 - Monitor").arg(title));
@@ -161,98 +143,6 @@ void Window::setUnit(UNIT_TYPE type, MEAS_TYPE unit)
     m_form->arrange();
     if (!shown)
         m_status.say(tr("Not every value can be shown in that unit"));
-}
-
-// --- Menus
-
-void Window::buildMenus()
-{
-    // Not at once: one of them may be what has led here.
-    for (QMenu* menu : menuBar()->findChildren<QMenu*>(Qt::FindDirectChildrenOnly))
-        menu->deleteLater();
-    menuBar()->clear();
-    m_bar->clear();
-    QMenu* device = menuBar()->addMenu(tr("&Device"));
-    QAction* write = device->addAction(tr("&Write..."), QKeySequence("Ctrl+Return"), this, [this] { review(); });
-    QAction* undo = device->addAction(tr("&Undo all"), QKeySequence("Ctrl+Shift+Z"), this, [this] { undoAll(); });
-    device->addSeparator();
-    addDeviceActions(*device);
-    device->addSeparator();
-    device->addAction(tr("&Quit"), QKeySequence::Quit, this, [this] { close(); });
-    m_bar->setWindowTitle(tr("Device"));
-    m_bar->addAction(write);
-    m_bar->addAction(undo);
-    buildUnitMenu();
-    buildLanguageMenu();
-}
-
-void Window::addDeviceActions(QMenu& menu)
-{
-    menu.addAction(tr("&Poll period..."), this, [this] {
-        bool accepted = false;
-        const int period = QInputDialog::getInt(this, tr("Poll period"), tr("Milliseconds from read to read:"),
-                                                m_session->poller().period(), kShortestPeriod, kLongestPeriod,
-                                                kShortestPeriod, &accepted);
-        if (accepted)
-            m_session->setPeriod(period);
-    });
-    if (m_device == nullptr)
-        return;
-    QAction* runs = menu.addAction(tr("&Simulated device runs"));
-    runs->setCheckable(true);
-    runs->setChecked(m_device->isRunning());
-    connect(runs, &QAction::toggled, this, [this](bool on) {
-        if (!on)
-            m_device->stop();
-        else if (!m_device->start())
-            m_status.say(m_device->error());
-    });
-}
-
-void Window::buildUnitMenu()
-{
-    QMenu* menu = menuBar()->addMenu(tr("&Units"));
-    auto* group = new QActionGroup(menu);
-    for (const SystemRow& row : kSystems) {
-        QAction* action =
-            group->addAction(menu->addAction(tr(row.name), this, [this, &row] { setUnits(row.system); }));
-        action->setCheckable(true);
-        action->setChecked(row.system == m_units);
-    }
-    menu->addSeparator();
-    // A device has thousands of parameters, but few kinds of unit.
-    std::set<UNIT_TYPE> types;
-    for (const auto& binding : m_session->bindings()) {
-        if (binding->parameter() != nullptr && binding->has("OutputUnit"))
-            types.insert(binding->parameter()->unitType);
-    }
-    for (const UNIT_TYPE type : types)
-        addUnits(*menu, type);
-}
-
-void Window::addUnits(QMenu& menu, UNIT_TYPE type)
-{
-    const auto* row = units::rowOf(type);
-    // Units of the type OTHERS have nothing in common but their place in the list.
-    if (row == nullptr || row->first >= row->last || type == OTHERS)
-        return;
-    QMenu* own = menu.addMenu(inMenu(Words::unitType(type)));
-    for (std::int32_t unit = row->first; unit <= row->last; ++unit)
-        own->addAction(inMenu(Words::unit(MEAS_TYPE{unit})), this, [=, this] { setUnit(type, MEAS_TYPE{unit}); });
-}
-
-void Window::buildLanguageMenu()
-{
-    QMenu* menu = menuBar()->addMenu(tr("&Language"));
-    auto* group = new QActionGroup(menu);
-    for (const LanguageRow& row : languages()) {
-        // Later: the menu that holds this action is made anew.
-        QAction* action = menu->addAction(
-            QString::fromUtf8(row.name), this, [this, &row] { setLanguage(row.code); }, Qt::QueuedConnection);
-        action->setCheckable(true);
-        action->setChecked(m_languages.current() == row.code);
-        group->addAction(action);
-    }
 }
 
 QString Window::captionOf(const Parameter& parameter) const
@@ -361,6 +251,7 @@ void Window::showRound(bool answered)
 {
     m_answered = answered;
     m_status.showRound(answered);
+    m_transfer->hearRound(answered);
     if (m_review != nullptr)
         m_review->follow(m_session->pending());
     showEdits();

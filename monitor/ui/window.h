@@ -7,6 +7,7 @@
 #include <zor/monitor/ui/form.h>
 #include <zor/monitor/ui/languages.h>
 #include <zor/monitor/ui/review_dialog.h>
+#include <zor/monitor/ui/settings_transfer.h>
 #include <zor/monitor/ui/status_line.h>
 
 #include <QCoreApplication>
@@ -27,6 +28,7 @@ public:
 
     [[nodiscard]] Session& session() { return *m_session; }
     [[nodiscard]] Form& form() { return *m_form; }
+    [[nodiscard]] SettingsTransfer& transfer() { return *m_transfer; }
 
     void setLanguage(const QString& code);
     void setUnits(UnitSystem system);
@@ -51,6 +53,7 @@ protected:
 private:
     [[nodiscard]] QSize usualSize() const;
     void buildMenus();
+    void addSettingsActions(QMenu& menu);
     void addDeviceActions(QMenu& menu);
     void buildUnitMenu();
     void addUnits(QMenu& menu, UNIT_TYPE type);
@@ -71,6 +74,7 @@ private:
     Simulator* m_device;
     QToolBar* m_bar;
     StatusLine m_status;
+    std::unique_ptr<SettingsTransfer> m_transfer;
     QPointer<ReviewDialog> m_review;
     QTimer m_soon; ///< until the edits are shown
     QSettings* m_settings = nullptr;

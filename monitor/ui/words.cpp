@@ -33,7 +33,26 @@ constexpr std::array kOutcomes{
     QT_TRANSLATE_NOOP("Words", "not written: the device has changed since the review"),
 };
 
+// In the order of Verdict.
+constexpr std::array kVerdicts{
+    QT_TRANSLATE_NOOP("Words", "same"),
+    QT_TRANSLATE_NOOP("Words", "different"),
+    QT_TRANSLATE_NOOP("Words", "only in the file"),
+    QT_TRANSLATE_NOOP("Words", "not in the file"),
+    QT_TRANSLATE_NOOP("Words", "can only be read"),
+    QT_TRANSLATE_NOOP("Words", "cannot be held"),
+};
+
 } // namespace
+
+QString Words::verdict(Verdict verdict) { return tr(kVerdicts[static_cast<std::size_t>(verdict)]); }
+
+QString Words::value(const std::string& text, MEAS_TYPE unit)
+{
+    const QString label = Words::unit(unit);
+    const QString value = QString::fromStdString(text);
+    return text.empty() || text == "?" || label.isEmpty() ? value : value + ' ' + label;
+}
 
 QString Words::problem(Problem problem) { return tr(kProblems[static_cast<std::size_t>(problem)]); }
 

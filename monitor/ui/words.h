@@ -3,6 +3,7 @@
 /// Words for people, in the language of the program.
 
 #include <zor/monitor/session/session.h>
+#include <zor/monitor/settings/comparison.h>
 
 #include <QCoreApplication>
 
@@ -12,6 +13,9 @@ struct Words {
     Q_DECLARE_TR_FUNCTIONS(Words)
 public:
     [[nodiscard]] static QString problem(Problem problem);
+    [[nodiscard]] static QString verdict(Verdict verdict);
+    /// With its unit; one that is not known has none.
+    [[nodiscard]] static QString value(const std::string& text, MEAS_TYPE unit);
     [[nodiscard]] static QString outcome(const WriteResult& result);
     /// Why a request was not answered, or refused.
     [[nodiscard]] static QString reason(const Reply& reply);

@@ -2,11 +2,13 @@
 
 #include <zor/controls/registration.h>
 #include <zor/monitor/link/tcp_link.h>
+#include <zor/monitor/ui/settings_dialog.h>
 #include <zor/monitor/ui/window.h>
 
 #include <QCheckBox>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
@@ -212,6 +214,42 @@ TEST_F(Demo, ClosingWithEditsAsksAndClosingWithAReplyPendingIsSafe)
     EXPECT_TRUE(QTest::qWaitFor([&] { return window->session().link().pending() > 0; }, kPatience));
     window.reset();
     QTest::qWait(kPeriod);
+}
+
+TEST_F(Demo, LoadsFromASettingsFileWhatIsTickedThroughTheReview)
+{
+    QTemporaryDir folder;
+    const QString file = folder.filePath("settings.json");
+    window->transfer().save(file);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(file); }, kPatience));
+    const auto settings = loadSettingsFile(file.toStdString()).settings;
+    EXPECT_EQ(settings.size(), 11U);
+    const auto held = [&](const Setting& setting) {
+        const Location& location = this->file.parameters[*this->file.indexOf(setting.tag)].location;
+        return device.registers(HoldingRegister, location.address, location.registers);
+    };
+    for (const Setting& setting : settings) {
+        const Location& location = this->file.parameters[*this->file.indexOf(setting.tag)].location;
+        Registers other = held(setting);
+        other.back() ^= static_cast<std::uint16_t>(1U << location.bit);
+        device.setRegisters(HoldingRegister, location.address, other);
+    }
+    window->transfer().load(file);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window->transfer().openDialog() != nullptr; }, kPatience));
+    SettingsDialog* dialog = window->transfer().openDialog();
+    EXPECT_EQ(dialog->ticked().size(), settings.size());
+    auto* table = dialog->findChild<QTableWidget*>();
+    dialog->findChild<QLineEdit*>()->setText("damp");
+    for (int row = 0; row < table->rowCount(); ++row)
+        EXPECT_EQ(table->isRowHidden(row), table->item(row, 1)->text() != "Damping");
+    button(*dialog, "Tick &none shown")->click();
+    dialog->accept();
+    EXPECT_EQ(window->session().pending().size(), settings.size() - 1);
+    ASSERT_NE(window->openReview(), nullptr);
+    button(*window->openReview(), "&Write")->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->session().hasEdits(); }, 2 * kPatience));
+    for (const Setting& setting : settings)
+        EXPECT_EQ(held(setting) == setting.registers, setting.tag != "Damping") << setting.tag;
 }
 
 struct Drawn : Demo {

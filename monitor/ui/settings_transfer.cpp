@@ -1,0 +1,167 @@
+#include <zor/monitor/ui/settings_transfer.h>
+#include <zor/monitor/ui/words.h>
+
+#include <QDate>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QSaveFile>
+
+#include <utility>
+
+namespace zor::monitor {
+
+SettingsTransfer::SettingsTransfer(QWidget& window, Session& session) : m_window(window), m_session(session) {}
+
+SettingsTransfer::~SettingsTransfer() { delete m_progress; }
+
+void SettingsTransfer::fail(const QString& text)
+{
+    auto* box = new QMessageBox(QMessageBox::Warning, tr("Settings file"), text, QMessageBox::Ok, &m_window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    box->open();
+}
+
+std::optional<SettingsFile> SettingsTransfer::open(const QString& title, const QString& file)
+{
+    const QString name =
+        file.isEmpty() ? QFileDialog::getOpenFileName(&m_window, title, {}, tr("Settings files (*.json)")) : file;
+    if (name.isEmpty())
+        return std::nullopt;
+    try {
+        return loadSettingsFile(name.toStdString());
+    } catch (const FileError& error) {
+        fail(tr("This is no settings file that can be used:") + "\n\n" + QString::fromUtf8(error.what()));
+        return std::nullopt;
+    }
+}
+
+// --- Reading the device
+
+void SettingsTransfer::read(const SettingsFile& file, std::function<void()> then)
+{
+    if (m_survey != nullptr)
+        return;
+    m_survey = std::make_unique<Survey>(m_session, concerned(m_session.file(), file));
+    m_then = std::move(then);
+    m_progress = new QProgressDialog(tr("Reading the device..."), tr("Cancel"), 0,
+                                     static_cast<int>(m_survey->total()), &m_window);
+    m_progress->setWindowTitle(tr("Settings file"));
+    m_progress->setWindowModality(Qt::WindowModal);
+    m_progress->setAutoReset(false);
+    QObject::connect(m_progress, &QProgressDialog::canceled, m_progress, [this] {
+        end();
+        say(tr("Cancelled; nothing has been written"));
+    });
+    m_progress->setValue(0);
+}
+
+void SettingsTransfer::end()
+{
+    m_survey.reset();
+    if (m_progress != nullptr)
+        m_progress->deleteLater();
+    m_progress = nullptr;
+}
+
+void SettingsTransfer::hearRound(bool answered)
+{
+    if (m_survey == nullptr)
+        return;
+    const Survey::State state = m_survey->hearRound(answered);
+    if (m_progress != nullptr)
+        m_progress->setValue(static_cast<int>(m_survey->done()));
+    if (m_survey == nullptr || state == Survey::State::Going)
+        return; // showing the progress may have let the operator cancel
+    end();
+    if (state == Survey::State::Complete)
+        return std::exchange(m_then, nullptr)();
+    const Reply& failure = m_session.poller().failure();
+    const QString reason = failure.outcome == Outcome::Answered ? QString() : ": " + Words::reason(failure);
+    fail(tr("The device did not answer for all parameters") + reason);
+}
+
+// --- Saving
+
+void SettingsTransfer::save(QString file)
+{
+    if (file.isEmpty()) {
+        const QString usual = QString::fromStdString(m_session.deviceType()) +
+                              QDate::currentDate().toString("-yyyy-MM-dd") + ".json";
+        file = QFileDialog::getSaveFileName(&m_window, tr("Save settings"), usual, tr("Settings files (*.json)"));
+    }
+    if (!file.isEmpty())
+        read({}, [this, file] { keep(file); });
+}
+
+void SettingsTransfer::keep(const QString& file)
+{
+    const SettingsFile settings = settingsOf(m_session);
+    if (settings.settings.empty())
+        return fail(tr("The device has none of the parameters that can be written"));
+    QSaveFile target(file);
+    if (target.open(QIODevice::WriteOnly))
+        target.write(textOf(settings));
+    if (!target.commit())
+        return fail(file + ": " + target.errorString());
+    say(tr("%n setting(s) saved", nullptr, static_cast<int>(settings.settings.size())));
+}
+
+// --- Comparing and loading
+
+void SettingsTransfer::compare(QString file)
+{
+    if (const auto settings = open(tr("Compare with file"), file))
+        read(*settings, [this, settings] { show(*settings, false); });
+}
+
+void SettingsTransfer::load(QString file)
+{
+    if (const auto settings = open(tr("Load settings"), file))
+        read(*settings, [this, settings] { show(*settings, true); });
+}
+
+void SettingsTransfer::compareFiles(QString file, QString other)
+{
+    const auto one = open(tr("Compare two files: the first"), file);
+    const auto two = one ? open(tr("Compare two files: the second"), other) : std::nullopt;
+    if (!two)
+        return;
+    const ParameterFile& parameters = m_session.file();
+    auto* dialog =
+        new SettingsDialog(monitor::compare(parameters, *one, heldBy(parameters, *two), m_language), parameters,
+                           {tr("Compare two files"), tr("Second file")}, m_language, &m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+    m_dialog = dialog;
+}
+
+void SettingsTransfer::show(const SettingsFile& file, bool loads)
+{
+    SettingsDialog::Use use{loads ? tr("Load settings") : tr("Compare with file"), tr("Device"), loads,
+                            m_session.editable()};
+    auto* dialog = new SettingsDialog(monitor::compare(m_session.file(), file, heldBy(m_session), m_language),
+                                      m_session.file(), std::move(use), m_language, &m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(dialog, &QDialog::accepted, dialog,
+                     [this, dialog] { propose(dialog->comparison(), dialog->ticked()); });
+    dialog->open();
+    m_dialog = dialog;
+}
+
+void SettingsTransfer::propose(const Comparison& comparison, const std::set<std::size_t>& ticked)
+{
+    if (comparison.device != m_session.device())
+        return fail(tr("Another device has taken over since; nothing has been loaded"));
+    QStringList left;
+    for (const Compared& row : comparison.rows) {
+        if (row.parameter && ticked.contains(*row.parameter) && !m_session.propose(*row.parameter, row.there))
+            left.append(QString::fromStdString(row.tag));
+    }
+    if (!left.isEmpty())
+        fail(tr("Not every value could be entered in its field: %1").arg(left.join(", ")));
+    onProposed();
+}
+
+} // namespace zor::monitor

@@ -1,0 +1,67 @@
+#pragma once
+
+/// Settings files from the window: reading the device, the table, and what becomes of it.
+
+#include <zor/monitor/settings/comparison.h>
+#include <zor/monitor/settings/survey.h>
+#include <zor/monitor/ui/settings_dialog.h>
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+class QProgressDialog;
+
+namespace zor::monitor {
+
+class SettingsTransfer {
+    Q_DECLARE_TR_FUNCTIONS(SettingsTransfer)
+public:
+    /// Both must outlive it.
+    SettingsTransfer(QWidget& window, Session& session);
+    ~SettingsTransfer();
+    SettingsTransfer(const SettingsTransfer&) = delete;
+    SettingsTransfer& operator=(const SettingsTransfer&) = delete;
+
+    /// Something to be said in passing.
+    std::function<void(const QString& text)> say;
+    /// What was ticked for loading has become edits: they can be reviewed.
+    std::function<void()> onProposed;
+
+    /// @name Each asks for the file, or files, when none is named
+    /// Reads the device first, with a progress that can be cancelled. Writes nothing to the device.
+    /// @{
+    void save(QString file = {});
+    void compare(QString file = {});
+    void load(QString file = {});
+    void compareFiles(QString file = {}, QString other = {});
+    /// @}
+
+    void setLanguage(const std::string& language) { m_language = language; }
+    /// The table that is open; nullptr for none.
+    [[nodiscard]] SettingsDialog* openDialog() const { return m_dialog; }
+    /// To be told of each round.
+    void hearRound(bool answered);
+
+private:
+    void read(const SettingsFile& file, std::function<void()> then);
+    void end();
+    void keep(const QString& file);
+    void show(const SettingsFile& file, bool loads);
+    void propose(const Comparison& comparison, const std::set<std::size_t>& ticked);
+    [[nodiscard]] std::optional<SettingsFile> open(const QString& title, const QString& file);
+    void fail(const QString& text);
+
+    QWidget& m_window;
+    Session& m_session;
+    std::string m_language = "en";
+    std::unique_ptr<Survey> m_survey;
+    std::function<void()> m_then;
+    QPointer<QProgressDialog> m_progress;
+    QPointer<SettingsDialog> m_dialog;
+};
+
+} // namespace zor::monitor

@@ -1,0 +1,138 @@
+// The window's menus. They are made anew with every language.
+
+#include <zor/monitor/ui/window.h>
+#include <zor/monitor/ui/words.h>
+#include <zor/units/unit_catalogue.h>
+
+#include <QActionGroup>
+#include <QInputDialog>
+#include <QMenuBar>
+#include <QToolBar>
+
+#include <array>
+#include <set>
+
+namespace zor::monitor {
+namespace {
+
+constexpr int kShortestPeriod = 100;
+constexpr int kLongestPeriod = 60000;
+
+struct SystemRow {
+    UnitSystem system;
+    const char* name;
+};
+
+constexpr std::array kSystems{
+    SystemRow{UnitSystem::Form, QT_TRANSLATE_NOOP("Window", "As on the &form")},
+    SystemRow{UnitSystem::Metric, QT_TRANSLATE_NOOP("Window", "&Metric")},
+    SystemRow{UnitSystem::Us, QT_TRANSLATE_NOOP("Window", "&US")},
+    SystemRow{UnitSystem::Device, QT_TRANSLATE_NOOP("Window", "As in the &device")},
+};
+
+/// In a menu an ampersand marks a key.
+QString inMenu(QString text) { return text.replace('&', "&&"); }
+
+} // namespace
+
+void Window::buildMenus()
+{
+    // Not at once: one of them may be what has led here.
+    for (QMenu* menu : menuBar()->findChildren<QMenu*>(Qt::FindDirectChildrenOnly))
+        menu->deleteLater();
+    menuBar()->clear();
+    m_bar->clear();
+    QMenu* device = menuBar()->addMenu(tr("&Device"));
+    QAction* write = device->addAction(tr("&Write..."), QKeySequence("Ctrl+Return"), this, [this] { review(); });
+    QAction* undo = device->addAction(tr("&Undo all"), QKeySequence("Ctrl+Shift+Z"), this, [this] { undoAll(); });
+    device->addSeparator();
+    addSettingsActions(*device);
+    device->addSeparator();
+    addDeviceActions(*device);
+    device->addSeparator();
+    device->addAction(tr("&Quit"), QKeySequence::Quit, this, [this] { close(); });
+    m_bar->setWindowTitle(tr("Device"));
+    m_bar->addAction(write);
+    m_bar->addAction(undo);
+    buildUnitMenu();
+    buildLanguageMenu();
+}
+
+void Window::addSettingsActions(QMenu& menu)
+{
+    menu.addAction(tr("&Save settings..."), QKeySequence::Save, this, [this] { m_transfer->save(); });
+    menu.addAction(tr("&Load settings..."), QKeySequence::Open, this, [this] { m_transfer->load(); });
+    menu.addAction(tr("&Compare with file..."), QKeySequence("Ctrl+D"), this, [this] { m_transfer->compare(); });
+    menu.addAction(tr("Compare &two files..."), this, [this] { m_transfer->compareFiles(); });
+}
+
+void Window::addDeviceActions(QMenu& menu)
+{
+    menu.addAction(tr("&Poll period..."), this, [this] {
+        bool accepted = false;
+        const int period = QInputDialog::getInt(this, tr("Poll period"), tr("Milliseconds from read to read:"),
+                                                m_session->poller().period(), kShortestPeriod, kLongestPeriod,
+                                                kShortestPeriod, &accepted);
+        if (accepted)
+            m_session->setPeriod(period);
+    });
+    if (m_device == nullptr)
+        return;
+    QAction* runs = menu.addAction(tr("&Simulated device runs"));
+    runs->setCheckable(true);
+    runs->setChecked(m_device->isRunning());
+    connect(runs, &QAction::toggled, this, [this](bool on) {
+        if (!on)
+            m_device->stop();
+        else if (!m_device->start())
+            m_status.say(m_device->error());
+    });
+}
+
+void Window::buildUnitMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Units"));
+    auto* group = new QActionGroup(menu);
+    for (const SystemRow& row : kSystems) {
+        QAction* action =
+            group->addAction(menu->addAction(tr(row.name), this, [this, &row] { setUnits(row.system); }));
+        action->setCheckable(true);
+        action->setChecked(row.system == m_units);
+    }
+    menu->addSeparator();
+    // A device has thousands of parameters, but few kinds of unit.
+    std::set<UNIT_TYPE> types;
+    for (const auto& binding : m_session->bindings()) {
+        if (binding->parameter() != nullptr && binding->has("OutputUnit"))
+            types.insert(binding->parameter()->unitType);
+    }
+    for (const UNIT_TYPE type : types)
+        addUnits(*menu, type);
+}
+
+void Window::addUnits(QMenu& menu, UNIT_TYPE type)
+{
+    const auto* row = units::rowOf(type);
+    // Units of the type OTHERS have nothing in common but their place in the list.
+    if (row == nullptr || row->first >= row->last || type == OTHERS)
+        return;
+    QMenu* own = menu.addMenu(inMenu(Words::unitType(type)));
+    for (std::int32_t unit = row->first; unit <= row->last; ++unit)
+        own->addAction(inMenu(Words::unit(MEAS_TYPE{unit})), this, [=, this] { setUnit(type, MEAS_TYPE{unit}); });
+}
+
+void Window::buildLanguageMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Language"));
+    auto* group = new QActionGroup(menu);
+    for (const LanguageRow& row : languages()) {
+        // Later: the menu that holds this action is made anew.
+        QAction* action = menu->addAction(
+            QString::fromUtf8(row.name), this, [this, &row] { setLanguage(row.code); }, Qt::QueuedConnection);
+        action->setCheckable(true);
+        action->setChecked(m_languages.current() == row.code);
+        group->addAction(action);
+    }
+}
+
+} // namespace zor::monitor
