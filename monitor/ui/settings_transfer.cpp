@@ -110,19 +110,19 @@ void SettingsTransfer::keep(const QString& file)
 
 // --- Comparing and loading
 
-void SettingsTransfer::compare(QString file)
+void SettingsTransfer::compare(const QString& file)
 {
     if (const auto settings = open(tr("Compare with file"), file))
         read(*settings, [this, settings] { show(*settings, false); });
 }
 
-void SettingsTransfer::load(QString file)
+void SettingsTransfer::load(const QString& file)
 {
     if (const auto settings = open(tr("Load settings"), file))
         read(*settings, [this, settings] { show(*settings, true); });
 }
 
-void SettingsTransfer::compareFiles(QString file, QString other)
+void SettingsTransfer::compareFiles(const QString& file, const QString& other)
 {
     const auto one = open(tr("Compare two files: the first"), file);
     const auto two = one ? open(tr("Compare two files: the second"), other) : std::nullopt;

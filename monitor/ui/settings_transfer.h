@@ -35,9 +35,9 @@ public:
     /// Reads the device first, with a progress that can be cancelled. Writes nothing to the device.
     /// @{
     void save(QString file = {});
-    void compare(QString file = {});
-    void load(QString file = {});
-    void compareFiles(QString file = {}, QString other = {});
+    void compare(const QString& file = {});
+    void load(const QString& file = {});
+    void compareFiles(const QString& file = {}, const QString& other = {});
     /// @}
 
     void setLanguage(const std::string& language) { m_language = language; }
