@@ -132,7 +132,7 @@ def project(line, content):
 def fragment(line, given, content):
     """C++ that is no quotation compiles in the context given: as the body of a function behind its declarations."""
     commands = json.loads((BUILD / "compile_commands.json").read_text())
-    uic = next(c for c in commands if c["file"].endswith("examples/tank/uic.cpp"))
+    uic = next(c for c in commands if "/example_tank_uic.dir/" in c["command"])
     head = [one for one in content if one.startswith("#include")]
     body = [one for one in content if not one.startswith("#include")]
     standard = ["#include <zor/widgets.h>", "#include <zor/qt.h>", "#include <zor/pages.h>", '#include "ui_tank.h"',
