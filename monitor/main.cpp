@@ -1,5 +1,6 @@
 #include <zor/controls/registration.h>
 #include <zor/forms/form_error.h>
+#include <zor/monitor/device/device.h>
 #include <zor/monitor/link/device_address.h>
 #include <zor/monitor/settings/settings_commands.h>
 #include <zor/monitor/ui/window.h>
@@ -7,7 +8,6 @@
 
 #include <CLI/CLI.hpp>
 #include <QApplication>
-#include <QFile>
 
 #include <iostream>
 
@@ -83,17 +83,16 @@ int fail(int status, const std::string& text)
     return status;
 }
 
-ParameterFile loadParameters(const Settings& settings)
+DeviceEntry entryOf(const Settings& settings)
 {
-    const QString name =
-        settings.parameters.empty() ? QString(":/monitor/demo.json") : QString::fromStdString(settings.parameters);
-    QFile file(name);
-    if (!file.open(QIODevice::ReadOnly))
-        throw FileError(name.toStdString(), 0, file.errorString().toStdString());
-    constexpr qint64 kLargest = 16 << 20;
-    if (file.size() > kLargest)
-        throw FileError(name.toStdString(), 0, "larger than 16 MB");
-    return readParameterFile(file.readAll().toStdString(), name.toStdString());
+    DeviceEntry entry;
+    entry.address = QString::fromStdString(settings.device);
+    entry.parameters = QString::fromStdString(settings.parameters);
+    entry.form = QString::fromStdString(settings.form);
+    entry.record = QString::fromStdString(settings.log);
+    entry.period = settings.period;
+    entry.timeout = settings.timeout;
+    return entry;
 }
 
 int serve(const ParameterFile& file, int port)
@@ -125,40 +124,24 @@ int finish(Window& window, const Settings& settings)
     return kWell;
 }
 
-/// The session with the device that the options name, or with a simulated one.
-struct Device {
-    Device(const Settings& settings, ParameterFile file)
-    {
-        if (!settings.log.empty())
-            log.emplace(QString::fromStdString(settings.log));
-        QString address = QString::fromStdString(settings.device);
-        if (address.isEmpty()) {
-            simulated = file;
-            simulator = std::make_unique<Simulator>(simulated);
-            if (!simulator->start())
-                throw std::runtime_error("the simulated device: " + simulator->error().toStdString());
-            address = QString("tcp://127.0.0.1:%1").arg(simulator->port());
-        }
-        auto link = openLink(address, settings.timeout > 0 ? settings.timeout : settings.period);
-        session = std::make_unique<Session>(std::move(link), std::move(file), log ? &*log : nullptr);
-    }
-
-    std::optional<Log> log;
-    ParameterFile simulated;
-    std::unique_ptr<Simulator> simulator;
-    std::unique_ptr<Session> session;
-};
-
 int transfer(const Settings& settings, ParameterFile file)
 {
     if (!settings.task.needsDevice())
         return compareFiles(file, settings.task, std::cout);
-    const Device device(settings, std::move(file));
-    device.session->start(settings.period, settings.timeout);
-    const int status = runSettings(*device.session, settings.task, std::cout, std::cerr);
-    if (!device.session->recordError().isEmpty())
-        return fail(kUsage, settings.log + ": " + device.session->recordError().toStdString());
+    Device device(entryOf(settings), std::move(file));
+    device.start();
+    const int status = runSettings(device.session(), settings.task, std::cout, std::cerr);
+    if (!device.session().recordError().isEmpty())
+        return fail(kUsage, settings.log + ": " + device.session().recordError().toStdString());
     return status;
+}
+
+std::unique_ptr<Form> formOf(const Settings& settings, const Session& session,
+                             const zor::core::ClassRegistry& classes)
+{
+    if (settings.form.empty())
+        return std::make_unique<GeneratedForm>(session.file(), classes);
+    return std::make_unique<UiForm>(QString::fromStdString(settings.form), classes);
 }
 
 int monitor(const Settings& settings, ParameterFile file)
@@ -168,13 +151,8 @@ int monitor(const Settings& settings, ParameterFile file)
                                             : QString::fromStdString(settings.language));
     zor::core::ClassRegistry classes;
     zor::registerControls(classes);
-    Device device(settings, std::move(file));
-    std::unique_ptr<Session> session = std::move(device.session);
-    std::unique_ptr<Form> form;
-    if (settings.form.empty())
-        form = std::make_unique<GeneratedForm>(session->file(), classes);
-    else
-        form = std::make_unique<UiForm>(QString::fromStdString(settings.form), classes);
+    auto device = std::make_unique<Device>(entryOf(settings), std::move(file));
+    std::unique_ptr<Form> form = formOf(settings, device->session(), classes);
     const int tabs = form->tabs() != nullptr ? std::max(1, form->tabs()->count()) : 1;
     if (settings.tab >= tabs)
         return fail(kUsage,
@@ -182,15 +160,15 @@ int monitor(const Settings& settings, ParameterFile file)
     if (form->tabs() != nullptr)
         form->tabs()->setCurrentIndex(settings.tab);
     QSettings sizes("ZorSmartControls", "zor-monitor");
-    Window window(std::move(session), std::move(form), languages, device.simulator.get());
+    Window window(std::make_unique<DevicePanel>(std::move(device), std::move(form)), languages);
     if (settings.runFor == 0 && settings.screenshot.empty())
         window.remember(sizes); // what nobody watches leaves no traces and looks the same each time
     if (settings.units != "form")
         window.setUnits(kUnitSystems.at(settings.units));
     window.show();
-    if (settings.runFor > 0 || device.log)
+    if (settings.runFor > 0 || !settings.log.empty())
         window.session().readEverything();
-    window.session().start(settings.period, settings.timeout);
+    window.front().device().start();
     if (settings.runFor > 0) {
         constexpr int kSecond = 1000;
         QTimer::singleShot(settings.runFor * kSecond, &window, [&] { window.closeUnasked(); });
@@ -215,7 +193,7 @@ int run(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     const Languages resources;
-    ParameterFile file = loadParameters(settings);
+    ParameterFile file = loadParameters(entryOf(settings));
     if (settings.task.isGiven())
         return transfer(settings, std::move(file));
     return settings.serve > 0 ? serve(file, settings.serve) : monitor(settings, std::move(file));

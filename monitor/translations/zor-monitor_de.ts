@@ -2,6 +2,36 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>DevicePanel</name>
+    <message>
+        <source>Nothing to write</source>
+        <translation>Nichts zu schreiben</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n value(s) written and read back</source>
+        <translation>
+            <numerusform>%n Wert geschrieben und zurückgelesen</numerusform>
+            <numerusform>%n Werte geschrieben und zurückgelesen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not everything was written</source>
+        <translation>Nicht alles ist geschrieben</translation>
+    </message>
+    <message>
+        <source>These edits are kept:</source>
+        <translation>Diese Änderungen bleiben erhalten:</translation>
+    </message>
+    <message>
+        <source>Not every value can be shown in that unit</source>
+        <translation>Nicht jeder Wert kann in dieser Einheit angezeigt werden</translation>
+    </message>
+    <message>
+        <source>Holds edits that have not been written</source>
+        <translation>Enthält Änderungen, die nicht geschrieben sind</translation>
+    </message>
+</context>
+<context>
     <name>GeneratedForm</name>
     <message>
         <source>General</source>
@@ -246,6 +276,14 @@
 <context>
     <name>Window</name>
     <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Tool bar</source>
+        <translation>&amp;Werkzeugleiste</translation>
+    </message>
+    <message>
         <source>Not taken: this field cannot be edited now</source>
         <translation>Nicht übernommen: dieses Feld lässt sich jetzt nicht bearbeiten</translation>
     </message>
@@ -318,35 +356,8 @@
         <translation>&amp;Sprache</translation>
     </message>
     <message>
-        <source>Nothing to write</source>
-        <translation>Nichts zu schreiben</translation>
-    </message>
-    <message>
         <source>There are edits that have not been written. Close all the same?</source>
         <translation>Es gibt Änderungen, die nicht geschrieben sind. Trotzdem schließen?</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n value(s) written and read back</source>
-        <translation>
-            <numerusform>%n Wert geschrieben und zurückgelesen</numerusform>
-            <numerusform>%n Werte geschrieben und zurückgelesen</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Not everything was written</source>
-        <translation>Nicht alles ist geschrieben</translation>
-    </message>
-    <message>
-        <source>These edits are kept:</source>
-        <translation>Diese Änderungen bleiben erhalten:</translation>
-    </message>
-    <message>
-        <source>Not every value can be shown in that unit</source>
-        <translation>Nicht jeder Wert kann in dieser Einheit angezeigt werden</translation>
-    </message>
-    <message>
-        <source>Holds edits that have not been written</source>
-        <translation>Enthält Änderungen, die nicht geschrieben sind</translation>
     </message>
     <message>
         <source>&amp;Save settings...</source>

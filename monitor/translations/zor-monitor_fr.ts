@@ -2,6 +2,36 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr">
 <context>
+    <name>DevicePanel</name>
+    <message>
+        <source>Nothing to write</source>
+        <translation>Rien à écrire</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n value(s) written and read back</source>
+        <translation>
+            <numerusform>%n valeur écrite et relue</numerusform>
+            <numerusform>%n valeurs écrites et relues</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not everything was written</source>
+        <translation>Tout n&apos;a pas été écrit</translation>
+    </message>
+    <message>
+        <source>These edits are kept:</source>
+        <translation>Ces modifications sont conservées :</translation>
+    </message>
+    <message>
+        <source>Not every value can be shown in that unit</source>
+        <translation>Toutes les valeurs ne peuvent pas être affichées dans cette unité</translation>
+    </message>
+    <message>
+        <source>Holds edits that have not been written</source>
+        <translation>Contient des modifications non écrites</translation>
+    </message>
+</context>
+<context>
     <name>GeneratedForm</name>
     <message>
         <source>General</source>
@@ -246,6 +276,14 @@
 <context>
     <name>Window</name>
     <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Tool bar</source>
+        <translation>&amp;Barre d'outils</translation>
+    </message>
+    <message>
         <source>Not taken: this field cannot be edited now</source>
         <translation>Non pris : ce champ ne peut être modifié maintenant</translation>
     </message>
@@ -318,35 +356,8 @@
         <translation>&amp;Langue</translation>
     </message>
     <message>
-        <source>Nothing to write</source>
-        <translation>Rien à écrire</translation>
-    </message>
-    <message>
         <source>There are edits that have not been written. Close all the same?</source>
         <translation>Des modifications n&apos;ont pas été écrites. Fermer quand même ?</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n value(s) written and read back</source>
-        <translation>
-            <numerusform>%n valeur écrite et relue</numerusform>
-            <numerusform>%n valeurs écrites et relues</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Not everything was written</source>
-        <translation>Tout n&apos;a pas été écrit</translation>
-    </message>
-    <message>
-        <source>These edits are kept:</source>
-        <translation>Ces modifications sont conservées :</translation>
-    </message>
-    <message>
-        <source>Not every value can be shown in that unit</source>
-        <translation>Toutes les valeurs ne peuvent pas être affichées dans cette unité</translation>
-    </message>
-    <message>
-        <source>Holds edits that have not been written</source>
-        <translation>Contient des modifications non écrites</translation>
     </message>
     <message>
         <source>&amp;Save settings...</source>

@@ -29,13 +29,20 @@ void ElidedLabel::paintEvent(QPaintEvent* /*event*/)
     painter.drawText(contentsRect(), static_cast<int>(Qt::AlignVCenter) | Qt::TextSingleLine, shown);
 }
 
-StatusLine::StatusLine(QStatusBar& bar, Session& session)
-    : m_bar(bar), m_session(session), m_state(new ElidedLabel(&bar)), m_traffic(new QLabel(&bar))
+StatusLine::StatusLine(QStatusBar& bar) : m_bar(bar), m_state(new ElidedLabel(&bar)), m_traffic(new QLabel(&bar))
 {
     m_traffic->setTextFormat(Qt::PlainText);
     // A message takes the place of what is not permanent.
     m_bar.addWidget(m_state, 1);
     m_bar.addPermanentWidget(m_traffic);
+}
+
+void StatusLine::follow(Session& session)
+{
+    m_session = &session;
+    m_counted = {session.link().reads().requests, session.link().writes().requests};
+    m_traffic->clear();
+    m_traffic->setToolTip({});
     m_clock.start();
 }
 
@@ -43,7 +50,7 @@ void StatusLine::showRound(bool answered)
 {
     if (std::exchange(m_answered, answered) != answered)
         m_bar.clearMessage();
-    const QString record = m_session.recordError();
+    const QString record = m_session->recordError();
     QFont font = m_bar.font();
     font.setBold(!answered || !record.isEmpty());
     m_state->setFont(font);
@@ -56,17 +63,17 @@ void StatusLine::showRound(bool answered)
 
 QString StatusLine::connection(bool answered) const
 {
-    QString device = m_session.link().description();
-    if (!m_session.deviceType().empty())
-        device += QString(", %1 %2").arg(QString::fromStdString(m_session.deviceType()),
-                                         QString::fromStdString(m_session.deviceVersion()));
+    QString device = m_session->link().description();
+    if (!m_session->deviceType().empty())
+        device += QString(", %1 %2").arg(QString::fromStdString(m_session->deviceType()),
+                                         QString::fromStdString(m_session->deviceVersion()));
     const QString time = QTime::currentTime().toString("HH:mm:ss");
     if (answered)
         return tr("%1: connected, read at %2").arg(device, time);
-    if (m_session.poller().rounds() == 0)
+    if (m_session->poller().rounds() == 0)
         return tr("%1: not read yet").arg(device);
     // What is wrong comes first, and so is not what a narrow window cuts off.
-    return tr("No answer: %1 (%2, tried at %3)").arg(Words::reason(m_session.poller().failure()), device, time);
+    return tr("No answer: %1 (%2, tried at %3)").arg(Words::reason(m_session->poller().failure()), device, time);
 }
 
 void StatusLine::showTraffic()
@@ -77,7 +84,7 @@ void StatusLine::showTraffic()
     const double seconds = static_cast<double>(m_clock.restart()) / kSecond;
     const QLocale locale;
     const auto number = [&](double value) { return locale.toString(value, 'f', 1); };
-    const std::array<const Traffic*, 2> kinds{&m_session.link().reads(), &m_session.link().writes()};
+    const std::array<const Traffic*, 2> kinds{&m_session->link().reads(), &m_session->link().writes()};
     const std::array names{tr("Reads"), tr("Writes")};
     QStringList line;
     QStringList table;

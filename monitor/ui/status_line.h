@@ -16,8 +16,11 @@ namespace zor::monitor {
 class StatusLine final {
     Q_DECLARE_TR_FUNCTIONS(StatusLine)
 public:
-    /// Both must outlive the line.
-    StatusLine(QStatusBar& bar, Session& session);
+    /// Must outlive the line.
+    explicit StatusLine(QStatusBar& bar);
+
+    /// Speaks of this session from now on; it must outlive that.
+    void follow(Session& session);
 
     /// After a round, and after a change of language.
     void showRound(bool answered);
@@ -29,7 +32,7 @@ private:
     void showTraffic();
 
     QStatusBar& m_bar;
-    Session& m_session;
+    Session* m_session = nullptr;
     ElidedLabel* m_state;
     QLabel* m_traffic;
     QElapsedTimer m_clock;

@@ -2,33 +2,40 @@
 
 /// The monitor's window.
 
-#include <zor/monitor/device/simulator.h>
-#include <zor/monitor/session/session.h>
-#include <zor/monitor/ui/form.h>
+#include <zor/monitor/ui/device_panel.h>
 #include <zor/monitor/ui/languages.h>
-#include <zor/monitor/ui/review_dialog.h>
-#include <zor/monitor/ui/settings_transfer.h>
 #include <zor/monitor/ui/status_line.h>
 
-#include <QCoreApplication>
-#include <QDialog>
+#include <QDockWidget>
 #include <QMainWindow>
-#include <QPointer>
-#include <QSettings>
+#include <QStackedWidget>
 
 namespace zor::monitor {
 
+/// Holds the panels of devices, of which one is in front; menus, tool bar and status bar speak of that one.
 class Window final : public QMainWindow {
     Q_DECLARE_TR_FUNCTIONS(Window)
 public:
-    /// Takes the session and the form over and binds the form's controls. `device`, when there is one, can be
-    /// stopped and started from the menu; it and `languages` must outlive the window.
-    Window(std::unique_ptr<Session> session, std::unique_ptr<Form> form, Languages& languages, Simulator* device);
+    /// There is always at least one device. `languages` must outlive the window.
+    Window(std::unique_ptr<DevicePanel> first, Languages& languages);
     ~Window() override;
 
-    [[nodiscard]] Session& session() { return *m_session; }
-    [[nodiscard]] Form& form() { return *m_form; }
-    [[nodiscard]] SettingsTransfer& transfer() { return *m_transfer; }
+    /// @name Devices
+    /// @{
+    /// Another device; the one in front stays there.
+    DevicePanel& add(std::unique_ptr<DevicePanel> panel);
+    void bringToFront(DevicePanel& panel);
+    [[nodiscard]] DevicePanel& front() { return *m_front; }
+    [[nodiscard]] std::span<const std::unique_ptr<DevicePanel>> panels() const { return m_panels; }
+    [[nodiscard]] Session& session() { return m_front->session(); }
+    [[nodiscard]] Form& form() { return m_front->form(); }
+    /// Calls with the device in front, now and whenever another one comes there.
+    void whenFront(std::function<void(DevicePanel& panel)> hear);
+    /// @}
+
+    /// A dock that the menu "View" shows and hides; hidden until the operator asks for it. Its object name must be
+    /// its own, its texts follow QEvent::LanguageChange.
+    void addDock(QDockWidget& dock, Qt::DockWidgetArea area);
 
     void setLanguage(const QString& code);
     void setUnits(UnitSystem system);
@@ -37,11 +44,6 @@ public:
     /// outlive the window.
     void remember(QSettings& settings);
 
-    /// Takes the entry under way over and opens the list of changes for review.
-    void review();
-    void undoAll();
-    /// The review that is open; nullptr for none.
-    [[nodiscard]] QDialog* openReview() const { return m_review; }
     /// Closes without a question, edits or not.
     void closeUnasked();
 
@@ -55,31 +57,25 @@ private:
     void buildMenus();
     void addSettingsActions(QMenu& menu);
     void addDeviceActions(QMenu& menu);
+    void buildViewMenu();
     void buildUnitMenu();
     void addUnits(QMenu& menu, UNIT_TYPE type);
     void buildLanguageMenu();
     void commitEntry();
     void keepFrozenReadable();
     void setUnit(UNIT_TYPE type, MEAS_TYPE unit);
-    void showRound(bool answered);
-    void showEdits();
-    void showResults(const std::vector<Written>& results);
-    [[nodiscard]] QString captionOf(const Parameter& parameter) const;
-    void restore(QWidget& window, const QString& name);
-    void keep(const QWidget& window, const QString& name);
+    void showFront();
 
-    std::unique_ptr<Form> m_form; ///< outlives the session, which holds on to its controls
-    std::unique_ptr<Session> m_session;
+    std::vector<std::unique_ptr<DevicePanel>> m_panels;
+    DevicePanel* m_front = nullptr;
+    QStackedWidget* m_stack;
     Languages& m_languages;
-    Simulator* m_device;
     QToolBar* m_bar;
     StatusLine m_status;
-    std::unique_ptr<SettingsTransfer> m_transfer;
-    QPointer<ReviewDialog> m_review;
-    QTimer m_soon; ///< until the edits are shown
-    QSettings* m_settings = nullptr;
+    std::vector<std::function<void(DevicePanel&)>> m_whenFront;
+    std::vector<QDockWidget*> m_docks;
+    Memory m_memory;
     UnitSystem m_units = UnitSystem::Form;
-    bool m_answered = false;
     bool m_unasked = false;
 };
 

@@ -43,8 +43,10 @@ void Window::buildMenus()
     menuBar()->clear();
     m_bar->clear();
     QMenu* device = menuBar()->addMenu(tr("&Device"));
-    QAction* write = device->addAction(tr("&Write..."), QKeySequence("Ctrl+Return"), this, [this] { review(); });
-    QAction* undo = device->addAction(tr("&Undo all"), QKeySequence("Ctrl+Shift+Z"), this, [this] { undoAll(); });
+    QAction* write =
+        device->addAction(tr("&Write..."), QKeySequence("Ctrl+Return"), this, [this] { m_front->review(); });
+    QAction* undo =
+        device->addAction(tr("&Undo all"), QKeySequence("Ctrl+Shift+Z"), this, [this] { m_front->undoAll(); });
     device->addSeparator();
     addSettingsActions(*device);
     device->addSeparator();
@@ -54,16 +56,18 @@ void Window::buildMenus()
     m_bar->setWindowTitle(tr("Device"));
     m_bar->addAction(write);
     m_bar->addAction(undo);
+    buildViewMenu();
     buildUnitMenu();
     buildLanguageMenu();
 }
 
 void Window::addSettingsActions(QMenu& menu)
 {
-    menu.addAction(tr("&Save settings..."), QKeySequence::Save, this, [this] { m_transfer->save(); });
-    menu.addAction(tr("&Load settings..."), QKeySequence::Open, this, [this] { m_transfer->load(); });
-    menu.addAction(tr("&Compare with file..."), QKeySequence("Ctrl+D"), this, [this] { m_transfer->compare(); });
-    menu.addAction(tr("Compare &two files..."), this, [this] { m_transfer->compareFiles(); });
+    menu.addAction(tr("&Save settings..."), QKeySequence::Save, this, [this] { m_front->transfer().save(); });
+    menu.addAction(tr("&Load settings..."), QKeySequence::Open, this, [this] { m_front->transfer().load(); });
+    menu.addAction(tr("&Compare with file..."), QKeySequence("Ctrl+D"), this,
+                   [this] { m_front->transfer().compare(); });
+    menu.addAction(tr("Compare &two files..."), this, [this] { m_front->transfer().compareFiles(); });
 }
 
 void Window::addDeviceActions(QMenu& menu)
@@ -71,22 +75,32 @@ void Window::addDeviceActions(QMenu& menu)
     menu.addAction(tr("&Poll period..."), this, [this] {
         bool accepted = false;
         const int period = QInputDialog::getInt(this, tr("Poll period"), tr("Milliseconds from read to read:"),
-                                                m_session->poller().period(), kShortestPeriod, kLongestPeriod,
+                                                session().poller().period(), kShortestPeriod, kLongestPeriod,
                                                 kShortestPeriod, &accepted);
         if (accepted)
-            m_session->setPeriod(period);
+            session().setPeriod(period);
     });
-    if (m_device == nullptr)
+    Simulator* simulator = m_front->device().simulator();
+    if (simulator == nullptr)
         return;
     QAction* runs = menu.addAction(tr("&Simulated device runs"));
     runs->setCheckable(true);
-    runs->setChecked(m_device->isRunning());
-    connect(runs, &QAction::toggled, this, [this](bool on) {
+    runs->setChecked(simulator->isRunning());
+    connect(runs, &QAction::toggled, this, [this, simulator](bool on) {
         if (!on)
-            m_device->stop();
-        else if (!m_device->start())
-            m_status.say(m_device->error());
+            simulator->stop();
+        else if (!simulator->start())
+            m_status.say(simulator->error());
     });
+}
+
+void Window::buildViewMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&View"));
+    for (const QDockWidget* dock : m_docks)
+        menu->addAction(dock->toggleViewAction());
+    m_bar->toggleViewAction()->setText(tr("&Tool bar"));
+    menu->addAction(m_bar->toggleViewAction());
 }
 
 void Window::buildUnitMenu()
@@ -102,7 +116,7 @@ void Window::buildUnitMenu()
     menu->addSeparator();
     // A device has thousands of parameters, but few kinds of unit.
     std::set<UNIT_TYPE> types;
-    for (const auto& binding : m_session->bindings()) {
+    for (const auto& binding : session().bindings()) {
         if (binding->parameter() != nullptr && binding->has("OutputUnit"))
             types.insert(binding->parameter()->unitType);
     }

@@ -1,7 +1,6 @@
 // The window against the simulated device, over real TCP: what an operator sees and does.
 
 #include <zor/controls/registration.h>
-#include <zor/monitor/link/tcp_link.h>
 #include <zor/monitor/ui/settings_dialog.h>
 #include <zor/monitor/ui/window.h>
 
@@ -41,17 +40,18 @@ struct Demo : testing::Test {
     {
         registerControls(classes);
         languages.use("en");
-        EXPECT_TRUE(device.start()) << device.error().toStdString();
-        auto link = std::make_unique<TcpLink>("127.0.0.1", device.port(), 1, kPeriod);
-        auto session = std::make_unique<Session>(std::move(link), file);
+        DeviceEntry entry;
+        entry.period = kPeriod;
+        auto own = std::make_unique<Device>(entry, file);
         std::unique_ptr<Form> form;
         if (drawn != nullptr)
             form = std::make_unique<UiForm>(drawn, classes);
         else
-            form = std::make_unique<GeneratedForm>(session->file(), classes);
-        window = std::make_unique<Window>(std::move(session), std::move(form), languages, &device);
+            form = std::make_unique<GeneratedForm>(own->session().file(), classes);
+        window =
+            std::make_unique<Window>(std::make_unique<DevicePanel>(std::move(own), std::move(form)), languages);
         window->show();
-        window->session().start(kPeriod);
+        window->front().device().start();
         EXPECT_TRUE(untilLive());
     }
     ~Demo() override
@@ -60,6 +60,7 @@ struct Demo : testing::Test {
         languages.use("en");
     }
 
+    Simulator& device() { return *window->front().device().simulator(); }
     Binding& binding(std::string_view tag)
     {
         const auto all = window->session().bindings();
@@ -110,7 +111,6 @@ struct Demo : testing::Test {
     core::ClassRegistry classes;
     Languages languages;
     const ParameterFile file;
-    Simulator device{file};
     std::unique_ptr<Window> window;
 };
 
@@ -145,26 +145,27 @@ TEST_F(Demo, WritesWhatHasBeenReviewed)
     type("HighAlarm", "91.26");
     const auto dotted = [&](int tab) { return !window->form().tabs()->tabIcon(tab).isNull(); };
     EXPECT_TRUE(QTest::qWaitFor([&] { return dotted(1) && !dotted(0) && says("connected"); }, kPatience));
-    window->review();
-    ASSERT_NE(window->openReview(), nullptr);
-    auto* table = window->openReview()->findChild<QTableWidget*>();
+    window->front().review();
+    ASSERT_NE(window->front().openReview(), nullptr);
+    auto* table = window->front().openReview()->findChild<QTableWidget*>();
     QString row;
     for (int column = 0; column < table->columnCount(); ++column)
         row += table->item(0, column)->text() + '|';
     EXPECT_EQ(row, "High temperature alarm|HighAlarm|85.0 \u00B0C|91.3 \u00B0C||")
         << "what is shown is what the registers will hold";
-    EXPECT_EQ(device.registers(HoldingRegister, 2, 1), (Registers{850})) << "written before the review has ended";
-    device.setRegisters(HoldingRegister, 2, {870}); // another master
+    EXPECT_EQ(device().registers(HoldingRegister, 2, 1), (Registers{850}))
+        << "written before the review has ended";
+    device().setRegisters(HoldingRegister, 2, {870}); // another master
     EXPECT_TRUE(QTest::qWaitFor([&] { return table->item(0, 2)->text() == "87.0 \u00B0C"; }, kPatience));
-    EXPECT_FALSE(button(*window->openReview(), "&Write")->isEnabled()) << "not without another yes";
-    window->openReview()->findChild<QCheckBox*>()->click();
-    button(*window->openReview(), "&Write")->click();
+    EXPECT_FALSE(button(*window->front().openReview(), "&Write")->isEnabled()) << "not without another yes";
+    window->front().openReview()->findChild<QCheckBox*>()->click();
+    button(*window->front().openReview(), "&Write")->click();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window->session().hasEdits(); }, kPatience));
-    EXPECT_EQ(device.registers(HoldingRegister, 2, 1), (Registers{913}));
+    EXPECT_EQ(device().registers(HoldingRegister, 2, 1), (Registers{913}));
     EXPECT_EQ(field("HighAlarm").text(), "91.3");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !dotted(1); }, kPatience));
-    window->review();
-    EXPECT_EQ(window->openReview(), nullptr) << "nothing to write";
+    window->front().review();
+    EXPECT_EQ(window->front().openReview(), nullptr) << "nothing to write";
     EXPECT_EQ(window->statusBar()->currentMessage(), "Nothing to write");
     EXPECT_FALSE(says("connected")) << "the message has no room";
 }
@@ -173,13 +174,13 @@ TEST_F(Demo, ADeadDeviceFailsEveryControlWithinTwoPeriodsAndARevivedOneRecovers)
 {
     open(1);
     type("TankHeight", "13");
-    device.stop();
+    device().stop();
     const int rounds = window->session().poller().rounds();
     EXPECT_TRUE(QTest::qWaitFor([&] { return all([](core::Control& c) { return c.CFail(); }); }, kPatience));
     EXPECT_LE(window->session().poller().rounds() - rounds, 2);
     EXPECT_TRUE(binding("Distance").control().CFail()) << "on the other tabs as well";
     EXPECT_TRUE(says("No answer: the connection was refused"));
-    ASSERT_TRUE(device.start());
+    ASSERT_TRUE(device().start());
     EXPECT_TRUE(untilLive());
     EXPECT_EQ(field("TankHeight").text(), "13") << "the edit was lost";
     open(0);
@@ -220,23 +221,23 @@ TEST_F(Demo, LoadsFromASettingsFileWhatIsTickedThroughTheReview)
 {
     QTemporaryDir folder;
     const QString file = folder.filePath("settings.json");
-    window->transfer().save(file);
+    window->front().transfer().save(file);
     ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(file); }, kPatience));
     const auto settings = loadSettingsFile(file.toStdString()).settings;
     EXPECT_EQ(settings.size(), 11U);
     const auto held = [&](const Setting& setting) {
         const Location& location = this->file.parameters[*this->file.indexOf(setting.tag)].location;
-        return device.registers(HoldingRegister, location.address, location.registers);
+        return device().registers(HoldingRegister, location.address, location.registers);
     };
     for (const Setting& setting : settings) {
         const Location& location = this->file.parameters[*this->file.indexOf(setting.tag)].location;
         Registers other = held(setting);
         other.back() ^= static_cast<std::uint16_t>(1U << location.bit);
-        device.setRegisters(HoldingRegister, location.address, other);
+        device().setRegisters(HoldingRegister, location.address, other);
     }
-    window->transfer().load(file);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return window->transfer().openDialog() != nullptr; }, kPatience));
-    SettingsDialog* dialog = window->transfer().openDialog();
+    window->front().transfer().load(file);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window->front().transfer().openDialog() != nullptr; }, kPatience));
+    SettingsDialog* dialog = window->front().transfer().openDialog();
     EXPECT_EQ(dialog->ticked().size(), settings.size());
     auto* table = dialog->findChild<QTableWidget*>();
     dialog->findChild<QLineEdit*>()->setText("damp");
@@ -245,8 +246,8 @@ TEST_F(Demo, LoadsFromASettingsFileWhatIsTickedThroughTheReview)
     button(*dialog, "Tick &none shown")->click();
     dialog->accept();
     EXPECT_EQ(window->session().pending().size(), settings.size() - 1);
-    ASSERT_NE(window->openReview(), nullptr);
-    button(*window->openReview(), "&Write")->click();
+    ASSERT_NE(window->front().openReview(), nullptr);
+    button(*window->front().openReview(), "&Write")->click();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window->session().hasEdits(); }, 2 * kPatience));
     for (const Setting& setting : settings)
         EXPECT_EQ(held(setting) == setting.registers, setting.tag != "Damping") << setting.tag;
@@ -270,11 +271,11 @@ TEST_F(Drawn, ShowsAllNineClassesAndWritesThroughThem)
     open(1);
     EXPECT_EQ(control("Echo").property("DeviceValue"), Variant(1));
     control("Damping").setProperty("ModifiedValue", 42);
-    window->review();
-    ASSERT_NE(window->openReview(), nullptr);
-    window->openReview()->accept();
+    window->front().review();
+    ASSERT_NE(window->front().openReview(), nullptr);
+    window->front().openReview()->accept();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window->session().hasEdits(); }, kPatience));
-    EXPECT_EQ(device.registers(HoldingRegister, 3, 1), (Registers{42}));
+    EXPECT_EQ(device().registers(HoldingRegister, 3, 1), (Registers{42}));
 }
 
 // As Designer saves a form that nobody has laid out.
@@ -291,10 +292,11 @@ TEST(DrawnForm, KeepsTheSizeItWasDrawnInAndScrollsInLessRoom)
     core::ClassRegistry classes;
     registerControls(classes);
     Languages languages;
-    const ParameterFile parameters = demoFile();
-    auto link = std::make_unique<TcpLink>("127.0.0.1", std::uint16_t{1}, 1, kPeriod);
-    Window window(std::make_unique<Session>(std::move(link), parameters),
-                  std::make_unique<UiForm>(file.fileName(), classes), languages, nullptr);
+    DeviceEntry entry;
+    entry.address = "tcp://127.0.0.1:1";
+    Window window(std::make_unique<DevicePanel>(std::make_unique<Device>(entry, demoFile()),
+                                                std::make_unique<UiForm>(file.fileName(), classes)),
+                  languages);
     window.show();
     QWidget& box = platform::qt::widgetOf(window.form().controls().front()->surface());
     EXPECT_GE(window.form().widget().height(), 400);
@@ -323,11 +325,11 @@ struct Tutorial : Demo {
 TEST_F(Tutorial, CanBeFollowedToItsEnd)
 {
     type("Damping", "4.5");
-    window->review();
-    ASSERT_NE(window->openReview(), nullptr);
-    button(*window->openReview(), "&Write")->click();
+    window->front().review();
+    ASSERT_NE(window->front().openReview(), nullptr);
+    button(*window->front().openReview(), "&Write")->click();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window->session().hasEdits(); }, kPatience));
-    EXPECT_EQ(device.registers(HoldingRegister, 100, 1), (Registers{45}));
+    EXPECT_EQ(device().registers(HoldingRegister, 100, 1), (Registers{45}));
     EXPECT_EQ(field("Damping").text(), "4.5");
 }
 

@@ -1,0 +1,41 @@
+#include <zor/monitor/device/device.h>
+#include <zor/monitor/link/device_address.h>
+
+#include <QFile>
+
+#include <utility>
+
+namespace zor::monitor {
+
+ParameterFile loadParameters(const DeviceEntry& entry)
+{
+    const QString name = entry.parameters.isEmpty() ? QString(":/monitor/demo.json") : entry.parameters;
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly))
+        throw FileError(name.toStdString(), 0, file.errorString().toStdString());
+    constexpr qint64 kLargest = 16 << 20;
+    if (file.size() > kLargest)
+        throw FileError(name.toStdString(), 0, "larger than 16 MB");
+    return readParameterFile(file.readAll().toStdString(), name.toStdString());
+}
+
+Device::Device(DeviceEntry entry, ParameterFile file)
+    : m_entry(std::move(entry)),
+      m_log(m_entry.record.isEmpty() ? std::nullopt : std::optional<Log>(std::in_place, m_entry.record)),
+      m_address(addressFor(file)),
+      m_session(openLink(m_address, m_entry.timeout > 0 ? m_entry.timeout : m_entry.period), std::move(file),
+                m_log ? &*m_log : nullptr)
+{}
+
+QString Device::addressFor(const ParameterFile& file)
+{
+    if (!m_entry.address.isEmpty())
+        return m_entry.address;
+    m_simulated = file;
+    m_simulator = std::make_unique<Simulator>(m_simulated);
+    if (!m_simulator->start())
+        throw std::runtime_error("the simulated device: " + m_simulator->error().toStdString());
+    return QString("tcp://127.0.0.1:%1").arg(m_simulator->port());
+}
+
+} // namespace zor::monitor

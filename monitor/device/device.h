@@ -1,0 +1,51 @@
+#pragma once
+
+/// A device that is being monitored, with all that lives as long as its session: the record, and the simulated
+/// device when there is no real one.
+
+#include <zor/monitor/device/simulator.h>
+#include <zor/monitor/session/session.h>
+
+#include <memory>
+#include <optional>
+
+namespace zor::monitor {
+
+/// What it takes to monitor a device, as a command line or an operator says it.
+struct DeviceEntry {
+    QString address{};    ///< as openLink() reads it; empty: a simulated device
+    QString parameters{}; ///< parameter file; empty: the demonstration device's
+    QString form{};       ///< file of Qt Designer; empty: a form is made from the parameter file
+    QString record{};     ///< file of the record; empty: none
+    int period = 500;     ///< milliseconds from poll to poll
+    int timeout = 0;      ///< milliseconds for a whole reply; 0: the period
+};
+
+/// The parameter file of the entry. Raises FileError.
+[[nodiscard]] ParameterFile loadParameters(const DeviceEntry& entry);
+
+class Device {
+public:
+    /// Opens what the entry names; nothing is sent before start(). `file` is that of the entry. Raises
+    /// AddressError, FileError for the record, or std::runtime_error when there can be no simulated device.
+    Device(DeviceEntry entry, ParameterFile file);
+
+    void start() { m_session.start(m_entry.period, m_entry.timeout); }
+
+    [[nodiscard]] const DeviceEntry& entry() const { return m_entry; }
+    [[nodiscard]] Session& session() { return m_session; }
+    /// nullptr for a real device.
+    [[nodiscard]] Simulator* simulator() { return m_simulator.get(); }
+
+private:
+    [[nodiscard]] QString addressFor(const ParameterFile& file);
+
+    DeviceEntry m_entry;
+    std::optional<Log> m_log;
+    ParameterFile m_simulated;
+    std::unique_ptr<Simulator> m_simulator;
+    QString m_address; ///< the simulated device's own when there is no other
+    Session m_session;
+};
+
+} // namespace zor::monitor

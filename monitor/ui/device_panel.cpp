@@ -1,0 +1,208 @@
+#include <zor/monitor/ui/device_panel.h>
+#include <zor/monitor/ui/words.h>
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <set>
+#include <utility>
+
+namespace zor::monitor {
+namespace {
+
+/// The mark of a tab that holds edits.
+QIcon dot(QSize size)
+{
+    constexpr double kRatio = 4;
+    QPixmap pixmap(size * kRatio);
+    pixmap.setDevicePixelRatio(kRatio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QColor(0x80, 0x60, 0));
+    painter.setBrush(QColor(0xFF, 0xD0, 0));
+    const double radius = size.height() / kRatio;
+    painter.drawEllipse(QRectF(QPointF(), QSizeF(size)).center(), radius, radius);
+    return pixmap;
+}
+
+} // namespace
+
+DevicePanel::DevicePanel(std::unique_ptr<Device> device, std::unique_ptr<Form> form)
+    : m_form(std::move(form)), m_device(std::move(device))
+{
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(&m_form->widget());
+    m_transfer = std::make_unique<SettingsTransfer>(*this, session());
+    m_transfer->say = [this](const QString& text) { say(text); };
+    m_transfer->onProposed = [this] { review(); };
+    m_soon.setSingleShot(true);
+    connect(&m_soon, &QTimer::timeout, this, [this] { showEdits(); });
+    listen();
+    m_soon.start(0);
+}
+
+void DevicePanel::listen()
+{
+    Session& session = this->session();
+    session.isVisible = isInSight;
+    for (core::Control* control : m_form->controls())
+        session.bind(*control);
+    session.onRound = [this](bool answered) {
+        m_answered = answered;
+        showRound();
+        m_transfer->hearRound(answered);
+    };
+    session.onWritten = [this](const std::vector<Written>& results) { showResults(results); };
+    session.onEdit = [this] { m_soon.start(0); };
+    m_form->isKnown = [this](const core::Control& control) {
+        const auto all = this->session().bindings();
+        const auto at = std::ranges::find_if(all, [&](const auto& one) { return &one->control() == &control; });
+        return at != all.end() && !(*at)->shown.empty();
+    };
+    if (QTabWidget* tabs = m_form->tabs()) {
+        connect(tabs, &QTabWidget::currentChanged, this, [this] {
+            m_form->arrange();
+            this->session().poller().pollNow();
+        });
+    }
+}
+
+DevicePanel::~DevicePanel()
+{
+    delete m_review;
+    m_transfer.reset();
+    m_device.reset();
+    // The form owns its controls, the panel its widget: the controls go first.
+    m_form->widget().setParent(nullptr);
+    m_form.reset();
+}
+
+QString DevicePanel::title() const { return QString::fromStdString(session().file().title.in(m_language)); }
+
+void DevicePanel::setLanguage(const std::string& language)
+{
+    m_language = language;
+    session().setLanguage(language);
+    m_transfer->setLanguage(language);
+    m_form->translate(language);
+    showRound();
+}
+
+void DevicePanel::setUnits(UnitSystem system)
+{
+    session().setUnits(system);
+    m_form->arrange();
+}
+
+void DevicePanel::setUnit(UNIT_TYPE type, MEAS_TYPE unit)
+{
+    bool shown = true;
+    for (const auto& binding : session().bindings()) {
+        if (binding->parameter() != nullptr && binding->parameter()->unitType == type)
+            shown = session().setUnit(*binding, unit) && shown;
+    }
+    m_form->arrange();
+    if (!shown)
+        say(tr("Not every value can be shown in that unit"));
+}
+
+QString DevicePanel::captionOf(const Parameter& parameter) const
+{
+    const std::string& caption = parameter.appearance.caption.in(m_language);
+    return QString::fromStdString(caption.empty() ? parameter.tag : caption);
+}
+
+// --- Editing
+
+void DevicePanel::commitEntry()
+{
+    // A control takes its entry over when the operator leaves it.
+    if (QWidget* focus = QApplication::focusWidget(); focus != nullptr && isAncestorOf(focus))
+        focus->clearFocus();
+}
+
+void DevicePanel::review()
+{
+    if (m_review != nullptr || session().isWriting())
+        return;
+    commitEntry();
+    std::vector<Change> changes = session().pending();
+    if (changes.empty())
+        return say(tr("Nothing to write"));
+    auto* dialog = new ReviewDialog(std::move(changes), session().file(), m_language, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    m_memory.restore(*dialog, "review");
+    connect(dialog, &QDialog::finished, this, [this, dialog] { m_memory.keep(*dialog, "review"); });
+    connect(dialog, &QDialog::accepted, this, [this, dialog] { session().write(dialog->changes()); });
+    m_review = dialog;
+    dialog->open();
+}
+
+void DevicePanel::undoAll()
+{
+    commitEntry();
+    session().undoAll();
+}
+
+// --- What has become of it
+
+void DevicePanel::showRound()
+{
+    if (onRound)
+        onRound();
+    if (m_review != nullptr)
+        m_review->follow(session().pending());
+    showEdits();
+}
+
+void DevicePanel::showEdits()
+{
+    m_form->arrange();
+    if (QTabWidget* tabs = m_form->tabs())
+        markTabs(*tabs);
+    if (onEdits)
+        onEdits();
+}
+
+void DevicePanel::markTabs(QTabWidget& tabs)
+{
+    std::set<const QWidget*> edited;
+    for (const auto& binding : session().bindings()) {
+        if (!binding->isModified())
+            continue;
+        for (const QWidget* w = &platform::qt::widgetOf(binding->control().surface()); w != nullptr;
+             w = w->parentWidget())
+            edited.insert(w);
+    }
+    for (int i = 0; i < tabs.count(); ++i) {
+        const bool holds = edited.contains(tabs.widget(i));
+        if (tabs.tabIcon(i).isNull() == !holds)
+            continue;
+        tabs.setTabIcon(i, holds ? dot(tabs.iconSize()) : QIcon());
+        tabs.setTabToolTip(i, holds ? tr("Holds edits that have not been written") : QString());
+    }
+}
+
+void DevicePanel::showResults(const std::vector<Written>& results)
+{
+    QStringList failures;
+    for (const Written& written : results) {
+        if (written.result.outcome != WriteOutcome::Written)
+            failures.append(captionOf(session().file().parameters[written.change.parameter]) + ": " +
+                            Words::outcome(written.result));
+    }
+    if (failures.isEmpty())
+        return say(tr("%n value(s) written and read back", nullptr, static_cast<int>(results.size())));
+    auto* box =
+        new QMessageBox(QMessageBox::Warning, tr("Not everything was written"), QString(), QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    box->setText(tr("These edits are kept:") + "\n\n" + failures.join('\n'));
+    box->open();
+}
+
+} // namespace zor::monitor
