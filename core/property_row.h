@@ -3,62 +3,16 @@
 /// A property as data: one row says everything that storing, naming, notifying and refreshing need.
 
 #include <zor/core/mistake.h>
+#include <zor/core/value_kind.h>
 #include <zor/platform/macros_aside.h>
-#include <zor/platform/variant.h>
-#include <zor/units/unit_types.h>
 
 #include <array>
-#include <cstdint>
 #include <initializer_list>
-#include <string>
-#include <string_view>
-#include <type_traits>
 #include <utility>
-#include <variant>
 
 namespace zor::core {
 
 class Control;
-
-/// What a property, an argument or a result holds. The enumerations accept any 32-bit integer.
-enum class ValueKind : std::uint8_t {
-    Boolean,
-    Int16,
-    Int32,
-    Double,
-    Text,
-    Any,
-    UnitType,
-    MeasType,
-    RegisterType,
-    EntryType,
-    Colour, ///< a 32-bit colour, written as a signed or an unsigned integer
-};
-
-/// The name of a kind, for people ("16-bit integer").
-[[nodiscard]] std::string_view kindName(ValueKind kind) noexcept;
-
-/// Whether a kind is one of the published enumerations.
-[[nodiscard]] constexpr bool isEnumeration(ValueKind kind) noexcept
-{
-    return kind >= ValueKind::UnitType && kind <= ValueKind::EntryType;
-}
-
-/// A constant in a table.
-using Literal = std::variant<std::monostate, bool, std::int32_t, double, std::string_view>;
-
-/// The constant as a value.
-[[nodiscard]] Variant toVariant(const Literal& literal);
-
-/// Where a control keeps a property.
-using FieldRef = std::variant<bool*, std::int16_t*, std::int32_t*, double*, std::string*, Variant*, UNIT_TYPE*,
-                              MEAS_TYPE*, REGISTER_TYPE*, ENTRY_TYPE*>;
-
-/// The value of a field.
-[[nodiscard]] Variant valueOf(const FieldRef& field);
-
-/// Converts to the field's type and stores; TypeMismatch or Overflow leave the field as it was.
-void storeInto(const FieldRef& field, const Variant& value);
 
 /// A row's field: its kind, and how to find it in a control.
 struct FieldSpec {
@@ -282,72 +236,7 @@ template <class... R>
     return {row...};
 }
 
-/// No property is infinite or undefined: raises Overflow for such a number.
-void requireFinite(const Variant& value);
-
 namespace detail {
-
-template <class T>
-consteval ValueKind kindOf()
-{
-    if constexpr (std::is_same_v<T, bool>)
-        return ValueKind::Boolean;
-    else if constexpr (std::is_same_v<T, std::int16_t>)
-        return ValueKind::Int16;
-    else if constexpr (std::is_same_v<T, std::int32_t>)
-        return ValueKind::Int32;
-    else if constexpr (std::is_same_v<T, double>)
-        return ValueKind::Double;
-    else if constexpr (std::is_same_v<T, std::string> || std::is_same_v<T, std::string_view>)
-        return ValueKind::Text;
-    else if constexpr (std::is_same_v<T, UNIT_TYPE>)
-        return ValueKind::UnitType;
-    else if constexpr (std::is_same_v<T, MEAS_TYPE>)
-        return ValueKind::MeasType;
-    else if constexpr (std::is_same_v<T, REGISTER_TYPE>)
-        return ValueKind::RegisterType;
-    else if constexpr (std::is_same_v<T, ENTRY_TYPE>)
-        return ValueKind::EntryType;
-    else if constexpr (std::is_same_v<T, std::uint32_t>)
-        return ValueKind::Colour;
-    else {
-        static_assert(std::is_same_v<T, Variant>);
-        return ValueKind::Any;
-    }
-}
-
-/// A colour out of a number: a system colour has the highest bit set, so it may come as a negative number.
-[[nodiscard]] std::uint32_t toColour(const Variant& value);
-
-/// The value as a T. TypeMismatch and Overflow as the variant's own conversions.
-template <class T>
-[[nodiscard]] T convertTo(const Variant& value)
-{
-    requireFinite(value);
-    if constexpr (std::is_same_v<T, bool>)
-        return value.toBoolean();
-    else if constexpr (std::is_same_v<T, std::int16_t>)
-        return value.toInt16();
-    else if constexpr (std::is_same_v<T, double>)
-        return value.toDouble();
-    else if constexpr (std::is_same_v<T, std::string>)
-        return value.toText();
-    else if constexpr (std::is_same_v<T, Variant>)
-        return value;
-    else if constexpr (std::is_same_v<T, std::uint32_t>)
-        return toColour(value);
-    else
-        return static_cast<T>(value.toInt32());
-}
-
-template <class T>
-[[nodiscard]] Variant toVariant(const T& value)
-{
-    if constexpr (std::is_enum_v<T>)
-        return static_cast<std::int32_t>(value);
-    else
-        return Variant(value);
-}
 
 template <class M>
 struct Member;

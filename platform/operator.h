@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 namespace zor::platform {
@@ -68,42 +69,70 @@ enum class Pointer : std::uint8_t { Click, DoubleClick, RightClick };
 /// take the focus) raises NoSuchMember.
 ///
 /// An action on a text field, combo box, list box, check box, option button, track or spin button takes the
-/// focus first, as it would for a person; the widget that had it is blurred. `type` sends key down, key
-/// press, change and key up for each character; a key press whose code a handler set to 0 changes nothing.
+/// focus first, as it would for a person; the widget that had it is blurred. A handler that keeps the focus where
+/// it is, or freezes or hides the widget, ends the action. `type` sends key down, key press, change and key up
+/// for each character; a key press whose code a handler set to 0 changes nothing.
+///
+/// What is refused, in which order, is the same everywhere and stands here; a platform supplies what a hand does.
 class Operator {
 public:
     virtual ~Operator() = default;
 
     /// Gives the widget the focus.
-    virtual Refusal focus(Widget& widget) = 0;
+    Refusal focus(Widget& widget);
     /// Moves the focus to nothing; refused by none, without effect when the widget has not the focus.
-    virtual Refusal blur(Widget& widget) = 0;
+    Refusal blur(Widget& widget);
     /// Clicks the widget.
-    virtual Refusal pointer(Widget& widget, Pointer action) = 0;
+    Refusal pointer(Widget& widget, Pointer action);
     /// Types a text, character by character, over the selection or at the caret.
-    virtual Refusal type(TextField& field, std::string_view text) = 0;
+    Refusal type(TextField& field, std::string_view text);
     /// Puts a text in the place of the selection at once.
-    virtual Refusal paste(TextField& field, std::string_view text) = 0;
+    Refusal paste(TextField& field, std::string_view text);
     /// Selects characters; both numbers are cut to the text.
-    virtual Refusal select(TextField& field, std::size_t start, std::size_t length) = 0;
+    Refusal select(TextField& field, std::size_t start, std::size_t length);
     /// Key down, key press where the key has a character, key up. 8 Backspace, 13 Enter, 27 Escape, 32 Space,
     /// 33 to 40 Page Up, Page Down, End, Home and the arrows, 46 Delete, and the upper-case letters and digits do
     /// what they say.
-    virtual Refusal key(Widget& widget, std::int16_t code) = 0;
+    Refusal key(Widget& widget, std::int16_t code);
     /// One step of a spin button.
-    virtual Refusal spin(SpinButton& button, bool up) = 0;
-    /// Drags the handle to a position: Scroll, then Change.
-    virtual Refusal moveTo(Track& track, std::int32_t position) = 0;
-    /// Chooses an entry by its position.
-    virtual Refusal choose(ComboBox& box, std::int32_t index) = 0;
+    Refusal spin(SpinButton& button, bool up);
+    /// Drags the handle to a position, or to the nearer end: Scroll, then Change.
+    Refusal moveTo(Track& track, std::int32_t position);
+    /// Chooses an entry by its position. Raises SubscriptOutOfRange where there is none.
+    Refusal choose(ComboBox& box, std::int32_t index);
     /// Opens the list.
-    virtual Refusal dropDown(ComboBox& box) = 0;
-    /// Clicks the mark of an entry.
-    virtual Refusal toggle(ListBox& box, std::int32_t index) = 0;
+    Refusal dropDown(ComboBox& box);
+    /// Clicks the mark of an entry. Raises SubscriptOutOfRange where there is none.
+    Refusal toggle(ListBox& box, std::int32_t index);
     /// A click on a check box or an option button.
-    virtual Refusal press(ToggleButton& button) = 0;
-    /// Chooses an item of an open menu by its position.
-    virtual Refusal chooseItem(PopupMenu& menu, std::size_t item) = 0;
+    Refusal press(ToggleButton& button);
+    /// Chooses an item of an open menu by its position. Raises SubscriptOutOfRange where there is none.
+    Refusal chooseItem(PopupMenu& menu, std::size_t item);
+
+private:
+    /// Does something while the control that the widget belongs to stays, whatever its handlers do.
+    virtual void holding(Widget& widget, const std::function<void()>& action) = 0;
+    /// An open menu or drop-down list closes when the operator goes on with something else.
+    virtual void closePopUps() = 0;
+    /// Moves the focus to the widget; false when a handler kept it elsewhere, or froze or hid the widget.
+    virtual bool takeFocus(Widget& widget) = 0;
+    virtual void dropFocus(Widget& widget) = 0;
+    virtual void point(Widget& widget, Pointer action) = 0;
+    /// Types one character, in UTF-8; false when no other can follow.
+    virtual bool typeCharacter(TextField& field, std::string_view character) = 0;
+    virtual void replace(TextField& field, std::string_view text) = 0;
+    /// `character` is that of the key, 0 when it has none.
+    virtual void stroke(Widget& widget, std::int16_t code, std::int16_t character) = 0;
+    virtual void step(SpinButton& button, bool up) = 0;
+    virtual void drag(Track& track, std::int32_t position) = 0;
+    virtual void open(ComboBox& box) = 0;
+    /// Chooses an entry of a list that was just opened, if it still is.
+    virtual void pick(ComboBox& box, std::int32_t index) = 0;
+    virtual void clickMark(ListBox& box, std::int32_t index) = 0;
+    virtual void clickItem(PopupMenu& menu, std::size_t item) = 0;
+
+    /// Reaches a widget, takes the focus if it takes one, and acts.
+    Refusal act(Widget& widget, const std::function<void()>& action, bool writes = false);
 };
 
 } // namespace zor::platform

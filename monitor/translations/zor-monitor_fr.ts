@@ -41,6 +41,9 @@
         <source>%1 (edited)</source>
         <translation>%1 (modifié)</translation>
     </message>
+</context>
+<context>
+    <name>NoValueVeil</name>
     <message>
         <source>no value</source>
         <translation>aucune valeur</translation>

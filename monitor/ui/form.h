@@ -14,6 +14,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace zor::monitor {
@@ -91,11 +92,13 @@ public:
 
     [[nodiscard]] QWidget& widget() override { return *m_widget; }
     [[nodiscard]] std::vector<core::Control*> controls() override;
-    void translate(const std::string& /*language*/) override {}
+    void translate(const std::string& language) override;
+    void arrange() override;
     [[nodiscard]] QTabWidget* tabs() override;
 
 private:
     QPointer<QWidget> m_widget;
+    std::vector<std::pair<core::Control*, QWidget*>> m_veilable; ///< and what of each is veiled
 };
 
 /// Whether the operator can see a control: it lies on the tab in front of a window that is not minimised.

@@ -1,5 +1,6 @@
 #include <zor/monitor/data/codec.h>
 #include <zor/monitor/session/value_texts.h>
+#include <zor/monitor/ui/no_value_veil.h>
 #include <zor/monitor/ui/row_looks.h>
 #include <zor/monitor/ui/words.h>
 #include <zor/platform/error.h>
@@ -179,8 +180,7 @@ void showNote(QLabel& note, core::Control& control, const Parameter& parameter, 
               const std::string& language)
 {
     const bool slider = control.info().name == "ctx_ZorSlider";
-    const core::PropertyRow* modified = control.info().property("DataModified");
-    const bool edited = modified != nullptr && control.get(*modified).toBoolean();
+    const bool edited = isEdited(control);
     QString text;
     if (const auto shown = shownBy(surfaceOf(control))) {
         text = overflowText(*shown, note.fontMetrics());
@@ -188,9 +188,8 @@ void showNote(QLabel& note, core::Control& control, const Parameter& parameter, 
         const core::PropertyRow* unit = control.info().property("OutputUnit");
         if (unit != nullptr && MEAS_TYPE{control.get(*unit).toInt32()} == NoneU)
             text = (Words::unit(parameter.unit) + ' ' + text).trimmed();
-    } else if (!known && !edited && control.info().name != "ctx_ZorLabel") {
-        // A track, a mark or a picture cannot be empty.
-        text = QCoreApplication::translate("GeneratedForm", "no value");
+    } else if (!known && !edited && isNeverEmpty(control)) {
+        text = NoValueVeil::tr("no value");
     } else if (slider) {
         text = valueText(control, parameter, language);
         if (edited)

@@ -1,5 +1,6 @@
 #include <zor/forms/form.h>
 #include <zor/monitor/ui/form.h>
+#include <zor/monitor/ui/no_value_veil.h>
 #include <zor/widgets/form_loader.h>
 #include <zor/widgets/zor_control.h>
 
@@ -64,6 +65,10 @@ UiForm::UiForm(const QString& file, const core::ClassRegistry& classes)
     }
     loaded->setWindowFlags(Qt::Widget);
     m_widget = new DrawnArea(*loaded, drawn);
+    for (core::Control* control : controls()) {
+        if (QWidget* face = NoValueVeil::faceOf(*control))
+            m_veilable.emplace_back(control, face);
+    }
 }
 
 UiForm::~UiForm()
@@ -78,6 +83,18 @@ std::vector<core::Control*> UiForm::controls()
     for (ZorControl* control : m_widget->findChildren<ZorControl*>())
         controls.push_back(&control->control());
     return controls;
+}
+
+void UiForm::translate(const std::string& /*language*/)
+{
+    // Its own texts stay; what is laid over the controls is drawn anew.
+    m_widget->update();
+}
+
+void UiForm::arrange()
+{
+    for (const auto& [control, face] : m_veilable)
+        NoValueVeil::put(*face, isKnown && !isEdited(*control) && !isKnown(*control));
 }
 
 QTabWidget* UiForm::tabs() { return m_widget->findChild<QTabWidget*>(); }

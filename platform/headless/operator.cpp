@@ -1,4 +1,3 @@
-#include <zor/platform/error.h>
 #include <zor/platform/headless/keys.h>
 #include <zor/platform/headless/menu.h>
 #include <zor/platform/headless/operator.h>
@@ -12,12 +11,6 @@ namespace zor::platform::headless {
 namespace {
 
 HeadlessWidget& base(Widget& widget) { return dynamic_cast<HeadlessWidget&>(widget); }
-
-bool takesFocus(const Widget& widget)
-{
-    return dynamic_cast<const Label*>(&widget) == nullptr && dynamic_cast<const Image*>(&widget) == nullptr &&
-           dynamic_cast<const Surface*>(&widget) == nullptr && dynamic_cast<const SpinButton*>(&widget) == nullptr;
-}
 
 /// A handler may have frozen or hidden the widget under the operator's hands: then it hears of no key any more.
 bool isReachable(const Widget& widget) { return widget.isVisible() && widget.isEnabled(); }
@@ -110,7 +103,7 @@ void selectLastWord(TextField& field)
 
 /// Key down and key up around `action`, which gets the key press's code.
 template <class Action>
-void stroke(Widget& widget, std::int16_t code, std::int16_t ascii, Action&& action)
+void strike(Widget& widget, std::int16_t code, std::int16_t ascii, Action&& action)
 {
     if (!isReachable(widget))
         return;
@@ -135,13 +128,16 @@ void stroke(Widget& widget, std::int16_t code, std::int16_t ascii, Action&& acti
 
 } // namespace
 
-Refusal HeadlessOperator::reach(Widget& widget)
+void HeadlessOperator::holding(Widget& widget, const std::function<void()>& action)
+{
+    const Hold hold(base(widget).host().listener());
+    action();
+}
+
+void HeadlessOperator::closePopUps()
 {
     if (PopupMenu* menu = m_container.openMenu())
         menu->close();
-    if (!widget.isVisible())
-        return Refusal::Hidden;
-    return widget.isEnabled() ? Refusal::None : Refusal::Disabled;
 }
 
 bool HeadlessOperator::moveFocus(Host& window, Widget* widget)
@@ -174,48 +170,25 @@ bool HeadlessOperator::moveFocus(Host& window, Widget* widget)
     return window.focused() == widget;
 }
 
-Refusal HeadlessOperator::approach(Widget& widget, bool& moved)
+bool HeadlessOperator::takeFocus(Widget& widget)
 {
-    const Refusal refusal = reach(widget);
-    // A handler that freezes or hides the widget when the focus comes ends the action.
-    moved = refusal == Refusal::None &&
-            (!takesFocus(widget) || (moveFocus(base(widget).host(), &widget) && isReachable(widget)));
-    return refusal;
+    return moveFocus(base(widget).host(), &widget) && isReachable(widget);
 }
 
-Refusal HeadlessOperator::focus(Widget& widget)
+void HeadlessOperator::dropFocus(Widget& widget)
 {
-    if (!takesFocus(widget))
-        raiseError(ErrorNumber::NoSuchMember);
-    const Hold hold(base(widget).host().listener());
-    bool moved = false;
-    return approach(widget, moved);
-}
-
-Refusal HeadlessOperator::blur(Widget& widget)
-{
-    if (!takesFocus(widget))
-        raiseError(ErrorNumber::NoSuchMember);
-    if (PopupMenu* menu = m_container.openMenu())
-        menu->close();
     Host& window = base(widget).host();
     if (window.focused() == &widget)
         moveFocus(window, nullptr);
-    return Refusal::None;
 }
 
-Refusal HeadlessOperator::pointer(Widget& widget, Pointer action)
+void HeadlessOperator::point(Widget& widget, Pointer action)
 {
-    const Hold hold(base(widget).host().listener());
-    bool moved = false;
-    const Refusal refusal = approach(widget, moved);
-    if (!moved)
-        return refusal;
     if (action == Pointer::RightClick) {
         const Spot spot = spotOfClick(widget);
         reportMouse(widget, Notice::MouseDown, kRightButton, spot);
         reportMouse(widget, Notice::MouseUp, kRightButton, spot);
-        return refusal;
+        return;
     }
     click(widget);
     if (action == Pointer::DoubleClick && widget.isEnabled()) {
@@ -227,153 +200,58 @@ Refusal HeadlessOperator::pointer(Widget& widget, Pointer action)
         if (auto* button = dynamic_cast<ToggleButton*>(&widget))
             pushToggle(*button);
     }
-    return refusal;
 }
 
-Refusal HeadlessOperator::type(TextField& field, std::string_view text)
+bool HeadlessOperator::typeCharacter(TextField& field, std::string_view character)
 {
-    const Hold hold(base(field).host().listener());
-    bool moved = false;
-    Refusal refusal = reach(field);
-    if (refusal == Refusal::None && field.isLocked())
-        refusal = Refusal::Locked;
-    if (refusal != Refusal::None || approach(field, moved) != Refusal::None || !moved)
-        return refusal;
-    while (!text.empty() && isReachable(field)) {
-        const std::string_view character = text.substr(0, byteOffset(text, 1));
-        text.remove_prefix(character.size());
-        const std::int16_t ascii = codeOf(character);
-        stroke(field, keyCodeOf(ascii), ascii, [&](std::int16_t, std::int16_t press) {
-            if (isTyped(press) && !field.isLocked())
-                field.replaceSelection(press == ascii ? std::string(character) : characterOf(press));
-        });
-    }
-    return Refusal::None;
+    const std::int16_t ascii = codeOf(character);
+    strike(field, keyCodeOf(ascii), ascii, [&](std::int16_t, std::int16_t press) {
+        if (isTyped(press) && !field.isLocked())
+            field.replaceSelection(press == ascii ? std::string(character) : characterOf(press));
+    });
+    return isReachable(field);
 }
 
-Refusal HeadlessOperator::paste(TextField& field, std::string_view text)
+void HeadlessOperator::replace(TextField& field, std::string_view text) { field.replaceSelection(text); }
+
+void HeadlessOperator::stroke(Widget& widget, std::int16_t code, std::int16_t character)
 {
-    const Hold hold(base(field).host().listener());
-    bool moved = false;
-    Refusal refusal = reach(field);
-    if (refusal == Refusal::None && field.isLocked())
-        refusal = Refusal::Locked;
-    if (refusal == Refusal::None && approach(field, moved) == Refusal::None && moved)
-        field.replaceSelection(text);
-    return refusal;
+    strike(widget, code, character, [&](std::int16_t down, std::int16_t press) { applyKey(widget, down, press); });
 }
 
-Refusal HeadlessOperator::select(TextField& field, std::size_t start, std::size_t length)
-{
-    const Hold hold(base(field).host().listener());
-    bool moved = false;
-    const Refusal refusal = approach(field, moved);
-    if (moved)
-        field.select(start, length);
-    return refusal;
-}
+void HeadlessOperator::step(SpinButton& button, bool up) { dynamic_cast<HeadlessSpinButton&>(button).step(up); }
 
-Refusal HeadlessOperator::key(Widget& widget, std::int16_t code)
+void HeadlessOperator::drag(Track& track, std::int32_t position)
 {
-    if (!takesFocus(widget))
-        raiseError(ErrorNumber::NoSuchMember);
-    const Hold hold(base(widget).host().listener());
-    bool moved = false;
-    const Refusal refusal = approach(widget, moved);
-    if (!moved)
-        return refusal;
-    constexpr std::array<std::int16_t, 3> kControlCharacters{8, 13, 27};
-    const bool printable = code >= ' ' && code <= 'Z' && keyCodeOf(code) == code;
-    const bool control = std::ranges::find(kControlCharacters, code) != kControlCharacters.end();
-    stroke(widget, code, printable || control ? code : std::int16_t{0},
-           [&](std::int16_t down, std::int16_t press) { applyKey(widget, down, press); });
-    return refusal;
-}
-
-Refusal HeadlessOperator::spin(SpinButton& button, bool up)
-{
-    const Hold hold(base(button).host().listener());
-    const Refusal refusal = reach(button);
-    if (refusal != Refusal::None)
-        return refusal;
-    dynamic_cast<HeadlessSpinButton&>(button).step(up);
-    return refusal;
-}
-
-Refusal HeadlessOperator::moveTo(Track& track, std::int32_t position)
-{
-    const Hold hold(base(track).host().listener());
-    bool moved = false;
-    const Refusal refusal = approach(track, moved);
-    // The handle goes no farther than the ends.
     const std::int32_t target = std::clamp(position, track.minimum(), std::max(track.minimum(), track.maximum()));
-    if (moved && track.value() != target) {
+    if (track.value() != target) {
         base(track).report(Notice::Scroll);
         track.setValue(target);
     }
-    return refusal;
 }
 
-Refusal HeadlessOperator::dropDown(ComboBox& box)
-{
-    const Hold hold(base(box).host().listener());
-    bool moved = false;
-    Refusal refusal = reach(box);
-    if (refusal == Refusal::None && box.isLocked())
-        refusal = Refusal::Locked;
-    if (refusal == Refusal::None && approach(box, moved) == Refusal::None && moved)
-        base(box).report(Notice::DropDown);
-    return refusal;
-}
+void HeadlessOperator::open(ComboBox& box) { base(box).report(Notice::DropDown); }
 
-Refusal HeadlessOperator::choose(ComboBox& box, std::int32_t index)
+void HeadlessOperator::pick(ComboBox& box, std::int32_t index)
 {
-    const Hold hold(base(box).host().listener());
-    static_cast<void>(box.entryText(index));
-    const Refusal refusal = dropDown(box);
-    if (refusal == Refusal::None && base(box).host().focused() == &box && isReachable(box) && !box.isLocked() &&
-        index < box.count())
+    if (base(box).host().focused() == &box && isReachable(box))
         clickEntry(box, index);
-    return refusal;
 }
 
-Refusal HeadlessOperator::toggle(ListBox& box, std::int32_t index)
+void HeadlessOperator::clickMark(ListBox& box, std::int32_t index)
 {
-    const Hold hold(base(box).host().listener());
-    static_cast<void>(box.entryText(index));
-    bool moved = false;
-    const Refusal refusal = approach(box, moved);
-    if (!moved)
-        return refusal;
     pressAndRelease(box, spotOnEntry(index, true));
     if (box.isEnabled() && index < box.count())
         box.setSelected(index, !box.isSelected(index));
-    return refusal;
 }
 
-Refusal HeadlessOperator::press(ToggleButton& button)
+void HeadlessOperator::clickItem(PopupMenu& menu, std::size_t item)
 {
-    const Hold hold(base(button).host().listener());
-    bool moved = false;
-    const Refusal refusal = approach(button, moved);
-    if (!moved)
-        return refusal;
-    click(button);
-    return refusal;
-}
-
-Refusal HeadlessOperator::chooseItem(PopupMenu& menu, std::size_t item)
-{
-    if (!menu.isOpen())
-        return Refusal::Closed;
-    if (item >= menu.items().size())
-        raiseError(ErrorNumber::SubscriptOutOfRange);
     WidgetListener& listener = dynamic_cast<HeadlessMenu&>(menu).host().listener();
     const Hold hold(listener);
     const int number = menu.items()[item].widget;
     menu.close();
     listener.notice(number, Notice::Click, {});
-    return Refusal::None;
 }
 
 } // namespace zor::platform::headless

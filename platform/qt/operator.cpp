@@ -1,4 +1,3 @@
-#include <zor/platform/error.h>
 #include <zor/platform/qt/entry_lists.h>
 #include <zor/platform/qt/keys.h>
 #include <zor/platform/qt/operator.h>
@@ -17,12 +16,6 @@ namespace zor::platform::qt {
 namespace {
 
 QtWidget& base(Widget& widget) { return dynamic_cast<QtWidget&>(widget); }
-
-bool takesFocus(const Widget& widget)
-{
-    return dynamic_cast<const Label*>(&widget) == nullptr && dynamic_cast<const Image*>(&widget) == nullptr &&
-           dynamic_cast<const Surface*>(&widget) == nullptr && dynamic_cast<const SpinButton*>(&widget) == nullptr;
-}
 
 /// The event goes straight to the widget: it may lie beyond the edge of its form, where no screen shows it.
 void sendMouse(QWidget& widget, QEvent::Type type, Qt::MouseButton button, QPointF at)
@@ -85,18 +78,15 @@ void leave(QWidget& widget)
     QApplication::sendEvent(&widget, &out);
 }
 
-QString characterOf(std::int16_t code)
-{
-    constexpr std::array<std::int16_t, 3> kControlCharacters{8, 13, 27};
-    const bool control = std::ranges::find(kControlCharacters, code) != kControlCharacters.end();
-    const bool printable = code >= ' ' && code <= 'Z' && keyCodeOf(code) == code;
-    return control || printable ? QString(QChar(static_cast<char16_t>(code))) : QString();
-}
-
 } // namespace
 
-/// An open menu or drop-down list closes when the operator goes on with something else.
-void QtOperator::leavePopUps()
+void QtOperator::holding(Widget& widget, const std::function<void()>& action)
+{
+    const EventScope scope(base(widget).context());
+    action();
+}
+
+void QtOperator::closePopUps()
 {
     if (PopupMenu* menu = m_container.openMenu())
         menu->close();
@@ -104,20 +94,8 @@ void QtOperator::leavePopUps()
         popup->close();
 }
 
-Refusal QtOperator::reach(Widget& widget)
+bool QtOperator::takeFocus(Widget& widget)
 {
-    leavePopUps();
-    if (!widget.isVisible())
-        return Refusal::Hidden;
-    return widget.isEnabled() ? Refusal::None : Refusal::Disabled;
-}
-
-Refusal QtOperator::approach(Widget& widget, bool& there)
-{
-    const Refusal refusal = reach(widget);
-    there = refusal == Refusal::None;
-    if (!there || !takesFocus(widget))
-        return refusal;
     const QPointer<QWidget> alive = &base(widget).qwidget();
     QWidget* window = alive->window();
     if (QApplication::activeWindow() != window) {
@@ -134,45 +112,24 @@ Refusal QtOperator::approach(Widget& widget, bool& there)
         QApplication::setActiveWindow(window);
     }
     if (!alive)
-        return refusal;
+        return false;
     if (!base(widget).focusReported)
         alive->setFocus(Qt::MouseFocusReason);
-    // A handler that freezes or hides the widget when the focus comes ends the action.
-    there = alive && base(widget).focusReported && base(widget).isReachable();
-    return refusal;
+    return alive && base(widget).focusReported && base(widget).isReachable();
 }
 
-Refusal QtOperator::focus(Widget& widget)
+void QtOperator::dropFocus(Widget& widget)
 {
-    if (!takesFocus(widget))
-        raiseError(ErrorNumber::NoSuchMember);
-    const EventScope scope(base(widget).context());
-    bool there = false;
-    return approach(widget, there);
-}
-
-Refusal QtOperator::blur(Widget& widget)
-{
-    if (!takesFocus(widget))
-        raiseError(ErrorNumber::NoSuchMember);
-    const EventScope scope(base(widget).context());
-    leavePopUps();
     QWidget& target = base(widget).qwidget();
     const bool hadFocus = target.hasFocus();
     target.clearFocus();
     // A host that kept the focus could not get it back into a field that is frozen or hidden.
     if (!hadFocus)
         leave(target);
-    return Refusal::None;
 }
 
-Refusal QtOperator::pointer(Widget& widget, Pointer action)
+void QtOperator::point(Widget& widget, Pointer action)
 {
-    const EventScope scope(base(widget).context());
-    bool there = false;
-    const Refusal refusal = approach(widget, there);
-    if (!there)
-        return refusal;
     const auto [target, at] = aimAt(widget);
     const QPointer<QWidget> alive = &target;
     const Qt::MouseButton button = action == Pointer::RightClick ? Qt::RightButton : Qt::LeftButton;
@@ -184,156 +141,66 @@ Refusal QtOperator::pointer(Widget& widget, Pointer action)
         if (alive)
             letTimePass(target);
     }
-    return refusal;
 }
 
-Refusal QtOperator::type(TextField& field, std::string_view text)
+bool QtOperator::typeCharacter(TextField& field, std::string_view character)
 {
-    const EventScope scope(base(field).context());
-    bool there = false;
-    Refusal refusal = reach(field);
-    if (refusal == Refusal::None && field.isLocked())
-        refusal = Refusal::Locked;
-    if (refusal != Refusal::None || approach(field, there) != Refusal::None || !there)
-        return refusal;
     const QPointer<QWidget> alive = &base(field).qwidget();
-    while (!text.empty() && alive) {
-        const std::string_view character = text.substr(0, byteOffset(text, 1));
-        text.remove_prefix(character.size());
-        const QString shown = QString::fromStdString(validUtf8(character));
-        const char16_t unit = shown.at(0).unicode();
-        const std::int16_t code = unit < 256 ? keyCodeOf(static_cast<std::int16_t>(unit)) : std::int16_t{0};
-        sendKey(*alive, keyOf(code), shown);
-    }
-    return refusal;
+    const QString shown = QString::fromStdString(validUtf8(character));
+    const char16_t unit = shown.at(0).unicode();
+    const std::int16_t code = unit < 256 ? keyCodeOf(static_cast<std::int16_t>(unit)) : std::int16_t{0};
+    sendKey(*alive, keyOf(code), shown);
+    return !alive.isNull();
 }
 
-Refusal QtOperator::paste(TextField& field, std::string_view text)
+void QtOperator::replace(TextField& field, std::string_view text)
 {
-    const EventScope scope(base(field).context());
-    bool there = false;
-    Refusal refusal = reach(field);
-    if (refusal == Refusal::None && field.isLocked())
-        refusal = Refusal::Locked;
-    if (refusal == Refusal::None && approach(field, there) == Refusal::None && there) {
-        // As the menu's "Paste": no key is pressed.
-        QGuiApplication::clipboard()->setText(shownText(text, std::numeric_limits<int>::max()));
-        dynamic_cast<QLineEdit&>(base(field).qwidget()).paste();
-    }
-    return refusal;
+    // As the menu's "Paste": no key is pressed.
+    QGuiApplication::clipboard()->setText(shownText(text, std::numeric_limits<int>::max()));
+    dynamic_cast<QLineEdit&>(base(field).qwidget()).paste();
 }
 
-Refusal QtOperator::select(TextField& field, std::size_t start, std::size_t length)
+void QtOperator::stroke(Widget& widget, std::int16_t code, std::int16_t character)
 {
-    const EventScope scope(base(field).context());
-    bool there = false;
-    const Refusal refusal = approach(field, there);
-    if (there)
-        field.select(start, length);
-    return refusal;
+    const QString text = character == 0 ? QString() : QString(QChar(static_cast<char16_t>(character)));
+    sendKey(base(widget).qwidget(), keyOf(code), text);
 }
 
-Refusal QtOperator::key(Widget& widget, std::int16_t code)
+void QtOperator::step(SpinButton& button, bool up)
 {
-    if (!takesFocus(widget))
-        raiseError(ErrorNumber::NoSuchMember);
-    const EventScope scope(base(widget).context());
-    bool there = false;
-    const Refusal refusal = approach(widget, there);
-    if (there)
-        sendKey(base(widget).qwidget(), keyOf(code), characterOf(code));
-    return refusal;
+    QWidget& target = dynamic_cast<QtSpinButton&>(button).button(up);
+    click(target, Qt::LeftButton, centre(target));
 }
 
-Refusal QtOperator::spin(SpinButton& button, bool up)
+void QtOperator::drag(Track& track, std::int32_t position)
 {
-    const EventScope scope(base(button).context());
-    const Refusal refusal = reach(button);
-    if (refusal == Refusal::None) {
-        QWidget& target = dynamic_cast<QtSpinButton&>(button).button(up);
-        click(target, Qt::LeftButton, centre(target));
-    }
-    return refusal;
+    // A position between two pixels has no mouse event: the slider's own way of being dragged.
+    const QPointer<QSlider> slider = dynamic_cast<QSlider*>(&base(track).qwidget());
+    slider->setSliderDown(true);
+    if (slider)
+        slider->setSliderPosition(position);
+    if (slider)
+        slider->setSliderDown(false);
 }
 
-Refusal QtOperator::moveTo(Track& track, std::int32_t position)
+void QtOperator::open(ComboBox& box) { dynamic_cast<QComboBox&>(base(box).qwidget()).showPopup(); }
+
+void QtOperator::pick(ComboBox& box, std::int32_t index)
 {
-    const EventScope scope(base(track).context());
-    bool there = false;
-    const Refusal refusal = approach(track, there);
-    if (there) {
-        // A position between two pixels has no mouse event: the slider's own way of being dragged.
-        auto& slider = dynamic_cast<QSlider&>(base(track).qwidget());
-        const QPointer<QSlider> alive = &slider;
-        slider.setSliderDown(true);
-        if (alive)
-            slider.setSliderPosition(position);
-        if (alive)
-            slider.setSliderDown(false);
-    }
-    return refusal;
+    auto& combo = dynamic_cast<QComboBox&>(base(box).qwidget());
+    if (!combo.view()->isVisible())
+        return;
+    combo.view()->setCurrentIndex(combo.model()->index(index, 0));
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(combo.view(), &enter);
 }
 
-Refusal QtOperator::dropDown(ComboBox& box)
+void QtOperator::clickMark(ListBox& box, std::int32_t index)
 {
-    const EventScope scope(base(box).context());
-    bool there = false;
-    Refusal refusal = reach(box);
-    if (refusal == Refusal::None && box.isLocked())
-        refusal = Refusal::Locked;
-    if (refusal == Refusal::None && approach(box, there) == Refusal::None && there)
-        dynamic_cast<QComboBox&>(base(box).qwidget()).showPopup();
-    return refusal;
+    auto& list = dynamic_cast<QtListBox&>(box);
+    click(list.viewport(), Qt::LeftButton, list.markOf(index));
 }
 
-Refusal QtOperator::choose(ComboBox& box, std::int32_t index)
-{
-    const EventScope scope(base(box).context());
-    static_cast<void>(box.entryText(index));
-    const Refusal refusal = dropDown(box);
-    const QPointer<QComboBox> combo = dynamic_cast<QComboBox*>(&base(box).qwidget());
-    // A handler may have emptied or locked the list when it opened.
-    if (refusal == Refusal::None && combo && combo->view()->isVisible() && index < box.count()) {
-        combo->view()->setCurrentIndex(combo->model()->index(index, 0));
-        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-        QApplication::sendEvent(combo->view(), &enter);
-    }
-    return refusal;
-}
-
-Refusal QtOperator::toggle(ListBox& box, std::int32_t index)
-{
-    const EventScope scope(base(box).context());
-    static_cast<void>(box.entryText(index));
-    bool there = false;
-    const Refusal refusal = approach(box, there);
-    if (there && index < box.count()) {
-        auto& list = dynamic_cast<QtListBox&>(box);
-        click(list.viewport(), Qt::LeftButton, list.markOf(index));
-    }
-    return refusal;
-}
-
-Refusal QtOperator::press(ToggleButton& button)
-{
-    const EventScope scope(base(button).context());
-    bool there = false;
-    const Refusal refusal = approach(button, there);
-    if (there) {
-        const auto [target, at] = aimAt(button);
-        click(target, Qt::LeftButton, at);
-    }
-    return refusal;
-}
-
-Refusal QtOperator::chooseItem(PopupMenu& menu, std::size_t item)
-{
-    if (!menu.isOpen())
-        return Refusal::Closed;
-    if (item >= menu.items().size())
-        raiseError(ErrorNumber::SubscriptOutOfRange);
-    dynamic_cast<MenuHands&>(menu).trigger(item);
-    return Refusal::None;
-}
+void QtOperator::clickItem(PopupMenu& menu, std::size_t item) { dynamic_cast<MenuHands&>(menu).trigger(item); }
 
 } // namespace zor::platform::qt

@@ -14,27 +14,21 @@ class QtOperator final : public Operator {
 public:
     explicit QtOperator(QtContainer& container) : m_container(container) {}
 
-    Refusal focus(Widget& widget) override;
-    Refusal blur(Widget& widget) override;
-    Refusal pointer(Widget& widget, Pointer action) override;
-    Refusal type(TextField& field, std::string_view text) override;
-    Refusal paste(TextField& field, std::string_view text) override;
-    Refusal select(TextField& field, std::size_t start, std::size_t length) override;
-    Refusal key(Widget& widget, std::int16_t code) override;
-    Refusal spin(SpinButton& button, bool up) override;
-    Refusal moveTo(Track& track, std::int32_t position) override;
-    Refusal choose(ComboBox& box, std::int32_t index) override;
-    Refusal dropDown(ComboBox& box) override;
-    Refusal toggle(ListBox& box, std::int32_t index) override;
-    Refusal press(ToggleButton& button) override;
-    Refusal chooseItem(PopupMenu& menu, std::size_t item) override;
-
 private:
-    void leavePopUps();
-    [[nodiscard]] Refusal reach(Widget& widget);
-    /// Reaches the widget and gives it the focus, if it takes one; `there` is false when a handler kept the
-    /// focus elsewhere.
-    Refusal approach(Widget& widget, bool& there);
+    void holding(Widget& widget, const std::function<void()>& action) override;
+    void closePopUps() override;
+    bool takeFocus(Widget& widget) override;
+    void dropFocus(Widget& widget) override;
+    void point(Widget& widget, Pointer action) override;
+    bool typeCharacter(TextField& field, std::string_view character) override;
+    void replace(TextField& field, std::string_view text) override;
+    void stroke(Widget& widget, std::int16_t code, std::int16_t character) override;
+    void step(SpinButton& button, bool up) override;
+    void drag(Track& track, std::int32_t position) override;
+    void open(ComboBox& box) override;
+    void pick(ComboBox& box, std::int32_t index) override;
+    void clickMark(ListBox& box, std::int32_t index) override;
+    void clickItem(PopupMenu& menu, std::size_t item) override;
 
     QtContainer& m_container;
 };

@@ -287,7 +287,9 @@ TEST(DrawnForm, KeepsTheSizeItWasDrawnInAndScrollsInLessRoom)
     file.write(R"(<ui version="4.0"><class>F</class><widget class="QWidget" name="F"><property name="geometry">
         <rect><x>0</x><y>0</y><width>500</width><height>400</height></rect></property>
         <widget class="zor::ZorTextBox" name="box"><property name="geometry">
-        <rect><x>20</x><y>340</y><width>301</width><height>21</height></rect></property></widget></widget></ui>)");
+        <rect><x>20</x><y>340</y><width>301</width><height>21</height></rect></property></widget>
+        <widget class="zor::ZorSlider" name="track"><property name="geometry">
+        <rect><x>20</x><y>20</y><width>301</width><height>60</height></rect></property></widget></widget></ui>)");
     file.close();
     core::ClassRegistry classes;
     registerControls(classes);
@@ -300,6 +302,10 @@ TEST(DrawnForm, KeepsTheSizeItWasDrawnInAndScrollsInLessRoom)
     window.show();
     QWidget& box = platform::qt::widgetOf(window.form().controls().front()->surface());
     EXPECT_GE(window.form().widget().height(), 400);
+    window.form().arrange();
+    const auto veils = window.findChildren<QWidget*>("noValueVeil");
+    ASSERT_EQ(veils.size(), 1) << "over the track, which was never read";
+    EXPECT_EQ(veils.front()->size(), veils.front()->parentWidget()->size());
     EXPECT_EQ(box.visibleRegion().boundingRect().size(), QSize(301, 21));
     window.resize(200, 200);
     QApplication::processEvents();

@@ -1,4 +1,4 @@
-#include <zor/core/property_row.h>
+#include <zor/core/value_kind.h>
 #include <zor/platform/error.h>
 
 #include <cmath>
