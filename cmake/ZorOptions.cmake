@@ -28,7 +28,7 @@ zor_option(ZOR_BUILD_TESTS "The tests" NEEDS ZOR_BUILD_TOOLS)
 zor_option(ZOR_INSTALL "Install what is built")
 option(ZOR_BUILD_BENCH "The benchmarks" OFF)
 option(ZOR_BUILD_INSTRUCTIONS "The program whose instructions are counted (valgrind)" OFF)
-option(ZOR_BUILD_FUZZ "The fuzzers (clang)" OFF)
+option(ZOR_BUILD_FUZZ "The fuzzers (clang; needs ZOR_BUILD_TOOLS)" OFF)
 option(ZOR_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 
 if(PROJECT_IS_TOP_LEVEL)
@@ -64,7 +64,7 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
 endif()
 
 if(ZOR_BUILD_FUZZ)
-  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined)
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
   add_link_options(-fsanitize=address,undefined)
 elseif(ZOR_SANITIZE)
   # With the sanitizers the compiler takes much for uninitialised that is not.

@@ -2,13 +2,10 @@
 
 #include <zor/tests/core/text_box_fixture.h>
 
-#include <cstdint>
 #include <limits>
 
 namespace zor::tests {
 namespace {
-
-using platform::headless::MemoryPropertyBag;
 
 TEST_F(TextBoxTest, AnOverflowingConversionChangesNothing)
 {
@@ -25,32 +22,6 @@ TEST_F(TextBoxTest, AnOverflowingConversionChangesNothing)
     EXPECT_EQ(box->DefaultUnit(), LgthU_MM);
 }
 
-TEST_F(TextBoxTest, InfiniteAndUndefinedNumbersChangeNothing)
-{
-    box->DeviceValue(1234);
-    for (const ENTRY_TYPE entry : {Numeric, Text}) {
-        box->EntryType(entry);
-        for (const double value :
-             {std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
-              std::numeric_limits<double>::quiet_NaN()}) {
-            EXPECT_EQ(errorOf([&] { box->DeviceValue(value); }), 6);
-            EXPECT_EQ(errorOf([&] { box->setProperty("DeviceValue", value); }), 6);
-            EXPECT_EQ(errorOf([&] { box->ModifiedValue(value); }), 6);
-            EXPECT_EQ(errorOf([&] { box->MaxValue(value); }), 6);
-            EXPECT_TRUE(box->DeviceValue() == Variant(1234));
-            EXPECT_TRUE(box->OutputValue() == Variant(1234));
-            EXPECT_EQ(text(), "123");
-            EXPECT_EQ(box->MaxValue(), 0);
-        }
-    }
-    // What was last shown from the device is still what an edit returns to.
-    box->DataChanged(true);
-    EXPECT_EQ(field().toolTip(), "Data Changed by other user  :  , 123");
-    MemoryPropertyBag bag;
-    bag.set("DeviceValue", std::numeric_limits<double>::infinity());
-    EXPECT_EQ(errorOf([&] { ctx_ZorTextBox::create(container)->readProperties(bag); }), 6);
-}
-
 TEST_F(TextBoxTest, AnEntryThatOverflowsIsNeverHandedBack)
 {
     box->DeviceUnit(LgthU_1By10_MM);
@@ -62,22 +33,6 @@ TEST_F(TextBoxTest, AnEntryThatOverflowsIsNeverHandedBack)
     EXPECT_EQ(errorOf([&] { hands.blur(field()); }), 6);
     EXPECT_TRUE(box->InvalidEntry());
     EXPECT_TRUE(box->OutputValue() == Variant(10));
-}
-
-TEST_F(TextBoxTest, AnyIntegerMayArriveAsAnEnumerationOrANumber)
-{
-    for (const std::int32_t value :
-         {-1, 14, 53, std::numeric_limits<std::int32_t>::max(), std::numeric_limits<std::int32_t>::min()}) {
-        for (const char* name :
-             {"UnitType", "DeviceUnit", "DefaultUnit", "EntryType", "RegisterType", "OutputUnit"})
-            box->setProperty(name, value);
-        box->DeviceValue(12);
-        const auto number = static_cast<std::int16_t>(value);
-        EXPECT_FALSE(box->fb_SetMessage(number, "x"));
-        EXPECT_EQ(box->fc_GetMessageID(number), "MSG_INVALIDENTRYTO");
-    }
-    EXPECT_EQ(errorOf([&] { box->setProperty("MaxLength", 70000); }), 6);
-    EXPECT_EQ(box->MaxLength(), 10);
 }
 
 TEST_F(TextBoxTest, LongAndBrokenTextsAreShownAsTheyAre)
