@@ -28,6 +28,8 @@ struct Settings {
     int runFor = 0;
     int serve = 0;
     int tab = 0;
+    std::vector<std::string> trend;
+    std::vector<std::string> saveTrend;
     SettingsTask task;
 };
 
@@ -61,6 +63,19 @@ void addOptions(CLI::App& app, Settings& settings)
         ->check(CLI::IsMember({"en", "de", "fr"}));
     app.add_option("--units", settings.units, "form, metric, us or device")->check(CLI::IsMember(kUnitSystems));
     app.add_option("--tab", settings.tab, "number of the tab in front, from 0")->check(CLI::Range(0, 1000));
+    auto* trend =
+        app.add_option("--trend", settings.trend, "tags of parameters to be plotted, with commas between")
+            ->delimiter(',')
+            ->allow_extra_args(false);
+    app.add_option("--save-trend", settings.saveTrend,
+                   "file for the curves at the end: values (.csv) or a picture (.png)")
+        ->check(CLI::Validator(
+            [](const std::string& name) {
+                return name.ends_with(".csv") || name.ends_with(".png") ? "" : name + ": neither .csv nor .png";
+            },
+            "FILE"))
+        ->allow_extra_args(false)
+        ->needs(trend);
     auto* save = app.add_option("--save-settings", settings.task.save,
                                 "file for what every parameter that can be written holds");
     auto* load = app.add_option("--load-settings", settings.task.load,
@@ -113,6 +128,11 @@ int finish(Window& window, const Settings& settings)
         return fail(kUsage, settings.log + ": " + session.recordError().toStdString());
     if (!settings.screenshot.empty() && !window.grab().save(QString::fromStdString(settings.screenshot)))
         return fail(kUsage, "cannot write " + settings.screenshot);
+    for (const std::string& name : settings.saveTrend) {
+        const QString error = window.trend().saveTo(QString::fromStdString(name));
+        if (!error.isEmpty())
+            return fail(kUsage, name + ": " + error.toStdString());
+    }
     if (settings.runFor == 0)
         return kWell;
     const int rounds = session.poller().rounds();
@@ -165,6 +185,12 @@ int monitor(const Settings& settings, ParameterFile file)
         window.remember(sizes); // what nobody watches leaves no traces and looks the same each time
     if (settings.units != "form")
         window.setUnits(kUnitSystems.at(settings.units));
+    for (const std::string& tag : settings.trend) {
+        const auto parameter = window.session().file().indexOf(tag);
+        if (!parameter || !Trend::isPlottable(window.session().file().parameters[*parameter]))
+            return fail(kUsage, "--trend " + tag + ": no parameter that is a number");
+        window.trend().add(*parameter);
+    }
     window.show();
     if (settings.runFor > 0 || !settings.log.empty())
         window.session().readEverything();

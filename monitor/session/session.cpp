@@ -60,6 +60,7 @@ std::vector<std::size_t> Session::wanted()
 {
     std::vector<std::size_t> parameters(m_readsAll ? m_states.size() : 0);
     std::iota(parameters.begin(), parameters.end(), std::size_t{0});
+    parameters.insert(parameters.end(), m_followed.begin(), m_followed.end());
     for (std::size_t i = 0; i < m_bindings.size(); ++i) {
         Binding& binding = *m_bindings[i];
         if (binding.parameter() == nullptr)
@@ -85,6 +86,8 @@ void Session::hear(std::size_t parameter, const Reading& reading)
     const bool none = live && decode(m_file.parameters[parameter], reading.registers).isEmpty();
     const ReadOutcome outcome = none ? ReadOutcome::NoValue : reading.outcome;
     logRead(parameter, {outcome, reading.registers, reading.reason});
+    if (onReading)
+        onReading(parameter, {outcome, reading.registers, reading.reason});
     state.outcome = outcome;
     forEach(parameter, [&](Binding& binding) { binding.showOutcome(outcome); });
     if (live || outcome == ReadOutcome::NotAvailable)

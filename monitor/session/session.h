@@ -9,6 +9,7 @@
 #include <zor/monitor/session/unit_system.h>
 #include <zor/monitor/session/writer.h>
 
+#include <QDateTime>
 #include <QElapsedTimer>
 
 #include <functional>
@@ -21,6 +22,17 @@ namespace zor::monitor {
 struct Written {
     Change change;
     WriteResult result;
+};
+
+/// What became of a write when it was carried out or tried, or when it was settled later.
+struct WriteRecord {
+    QDateTime time; ///< UTC
+    std::size_t parameter;
+    Registers before;
+    Registers target;
+    std::uint32_t mask;       ///< of an edit of bits
+    std::string_view outcome; ///< as the record names it
+    std::string reason;
 };
 
 class Session : public QObject {
@@ -37,9 +49,13 @@ public:
     /// Reads every parameter of the file, seen or not: for a record or a report that is to be whole.
     void readEverything(bool all = true) { m_readsAll = all; }
     [[nodiscard]] bool readsEverything() const { return m_readsAll; }
+    /// Reads these parameters whether they are in sight or not.
+    void follow(std::vector<std::size_t> parameters) { m_followed = std::move(parameters); }
 
     /// Whether the operator can see a control; without it, he sees all.
     std::function<bool(core::Control&)> isVisible;
+    /// What each read of a parameter has come to.
+    std::function<void(std::size_t parameter, const Reading&)> onReading;
     /// After each round; whether the device answered.
     std::function<void(bool answered)> onRound;
     /// When a list of changes has been dealt with.
@@ -98,6 +114,10 @@ public:
     /// Milliseconds on the session's clock: now, and when the device last answered for a parameter, -1 for never.
     [[nodiscard]] qint64 now() const { return m_clock.elapsed(); }
     [[nodiscard]] qint64 readAt(std::size_t parameter) const { return m_states[parameter].readAt; }
+    /// The unit in which the operator sees a parameter's numbers.
+    [[nodiscard]] MEAS_TYPE shownUnit(std::size_t parameter) const;
+    /// All that has become of writes, the oldest first.
+    [[nodiscard]] const std::vector<WriteRecord>& writes() const { return m_writes; }
     /// A line for each parameter: tag, value, unit, state.
     [[nodiscard]] std::string report() const;
     /// @}
@@ -151,6 +171,8 @@ private:
     std::vector<std::vector<Binding*>> m_shownBy; ///< those of each parameter
     std::vector<View> m_views;                    ///< one for each binding
     std::vector<Written> m_results;
+    std::vector<WriteRecord> m_writes;
+    std::vector<std::size_t> m_followed;
     QElapsedTimer m_clock;
     std::string m_language = "en";
     std::string m_type;

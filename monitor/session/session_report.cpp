@@ -38,6 +38,8 @@ void Session::logRead(std::size_t parameter, const Reading& reading)
 
 void Session::logWrite(const Change& change, const WriteResult& result, std::string_view outcome)
 {
+    m_writes.push_back({QDateTime::currentDateTimeUtc(), change.parameter, change.before, change.target,
+                        change.mask, outcome, result.reason});
     if (m_log == nullptr)
         return;
     const Parameter& row = m_file.parameters[change.parameter];
@@ -52,14 +54,19 @@ bool Session::hasValues() const
     return std::ranges::any_of(m_states, [](const State& state) { return !state.last.empty(); });
 }
 
+MEAS_TYPE Session::shownUnit(std::size_t parameter) const
+{
+    MEAS_TYPE unit = m_file.parameters[parameter].appearance.unit;
+    forEach(parameter, [&](const Binding& binding) { unit = binding.shownUnit(); });
+    return unit;
+}
+
 std::string Session::report() const
 {
     std::string lines;
     for (std::size_t i = 0; i < m_states.size(); ++i) {
         const Parameter& row = m_file.parameters[i];
-        MEAS_TYPE unit = row.appearance.unit;
-        forEach(i, [&](const Binding& binding) { unit = binding.shownUnit(); });
-        const ShownValue value = describeExactly(row, m_states[i].last, unit, m_language);
+        const ShownValue value = describeExactly(row, m_states[i].last, shownUnit(i), m_language);
         const std::string_view label = fc_GetUnitLabel(value.unit);
         lines.append(row.tag).append("  ").append(value.text);
         lines.append(label.empty() ? "" : " ").append(label).append("  ");

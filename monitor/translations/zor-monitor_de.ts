@@ -277,6 +277,156 @@
     </message>
 </context>
 <context>
+    <name>TrendChooser</name>
+    <message>
+        <source>Parameters to plot</source>
+        <translation>Aufzuzeichnende Parameter</translation>
+    </message>
+    <message>
+        <source>Filter: parameter or tag</source>
+        <translation>Filter: Parameter oder Kennung</translation>
+    </message>
+</context>
+<context>
+    <name>TrendDock</name>
+    <message>
+        <source>No parameter is plotted.</source>
+        <translation>Kein Parameter wird aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>without a unit</source>
+        <translation>ohne Einheit</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Trend</translation>
+    </message>
+    <message>
+        <source>Parameters...</source>
+        <translation>Parameter...</translation>
+    </message>
+    <message>
+        <source>Choose the parameters that are plotted</source>
+        <translation>Auswählen, welche Parameter aufgezeichnet werden</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the selected curve and what it has recorded</source>
+        <translation>Die ausgewählte Kurve mit allem, was sie aufgezeichnet hat, entfernen</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Stop the picture; recording goes on</source>
+        <translation>Das Bild anhalten; aufgezeichnet wird weiter</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Näher</translation>
+    </message>
+    <message>
+        <source>Show less time; with Ctrl and the wheel, less of the values</source>
+        <translation>Weniger Zeit zeigen; mit Strg und dem Rad einen kleineren Wertebereich</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Show more time; with Ctrl and the wheel, more of the values</source>
+        <translation>Mehr Zeit zeigen; mit Strg und dem Rad einen größeren Wertebereich</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alles</translation>
+    </message>
+    <message>
+        <source>Show all that has been recorded</source>
+        <translation>Alles zeigen, was aufgezeichnet ist</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Fit the axes to the values again</source>
+        <translation>Die Achsen wieder den Werten anpassen</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>Speichern...</translation>
+    </message>
+    <message>
+        <source>Save the values (CSV) or the picture (PNG)</source>
+        <translation>Die Werte (CSV) oder das Bild (PNG) speichern</translation>
+    </message>
+    <message>
+        <source>Plot</source>
+        <translation>Diagramm</translation>
+    </message>
+    <message>
+        <source>Arrow keys move the cursor, with Shift the time; plus and minus zoom, with Ctrl the values; 0 fits them; Home shows everything, End the present; the space bar pauses.</source>
+        <translation>Pfeiltasten bewegen den Zeiger, mit Umschalt die Zeit; Plus und Minus vergrößern und verkleinern, mit Strg die Werte; 0 passt sie ein; Pos1 zeigt alles, Ende die Gegenwart; die Leertaste hält an.</translation>
+    </message>
+    <message>
+        <source>Curves</source>
+        <translation>Kurven</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Remove from the trend</source>
+        <translation>Aus dem Trend entfernen</translation>
+    </message>
+    <message>
+        <source>Add to the trend</source>
+        <translation>In den Trend aufnehmen</translation>
+    </message>
+    <message>
+        <source>Paused; values of now</source>
+        <translation>Angehalten; Werte von jetzt</translation>
+    </message>
+    <message>
+        <source>Values of now</source>
+        <translation>Werte von jetzt</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>Geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>Values (*.csv)</source>
+        <translation>Werte (*.csv)</translation>
+    </message>
+    <message>
+        <source>Picture (*.png)</source>
+        <translation>Bild (*.png)</translation>
+    </message>
+    <message>
+        <source>Save trend</source>
+        <translation>Trend speichern</translation>
+    </message>
+    <message>
+        <source>Trend saved: %1</source>
+        <translation>Trend gespeichert: %1</translation>
+    </message>
+</context>
+<context>
     <name>Window</name>
     <message>
         <source>&amp;View</source>

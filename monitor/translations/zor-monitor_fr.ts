@@ -277,6 +277,156 @@
     </message>
 </context>
 <context>
+    <name>TrendChooser</name>
+    <message>
+        <source>Parameters to plot</source>
+        <translation>Paramètres à tracer</translation>
+    </message>
+    <message>
+        <source>Filter: parameter or tag</source>
+        <translation>Filtre : paramètre ou repère</translation>
+    </message>
+</context>
+<context>
+    <name>TrendDock</name>
+    <message>
+        <source>No parameter is plotted.</source>
+        <translation>Aucun paramètre n&apos;est tracé.</translation>
+    </message>
+    <message>
+        <source>without a unit</source>
+        <translation>sans unité</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Tendance</translation>
+    </message>
+    <message>
+        <source>Parameters...</source>
+        <translation>Paramètres...</translation>
+    </message>
+    <message>
+        <source>Choose the parameters that are plotted</source>
+        <translation>Choisir les paramètres à tracer</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Remove the selected curve and what it has recorded</source>
+        <translation>Retirer la courbe choisie et ce qu&apos;elle a enregistré</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Stop the picture; recording goes on</source>
+        <translation>Arrêter l&apos;image ; l&apos;enregistrement continue</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Show less time; with Ctrl and the wheel, less of the values</source>
+        <translation>Montrer moins de temps ; avec Ctrl et la molette, moins de valeurs</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Show more time; with Ctrl and the wheel, more of the values</source>
+        <translation>Montrer plus de temps ; avec Ctrl et la molette, plus de valeurs</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tout</translation>
+    </message>
+    <message>
+        <source>Show all that has been recorded</source>
+        <translation>Montrer tout ce qui est enregistré</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Ajuster</translation>
+    </message>
+    <message>
+        <source>Fit the axes to the values again</source>
+        <translation>Ajuster de nouveau les axes aux valeurs</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>Enregistrer...</translation>
+    </message>
+    <message>
+        <source>Save the values (CSV) or the picture (PNG)</source>
+        <translation>Enregistrer les valeurs (CSV) ou l&apos;image (PNG)</translation>
+    </message>
+    <message>
+        <source>Plot</source>
+        <translation>Graphique</translation>
+    </message>
+    <message>
+        <source>Arrow keys move the cursor, with Shift the time; plus and minus zoom, with Ctrl the values; 0 fits them; Home shows everything, End the present; the space bar pauses.</source>
+        <translation>Les flèches déplacent le curseur, avec Maj le temps ; plus et moins changent l&apos;échelle, avec Ctrl celle des valeurs ; 0 les ajuste ; Début montre tout, Fin le présent ; la barre d&apos;espace arrête l&apos;image.</translation>
+    </message>
+    <message>
+        <source>Curves</source>
+        <translation>Courbes</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Paramètre</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>Remove from the trend</source>
+        <translation>Retirer de la tendance</translation>
+    </message>
+    <message>
+        <source>Add to the trend</source>
+        <translation>Ajouter à la tendance</translation>
+    </message>
+    <message>
+        <source>Paused; values of now</source>
+        <translation>En pause ; valeurs actuelles</translation>
+    </message>
+    <message>
+        <source>Values of now</source>
+        <translation>Valeurs actuelles</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>Écrit : %1</translation>
+    </message>
+    <message>
+        <source>Values (*.csv)</source>
+        <translation>Valeurs (*.csv)</translation>
+    </message>
+    <message>
+        <source>Picture (*.png)</source>
+        <translation>Image (*.png)</translation>
+    </message>
+    <message>
+        <source>Save trend</source>
+        <translation>Enregistrer la tendance</translation>
+    </message>
+    <message>
+        <source>Trend saved: %1</source>
+        <translation>Tendance enregistrée : %1</translation>
+    </message>
+</context>
+<context>
     <name>Window</name>
     <message>
         <source>&amp;View</source>

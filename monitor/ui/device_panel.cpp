@@ -31,7 +31,7 @@ QIcon dot(QSize size)
 } // namespace
 
 DevicePanel::DevicePanel(std::unique_ptr<Device> device, std::unique_ptr<Form> form)
-    : m_form(std::move(form)), m_device(std::move(device))
+    : m_form(std::move(form)), m_device(std::move(device)), m_trend(std::make_unique<Trend>(session()))
 {
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
@@ -75,6 +75,7 @@ DevicePanel::~DevicePanel()
 {
     delete m_review;
     m_transfer.reset();
+    m_trend.reset();
     m_device.reset();
     // The form owns its controls, the panel its widget: the controls go first.
     m_form->widget().setParent(nullptr);

@@ -3,6 +3,7 @@
 /// One device in the window: its session, its form, the edits on it, and what is open about them.
 
 #include <zor/monitor/device/device.h>
+#include <zor/monitor/trend/trend.h>
 #include <zor/monitor/ui/form.h>
 #include <zor/monitor/ui/memory.h>
 #include <zor/monitor/ui/review_dialog.h>
@@ -27,6 +28,7 @@ public:
     [[nodiscard]] const Session& session() const { return m_device->session(); }
     [[nodiscard]] Form& form() { return *m_form; }
     [[nodiscard]] SettingsTransfer& transfer() { return *m_transfer; }
+    [[nodiscard]] Trend& trend() { return *m_trend; }
     /// The title of the parameter file in the language in force; may be empty.
     [[nodiscard]] QString title() const;
     /// Whether the device answered in the last round.
@@ -69,6 +71,7 @@ private:
     std::unique_ptr<Form> m_form; ///< outlives the session, which holds on to its controls
     std::unique_ptr<Device> m_device;
     std::unique_ptr<SettingsTransfer> m_transfer;
+    std::unique_ptr<Trend> m_trend;
     QPointer<ReviewDialog> m_review;
     Memory m_memory;
     QTimer m_soon; ///< until the edits are shown

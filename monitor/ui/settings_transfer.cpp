@@ -39,11 +39,11 @@ std::optional<SettingsFile> SettingsTransfer::open(const QString& title, const Q
 
 // --- Reading the device
 
-void SettingsTransfer::read(const SettingsFile& file, std::function<void()> then)
+void SettingsTransfer::read(std::vector<std::size_t> parameters, std::function<void()> then)
 {
     if (m_survey != nullptr)
         return;
-    m_survey = std::make_unique<Survey>(m_session, concerned(m_session.file(), file));
+    m_survey = std::make_unique<Survey>(m_session, std::move(parameters));
     m_then = std::move(then);
     m_progress = new QProgressDialog(tr("Reading the device..."), tr("Cancel"), 0,
                                      static_cast<int>(m_survey->total()), &m_window);
@@ -92,7 +92,7 @@ void SettingsTransfer::save(QString file)
         file = QFileDialog::getSaveFileName(&m_window, tr("Save settings"), usual, tr("Settings files (*.json)"));
     }
     if (!file.isEmpty())
-        read({}, [this, file] { keep(file); });
+        read(concerned(m_session.file(), {}), [this, file] { keep(file); });
 }
 
 void SettingsTransfer::keep(const QString& file)
@@ -113,13 +113,13 @@ void SettingsTransfer::keep(const QString& file)
 void SettingsTransfer::compare(const QString& file)
 {
     if (const auto settings = open(tr("Compare with file"), file))
-        read(*settings, [this, settings] { show(*settings, false); });
+        read(concerned(m_session.file(), *settings), [this, settings] { show(*settings, false); });
 }
 
 void SettingsTransfer::load(const QString& file)
 {
     if (const auto settings = open(tr("Load settings"), file))
-        read(*settings, [this, settings] { show(*settings, true); });
+        read(concerned(m_session.file(), *settings), [this, settings] { show(*settings, true); });
 }
 
 void SettingsTransfer::compareFiles(const QString& file, const QString& other)

@@ -40,6 +40,9 @@ public:
     void compareFiles(const QString& file = {}, const QString& other = {});
     /// @}
 
+    /// Reads these parameters with the same progress, then goes on; says so when the device did not answer.
+    void read(std::vector<std::size_t> parameters, std::function<void()> then);
+
     void setLanguage(const std::string& language) { m_language = language; }
     /// The table that is open; nullptr for none.
     [[nodiscard]] SettingsDialog* openDialog() const { return m_dialog; }
@@ -47,7 +50,6 @@ public:
     void hearRound(bool answered);
 
 private:
-    void read(const SettingsFile& file, std::function<void()> then);
     void end();
     void keep(const QString& file);
     void show(const SettingsFile& file, bool loads);

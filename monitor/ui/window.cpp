@@ -15,12 +15,14 @@
 namespace zor::monitor {
 
 Window::Window(std::unique_ptr<DevicePanel> first, Languages& languages)
-    : m_stack(new QStackedWidget), m_languages(languages), m_bar(addToolBar(QString())), m_status(*statusBar())
+    : m_stack(new QStackedWidget), m_languages(languages), m_bar(addToolBar(QString())), m_status(*statusBar()),
+      m_trend(new TrendDock(languages, this)), m_controlMenu(*this)
 {
     setCentralWidget(m_stack);
     m_bar->setObjectName("toolBar");
     m_bar->setMovable(false);
     bringToFront(add(std::move(first)));
+    buildTrend();
     keepFrozenReadable();
     resize(usualSize());
 }
@@ -28,7 +30,17 @@ Window::Window(std::unique_ptr<DevicePanel> first, Languages& languages)
 Window::~Window()
 {
     // While all that they speak to is still there.
+    m_trend->follow(nullptr);
     m_panels.clear();
+}
+
+void Window::buildTrend()
+{
+    addDock(*m_trend, Qt::BottomDockWidgetArea);
+    m_trend->say = [this](const QString& text) { m_status.say(text); };
+    whenFront([this](DevicePanel& panel) { m_trend->follow(&panel.trend()); });
+    m_controlMenu.bindings = [this] { return session().bindings(); };
+    m_controlMenu.add([this](QMenu& menu, const Binding& binding) { m_trend->addTo(menu, binding); });
 }
 
 QSize Window::usualSize() const

@@ -2,6 +2,8 @@
 
 /// The monitor's window.
 
+#include <zor/monitor/trend/trend_dock.h>
+#include <zor/monitor/ui/control_menu.h>
 #include <zor/monitor/ui/device_panel.h>
 #include <zor/monitor/ui/languages.h>
 #include <zor/monitor/ui/status_line.h>
@@ -44,6 +46,8 @@ public:
     /// outlive the window.
     void remember(QSettings& settings);
 
+    [[nodiscard]] TrendDock& trend() { return *m_trend; }
+
     /// Closes without a question, edits or not.
     void closeUnasked();
 
@@ -65,6 +69,7 @@ private:
     void keepFrozenReadable();
     void setUnit(UNIT_TYPE type, MEAS_TYPE unit);
     void showFront();
+    void buildTrend();
 
     std::vector<std::unique_ptr<DevicePanel>> m_panels;
     DevicePanel* m_front = nullptr;
@@ -72,6 +77,8 @@ private:
     Languages& m_languages;
     QToolBar* m_bar;
     StatusLine m_status;
+    TrendDock* m_trend;
+    ControlMenu m_controlMenu;
     std::vector<std::function<void(DevicePanel&)>> m_whenFront;
     std::vector<QDockWidget*> m_docks;
     Memory m_memory;

@@ -83,6 +83,9 @@ TEST(Program, SaysWhyItCannotRun)
         {{"--log", folder.filePath("no/log.csv")}, 2, "no/log.csv: "},
         {{"--log", "/dev/full", "--run-for", "1"}, 2, "/dev/full: No space left on device"},
         {{"--screenshot", folder.filePath("no/a.png"), "--run-for", "1"}, 2, "cannot write"},
+        {{"--trend", "Name"}, 2, "--trend Name: no parameter that is a number"},
+        {{"--trend", "Flow", "--save-trend", "a.txt"}, 2, "a.txt: neither .csv nor .png"},
+        {{"--trend", "Flow", "--save-trend", folder.filePath("no/a.csv"), "--run-for", "1"}, 2, "no/a.csv: "},
         {{"--serve", port}, 2, "port " + port + ": "},
     };
     for (const Row& row : rows) {
