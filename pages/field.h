@@ -40,6 +40,8 @@ struct Field {
     std::string_view caption;
     /// What it shows and writes.
     std::string_view property;
+    /// What it says, for people: the field's tooltip.
+    std::string_view meaning;
     /// Of a list.
     std::span<const std::string_view> items{};
     /// Of a number: the name of the spin buttons, and their ends.

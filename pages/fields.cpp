@@ -2,6 +2,7 @@
 #include <zor/pages/page.h>
 #include <zor/units/unit_catalogue.h>
 
+#include <algorithm>
 #include <array>
 
 namespace zor::pages {
@@ -60,34 +61,49 @@ void unitEnableClicked(Page& page)
 
 } // namespace
 
-constexpr Field kDeviceTag{
-    .widget = "txt_DeviceTag", .kind = FieldKind::Text, .caption = "Device Tag", .property = "DeviceTag"};
-constexpr Field kRegisterType{.widget = "cbo_RegisterType",
-                              .kind = FieldKind::List,
-                              .caption = "Register Type",
-                              .property = "RegisterType",
-                              .items = kRegisterTypeWords};
+constexpr Field kDeviceTag{.widget = "txt_DeviceTag",
+                           .kind = FieldKind::Text,
+                           .caption = "Device Tag",
+                           .property = "DeviceTag",
+                           .meaning =
+                               "Identifier of the parameter in the device, under which the program finds it."};
+constexpr Field kRegisterType{
+    .widget = "cbo_RegisterType",
+    .kind = FieldKind::List,
+    .caption = "Register Type",
+    .property = "RegisterType",
+    .meaning =
+        "The register bank that holds the parameter. What lies in an input register is shown and never edited.",
+    .items = kRegisterTypeWords};
 constexpr Field kDeviceTypes{.widget = "txt_DeviceType",
                              .kind = FieldKind::Text,
                              .caption = "Device Types Supported",
-                             .property = "DeviceTypeSupported"};
+                             .property = "DeviceTypeSupported",
+                             .meaning = "The device types that offer the parameter, with commas; empty for all. "
+                                        "On any other the control hides itself."};
 constexpr Field kMinVersions{.widget = "txt_MinVersion",
                              .kind = FieldKind::Text,
                              .caption = "Device Min Versions",
-                             .property = "DeviceMinVersionSupported"};
+                             .property = "DeviceMinVersionSupported",
+                             .meaning = "The lowest firmware version of each of these types, with commas and in "
+                                        "their order; an empty one sets no limit."};
 constexpr Field kMaxVersions{.widget = "txt_MaxVersion",
                              .kind = FieldKind::Text,
                              .caption = "Device Max Versions",
-                             .property = "DeviceMaxVersionSupported"};
+                             .property = "DeviceMaxVersionSupported",
+                             .meaning = "The highest firmware version of each of these types, with commas and in "
+                                        "their order; an empty one sets no limit."};
 constexpr Field kEntryType{.widget = "cbo_EntryType",
                            .kind = FieldKind::List,
                            .caption = "Entry Type",
                            .property = "EntryType",
+                           .meaning = "Whether the operator enters a number or a text.",
                            .items = kEntryTypeWords};
 constexpr Field kMaxLength{.widget = "txt_MaxLength",
                            .kind = FieldKind::Number,
                            .caption = "Maximum Length",
                            .property = "MaxLength",
+                           .meaning = "Longest valid text, in characters.",
                            .spinButton = "upd_MaxLength",
                            .minimum = 1,
                            .maximum = 255};
@@ -96,31 +112,42 @@ constexpr Field kNumberOfDigits{.widget = "txt_NoOfDigits",
                                 .kind = FieldKind::Number,
                                 .caption = "Number of Digits",
                                 .property = "NumberOfDigits",
+                                .meaning = "Decimals of a number without a unit.",
                                 .spinButton = "upd_NoOfDigits",
                                 .minimum = 0,
                                 .maximum = 15};
-constexpr Field kUnitEnable{.widget = "chk_UnitEnable",
-                            .kind = FieldKind::Check,
-                            .caption = "Unit Enable",
-                            .property = "UnitEnable",
-                            .write = writeUnits,
-                            .clicked = unitEnableClicked};
+constexpr Field kUnitEnable{
+    .widget = "chk_UnitEnable",
+    .kind = FieldKind::Check,
+    .caption = "Unit Enable",
+    .property = "UnitEnable",
+    .meaning =
+        "Whether the unit is shown. Apply takes unit type and units away without it; only a number has a unit.",
+    .write = writeUnits,
+    .clicked = unitEnableClicked};
 // Written together with its switch.
 constexpr Field kUnitType{.widget = "cbo_UnitType",
                           .kind = FieldKind::List,
                           .caption = "Unit Type",
                           .property = "UnitType",
+                          .meaning = "The quantity. Apply sets the three units to the first of that kind; any "
+                                     "other is set in the property editor.",
                           .items = kUnitTypeWords,
                           .write = [](Page&) {},
                           .usable = [](const Page& page) { return page.isTicked(kUnitEnable); }};
-constexpr Field kIconEnable{
-    .widget = "chk_IconEnable", .kind = FieldKind::Check, .caption = "Icon Enable", .property = "IconEnable"};
+constexpr Field kIconEnable{.widget = "chk_IconEnable",
+                            .kind = FieldKind::Check,
+                            .caption = "Icon Enable",
+                            .property = "IconEnable",
+                            .meaning = "Whether the state icon may be shown."};
 
 std::span<const Field* const> writeOrder() noexcept
 {
     static constexpr std::array kOrder{&kDeviceTypes,    &kMinVersions, &kMaxVersions,  &kMaxLength,
                                        &kNumberOfDigits, &kEntryType,   &kRegisterType, &kDeviceTag,
                                        &kIconEnable,     &kUnitEnable,  &kUnitType};
+    static_assert(std::ranges::none_of(kOrder, [](const Field* field) { return field->meaning.empty(); }),
+                  "every field says what it means");
     return kOrder;
 }
 

@@ -16,6 +16,8 @@ struct PageInfo {
     std::string_view name;
     /// What a frame calls it.
     std::string_view caption;
+    /// What a form designer says on it.
+    std::string_view meaning;
     /// From top to bottom.
     std::span<const Field* const> fields;
     /// The classes of controls that the page is made for.

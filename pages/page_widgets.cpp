@@ -54,8 +54,11 @@ void Page::create(const Field& field)
     case FieldKind::Check:
         entry.check = m_surface->createCheckBox(number + kInput);
         entry.check->setCaption(field.caption);
-        return;
+        break;
     }
+    entry.input().setToolTip(field.meaning);
+    if (entry.check)
+        return;
     entry.caption = m_surface->createLabel(number + kCaption);
     entry.caption->setCaption(field.caption);
 }

@@ -31,10 +31,20 @@ constexpr std::array<std::string_view, 1> kImageControls{"ctx_ZorImage"};
 
 } // namespace
 
-constexpr PageInfo prp_ZorTextBoxGeneral{"prp_ZorTextBoxGeneral", kDevice, kTextBoxFields, kTextBoxControls};
-constexpr PageInfo prp_ZorUpDSldDevice{"prp_ZorUpDSldDevice", kDevice, kUpDSldFields, kUpDSldControls};
-constexpr PageInfo prp_ZorOtherControls{"prp_ZorOtherControls", kDevice, kOtherFields, kOtherControls};
-constexpr PageInfo prp_ZorImage{"prp_ZorImage", kDevice, kImageFields, kImageControls};
+constexpr PageInfo prp_ZorTextBoxGeneral{
+    "prp_ZorTextBoxGeneral", kDevice,
+    "Which parameter a text box shows, on which devices, and what its operator may enter in which kind of unit.",
+    kTextBoxFields, kTextBoxControls};
+constexpr PageInfo prp_ZorUpDSldDevice{
+    "prp_ZorUpDSldDevice", kDevice,
+    "Which parameter an up-down or a slider shows, on which devices and in which kind of unit.", kUpDSldFields,
+    kUpDSldControls};
+constexpr PageInfo prp_ZorOtherControls{"prp_ZorOtherControls", kDevice,
+                                        "Which parameter a label or a choice shows, and on which devices.",
+                                        kOtherFields, kOtherControls};
+constexpr PageInfo prp_ZorImage{"prp_ZorImage", kDevice,
+                                "Which status register the image shows, and on which devices.", kImageFields,
+                                kImageControls};
 
 void registerPages(PageRegistry& registry)
 {

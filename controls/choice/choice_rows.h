@@ -53,9 +53,9 @@ struct ChoiceRows {
     static constexpr std::array kMethods{core::kGetMaxMessage, core::kGetMessageID, core::kSetMessage,
                                          core::kChangeBackColor};
 
-    static constexpr std::array<core::WidgetRow, 3> widgets(std::string_view face, std::string_view meaning)
+    static constexpr std::array<core::WidgetRow, 3> widgets(const core::WidgetRow& face)
     {
-        return {core::kSurfaceRow, {kFace, face, meaning}, core::iconRow(ChoiceWidget::kState)};
+        return {core::kSurfaceRow, face, core::iconRow(ChoiceWidget::kState)};
     }
 };
 

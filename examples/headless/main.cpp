@@ -36,7 +36,7 @@ int main()
     level->MaxValue(20);
     level->DeviceValue(12345); // what the device sent, in tenths of a millimetre
 
-    auto* field = dynamic_cast<zor::platform::TextField*>(level->widget(zor::controls::EntryField::kText));
+    auto* field = dynamic_cast<zor::platform::TextField*>(level->widget(zor::ctx_ZorTextBox::txt_TextBox));
     if (field == nullptr)
         return 1;
     std::cout << "ZorSmartControls " << zor::version() << " shows " << field->text() << " m\n";

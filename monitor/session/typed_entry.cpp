@@ -1,4 +1,4 @@
-#include <zor/controls/numeric/entry_field.h>
+#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
 #include <zor/monitor/session/typed_entry.h>
 #include <zor/platform/error.h>
 #include <zor/units/mod_Common.h>
@@ -71,7 +71,7 @@ bool TypedEntry::take()
 /// means 5.
 std::optional<Variant> TypedEntry::typedNumber() const
 {
-    const auto* field = dynamic_cast<platform::TextField*>(m_control.widget(controls::EntryField::kText));
+    const auto* field = dynamic_cast<platform::TextField*>(m_control.widget(ctx_ZorTextBox::txt_TextBox));
     if (field == nullptr || m_control.property("EntryType").toInt32() != static_cast<std::int32_t>(Numeric))
         return std::nullopt;
     const std::optional<double> number = validNumber(std::string_view(field->text()));

@@ -4,6 +4,7 @@
 #include <zor/core/argument_words.h>
 #include <zor/core/control.h>
 #include <zor/pages/registration.h>
+#include <zor/platform/version.h>
 
 #include <algorithm>
 #include <array>
@@ -125,10 +126,11 @@ void writeArguments(std::ostream& out, const ClassInfo& info)
 
 void writeMessages(std::ostream& out, const ClassInfo& info)
 {
-    out << "\n## Messages\n\n| No. | Identifier | Property |\n|---|---|---|\n";
+    out << "\n## Messages\n\n| No. | Identifier | Property | Meaning |\n|---|---|---|---|\n";
     for (std::size_t i = 0; i < info.messages.size(); ++i)
         out << "| " << i + 1 << " | " << code(info.messages[i].identifier) << " | "
-            << code(info.messages[i].property->name) << " |\n";
+            << code(info.messages[i].property->name) << " | " << cell(info.messages[i].property->meaning)
+            << " |\n";
     out << "\nThe identifier of any other number is " << code(info.otherMessage) << ".\n";
 }
 
@@ -156,11 +158,12 @@ std::string page(const pages::PageInfo& info)
         << "\", made for";
     for (const std::string_view control : info.controls)
         out << (control == info.controls.front() ? " " : ", ") << code(control);
-    out << ". It shows the first selected control; Apply writes all of its fields.\n\n"
-           "| Field | Caption | Kind | Property | Choices |\n|---|---|---|---|---|\n";
+    out << ". " << info.meaning
+        << " It shows the first selected control; Apply writes all of its fields.\n\n"
+           "| Field | Caption | Meaning | Kind | Property | Choices |\n|---|---|---|---|---|---|\n";
     for (const pages::Field* field : info.fields) {
-        out << "| " << code(field->widget) << " | " << cell(field->caption) << " | "
-            << pages::kindName(field->kind) << " | " << code(field->property) << " | ";
+        out << "| " << code(field->widget) << " | " << cell(field->caption) << " | " << cell(field->meaning)
+            << " | " << pages::kindName(field->kind) << " | " << code(field->property) << " | ";
         for (const std::string_view item : field->items)
             out << (item == field->items.front() ? "" : ", ") << cell(item);
         if (field->kind == pages::FieldKind::Number)
@@ -203,8 +206,12 @@ std::string contentOf(const std::filesystem::path& path)
 int main(int argc, char** argv)
 {
     const bool check = argc == 3 && std::string_view(argv[1]) == "--check";
+    if (argc == 2 && std::string_view(argv[1]) == "--version") {
+        std::cout << "zor-reference " << version() << '\n';
+        return 0;
+    }
     if (argc != 2 && !check) {
-        std::cerr << "usage: zor-reference [--check] FOLDER\n";
+        std::cerr << "usage: zor-reference [--check] FOLDER | --version\n";
         return 2;
     }
     const std::filesystem::path folder = argv[argc - 1];

@@ -52,6 +52,12 @@ std::string methodLine(const core::MethodRow& row)
     return line.append(kMeaning).append(row.meaning);
 }
 
+std::string messageLine(std::size_t number, const core::MessageRow& row)
+{
+    std::string line = "message " + std::to_string(number) + ' ' + std::string(row.identifier);
+    return line.append(" ").append(row.property->name).append(kMeaning).append(row.property->meaning);
+}
+
 std::string fieldLine(const pages::Field& field)
 {
     std::string line = "field " + std::string(field.widget) + ' ' + std::string(pages::kindName(field.kind)) +
@@ -61,7 +67,7 @@ std::string fieldLine(const pages::Field& field)
     if (field.kind == pages::FieldKind::Number)
         line += ' ' + std::to_string(field.minimum) + " to " + std::to_string(field.maximum) + " by " +
                 std::string(field.spinButton);
-    return line;
+    return line.append(kMeaning).append(field.meaning);
 }
 
 } // namespace
@@ -76,7 +82,8 @@ void describeAll(Session& session)
 
 void describe(Session& session, const pages::PageInfo& info)
 {
-    session.print("page " + std::string(info.name) + ' ' + printText(info.caption));
+    session.print(
+        ("page " + std::string(info.name) + ' ' + printText(info.caption)).append(kMeaning).append(info.meaning));
     for (const std::string_view control : info.controls)
         session.print("for " + std::string(control));
     for (const pages::Field* field : info.fields)
@@ -93,8 +100,7 @@ void describe(Session& session, const core::ClassInfo& info)
     for (std::size_t i = 0; i < info.events.size(); ++i)
         session.print(eventLine(i + 1, info.events[i]));
     for (std::size_t i = 0; i < info.messages.size(); ++i)
-        session.print("message " + std::to_string(i + 1) + ' ' + std::string(info.messages[i].identifier) + ' ' +
-                      std::string(info.messages[i].property->name));
+        session.print(messageLine(i + 1, info.messages[i]));
     session.print("message other " + std::string(info.otherMessage));
     for (const core::WidgetRow& row : info.widgets)
         session.print(std::string("widget ").append(row.name).append(kMeaning).append(row.meaning));

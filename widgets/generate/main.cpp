@@ -3,6 +3,7 @@
 #include <zor/controls/registration.h>
 #include <zor/core/control.h>
 #include <zor/core/setting_order.h>
+#include <zor/platform/version.h>
 #include <zor/units/unit_catalogue.h>
 
 #include <algorithm>
@@ -310,8 +311,12 @@ void write(const std::filesystem::path& file, const string& text)
 
 int main(int argc, char** argv)
 {
+    if (argc == 2 && string_view(argv[1]) == "--version") {
+        std::cout << "zor-generate-widgets " << version() << '\n';
+        return 0;
+    }
     if (argc != 3) {
-        std::cerr << "usage: zor-generate-widgets SOURCES FOLDER\n";
+        std::cerr << "usage: zor-generate-widgets SOURCES FOLDER | --version\n";
         return 2;
     }
     try {

@@ -5,8 +5,6 @@
 
 namespace zor {
 
-using controls::kFace;
-using controls::kState;
 using core::declared;
 using core::event;
 using core::joined;
@@ -23,22 +21,22 @@ struct ctx_ZorCheckBox::Tables {
     static constexpr auto kProperties = joined(kInitialOrder, R::kNotStored, core::rows(&R::CheckBoxValue));
 
     static constexpr std::array kFaceEvents{
-        event<&E::CheckChange>("CheckChange", kFace, Notice::Change),
+        event<&E::CheckChange>("CheckChange", chk_CheckBox, Notice::Change),
         ownEvent<&E::CheckClick>("CheckClick")
             .saying("The box was ticked or unticked, by whomever; after all that follows from it."),
-        event<&E::CheckDblClick>("CheckDblClick", kFace, Notice::DblClick),
-        event<&E::CheckGotFocus>("CheckGotFocus", kFace, Notice::GotFocus),
-        event<&E::CheckKeyDown>("CheckKeyDown", kFace, Notice::KeyDown, "KeyCode", "Shift"),
-        event<&E::CheckKeyPress>("CheckKeyPress", kFace, Notice::KeyPress, "KeyAscii"),
-        event<&E::CheckKeyUp>("CheckKeyUp", kFace, Notice::KeyUp, "KeyCode", "Shift"),
-        event<&E::CheckLostFocus>("CheckLostFocus", kFace, Notice::LostFocus),
-        event<&E::CheckMouseDown>("CheckMouseDown", kFace, Notice::MouseDown, "Button", "Shift", "X", "Y"),
-        event<&E::CheckMouseMove>("CheckMouseMove", kFace, Notice::MouseMove, "Button", "Shift", "X", "Y"),
-        event<&E::CheckMouseUp>("CheckMouseUp", kFace, Notice::MouseUp, "Button", "Shift", "X", "Y"),
-        event<&E::CheckOLECompleteDrag>("CheckOLECompleteDrag", kFace, Notice::OLECompleteDrag, "Effect"),
+        event<&E::CheckDblClick>("CheckDblClick", chk_CheckBox, Notice::DblClick),
+        event<&E::CheckGotFocus>("CheckGotFocus", chk_CheckBox, Notice::GotFocus),
+        event<&E::CheckKeyDown>("CheckKeyDown", chk_CheckBox, Notice::KeyDown, "KeyCode", "Shift"),
+        event<&E::CheckKeyPress>("CheckKeyPress", chk_CheckBox, Notice::KeyPress, "KeyAscii"),
+        event<&E::CheckKeyUp>("CheckKeyUp", chk_CheckBox, Notice::KeyUp, "KeyCode", "Shift"),
+        event<&E::CheckLostFocus>("CheckLostFocus", chk_CheckBox, Notice::LostFocus),
+        event<&E::CheckMouseDown>("CheckMouseDown", chk_CheckBox, Notice::MouseDown, "Button", "Shift", "X", "Y"),
+        event<&E::CheckMouseMove>("CheckMouseMove", chk_CheckBox, Notice::MouseMove, "Button", "Shift", "X", "Y"),
+        event<&E::CheckMouseUp>("CheckMouseUp", chk_CheckBox, Notice::MouseUp, "Button", "Shift", "X", "Y"),
+        event<&E::CheckOLECompleteDrag>("CheckOLECompleteDrag", chk_CheckBox, Notice::OLECompleteDrag, "Effect"),
         declared<&E::CheckOLEDragDrop>("CheckOLEDragDrop"),
         declared<&E::CheckOLEDragOver>("CheckOLEDragOver"),
-        event<&E::CheckOLEGiveFeedback>("CheckOLEGiveFeedback", kFace, Notice::OLEGiveFeedback, "Effect",
+        event<&E::CheckOLEGiveFeedback>("CheckOLEGiveFeedback", chk_CheckBox, Notice::OLEGiveFeedback, "Effect",
                                         "DefaultCursors"),
         declared<&E::CheckOLESetData>("CheckOLESetData"),
         declared<&E::CheckOLEStartDrag>("CheckOLEStartDrag"),
@@ -50,9 +48,10 @@ struct ctx_ZorCheckBox::Tables {
                           ownEvent<&E::DataModifiedReset>("DataModifiedReset")
                               .saying("The box was changed and is again as the device has it."),
                           ownEvent<&E::OutputValueChange>("OutputValueChange").saying(core::kHandedOver)},
-               core::declaredRows<E>(), kFaceEvents, core::iconRows<E>(kState));
+               core::declaredRows<E>(), kFaceEvents, core::iconRows<E>(img_State));
 
-    static constexpr auto kWidgets = controls::ChoiceRows::widgets("chk_CheckBox", "The box with its caption.");
+    static constexpr auto kWidgets =
+        controls::ChoiceRows::widgets({chk_CheckBox, "chk_CheckBox", "The box with its caption."});
 };
 
 const core::ClassInfo& ctx_ZorCheckBox::classInfo() noexcept

@@ -11,7 +11,7 @@ constexpr controls::CaptionLayout kLayout{330, 25};
 } // namespace
 
 ctx_ZorCheckBox::ctx_ZorCheckBox(platform::Container& container)
-    : CaptionChoice(classInfo(), container, kLayout), m_check(surface().createCheckBox(controls::kFace))
+    : CaptionChoice(classInfo(), container, kLayout), m_check(surface().createCheckBox(chk_CheckBox))
 {
     adopt(*m_check, "Check1");
 }

@@ -39,6 +39,12 @@ public:
     void subscribe(__ctx_ZorCheckBox& sink) { addTypedSink(&sink); }
     void unsubscribe(__ctx_ZorCheckBox& sink) noexcept { removeTypedSink(&sink); }
 
+    /// The numbers of its widgets, by their published names, for widget().
+    enum Widgets : int {
+        chk_CheckBox = controls::kFace, ///< the box with its caption
+        img_State = controls::kState,   ///< the state icon; a click explains the state
+    };
+
 private:
     struct Rows;
     struct Tables;

@@ -5,8 +5,6 @@
 
 namespace zor {
 
-using controls::kFace;
-using controls::kState;
 using core::declared;
 using core::event;
 using core::joined;
@@ -23,30 +21,30 @@ struct ctx_ZorComboBox::Tables {
     static constexpr auto kProperties = joined(R::kStored, R::kNotStored, core::rows(&R::SelectedText));
 
     static constexpr std::array kFaceEvents{
-        event<&E::ComboChange>("ComboChange", kFace, Notice::Change),
+        event<&E::ComboChange>("ComboChange", cbo_ComboBox, Notice::Change),
         ownEvent<&E::ComboClick>("ComboClick")
             .saying("An entry was chosen, by whomever; after all that follows from it."),
-        event<&E::ComboDblClick>("ComboDblClick", kFace, Notice::DblClick),
-        event<&E::ComboDropDown>("ComboDropDown", kFace, Notice::DropDown),
-        event<&E::ComboGotFocus>("ComboGotFocus", kFace, Notice::GotFocus),
-        event<&E::ComboKeyDown>("ComboKeyDown", kFace, Notice::KeyDown, "KeyCode", "Shift"),
-        event<&E::ComboKeyPress>("ComboKeyPress", kFace, Notice::KeyPress, "KeyAscii"),
-        event<&E::ComboKeyUp>("ComboKeyUp", kFace, Notice::KeyUp, "KeyCode", "Shift"),
-        event<&E::ComboLostFocus>("ComboLostFocus", kFace, Notice::LostFocus),
-        event<&E::ComboOLECompleteDrag>("ComboOLECompleteDrag", kFace, Notice::OLECompleteDrag, "Effect"),
+        event<&E::ComboDblClick>("ComboDblClick", cbo_ComboBox, Notice::DblClick),
+        event<&E::ComboDropDown>("ComboDropDown", cbo_ComboBox, Notice::DropDown),
+        event<&E::ComboGotFocus>("ComboGotFocus", cbo_ComboBox, Notice::GotFocus),
+        event<&E::ComboKeyDown>("ComboKeyDown", cbo_ComboBox, Notice::KeyDown, "KeyCode", "Shift"),
+        event<&E::ComboKeyPress>("ComboKeyPress", cbo_ComboBox, Notice::KeyPress, "KeyAscii"),
+        event<&E::ComboKeyUp>("ComboKeyUp", cbo_ComboBox, Notice::KeyUp, "KeyCode", "Shift"),
+        event<&E::ComboLostFocus>("ComboLostFocus", cbo_ComboBox, Notice::LostFocus),
+        event<&E::ComboOLECompleteDrag>("ComboOLECompleteDrag", cbo_ComboBox, Notice::OLECompleteDrag, "Effect"),
         declared<&E::ComboOLEDragDrop>("ComboOLEDragDrop"),
         declared<&E::ComboOLEDragOver>("ComboOLEDragOver"),
-        event<&E::ComboOLEGiveFeedback>("ComboOLEGiveFeedback", kFace, Notice::OLEGiveFeedback, "Effect",
+        event<&E::ComboOLEGiveFeedback>("ComboOLEGiveFeedback", cbo_ComboBox, Notice::OLEGiveFeedback, "Effect",
                                         "DefaultCursors"),
         declared<&E::ComboOLESetData>("ComboOLESetData"),
         declared<&E::ComboOLEStartDrag>("ComboOLEStartDrag"),
-        event<&E::ComboScroll>("ComboScroll", kFace, Notice::Scroll),
-        event<&E::ComboValidate>("ComboValidate", kFace, Notice::Validate, "Cancel"),
+        event<&E::ComboScroll>("ComboScroll", cbo_ComboBox, Notice::Scroll),
+        event<&E::ComboValidate>("ComboValidate", cbo_ComboBox, Notice::Validate, "Cancel"),
     };
 
     static constexpr auto kEvents = joined(std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue")
                                                           .saying("A value came that no entry stands for.")},
-                                           core::conditionRows<E>(), kFaceEvents, core::iconRows<E>(kState));
+                                           core::conditionRows<E>(), kFaceEvents, core::iconRows<E>(img_State));
 
     static constexpr auto kMethods = joined(
         controls::ChoiceRows::kMethods,
@@ -69,7 +67,8 @@ struct ctx_ZorComboBox::Tables {
             method<&This::GetEnumEntryCount>("GetEnumEntryCount").saying("Number of entries."),
         });
 
-    static constexpr auto kWidgets = controls::ChoiceRows::widgets("cbo_ComboBox", "The drop-down list.");
+    static constexpr auto kWidgets =
+        controls::ChoiceRows::widgets({cbo_ComboBox, "cbo_ComboBox", "The drop-down list."});
 };
 
 const core::ClassInfo& ctx_ZorComboBox::classInfo() noexcept

@@ -10,7 +10,7 @@ constexpr platform::Rect kDesigned{0, 0, 2415, kHeight};
 
 ctx_ZorComboBox::ctx_ZorComboBox(platform::Container& container)
     : ChoiceControl(classInfo(), container, kDesigned, UndoAt::Surface),
-      m_combo(surface().createComboBox(controls::kFace)), m_entries(*m_combo)
+      m_combo(surface().createComboBox(cbo_ComboBox)), m_entries(*m_combo)
 {
     m_combo->setGeometry(kDesigned);
     adopt(*m_combo);

@@ -64,6 +64,12 @@ public:
     void subscribe(__ctx_ZorComboBox& sink) { addTypedSink(&sink); }
     void unsubscribe(__ctx_ZorComboBox& sink) noexcept { removeTypedSink(&sink); }
 
+    /// The numbers of its widgets, by their published names, for widget().
+    enum Widgets : int {
+        cbo_ComboBox = controls::kFace, ///< the drop-down list
+        img_State = controls::kState,   ///< the state icon; a click explains the state
+    };
+
 private:
     struct Rows;
     struct Tables;

@@ -17,7 +17,7 @@ constexpr platform::Rect kDesigned{0, 0, 2415, 1215};
 
 ctx_ZorListBox::ctx_ZorListBox(platform::Container& container)
     : ChoiceControl(classInfo(), container, kDesigned, UndoAt::Surface),
-      m_list(surface().createListBox(controls::kFace)), m_entries(*m_list)
+      m_list(surface().createListBox(lst_ListBox)), m_entries(*m_list)
 {
     adopt(*m_list);
 }

@@ -5,8 +5,6 @@
 
 namespace zor {
 
-using controls::kFace;
-using controls::kState;
 using core::declared;
 using core::event;
 using core::joined;
@@ -25,29 +23,29 @@ struct ctx_ZorListBox::Tables {
     static constexpr std::array kFaceEvents{
         ownEvent<&E::ListClick>("ListClick")
             .saying("The current entry or its mark changed, by whomever; after all that follows from it."),
-        event<&E::ListDblClick>("ListDblClick", kFace, Notice::DblClick),
-        event<&E::ListGotFocus>("ListGotFocus", kFace, Notice::GotFocus),
+        event<&E::ListDblClick>("ListDblClick", lst_ListBox, Notice::DblClick),
+        event<&E::ListGotFocus>("ListGotFocus", lst_ListBox, Notice::GotFocus),
         declared<&E::ListItemCheck>("ListItemCheck", "Item"),
-        event<&E::ListKeyDown>("ListKeyDown", kFace, Notice::KeyDown, "KeyCode", "Shift"),
-        event<&E::ListKeyPress>("ListKeyPress", kFace, Notice::KeyPress, "KeyAscii"),
-        event<&E::ListKeyUp>("ListKeyUp", kFace, Notice::KeyUp, "KeyCode", "Shift"),
-        event<&E::ListLostFocus>("ListLostFocus", kFace, Notice::LostFocus),
-        event<&E::ListMouseDown>("ListMouseDown", kFace, Notice::MouseDown, "Button", "Shift", "X", "Y"),
-        event<&E::ListMouseMove>("ListMouseMove", kFace, Notice::MouseMove, "Button", "Shift", "X", "Y"),
-        event<&E::ListMouseUp>("ListMouseUp", kFace, Notice::MouseUp, "Button", "Shift", "X", "Y"),
-        event<&E::ListOLECompleteDrag>("ListOLECompleteDrag", kFace, Notice::OLECompleteDrag, "Effect"),
+        event<&E::ListKeyDown>("ListKeyDown", lst_ListBox, Notice::KeyDown, "KeyCode", "Shift"),
+        event<&E::ListKeyPress>("ListKeyPress", lst_ListBox, Notice::KeyPress, "KeyAscii"),
+        event<&E::ListKeyUp>("ListKeyUp", lst_ListBox, Notice::KeyUp, "KeyCode", "Shift"),
+        event<&E::ListLostFocus>("ListLostFocus", lst_ListBox, Notice::LostFocus),
+        event<&E::ListMouseDown>("ListMouseDown", lst_ListBox, Notice::MouseDown, "Button", "Shift", "X", "Y"),
+        event<&E::ListMouseMove>("ListMouseMove", lst_ListBox, Notice::MouseMove, "Button", "Shift", "X", "Y"),
+        event<&E::ListMouseUp>("ListMouseUp", lst_ListBox, Notice::MouseUp, "Button", "Shift", "X", "Y"),
+        event<&E::ListOLECompleteDrag>("ListOLECompleteDrag", lst_ListBox, Notice::OLECompleteDrag, "Effect"),
         declared<&E::ListOLEDragDrop>("ListOLEDragDrop"),
         declared<&E::ListOLEDragOver>("ListOLEDragOver"),
-        event<&E::ListOLEGiveFeedback>("ListOLEGiveFeedback", kFace, Notice::OLEGiveFeedback, "Effect",
+        event<&E::ListOLEGiveFeedback>("ListOLEGiveFeedback", lst_ListBox, Notice::OLEGiveFeedback, "Effect",
                                        "DefaultCursors"),
         declared<&E::ListOLESetData>("ListOLESetData"),
         declared<&E::ListOLEStartDrag>("ListOLEStartDrag"),
-        event<&E::ListScroll>("ListScroll", kFace, Notice::Scroll),
-        event<&E::ListValidate>("ListValidate", kFace, Notice::Validate, "Cancel"),
+        event<&E::ListScroll>("ListScroll", lst_ListBox, Notice::Scroll),
+        event<&E::ListValidate>("ListValidate", lst_ListBox, Notice::Validate, "Cancel"),
     };
 
     static constexpr auto kEvents = joined(std::array{declared<&E::InvalidValueSetTrue>("InvalidValueSetTrue")},
-                                           core::conditionRows<E>(), kFaceEvents, core::iconRows<E>(kState));
+                                           core::conditionRows<E>(), kFaceEvents, core::iconRows<E>(img_State));
 
     static constexpr auto kMethods = joined(
         controls::ChoiceRows::kMethods,
@@ -70,7 +68,7 @@ struct ctx_ZorListBox::Tables {
             method<&This::GetBitFieldEntryCount>("GetBitFieldEntryCount").saying("Number of entries."),
         });
 
-    static constexpr auto kWidgets = controls::ChoiceRows::widgets("lst_ListBox", "The list.");
+    static constexpr auto kWidgets = controls::ChoiceRows::widgets({lst_ListBox, "lst_ListBox", "The list."});
 };
 
 const core::ClassInfo& ctx_ZorListBox::classInfo() noexcept

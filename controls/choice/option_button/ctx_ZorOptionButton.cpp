@@ -10,7 +10,7 @@ constexpr controls::CaptionLayout kLayout{315, 20};
 } // namespace
 
 ctx_ZorOptionButton::ctx_ZorOptionButton(platform::Container& container)
-    : CaptionChoice(classInfo(), container, kLayout), m_option(surface().createOptionButton(controls::kFace))
+    : CaptionChoice(classInfo(), container, kLayout), m_option(surface().createOptionButton(opt_OptionButton))
 {
     adopt(*m_option, "option");
 }

@@ -42,6 +42,12 @@ public:
     void subscribe(__ctx_ZorOptionButton& sink) { addTypedSink(&sink); }
     void unsubscribe(__ctx_ZorOptionButton& sink) noexcept { removeTypedSink(&sink); }
 
+    /// The numbers of its widgets, by their published names, for widget().
+    enum Widgets : int {
+        opt_OptionButton = controls::kFace, ///< the button with its caption
+        img_State = controls::kState,       ///< the state icon; a click explains the state
+    };
+
 private:
     struct Rows;
     struct Tables;

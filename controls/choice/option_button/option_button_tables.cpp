@@ -5,8 +5,6 @@
 
 namespace zor {
 
-using controls::kFace;
-using controls::kState;
 using core::declared;
 using core::event;
 using core::joined;
@@ -26,29 +24,32 @@ struct ctx_ZorOptionButton::Tables {
     static constexpr std::array kFaceEvents{
         ownEvent<&E::OptionClick>("OptionClick")
             .saying("The button was chosen, by whomever; after all that follows from it."),
-        event<&E::OptionDblClick>("OptionDblClick", kFace, Notice::DblClick),
-        event<&E::OptionGotFocus>("OptionGotFocus", kFace, Notice::GotFocus),
-        event<&E::OptionKeyDown>("OptionKeyDown", kFace, Notice::KeyDown, "KeyCode", "Shift"),
-        event<&E::OptionKeyPress>("OptionKeyPress", kFace, Notice::KeyPress, "KeyAscii"),
-        event<&E::OptionKeyUp>("OptionKeyUp", kFace, Notice::KeyUp, "KeyCode", "Shift"),
-        event<&E::OptionLostFocus>("OptionLostFocus", kFace, Notice::LostFocus),
-        event<&E::OptionMouseDown>("OptionMouseDown", kFace, Notice::MouseDown, "Button", "Shift", "X", "Y"),
-        event<&E::OptionMouseMove>("OptionMouseMove", kFace, Notice::MouseMove, "Button", "Shift", "X", "Y"),
-        event<&E::OptionMouseUp>("OptionMouseUp", kFace, Notice::MouseUp, "Button", "Shift", "X", "Y"),
-        event<&E::OptionOLECompleteDrag>("OptionOLECompleteDrag", kFace, Notice::OLECompleteDrag, "Effect"),
+        event<&E::OptionDblClick>("OptionDblClick", opt_OptionButton, Notice::DblClick),
+        event<&E::OptionGotFocus>("OptionGotFocus", opt_OptionButton, Notice::GotFocus),
+        event<&E::OptionKeyDown>("OptionKeyDown", opt_OptionButton, Notice::KeyDown, "KeyCode", "Shift"),
+        event<&E::OptionKeyPress>("OptionKeyPress", opt_OptionButton, Notice::KeyPress, "KeyAscii"),
+        event<&E::OptionKeyUp>("OptionKeyUp", opt_OptionButton, Notice::KeyUp, "KeyCode", "Shift"),
+        event<&E::OptionLostFocus>("OptionLostFocus", opt_OptionButton, Notice::LostFocus),
+        event<&E::OptionMouseDown>("OptionMouseDown", opt_OptionButton, Notice::MouseDown, "Button", "Shift", "X",
+                                   "Y"),
+        event<&E::OptionMouseMove>("OptionMouseMove", opt_OptionButton, Notice::MouseMove, "Button", "Shift", "X",
+                                   "Y"),
+        event<&E::OptionMouseUp>("OptionMouseUp", opt_OptionButton, Notice::MouseUp, "Button", "Shift", "X", "Y"),
+        event<&E::OptionOLECompleteDrag>("OptionOLECompleteDrag", opt_OptionButton, Notice::OLECompleteDrag,
+                                         "Effect"),
         declared<&E::OptionOLEDragDrop>("OptionOLEDragDrop"),
         declared<&E::OptionOLEDragOver>("OptionOLEDragOver"),
-        event<&E::OptionOLEGiveFeedback>("OptionOLEGiveFeedback", kFace, Notice::OLEGiveFeedback, "Effect",
-                                         "DefaultCursors"),
+        event<&E::OptionOLEGiveFeedback>("OptionOLEGiveFeedback", opt_OptionButton, Notice::OLEGiveFeedback,
+                                         "Effect", "DefaultCursors"),
         declared<&E::OptionOLESetData>("OptionOLESetData"),
         declared<&E::OptionOLEStartDrag>("OptionOLEStartDrag"),
-        event<&E::OptionValidate>("OptionValidate", kFace, Notice::Validate, "Cancel"),
+        event<&E::OptionValidate>("OptionValidate", opt_OptionButton, Notice::Validate, "Cancel"),
     };
 
-    static constexpr auto kEvents = joined(core::conditionRows<E>(), kFaceEvents, core::iconRows<E>(kState));
+    static constexpr auto kEvents = joined(core::conditionRows<E>(), kFaceEvents, core::iconRows<E>(img_State));
 
     static constexpr auto kWidgets =
-        controls::ChoiceRows::widgets("opt_OptionButton", "The button with its caption.");
+        controls::ChoiceRows::widgets({opt_OptionButton, "opt_OptionButton", "The button with its caption."});
 };
 
 const core::ClassInfo& ctx_ZorOptionButton::classInfo() noexcept

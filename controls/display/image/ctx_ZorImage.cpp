@@ -13,7 +13,7 @@ constexpr std::string_view kLineBreak = "\r\n";
 
 ctx_ZorImage::ctx_ZorImage(platform::Container& container)
     : Control(classInfo(), container, kDesignedSize, kDesignedSize),
-      m_picture(surface().createImage(kState)), m_body{m_picture.get()}
+      m_picture(surface().createImage(img_State)), m_body{m_picture.get()}
 {
     m_messages.header = "Qex";
     m_picture->setPicture(frm_Container::StatusOk);
@@ -27,12 +27,12 @@ core::ControlPtr<ctx_ZorImage> ctx_ZorImage::create(platform::Container& contain
 
 platform::Widget* ctx_ZorImage::widget(int number) noexcept
 {
-    return number == kState ? m_picture.get() : Control::widget(number);
+    return number == img_State ? m_picture.get() : Control::widget(number);
 }
 
 void ctx_ZorImage::onNotice(int widget, platform::Notice notice, platform::EventArgs args)
 {
-    if (widget == kState && notice == platform::Notice::Click)
+    if (widget == img_State && notice == platform::Notice::Click)
         s_ExplainState();
     forward(widget, notice, args);
 }

@@ -74,13 +74,16 @@ public:
     void subscribe(__ctx_ZorImage& sink) { addTypedSink(&sink); }
     void unsubscribe(__ctx_ZorImage& sink) noexcept { removeTypedSink(&sink); }
 
+    /// The numbers of its widgets, by their published names, for widget().
+    enum Widgets : int {
+        img_State = 1, ///< the picture, which is the control; a click explains it
+    };
     [[nodiscard]] platform::Widget* widget(int number) noexcept override;
 
 private:
     struct Rows;
     struct States;
     struct Tables;
-    enum Number : int { kState = 1 };
     static constexpr std::size_t kBits = 32;
     static constexpr std::int16_t kNoBit = -1;
 

@@ -91,15 +91,15 @@ struct ctx_ZorImage::Tables {
     };
 
     static constexpr std::array kPictureEvents{
-        event<&E::imageClick>("imageClick", kState, Notice::Click),
-        event<&E::imageDblClick>("imageDblClick", kState, Notice::DblClick),
-        event<&E::imageMouseDown>("imageMouseDown", kState, Notice::MouseDown, "Button", "Shift", "X", "Y"),
-        event<&E::imageMouseMove>("imageMouseMove", kState, Notice::MouseMove, "Button", "Shift", "X", "Y"),
-        event<&E::imageMouseUp>("imageMouseUp", kState, Notice::MouseUp, "Button", "Shift", "X", "Y"),
-        event<&E::imageOLECompleteDrag>("imageOLECompleteDrag", kState, Notice::OLECompleteDrag, "Effect"),
+        event<&E::imageClick>("imageClick", img_State, Notice::Click),
+        event<&E::imageDblClick>("imageDblClick", img_State, Notice::DblClick),
+        event<&E::imageMouseDown>("imageMouseDown", img_State, Notice::MouseDown, "Button", "Shift", "X", "Y"),
+        event<&E::imageMouseMove>("imageMouseMove", img_State, Notice::MouseMove, "Button", "Shift", "X", "Y"),
+        event<&E::imageMouseUp>("imageMouseUp", img_State, Notice::MouseUp, "Button", "Shift", "X", "Y"),
+        event<&E::imageOLECompleteDrag>("imageOLECompleteDrag", img_State, Notice::OLECompleteDrag, "Effect"),
         declared<&E::imageOLEDragDrop>("imageOLEDragDrop", "Data", "Effect", "Button", "Shift", "X", "Y"),
         declared<&E::imageOLEDragOver>("imageOLEDragOver", "Data", "Effect", "Button", "Shift", "X", "Y", "State"),
-        event<&E::imageOLEGiveFeedback>("imageOLEGiveFeedback", kState, Notice::OLEGiveFeedback, "Effect",
+        event<&E::imageOLEGiveFeedback>("imageOLEGiveFeedback", img_State, Notice::OLEGiveFeedback, "Effect",
                                         "DefaultCursors"),
         declared<&E::imageOLESetData>("imageOLESetData", "Data", "DataFormat"),
         declared<&E::imageOLEStartDrag>("imageOLEStartDrag", "Data", "AllowedEffects"),
@@ -125,7 +125,7 @@ struct ctx_ZorImage::Tables {
 
     static constexpr std::array kWidgets{
         core::kSurfaceRow,
-        core::WidgetRow{kState, "img_State", "The picture, which is the control; a click explains it."}};
+        core::WidgetRow{img_State, "img_State", "The picture, which is the control; a click explains it."}};
 };
 
 const core::ClassInfo& ctx_ZorImage::classInfo() noexcept

@@ -17,8 +17,8 @@ constexpr Twips kGap = 100;
 } // namespace
 
 ctx_ZorLabel::ctx_ZorLabel(platform::Container& container)
-    : Control(classInfo(), container, kDesignedWidth, kIconSize), m_label(surface().createLabel(kLabel)),
-      m_icon(surface().createImage(kState)), m_body{m_label.get()}
+    : Control(classInfo(), container, kDesignedWidth, kIconSize), m_label(surface().createLabel(lbl_Label)),
+      m_icon(surface().createImage(img_State)), m_body{m_label.get()}
 {
     m_label->setSelectable(true);
     m_label->setGeometry({0, (kIconSize - m_label->height()) / 2, 0, m_label->height()});
@@ -35,15 +35,15 @@ core::ControlPtr<ctx_ZorLabel> ctx_ZorLabel::create(platform::Container& contain
 platform::Widget* ctx_ZorLabel::widget(int number) noexcept
 {
     switch (number) {
-    case kLabel: return m_label.get();
-    case kState: return m_icon.get();
+    case lbl_Label: return m_label.get();
+    case img_State: return m_icon.get();
     default: return Control::widget(number);
     }
 }
 
 void ctx_ZorLabel::onNotice(int widget, platform::Notice notice, platform::EventArgs args)
 {
-    if (widget == kState && notice == platform::Notice::Click)
+    if (widget == img_State && notice == platform::Notice::Click)
         s_ExplainState();
     forward(widget, notice, args);
 }

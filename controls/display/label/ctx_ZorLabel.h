@@ -44,12 +44,16 @@ public:
     void subscribe(__ctx_ZorLabel& sink) { addTypedSink(&sink); }
     void unsubscribe(__ctx_ZorLabel& sink) noexcept { removeTypedSink(&sink); }
 
+    /// The numbers of its widgets, by their published names, for widget().
+    enum Widgets : int {
+        lbl_Label = 1, ///< the text
+        img_State = 2, ///< the state icon; a click explains the state
+    };
     [[nodiscard]] platform::Widget* widget(int number) noexcept override;
 
 private:
     struct Rows;
     struct Tables;
-    enum Number : int { kLabel = 1, kState = 2 };
 
     explicit ctx_ZorLabel(platform::Container& container);
     ~ctx_ZorLabel() override = default;

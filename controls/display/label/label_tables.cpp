@@ -55,33 +55,34 @@ struct ctx_ZorLabel::Tables {
     };
 
     static constexpr std::array kTextEvents{
-        event<&E::labelChange>("labelChange", kLabel, Notice::Change),
-        event<&E::labelClick>("labelClick", kLabel, Notice::Click),
-        event<&E::labelDblClick>("labelDblClick", kLabel, Notice::DblClick),
+        event<&E::labelChange>("labelChange", lbl_Label, Notice::Change),
+        event<&E::labelClick>("labelClick", lbl_Label, Notice::Click),
+        event<&E::labelDblClick>("labelDblClick", lbl_Label, Notice::DblClick),
         declared<&E::labelLinkClose>("labelLinkClose"),
         declared<&E::labelLinkError>("labelLinkError", "LinkErr"),
-        event<&E::labelLinkNotify>("labelLinkNotify", kLabel, Notice::LinkNotify),
-        event<&E::labelLinkOpen>("labelLinkOpen", kLabel, Notice::LinkOpen, "Cancel"),
-        event<&E::labelMouseDown>("labelMouseDown", kLabel, Notice::MouseDown, "Button", "Shift", "X", "Y"),
-        event<&E::labelMouseMove>("labelMouseMove", kLabel, Notice::MouseMove, "Button", "Shift", "X", "Y"),
-        event<&E::labelMouseUp>("labelMouseUp", kLabel, Notice::MouseUp, "Button", "Shift", "X", "Y"),
-        event<&E::labelOLECompleteDrag>("labelOLECompleteDrag", kLabel, Notice::OLECompleteDrag, "Effect"),
+        event<&E::labelLinkNotify>("labelLinkNotify", lbl_Label, Notice::LinkNotify),
+        event<&E::labelLinkOpen>("labelLinkOpen", lbl_Label, Notice::LinkOpen, "Cancel"),
+        event<&E::labelMouseDown>("labelMouseDown", lbl_Label, Notice::MouseDown, "Button", "Shift", "X", "Y"),
+        event<&E::labelMouseMove>("labelMouseMove", lbl_Label, Notice::MouseMove, "Button", "Shift", "X", "Y"),
+        event<&E::labelMouseUp>("labelMouseUp", lbl_Label, Notice::MouseUp, "Button", "Shift", "X", "Y"),
+        event<&E::labelOLECompleteDrag>("labelOLECompleteDrag", lbl_Label, Notice::OLECompleteDrag, "Effect"),
         declared<&E::labelOLEDragDrop>("labelOLEDragDrop", "Data", "Effect", "Button", "Shift", "X", "Y"),
         declared<&E::labelOLEDragOver>("labelOLEDragOver", "Data", "Effect", "Button", "Shift", "X", "Y", "State"),
-        event<&E::labelOLEGiveFeedback>("labelOLEGiveFeedback", kLabel, Notice::OLEGiveFeedback, "Effect",
+        event<&E::labelOLEGiveFeedback>("labelOLEGiveFeedback", lbl_Label, Notice::OLEGiveFeedback, "Effect",
                                         "DefaultCursors"),
         declared<&E::labelOLESetData>("labelOLESetData", "Data", "DataFormat"),
         declared<&E::labelOLEStartDrag>("labelOLEStartDrag", "Data", "AllowedEffects"),
     };
-    static constexpr auto kEvents = core::joined(core::supportRows<E>(), kTextEvents, core::iconRows<E>(kState));
+    static constexpr auto kEvents =
+        core::joined(core::supportRows<E>(), kTextEvents, core::iconRows<E>(img_State));
 
     static constexpr std::array kStates{S::CommunicationFailure, S::TagNotFound, S::NoData};
 
     static constexpr std::array kMethods{core::kGetMaxMessage, core::kGetMessageID, core::kSetMessage,
                                          core::kChangeBackColor};
 
-    static constexpr std::array kWidgets{core::kSurfaceRow, core::WidgetRow{kLabel, "lbl_Label", "The text."},
-                                         core::iconRow(kState)};
+    static constexpr std::array kWidgets{core::kSurfaceRow, core::WidgetRow{lbl_Label, "lbl_Label", "The text."},
+                                         core::iconRow(img_State)};
 };
 
 const core::ClassInfo& ctx_ZorLabel::classInfo() noexcept

@@ -37,12 +37,12 @@ double finite(double value)
 
 ctx_ZorSlider::ctx_ZorSlider(platform::Container& container)
     : RangeControl(classInfo(), container, kDesignedWidth, kHeight, LgthU_1By10_MM),
-      m_track(surface().createTrack(kTrack)), m_icon(surface().createImage(kState))
+      m_track(surface().createTrack(sld_Slider)), m_icon(surface().createImage(img_State))
 {
     auto body = m_body.begin();
     *body++ = m_track.get();
     for (std::size_t i = 0; i < kLabelCount; ++i) {
-        m_labels[i] = surface().createLabel(kMinPrefix + static_cast<int>(i));
+        m_labels[i] = surface().createLabel(lbl_MinPrefix + static_cast<int>(i));
         *body++ = m_labels[i].get();
     }
     s_PlaceAsDesigned();
@@ -58,12 +58,12 @@ core::ControlPtr<ctx_ZorSlider> ctx_ZorSlider::create(platform::Container& conta
 
 platform::Widget* ctx_ZorSlider::widget(int number) noexcept
 {
-    if (number == kTrack)
+    if (number == sld_Slider)
         return m_track.get();
-    if (number == Number::kState)
+    if (number == img_State)
         return m_icon.get();
-    if (number >= kMinPrefix && number <= kMaxUnit)
-        return &label(static_cast<Number>(number));
+    if (number >= lbl_MinPrefix && number <= lbl_MaxUnit)
+        return &label(static_cast<Widgets>(number));
     return Control::widget(number);
 }
 
@@ -151,7 +151,7 @@ void ctx_ZorSlider::undoEdit()
 
 void ctx_ZorSlider::onNotice(int widget, Notice notice, platform::EventArgs args)
 {
-    if (widget == kTrack && notice == Notice::Change) {
+    if (widget == sld_Slider && notice == Notice::Change) {
         if (m_report == Report::Ignored)
             return;
         if (!isInputLocked())
@@ -217,7 +217,7 @@ void ctx_ZorSlider::setEnds(Set&& set)
 void ctx_ZorSlider::s_UpdateMinParamValue()
 {
     m_units.minParam = scaled(m_units.limitToOutput(m_units.minValue));
-    label(kMinValue).setCaption(platform::doubleToText(unscaled(m_units.minParam)));
+    label(lbl_MinValue).setCaption(platform::doubleToText(unscaled(m_units.minParam)));
     setEnds([&] { m_track->setMinimum(roundToInt32(m_units.minParam)); });
     s_Layout();
 }
@@ -227,20 +227,20 @@ void ctx_ZorSlider::s_UpdateMaxParamValue()
     m_units.maxParam = scaled(m_units.limitToOutput(m_units.maxValue));
     if (m_units.maxParam > m_units.minParam)
         setEnds([&] { m_track->setMaximum(roundToInt32(m_units.maxParam)); });
-    label(kMaxValue).setCaption(platform::doubleToText(unscaled(m_units.maxParam)));
+    label(lbl_MaxValue).setCaption(platform::doubleToText(unscaled(m_units.maxParam)));
     s_Layout();
 }
 
 void ctx_ZorSlider::s_ShowLimits()
 {
-    label(kMinValue).setCaption(platform::doubleToText(unscaled(m_units.minParam)));
-    label(kMaxValue).setCaption(platform::doubleToText(unscaled(m_units.maxParam)));
+    label(lbl_MinValue).setCaption(platform::doubleToText(unscaled(m_units.minParam)));
+    label(lbl_MaxValue).setCaption(platform::doubleToText(unscaled(m_units.maxParam)));
 }
 
 void ctx_ZorSlider::s_ShowPrefixes()
 {
-    label(kMinPrefix).setCaption(m_minPrefix);
-    label(kMaxPrefix).setCaption(m_maxPrefix);
+    label(lbl_MinPrefix).setCaption(m_minPrefix);
+    label(lbl_MaxPrefix).setCaption(m_maxPrefix);
     s_Layout();
 }
 

@@ -84,13 +84,23 @@ public:
     void subscribe(__ctx_ZorSlider& sink) { addTypedSink(&sink); }
     void unsubscribe(__ctx_ZorSlider& sink) noexcept { removeTypedSink(&sink); }
 
+    /// The numbers of its widgets, by their published names, for widget().
+    enum Widgets : int {
+        sld_Slider = 1,    ///< the track
+        img_State = 2,     ///< the state icon; a click explains the state
+        lbl_MinPrefix = 3, ///< words at the left end
+        lbl_MinValue = 4,  ///< value of the left end
+        lbl_MinUnit = 5,   ///< unit of the left end
+        lbl_MaxPrefix = 6, ///< words at the right end
+        lbl_MaxValue = 7,  ///< value of the right end
+        lbl_MaxUnit = 8,   ///< unit of the right end
+    };
     [[nodiscard]] platform::Widget* widget(int number) noexcept override;
 
 private:
     struct Rows;
     struct Tables;
 
-    enum Number : int { kTrack = 1, kState, kMinPrefix, kMinValue, kMinUnit, kMaxPrefix, kMaxValue, kMaxUnit };
     static constexpr std::size_t kLabelCount = 6;
     // The composite as designed; only its width is the container's.
     static constexpr platform::Twips kDesignedWidth = 3000;
@@ -120,9 +130,9 @@ private:
     void onNotice(int widget, platform::Notice notice, platform::EventArgs args) override;
     [[nodiscard]] bool isLabel(int widget) const noexcept override
     {
-        return widget >= kMinPrefix && widget <= kMaxUnit;
+        return widget >= lbl_MinPrefix && widget <= lbl_MaxUnit;
     }
-    [[nodiscard]] std::string shownUnit() const override { return label(kMinUnit).caption(); }
+    [[nodiscard]] std::string shownUnit() const override { return label(lbl_MinUnit).caption(); }
 
     // Display
     void s_UpdateColors() override {}
@@ -136,10 +146,10 @@ private:
     void s_AfterLoading() override;
     [[nodiscard]] std::span<platform::Widget* const> body() noexcept override { return m_body; }
     [[nodiscard]] platform::Image& icon() noexcept override { return *m_icon; }
-    [[nodiscard]] platform::Label& label(Number number) const noexcept
+    [[nodiscard]] platform::Label& label(Widgets number) const noexcept
     {
-        assert(number >= kMinPrefix && number <= kMaxUnit);
-        return *m_labels[static_cast<std::size_t>(number - kMinPrefix)];
+        assert(number >= lbl_MinPrefix && number <= lbl_MaxUnit);
+        return *m_labels[static_cast<std::size_t>(number - lbl_MinPrefix)];
     }
 
     std::unique_ptr<platform::Track> m_track;

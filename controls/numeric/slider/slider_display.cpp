@@ -67,8 +67,8 @@ void ctx_ZorSlider::s_UpdateDeviceSupportDisplay()
 {
     const bool isSupported = isDeviceSupported();
     m_track->setVisible(isSupported);
-    label(kMinPrefix).setVisible(isSupported);
-    label(kMaxPrefix).setVisible(isSupported);
+    label(lbl_MinPrefix).setVisible(isSupported);
+    label(lbl_MaxPrefix).setVisible(isSupported);
     // The state icon comes back with the next status refresh: what it showed may be out of date.
     if (!isSupported)
         m_icon->setVisible(false);
@@ -78,16 +78,16 @@ void ctx_ZorSlider::s_UpdateDeviceSupportDisplay()
 void ctx_ZorSlider::s_UpdateUnitLabelVisibility()
 {
     const bool isSupported = isDeviceSupported();
-    for (const Number unit : {kMinUnit, kMaxUnit})
+    for (const Widgets unit : {lbl_MinUnit, lbl_MaxUnit})
         label(unit).setVisible(m_unitEnable && isSupported);
-    for (const Number value : {kMinValue, kMaxValue})
+    for (const Widgets value : {lbl_MinValue, lbl_MaxValue})
         label(value).setVisible(m_enableValues && isSupported);
 }
 
 void ctx_ZorSlider::s_ShowUnit(std::string_view caption)
 {
-    label(kMinUnit).setCaption(caption);
-    label(kMaxUnit).setCaption(caption);
+    label(lbl_MinUnit).setCaption(caption);
+    label(lbl_MaxUnit).setCaption(caption);
     s_Layout();
 }
 
@@ -103,8 +103,8 @@ void ctx_ZorSlider::s_Layout()
     icon.left = track.left + track.width + kIconGap;
     m_icon->setGeometry(icon);
 
-    const Twips leftEnd = place({&label(kMinPrefix), &label(kMinValue), &label(kMinUnit)}, kLabelGap);
-    const Group right{&label(kMaxPrefix), &label(kMaxValue), &label(kMaxUnit)};
+    const Twips leftEnd = place({&label(lbl_MinPrefix), &label(lbl_MinValue), &label(lbl_MinUnit)}, kLabelGap);
+    const Group right{&label(lbl_MaxPrefix), &label(lbl_MaxValue), &label(lbl_MaxUnit)};
     const Twips valueWidth = right[1]->width();
     // The number is centred on this point, with its prefix before it.
     const Twips centre = track.width - kBeforeTrackEnd;

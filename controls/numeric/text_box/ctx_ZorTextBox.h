@@ -101,6 +101,12 @@ public:
     void subscribe(__ctx_ZorTextBox& sink) { addTypedSink(&sink); }
     void unsubscribe(__ctx_ZorTextBox& sink) noexcept { removeTypedSink(&sink); }
 
+    /// The numbers of its widgets, by their published names, for widget().
+    enum Widgets : int {
+        txt_TextBox = controls::EntryField::kText, ///< the text field
+        lbl_Units = controls::EntryField::kUnits,  ///< the unit label
+        img_State = controls::EntryField::kState,  ///< the state icon; a click explains the state
+    };
     [[nodiscard]] platform::Widget* widget(int number) noexcept override;
 
 private:
@@ -162,10 +168,7 @@ private:
     void undoEdit() override;
     void describe(platform::Spoken& spoken) const override;
     [[nodiscard]] std::optional<Variant> entryUnderWay() const override;
-    [[nodiscard]] bool isLabel(int widget) const noexcept override
-    {
-        return widget == controls::EntryField::kUnits;
-    }
+    [[nodiscard]] bool isLabel(int widget) const noexcept override { return widget == lbl_Units; }
     [[nodiscard]] std::string shownUnit() const override { return m_field.units().caption(); }
 
     controls::EntryField m_field;

@@ -6,15 +6,14 @@
 
 namespace zor {
 
-using controls::EntryField;
 using platform::Notice;
 
 void ctx_ZorTextBox::onNotice(int widget, Notice notice, platform::EventArgs args)
 {
-    if (widget == EntryField::kText && notice == Notice::Change)
+    if (widget == txt_TextBox && notice == Notice::Change)
         return onTextChanged();
     m_field.followFocus(widget, notice);
-    if (widget == EntryField::kText && notice == Notice::LostFocus)
+    if (widget == txt_TextBox && notice == Notice::LostFocus)
         s_CommitEntry(true);
     UnitControl::onNotice(widget, notice, args);
 }

@@ -9,7 +9,6 @@
 
 namespace zor {
 
-using controls::EntryField;
 using controls::UnitRows;
 using core::method;
 using core::named;
@@ -103,9 +102,9 @@ struct ctx_ZorTextBox::Tables {
         std::array{
             ownEvent<&E::InvalidEntrySetTrue>("InvalidEntrySetTrue").saying("A commit found the entry invalid.")},
         core::conditionRows<E>(),
-        controls::entryFieldRows<E>(EntryField::kText, EntryField::kUnits,
+        controls::entryFieldRows<E>(txt_TextBox, lbl_Units,
                                     {.notify = Notice::LinkNotify, .open = Notice::LinkOpen}),
-        core::iconRows<E>(EntryField::kState));
+        core::iconRows<E>(img_State));
 
     static constexpr std::array kStates{S::CommunicationFailure, S::TagNotFound, S::NoData, States::DataChanged,
                                         States::InvalidEntry};
@@ -124,8 +123,8 @@ struct ctx_ZorTextBox::Tables {
     };
 
     static constexpr std::array kWidgets{
-        core::kSurfaceRow, core::WidgetRow{EntryField::kText, "txt_TextBox", "The text field."},
-        core::WidgetRow{EntryField::kUnits, "lbl_Units", "The unit label."}, core::iconRow(EntryField::kState)};
+        core::kSurfaceRow, core::WidgetRow{txt_TextBox, "txt_TextBox", "The text field."},
+        core::WidgetRow{lbl_Units, "lbl_Units", "The unit label."}, core::iconRow(img_State)};
 };
 
 const core::ClassInfo& ctx_ZorTextBox::classInfo() noexcept

@@ -29,7 +29,7 @@ std::int32_t nearestWhole(double number)
 ctx_ZorUpDown::ctx_ZorUpDown(platform::Container& container)
     : RangeControl(classInfo(), container, EntryField::kDesignedWidth, EntryField::kDesignedHeight, LgthU_MM),
       m_field(surface()),
-      m_spin(surface().createSpinButton(kSpin)), m_body{&m_field.text(), &m_field.units(), m_spin.get()}
+      m_spin(surface().createSpinButton(upd_UpDown)), m_body{&m_field.text(), &m_field.units(), m_spin.get()}
 {
     m_field.text().setAlignment(platform::Alignment::Right);
     m_spin->setBuddy(m_field.text());
@@ -44,7 +44,7 @@ core::ControlPtr<ctx_ZorUpDown> ctx_ZorUpDown::create(platform::Container& conta
 
 platform::Widget* ctx_ZorUpDown::widget(int number) noexcept
 {
-    if (number == kSpin)
+    if (number == upd_UpDown)
         return m_spin.get();
     platform::Widget* own = m_field.widget(number);
     return own != nullptr ? own : Control::widget(number);
@@ -225,9 +225,9 @@ void ctx_ZorUpDown::onSpin()
 
 void ctx_ZorUpDown::onNotice(int widget, Notice notice, platform::EventArgs args)
 {
-    if (widget == EntryField::kText && notice == Notice::Change)
+    if (widget == txt_TextBox && notice == Notice::Change)
         return onTextChanged();
-    if (widget == kSpin && notice == Notice::Change) {
+    if (widget == upd_UpDown && notice == Notice::Change) {
         const auto underWay = valueUnderWay();
         if (!m_spinningBack)
             forward(widget, notice, args);
@@ -235,9 +235,9 @@ void ctx_ZorUpDown::onNotice(int widget, Notice notice, platform::EventArgs args
         return;
     }
     m_field.followFocus(widget, notice);
-    if (widget == EntryField::kText && notice == Notice::LostFocus)
+    if (widget == txt_TextBox && notice == Notice::LostFocus)
         s_CommitEntry();
-    else if (widget == kSpin && (notice == Notice::SpinUp || notice == Notice::SpinDown))
+    else if (widget == upd_UpDown && (notice == Notice::SpinUp || notice == Notice::SpinDown))
         onSpin();
     UnitControl::onNotice(widget, notice, args);
 }

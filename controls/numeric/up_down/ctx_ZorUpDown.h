@@ -67,6 +67,13 @@ public:
     void subscribe(__ctx_ZorUpDown& sink) { addTypedSink(&sink); }
     void unsubscribe(__ctx_ZorUpDown& sink) noexcept { removeTypedSink(&sink); }
 
+    /// The numbers of its widgets, by their published names, for widget().
+    enum Widgets : int {
+        txt_TextBox = controls::EntryField::kText, ///< the text field
+        lbl_Units = controls::EntryField::kUnits,  ///< the unit label
+        img_State = controls::EntryField::kState,  ///< the state icon; a click explains the state
+        upd_UpDown = 4,                            ///< the spin button
+    };
     [[nodiscard]] platform::Widget* widget(int number) noexcept override;
 
 private:
@@ -74,7 +81,6 @@ private:
     struct Tables;
 
     /// Number of the spin button, after those of the field.
-    static constexpr int kSpin = 4;
 
     explicit ctx_ZorUpDown(platform::Container& container);
     ~ctx_ZorUpDown() override = default;
@@ -109,10 +115,7 @@ private:
     /// counts.
     [[nodiscard]] double cut(double number) const;
     void onNotice(int widget, platform::Notice notice, platform::EventArgs args) override;
-    [[nodiscard]] bool isLabel(int widget) const noexcept override
-    {
-        return widget == controls::EntryField::kUnits;
-    }
+    [[nodiscard]] bool isLabel(int widget) const noexcept override { return widget == lbl_Units; }
     [[nodiscard]] std::string shownUnit() const override { return m_field.units().caption(); }
 
     // Display

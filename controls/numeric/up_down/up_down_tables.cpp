@@ -9,7 +9,6 @@
 
 namespace zor {
 
-using controls::EntryField;
 using core::event;
 using core::named;
 using core::ownEvent;
@@ -39,12 +38,12 @@ struct ctx_ZorUpDown::Tables {
     static constexpr auto kEvents = core::joined(
         std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue").saying(controls::kOutOfRange)},
         core::conditionRows<E>(),
-        controls::entryFieldRows<E>(EntryField::kText, EntryField::kUnits,
+        controls::entryFieldRows<E>(txt_TextBox, lbl_Units,
                                     {.close = Notice::LinkClose, .error = Notice::LinkError}),
-        std::array{event<&E::upDownChange>("upDownChange", kSpin, Notice::Change),
-                   event<&E::upDownDownClick>("upDownDownClick", kSpin, Notice::SpinDown),
-                   event<&E::upDownUpClick>("upDownUpClick", kSpin, Notice::SpinUp)},
-        core::iconRows<E>(EntryField::kState));
+        std::array{event<&E::upDownChange>("upDownChange", upd_UpDown, Notice::Change),
+                   event<&E::upDownDownClick>("upDownDownClick", upd_UpDown, Notice::SpinDown),
+                   event<&E::upDownUpClick>("upDownUpClick", upd_UpDown, Notice::SpinUp)},
+        core::iconRows<E>(img_State));
 
     static constexpr auto kStates = R::kStates<&ctx_ZorUpDown::m_otherUser, &ctx_ZorUpDown::m_reference>;
 
@@ -53,9 +52,9 @@ struct ctx_ZorUpDown::Tables {
         R::GetCaptionID,      R::GetConversionFactor, R::GetOffset};
 
     static constexpr std::array kWidgets{
-        core::kSurfaceRow, core::WidgetRow{EntryField::kText, "txt_TextBox", "The text field."},
-        core::WidgetRow{kSpin, "upd_UpDown", "The spin button."},
-        core::WidgetRow{EntryField::kUnits, "lbl_Units", "The unit label."}, core::iconRow(EntryField::kState)};
+        core::kSurfaceRow, core::WidgetRow{txt_TextBox, "txt_TextBox", "The text field."},
+        core::WidgetRow{upd_UpDown, "upd_UpDown", "The spin button."},
+        core::WidgetRow{lbl_Units, "lbl_Units", "The unit label."}, core::iconRow(img_State)};
 };
 
 const core::ClassInfo& ctx_ZorUpDown::classInfo() noexcept
