@@ -11,9 +11,9 @@ namespace zor::platform {
 
 /// A value that never leaves its ends. Ends turned upside down hold it at the lower one.
 struct WholeRange {
-    std::int32_t value = 0;
-    std::int32_t minimum = 0;
-    std::int32_t maximum = 10;
+    std::int32_t value = 0;    ///< where it stands
+    std::int32_t minimum = 0;  ///< the lower end
+    std::int32_t maximum = 10; ///< the upper end
 
     /// Cut to the ends; whether the value has changed.
     bool moveTo(std::int32_t position) noexcept

@@ -115,10 +115,10 @@ def shell(line, content, scratch):
 
 
 def project(line, content):
-    """What builds the project itself cannot run inside its test: scripts, options and targets must exist."""
+    """What builds the project itself cannot run inside its test: scripts and options must exist."""
     known = "".join(p.read_text() for p in [*TOP.glob("**/CMakeLists.txt"), *TOP.glob("cmake/*")])
     for offset, command in enumerate(content, 1):
-        for name in re.findall(r"ZOR_\w+|(?<=ZorSmartControls::)\w+", command):
+        for name in re.findall(r"ZOR_\w+", command):
             if not re.search(rf"\b{name}\b", known):
                 fail(line + offset, f"the build does not know {name}")
         script = re.search(r"scripts/[\w-]+", command)
@@ -129,21 +129,41 @@ def project(line, content):
             fail(line + offset, f"there is no {script[0]}")
 
 
-def fragment(line, given, content):
+def configure(line, content, scratch):
+    """A stranger's project of these lines is configured: the library is installed, its sources lie in extern/."""
+    own, folder, prefix = "\n".join(content), scratch / f"project{line}", scratch / "prefix"
+    if not prefix.exists():
+        subprocess.run(["cmake", "--install", BUILD, "--prefix", prefix], check=True, stdout=subprocess.DEVNULL)
+    shutil.copytree(TOP / "examples/tank", folder)
+    (folder / "extern").mkdir()
+    (folder / "extern/ZorSmartControls").symlink_to(TOP)
+    head = ["cmake_minimum_required(VERSION 3.25)", "project(stranger LANGUAGES CXX)"]
+    if "add_executable" not in own:
+        head.append("add_executable(program uic.cpp)")
+    if not re.search("find_package|FetchContent", own):
+        head.append("find_package(ZorSmartControls 1.0 CONFIG REQUIRED COMPONENTS Widgets)")
+    (folder / "CMakeLists.txt").write_text("\n".join([*head, own, ""]))
+    ran = subprocess.run(["cmake", "-S", folder, "-B", folder / "build", "-G", "Ninja", f"-DCMAKE_PREFIX_PATH={prefix}"],
+                         text=True, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+    if ran.returncode != 0:
+        fail(line, ran.stdout)
+
+
+def fragments(found):
     """C++ that is no quotation compiles in the context given: as the body of a function behind its declarations."""
     commands = json.loads((BUILD / "compile_commands.json").read_text())
     uic = next(c for c in commands if "/example_tank_uic.dir/" in c["command"])
-    head = [one for one in content if one.startswith("#include")]
-    body = [one for one in content if not one.startswith("#include")]
-    standard = ["#include <zor/widgets.h>", "#include <zor/qt.h>", "#include <zor/pages.h>", '#include "ui_tank.h"',
-                "#include <QtWidgets>"]
-    source = "\n".join([*standard, *head, (given or "void shown()") + " {", f'#line {line + 1 + len(head)} "{DOCUMENT}"',
-                        *body, "}", ""])
+    source = ["#include <zor/widgets.h>", "#include <zor/qt.h>", "#include <zor/pages.h>", '#include "ui_tank.h"',
+              "#include <QtWidgets>"]
+    source += [one for _, _, content in found for one in content if one.startswith("#include")]
+    for line, given, content in found:
+        source += [f"namespace block_{line} {{", (given or "void shown()") + " {", f'#line {line + 1} "{DOCUMENT}"',
+                   *("" if one.startswith("#include") else one for one in content), "}", "}"]
     words = [w for w in shlex.split(uic["command"])[:-4] if w not in ("-o", "-c")]
-    ran = subprocess.run([*words, "-fsyntax-only", "-Wno-unused", "-x", "c++", "-"], input=source, text=True,
-                         cwd=uic["directory"], stderr=subprocess.PIPE)
+    ran = subprocess.run([*words, "-fsyntax-only", "-Wno-unused", "-x", "c++", "-"], input="\n".join(source) + "\n",
+                         text=True, cwd=uic["directory"], stderr=subprocess.PIPE)
     if ran.returncode != 0:
-        fail(line, ran.stderr)
+        fail(found[0][0], ran.stderr)
 
 
 def quotation(line, name, content):
@@ -159,13 +179,18 @@ def main():
         shutil.copytree(TOP / "examples", scratch / "examples")
         shutil.copytree(TOP / "examples/flow", scratch, dirs_exist_ok=True)
         scratch.chmod(0o700)
-        os.environ["PATH"] = os.pathsep.join([*{str(p.parent) for p in PROGRAMS.values()}, os.environ["PATH"]])
+        os.environ["PATH"] = os.pathsep.join([*{str(p.parent) for p in PROGRAMS.values()}, str(BUILD / "examples"), os.environ["PATH"]])
         os.environ.update(QT_QPA_PLATFORM="offscreen", XDG_RUNTIME_DIR=folder, LANG="C.UTF-8")
-        before = []
+        before, compiled, runs = [], [], 0
         for line, language, argument, given, content in blocks(DOCUMENT.read_text()):
+            # What is quoted from these two is compiled, and run by a test of its own.
+            runs += (language in ("zorsh", "cmake", "typed") or (language in ("sh", "cpp") and not argument)
+                     or argument.startswith(("examples/", "tests/")))
             if language == "zorsh":
                 session(line, argument, content, before, scratch)
-            elif language == "cmake" or (language, argument) == ("sh", "project"):
+            elif language == "cmake":
+                configure(line, content, scratch)
+            elif (language, argument) == ("sh", "project"):
                 project(line, content)
             elif language == "sh":
                 shell(line, content, scratch)
@@ -181,9 +206,13 @@ def main():
             elif language == "json" and argument:
                 (scratch / argument).write_text("\n".join(content) + "\n")
             elif language == "cpp" and not argument:
-                fragment(line, given, content)
+                compiled.append((line, given, content))
             else:
                 fail(line, f"no rule for a block of \"{language} {argument}\"")
+        if compiled:
+            fragments(compiled)
+        if DOCUMENT.parent == TOP / "docs" and runs == 0:
+            fail(1, "a guide of which nothing is run")
     sys.exit(failures != 0)
 
 
