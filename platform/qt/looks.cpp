@@ -58,6 +58,8 @@ QString plainToolTip(std::string_view text)
     QString shown = shownText(text, kToolTipLimit);
     if (!Qt::mightBeRichText(shown))
         return shown;
+    // Mark-up would make two ends of a line of it.
+    shown.replace("\r\n", "\n");
     return "<span style=\"white-space: pre-wrap\">" + shown.toHtmlEscaped() + "</span>";
 }
 

@@ -1,3 +1,4 @@
+#include <zor/platform/text.h>
 #include <zor/tools/zorsh/notation.h>
 #include <zor/tools/zorsh/script.h>
 
@@ -45,11 +46,11 @@ bool matches(std::string_view expected, const OutputLine& came)
     return text[expected.size()] == (isNumberOnly ? ' ' : ':');
 }
 
-/// A failure is read by a person: what is longer than a screen is cut.
-std::string_view shortened(std::string_view text)
+/// A failure is read by a person: what is longer than a screen is cut, behind a whole character.
+std::string shortened(std::string_view text)
 {
     constexpr std::size_t kMost = 2000;
-    return text.substr(0, kMost);
+    return platform::validUtf8(text.substr(0, platform::byteOffset(text, kMost)));
 }
 
 } // namespace

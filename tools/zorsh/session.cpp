@@ -1,6 +1,7 @@
 #include <zor/controls/registration.h>
 #include <zor/pages/registration.h>
 #include <zor/platform/error.h>
+#include <zor/platform/text.h>
 #include <zor/tools/zorsh/commands.h>
 #include <zor/tools/zorsh/notation.h>
 #include <zor/tools/zorsh/session.h>
@@ -28,7 +29,7 @@ std::string_view boxIconName(platform::BoxIcon icon)
 bool isName(std::string_view text)
 {
     return !text.empty() && text.find_first_of(kNotInNames) == std::string_view::npos &&
-           !(text[0] >= '0' && text[0] <= '9');
+           !(text[0] >= '0' && text[0] <= '9') && platform::validUtf8(text) == text;
 }
 
 } // namespace
@@ -110,7 +111,8 @@ void Session::dispatch(std::string_view line)
 
 void Session::printError(int number, std::string_view text)
 {
-    print("error " + std::to_string(number) + ' ' + std::string(text), OutputLine::Kind::Error);
+    // It may quote a line that is no text.
+    print("error " + std::to_string(number) + ' ' + platform::validUtf8(text), OutputLine::Kind::Error);
 }
 
 // --- Controls by name
