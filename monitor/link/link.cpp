@@ -215,7 +215,7 @@ void Link::finish(std::size_t index, Reply reply)
 void Link::fail(std::size_t index, Fault fault, const QString& words)
 {
     if (m_underWay.empty())
-        return;
+        return note(failed(fault, words.toStdString()), nullptr);
     const Framing& framing = m_transport->framing();
     std::deque<UnderWay> all = std::exchange(m_underWay, {});
     watch();
@@ -224,7 +224,7 @@ void Link::fail(std::size_t index, Fault fault, const QString& words)
         m_suspicion = QDeadlineTimer(m_deadlineMilliseconds, Qt::PreciseTimer);
         m_suspect = fault == framing.silence ? std::optional(unitOf(culprit)) : std::nullopt;
     }
-    const Reply reply = failed(fault, fault == Fault::System ? words.toStdString() : std::string());
+    const Reply reply = failed(fault, words.toStdString());
     note(reply, all[index].frame);
     m_received.clear();
     m_transport->close();

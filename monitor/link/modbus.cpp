@@ -119,11 +119,12 @@ Reply judgeIdentity(const Request& request, std::span<const std::uint8_t> pdu)
 
 } // namespace
 
-Reply failed(Fault fault, std::string reason)
+Reply failed(Fault fault, std::string words)
 {
     Reply reply;
     reply.fault = fault;
-    reply.reason = reason.empty() ? std::string(reasonOf(fault)) : std::move(reason);
+    const std::string_view known = reasonOf(fault);
+    reply.reason = known.empty() ? std::move(words) : std::string(known);
     return reply;
 }
 

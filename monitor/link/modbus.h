@@ -66,7 +66,7 @@ struct Reply {
     int milliseconds = 0;                        ///< from sending to the last byte
 };
 
-/// A reply that says why there is none.
+/// A reply that says why there is none; `reason` counts for a fault that has no words of its own.
 [[nodiscard]] Reply failed(Fault fault, std::string reason = {});
 
 /// The exceptions by which a gateway says that it does not reach the device behind it.
