@@ -113,7 +113,10 @@ Registers Simulator::registers(Bank bank, int address, int count)
 {
     QModbusDataUnit unit(typeOf(bank), address, static_cast<quint16>(count));
     m_server.data(&unit);
-    const QList<quint16> values = unit.values();
+    QList<quint16> values = unit.values();
+    // Qt keeps a coil as it was written.
+    if (holdsBits(bank))
+        std::ranges::transform(values, values.begin(), [](quint16 word) { return word != 0 ? 1 : 0; });
     return {values.begin(), values.end()};
 }
 

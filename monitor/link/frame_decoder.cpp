@@ -116,7 +116,9 @@ public:
             const LayoutRow* layout = layoutOf(function);
             const auto name =
                 layout != nullptr ? layout->name : std::string_view(QT_TRANSLATE_NOOP("frames", "unknown"));
-            take(QT_TRANSLATE_NOOP("frames", "function"), 1).meaning = name;
+            Field& field = take(QT_TRANSLATE_NOOP("frames", "function"), 1);
+            field.value = std::to_string(function);
+            field.meaning = name;
             if (code != function && m_at < m_end)
                 take(QT_TRANSLATE_NOOP("frames", "exception"), 1).meaning = exceptionMeaning(m_frame.bytes[m_at]);
             else if (layout != nullptr && code == function)

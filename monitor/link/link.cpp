@@ -182,6 +182,15 @@ bool Link::takeFrame()
     }
     if (found.state != Found::State::Whole)
         return false;
+    // A frame that was cut short has taken its end from the one behind it, and that shows there.
+    if (m_received.size() > found.size) {
+        expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(found.index));
+        const Found behind = framing.find(std::span(m_received).subspan(found.size), expected);
+        if (behind.state == Found::State::Wrong) {
+            fail(found.index, behind.fault);
+            return false;
+        }
+    }
     UnderWay& one = m_underWay[found.index];
     Reply reply = judgeReply(one.waiting.request, found.pdu);
     if (reply.outcome == Outcome::NoAnswer) {

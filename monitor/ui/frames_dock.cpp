@@ -91,9 +91,9 @@ void FramesDock::build()
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setTabKeyNavigation(false);
     m_table->setWordWrap(false);
-    constexpr std::array<int, FramesModel::kColumns> kCharacters{13, 10, 6, 46, 11, 40};
+    constexpr std::array<int, FramesModel::kColumns> kCharacters{14, 10, 6, 46, 11, 40};
     for (int i = 0; i < FramesModel::kColumns; ++i)
-        m_table->setColumnWidth(i, fontMetrics().averageCharWidth() * kCharacters[static_cast<std::size_t>(i)]);
+        m_table->setColumnWidth(i, fontMetrics().horizontalAdvance('0') * kCharacters[static_cast<std::size_t>(i)]);
     m_fields = new QTreeWidget(parts);
     m_fields->setRootIsDecorated(false);
     m_fields->setUniformRowHeights(true);
@@ -102,6 +102,13 @@ void FramesDock::build()
     parts->setChildrenCollapsible(false);
     column->addWidget(parts, 1);
     setWidget(body);
+    // Whoever looks at the newest goes on doing so.
+    QScrollBar* bar = m_table->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this, [this, bar] { m_atEnd = bar->value() == bar->maximum(); });
+    connect(bar, &QScrollBar::rangeChanged, this, [this] {
+        if (m_atEnd)
+            m_table->scrollToBottom();
+    });
     connect(m_text, &QLineEdit::textChanged, this, [this] { refilter(); });
     connect(m_which, &QComboBox::currentIndexChanged, this, [this] { refilter(); });
     connect(m_pause, &QPushButton::toggled, this, [this] { follow(); });
@@ -157,11 +164,7 @@ void FramesDock::follow()
 {
     if (m_link == nullptr || isPaused())
         return;
-    const QScrollBar& bar = *m_table->verticalScrollBar();
-    const bool atEnd = bar.value() == bar.maximum();
     m_model.follow(m_link->frames());
-    if (atEnd)
-        m_table->scrollToBottom();
     showFailure();
 }
 
@@ -170,7 +173,6 @@ void FramesDock::refilter()
     if (m_link == nullptr)
         return;
     m_model.filter(m_text->text(), static_cast<FramesModel::Which>(m_which->currentIndex()), m_link->frames());
-    m_table->scrollToBottom();
     showFields();
 }
 

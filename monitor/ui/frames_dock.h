@@ -54,6 +54,7 @@ private:
     QPointer<Link> m_link;
     FramesModel m_model;
     QTimer m_timer;
+    bool m_atEnd = true; ///< the newest frame is in sight
     QLabel* m_failure = nullptr;
     QLineEdit* m_text = nullptr;
     QComboBox* m_which = nullptr;

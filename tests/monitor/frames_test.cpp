@@ -69,10 +69,10 @@ TEST(Frames, SayWhatEachFunctionCarries)
         EXPECT_EQ(summaryOf(reply, plain), row.says);
         EXPECT_EQ(unitOf(reply), "5");
     }
-    Frame serial = frameOf(Frame::Kind::Reply, rtuFraming(), QByteArray::fromHex("1103 02 0102 7817"));
+    Frame serial = frameOf(Frame::Kind::Reply, rtuFraming(), QByteArray::fromHex("1103 02 0102 F9D6"));
     serial.milliseconds = 12.34;
     EXPECT_EQ(lineOf(serial), "1970-01-01T00:00:00.000Z <- unit 17  3 read holding registers, register 0: 258"
-                              "  (12.3 ms)  | 11 03 02 01 02 78 17");
+                              "  (12.3 ms)  | 11 03 02 01 02 F9 D6");
     EXPECT_EQ(decodeFrame(serial).back().meaning, "right");
     serial.bytes.back() ^= 1;
     EXPECT_EQ(decodeFrame(serial).back().meaning, "wrong");

@@ -46,7 +46,7 @@ TEST(Protocol, WritesWithTheFunctionsThatTheFileNames)
         host.boxes["Pump"] = host.add("ctx_ZorComboBox", "Pump");
         host.boxes["Door"] = host.add("ctx_ZorCheckBox", "Door");
         host.run({"Limit", "Wide", "Far"});
-        EXPECT_EQ(host.get("Door", "DeviceValue"), Variant(true));
+        EXPECT_EQ(host.get("Door", "DeviceValue"), Variant(1));
         EXPECT_EQ(host.text("Far"), "150.000");
         peer.functions.clear();
         EXPECT_EQ(put(host, "Pump", {1}), WriteOutcome::Written);

@@ -274,7 +274,7 @@ TEST_F(Demo, FramesShowWhatGoesOverTheLineAndWhyItFails)
               "2 (the device does not have this address)");
     EXPECT_TRUE(says("Check bank and address in the parameter file"));
     window->setLanguage("de");
-    EXPECT_EQ(fields.topLevelItem(3)->text(0), "Ger\u00E4t");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fields.topLevelItem(3)->text(0) == "Ger\u00E4t"; }, kPatience));
     window->setLanguage("en");
     device().stop();
     EXPECT_TRUE(
