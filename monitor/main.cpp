@@ -3,6 +3,7 @@
 #include <zor/monitor/device/device.h>
 #include <zor/monitor/link/device_address.h>
 #include <zor/monitor/settings/settings_commands.h>
+#include <zor/monitor/ui/frames_dock.h>
 #include <zor/monitor/ui/window.h>
 #include <zor/platform/version.h>
 
@@ -21,6 +22,7 @@ struct Settings {
     std::string device;
     std::string screenshot;
     std::string log;
+    std::string frames;
     std::string language;
     std::string units = "form";
     int period = 500;
@@ -59,6 +61,7 @@ void addOptions(CLI::App& app, Settings& settings)
     app.add_option("--screenshot", settings.screenshot, "file for a picture of the window, taken at the end");
     app.add_option("--log", settings.log,
                    "CSV file to which reads that change their outcome and writes are added");
+    app.add_option("--frames", settings.frames, "text file for every request and reply, as they come");
     app.add_option("--language", settings.language, "en, de or fr; without it, that of the environment")
         ->check(CLI::IsMember({"en", "de", "fr"}));
     app.add_option("--units", settings.units, "form, metric, us or device")->check(CLI::IsMember(kUnitSystems));
@@ -105,9 +108,30 @@ DeviceEntry entryOf(const Settings& settings)
     entry.parameters = QString::fromStdString(settings.parameters);
     entry.form = QString::fromStdString(settings.form);
     entry.record = QString::fromStdString(settings.log);
+    entry.frames = QString::fromStdString(settings.frames);
     entry.period = settings.period;
     entry.timeout = settings.timeout;
     return entry;
+}
+
+/// Why the device does not answer, and what to try.
+int failUnhealthy(std::string text, const Reply& failure)
+{
+    if (!failure.reason.empty())
+        text += ": " + failure.reason;
+    if (const std::string_view advice = adviceOn(failure.fault, failure.exception); !advice.empty())
+        text.append("\n").append(advice);
+    return fail(kUnhealthy, text);
+}
+
+/// The status, or 2 when lines are missing from a file.
+int withFiles(const Settings& settings, Device& device, int status)
+{
+    if (const QString error = device.session().recordError(); !error.isEmpty())
+        return fail(kUsage, settings.log + ": " + error.toStdString());
+    if (const QString error = device.framesError(); !error.isEmpty())
+        return fail(kUsage, settings.frames + ": " + error.toStdString());
+    return status;
 }
 
 int serve(const ParameterFile& file, int port)
@@ -124,8 +148,6 @@ int finish(Window& window, const Settings& settings)
     Session& session = window.session();
     if (settings.runFor > 0 || !settings.screenshot.empty())
         std::cout << session.report();
-    if (!session.recordError().isEmpty())
-        return fail(kUsage, settings.log + ": " + session.recordError().toStdString());
     if (!settings.screenshot.empty() && !window.grab().save(QString::fromStdString(settings.screenshot)))
         return fail(kUsage, "cannot write " + settings.screenshot);
     for (const std::string& name : settings.saveTrend) {
@@ -137,10 +159,11 @@ int finish(Window& window, const Settings& settings)
         return kWell;
     const int rounds = session.poller().rounds();
     if (session.failedRounds() > 0 || rounds == 0)
-        return fail(kUnhealthy, "the device did not answer in " + std::to_string(session.failedRounds()) + " of " +
-                                    std::to_string(rounds) + " rounds: " + session.poller().failure().reason);
+        return failUnhealthy("the device did not answer in " + std::to_string(session.failedRounds()) + " of " +
+                                 std::to_string(rounds) + " rounds",
+                             session.poller().failure());
     if (!session.hasValues())
-        return fail(kUnhealthy, "the device has none of the parameters");
+        return failUnhealthy("the device has none of the parameters", session.link().lastFailure());
     return kWell;
 }
 
@@ -151,9 +174,7 @@ int transfer(const Settings& settings, ParameterFile file)
     Device device(entryOf(settings), std::move(file));
     device.start();
     const int status = runSettings(device.session(), settings.task, std::cout, std::cerr);
-    if (!device.session().recordError().isEmpty())
-        return fail(kUsage, settings.log + ": " + device.session().recordError().toStdString());
-    return status;
+    return withFiles(settings, device, status);
 }
 
 std::unique_ptr<Form> formOf(const Settings& settings, const Session& session,
@@ -191,6 +212,7 @@ int monitor(const Settings& settings, ParameterFile file)
             return fail(kUsage, "--trend " + tag + ": no parameter that is a number");
         window.trend().add(*parameter);
     }
+    FramesDock::addTo(window);
     window.show();
     if (settings.runFor > 0 || !settings.log.empty())
         window.session().readEverything();
@@ -200,7 +222,7 @@ int monitor(const Settings& settings, ParameterFile file)
         QTimer::singleShot(settings.runFor * kSecond, &window, [&] { window.closeUnasked(); });
     }
     QApplication::exec();
-    return finish(window, settings);
+    return withFiles(settings, window.front().device(), finish(window, settings));
 }
 
 int run(int argc, char** argv)

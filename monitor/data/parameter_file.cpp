@@ -39,7 +39,9 @@ Enum readName(const Value& value, std::span<const std::string_view> names)
     return static_cast<Enum>(at - names.begin());
 }
 
-constexpr std::array<std::string_view, 2> kBanks{"holding", "input"}; // in the order of REGISTER_TYPE
+// In the order of Bank and of WriteWith.
+constexpr std::array<std::string_view, 4> kBanks{"holding", "input", "coil", "discrete"};
+constexpr std::array<std::string_view, 3> kWriteWith{"usual", "single", "multiple"};
 constexpr std::array<std::string_view, 2> kAccesses{"read", "write"};
 
 MEAS_TYPE readUnit(const Value& value)
@@ -65,11 +67,13 @@ UNIT_TYPE typeOf(MEAS_TYPE unit)
 Location readLocation(Fields& fields, std::optional<ValueType> fixed)
 {
     Location location;
-    location.bank = readName<REGISTER_TYPE>(fields.need("bank"), kBanks);
+    location.bank = readName<Bank>(fields.need("bank"), kBanks);
     const Value address = fields.need("address");
     location.address = static_cast<std::uint16_t>(address.integer(0, kLastAddress));
     const auto type = fixed ? fields.take("type") : std::optional(fields.need("type"));
     location.type = type ? readName<ValueType>(*type, valueTypeNames()) : *fixed;
+    if (holdsBits(location.bank) && location.type != ValueType::Bit)
+        type.value_or(address).fail("a coil or a discrete input is of the type bit");
     location.registers = registersOf(location.type);
     if (location.type == ValueType::Text) {
         location.registers = static_cast<std::uint16_t>(fields.need("registers").integer(1, kMostWriteRegisters));
@@ -178,7 +182,7 @@ Parameter readParameter(const Value& value)
     Location& location = parameter.location = readLocation(fields, std::nullopt);
     const bool integer = isInteger(location.type);
     const bool number = integer || location.type == ValueType::Float32 || location.type == ValueType::Float64;
-    if (location.type == ValueType::Bit)
+    if (location.type == ValueType::Bit && !holdsBits(location.bank))
         location.bit = static_cast<std::uint8_t>(fields.need("bit").integer(0, 15));
     if (const auto scale = fields.take("scale")) {
         parameter.scale = scale->number();
@@ -195,8 +199,9 @@ Parameter readParameter(const Value& value)
         parameter.writable = access->text() == "write";
         if (std::ranges::find(kAccesses, access->text()) == kAccesses.end())
             access->fail('"' + access->text() + "\" is none of " + joined(kAccesses));
-        if (parameter.writable && location.bank == InputRegister)
-            access->fail("an input register cannot be written");
+        if (parameter.writable && isReadOnly(location.bank))
+            access->fail(holdsBits(location.bank) ? "a discrete input cannot be written"
+                                                  : "an input register cannot be written");
     }
     const auto named = [&](std::string_view list, bool allowed) {
         auto taken = fields.take(list);
@@ -234,6 +239,38 @@ std::optional<Location> readIdentityPart(Fields& fields, std::string_view name, 
     return location;
 }
 
+struct RequestsRow {
+    std::string_view name;
+    int Requests::*member;
+    int lowest;
+    int highest;
+};
+
+constexpr std::array kRequests{
+    RequestsRow{"registers", &Requests::registers, 1, kMostReadRegisters},
+    RequestsRow{"bits", &Requests::bits, 1, kMostReadBits},
+    RequestsRow{"gap", &Requests::gap, 0, kMostReadRegisters},
+    RequestsRow{"pause", &Requests::pause, 0, 10000},
+    RequestsRow{"retries", &Requests::retries, 0, 10},
+    RequestsRow{"underWay", &Requests::underWay, 1, 16},
+};
+
+Requests readRequests(const Value& value)
+{
+    Requests requests;
+    Fields fields = value.object();
+    for (const RequestsRow& row : kRequests) {
+        if (const auto number = fields.take(row.name))
+            requests.*row.member = static_cast<int>(number->integer(row.lowest, row.highest));
+    }
+    if (const auto write = fields.take("write"))
+        requests.write = readName<WriteWith>(*write, kWriteWith);
+    if (const auto masked = fields.take("masked"))
+        requests.masked = masked->boolean();
+    fields.finish();
+    return requests;
+}
+
 } // namespace
 
 const std::string& LocalText::in(const std::string& language) const
@@ -268,11 +305,15 @@ ParameterFile readParameterFile(std::string_view text, const std::string& name)
         file.identity.version = readIdentityPart(inner, "version", file.identity.simulatedVersion);
         inner.finish();
     }
+    if (const auto requests = fields.take("requests"))
+        file.requests = readRequests(*requests);
     std::set<std::string> tags;
     for (const Value& value : fields.need("parameters").array()) {
         file.parameters.push_back(readParameter(value));
         if (!tags.insert(file.parameters.back().tag).second)
             value.fail("the tag \"" + file.parameters.back().tag + "\" stands twice");
+        if (file.parameters.back().location.registers > file.requests.registers)
+            value.fail("the parameter is longer than a request may be");
     }
     fields.finish();
     if (file.parameters.empty())

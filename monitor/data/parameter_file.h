@@ -17,6 +17,15 @@ namespace zor::monitor {
 /// How a value is coded. The order is that of the table in codec.cpp.
 enum class ValueType : std::uint8_t { Int16, UInt16, Int32, UInt32, Float32, Float64, Text, Bit };
 
+/// The four tables of a device. The order is that of the names in parameter_file.cpp.
+enum class Bank : std::uint8_t { Holding, Input, Coil, Discrete };
+/// Its addresses hold a bit each, not a register.
+[[nodiscard]] constexpr bool holdsBits(Bank bank) noexcept { return bank >= Bank::Coil; }
+[[nodiscard]] constexpr bool isReadOnly(Bank bank) noexcept
+{
+    return bank == Bank::Input || bank == Bank::Discrete;
+}
+
 /// How the bytes of a value lie in its registers, A being the highest of four.
 enum class Order : std::uint8_t { ABCD, CDAB, BADC, DCBA };
 
@@ -40,9 +49,9 @@ struct Entry {
 };
 
 struct Location {
-    REGISTER_TYPE bank = HoldingRegister;
+    Bank bank = Bank::Holding;
     std::uint16_t address = 0;   ///< of the first register, counted from 0 as in the protocol
-    std::uint16_t registers = 1; ///< 1 to 123
+    std::uint16_t registers = 1; ///< 1 to 123; of a coil or a discrete input 1
     ValueType type = ValueType::UInt16;
     Order order = Order::ABCD;
     std::uint8_t bit = 0; ///< of ValueType::Bit: 0 is the lowest of the register
@@ -101,16 +110,37 @@ struct Identity {
     Simulation simulatedVersion;
 };
 
+inline constexpr int kMostReadRegisters = 125;  ///< of one request
+inline constexpr int kMostWriteRegisters = 123; ///< of one request
+inline constexpr int kMostReadBits = 2000;      ///< of one request
+
+/// The functions with which a device is written.
+enum class WriteWith : std::uint8_t {
+    Usual,    ///< one register or coil with that for one, several with that for several
+    Single,   ///< each by itself
+    Multiple, ///< with that for several, even one
+};
+
+/// What a device stands of requests.
+struct Requests {
+    int registers = kMostReadRegisters; ///< at most, in one
+    int bits = kMostReadBits;           ///< the same of coils and discrete inputs
+    int gap = 8;                        ///< registers that nobody wants, read along between two parameters
+    int pause = 0;                      ///< milliseconds from the end of a reply to the next request
+    int retries = 0;                    ///< of a read without an answer
+    int underWay = 1;                   ///< reads at a time, on TCP
+    WriteWith write = WriteWith::Usual;
+    bool masked = true; ///< bits are written with a mask in the device, if it can
+};
+
 struct ParameterFile {
     LocalText title;
+    Requests requests;
     Identity identity;
     std::vector<Parameter> parameters;
 
     [[nodiscard]] std::optional<std::size_t> indexOf(std::string_view tag) const;
 };
-
-inline constexpr int kMostReadRegisters = 125;  ///< of one request
-inline constexpr int kMostWriteRegisters = 123; ///< of one request
 
 /// Reads and checks a parameter file; `name` stands in its errors. Raises FileError with the line and the
 /// reason for anything that is not as docs/parameter-file.md says.

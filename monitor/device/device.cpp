@@ -22,10 +22,14 @@ ParameterFile loadParameters(const DeviceEntry& entry)
 Device::Device(DeviceEntry entry, ParameterFile file)
     : m_entry(std::move(entry)),
       m_log(m_entry.record.isEmpty() ? std::nullopt : std::optional<Log>(std::in_place, m_entry.record)),
+      m_frames(m_entry.frames.isEmpty() ? std::nullopt : std::optional<FrameFile>(std::in_place, m_entry.frames)),
       m_address(addressFor(file)),
       m_session(openLink(m_address, m_entry.timeout > 0 ? m_entry.timeout : m_entry.period), std::move(file),
                 m_log ? &*m_log : nullptr)
-{}
+{
+    if (m_frames)
+        m_frames->follow(m_session.link().frames());
+}
 
 QString Device::addressFor(const ParameterFile& file)
 {

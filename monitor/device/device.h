@@ -4,6 +4,7 @@
 /// device when there is no real one.
 
 #include <zor/monitor/device/simulator.h>
+#include <zor/monitor/session/frame_file.h>
 #include <zor/monitor/session/session.h>
 
 #include <memory>
@@ -17,6 +18,7 @@ struct DeviceEntry {
     QString parameters{}; ///< parameter file; empty: the demonstration device's
     QString form{};       ///< file of Qt Designer; empty: a form is made from the parameter file
     QString record{};     ///< file of the record; empty: none
+    QString frames{};     ///< file for every request and reply; empty: none
     int period = 500;     ///< milliseconds from poll to poll
     int timeout = 0;      ///< milliseconds for a whole reply; 0: the period
 };
@@ -27,13 +29,16 @@ struct DeviceEntry {
 class Device {
 public:
     /// Opens what the entry names; nothing is sent before start(). `file` is that of the entry. Raises
-    /// AddressError, FileError for the record, or std::runtime_error when there can be no simulated device.
+    /// AddressError, FileError for the record or the frames, or std::runtime_error when there can be no simulated
+    /// device.
     Device(DeviceEntry entry, ParameterFile file);
 
     void start() { m_session.start(m_entry.period, m_entry.timeout); }
 
     [[nodiscard]] const DeviceEntry& entry() const { return m_entry; }
     [[nodiscard]] Session& session() { return m_session; }
+    /// Why frames are missing from their file; empty when none is.
+    [[nodiscard]] QString framesError() const { return m_frames ? m_frames->error() : QString(); }
     /// nullptr for a real device.
     [[nodiscard]] Simulator* simulator() { return m_simulator.get(); }
 
@@ -42,6 +47,7 @@ private:
 
     DeviceEntry m_entry;
     std::optional<Log> m_log;
+    std::optional<FrameFile> m_frames;
     ParameterFile m_simulated;
     std::unique_ptr<Simulator> m_simulator;
     QString m_address; ///< the simulated device's own when there is no other

@@ -6,6 +6,7 @@
 #include <QVariant>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -14,10 +15,23 @@ namespace {
 
 constexpr int kTickMilliseconds = 200;
 
-QModbusDataUnit::RegisterType typeOf(REGISTER_TYPE bank)
-{
-    return bank == HoldingRegister ? QModbusDataUnit::HoldingRegisters : QModbusDataUnit::InputRegisters;
-}
+// In the order of Bank.
+constexpr std::array kTypes{QModbusDataUnit::HoldingRegisters, QModbusDataUnit::InputRegisters,
+                            QModbusDataUnit::Coils, QModbusDataUnit::DiscreteInputs};
+
+struct AccessRow {
+    int function;
+    Bank bank;
+    bool one; ///< has no count
+};
+
+constexpr std::array kAccesses{
+    AccessRow{1, Bank::Coil, false},  AccessRow{2, Bank::Discrete, false}, AccessRow{3, Bank::Holding, false},
+    AccessRow{4, Bank::Input, false}, AccessRow{5, Bank::Coil, true},      AccessRow{6, Bank::Holding, true},
+    AccessRow{15, Bank::Coil, false}, AccessRow{16, Bank::Holding, false}, AccessRow{22, Bank::Holding, true},
+};
+
+QModbusDataUnit::RegisterType typeOf(Bank bank) { return kTypes[static_cast<std::size_t>(bank)]; }
 
 /// A port that is free now.
 int freePort()
@@ -34,12 +48,12 @@ QModbusResponse SimulatedServer::processRequest(const QModbusPdu& request)
     quint16 address = 0;
     quint16 count = 0;
     const auto code = static_cast<int>(request.functionCode());
-    const bool reads = code == 3 || code == 4;
-    if ((reads || code == 6 || code == 16) && request.dataSize() >= 4) {
+    const auto* const access = std::ranges::find(kAccesses, code, &AccessRow::function);
+    if (access != kAccesses.end() && request.dataSize() >= 4) {
         request.decodeData(&address, &count);
-        const int end = address + (code == 6 ? 1 : count);
+        const int end = address + (access->one ? 1 : count);
         const bool refused = std::ranges::any_of(absent, [&](const Location& location) {
-            return (code == 4) == (location.bank == InputRegister) && location.address < end &&
+            return access->bank == location.bank && location.address < end &&
                    location.address + location.registers > address;
         });
         if (refused)
@@ -51,9 +65,9 @@ QModbusResponse SimulatedServer::processRequest(const QModbusPdu& request)
 
 Simulator::Simulator(const ParameterFile& file, int port) : m_file(file), m_port(port != 0 ? port : freePort())
 {
-    int ends[2] = {1, 1};
+    std::array<int, kTypes.size()> ends{1, 1, 1, 1};
     const auto reach = [&](const Location& location) {
-        int& end = ends[location.bank == InputRegister ? 1 : 0];
+        int& end = ends[static_cast<std::size_t>(location.bank)];
         end = std::max(end, location.address + location.registers);
     };
     for (const Parameter& parameter : file.parameters) {
@@ -66,10 +80,9 @@ Simulator::Simulator(const ParameterFile& file, int port) : m_file(file), m_port
             reach(*part);
     }
     QModbusDataUnitMap map;
-    for (const REGISTER_TYPE bank : {HoldingRegister, InputRegister}) {
-        const int end = ends[bank == InputRegister ? 1 : 0];
+    for (std::size_t i = 0; i < ends.size(); ++i) {
         // A unit counts with 16 bits, so the last address of all cannot be had.
-        map.insert(typeOf(bank), {typeOf(bank), 0, static_cast<quint16>(std::min(end, 65535))});
+        map.insert(kTypes[i], {kTypes[i], 0, static_cast<quint16>(std::min(ends[i], 65535))});
     }
     m_server.setMap(map);
     m_server.setServerAddress(1);
@@ -96,15 +109,18 @@ void Simulator::stop()
     m_server.disconnectDevice();
 }
 
-Registers Simulator::registers(REGISTER_TYPE bank, int address, int count)
+Registers Simulator::registers(Bank bank, int address, int count)
 {
     QModbusDataUnit unit(typeOf(bank), address, static_cast<quint16>(count));
     m_server.data(&unit);
-    const QList<quint16> values = unit.values();
+    QList<quint16> values = unit.values();
+    // Qt keeps a coil as it was written.
+    if (holdsBits(bank))
+        std::ranges::transform(values, values.begin(), [](quint16 word) { return word != 0 ? 1 : 0; });
     return {values.begin(), values.end()};
 }
 
-void Simulator::setRegisters(REGISTER_TYPE bank, int address, const Registers& values)
+void Simulator::setRegisters(Bank bank, int address, const Registers& values)
 {
     m_server.setData(QModbusDataUnit(typeOf(bank), address, QList<quint16>(values.begin(), values.end())));
 }

@@ -34,8 +34,8 @@ public:
     [[nodiscard]] int port() const { return m_port; }
 
     /// What the registers hold, and what somebody at the device would change.
-    [[nodiscard]] Registers registers(REGISTER_TYPE bank, int address, int count);
-    void setRegisters(REGISTER_TYPE bank, int address, const Registers& values);
+    [[nodiscard]] Registers registers(Bank bank, int address, int count);
+    void setRegisters(Bank bank, int address, const Registers& values);
 
 private:
     void fill();

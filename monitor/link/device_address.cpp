@@ -60,7 +60,7 @@ private:
     QMap<QString, QString> m_options;
 };
 
-std::unique_ptr<Link> openSerial(const QString& address, int deadline)
+Endpoint serialEndpoint(const QString& address)
 {
     const QString rest = address.mid(4);
     Options options(address, rest.section('?', 1));
@@ -74,10 +74,10 @@ std::unique_ptr<Link> openSerial(const QString& address, int deadline)
     settings.stopBits = options.number("stop", settings.stopBits, 1, 2);
     const int unit = options.number("unit", 1, 1, kLastUnit);
     options.finish();
-    return std::make_unique<RtuLink>(settings, static_cast<std::uint8_t>(unit), deadline);
+    return {std::make_unique<RtuTransport>(settings), static_cast<std::uint8_t>(unit)};
 }
 
-std::unique_ptr<Link> openTcp(const QString& address, int deadline)
+Endpoint tcpEndpoint(const QString& address)
 {
     const QUrl url(address.contains("://") ? address : "tcp://" + address, QUrl::StrictMode);
     if (!url.isValid() || url.scheme() != "tcp" || url.host().isEmpty() || !url.userInfo().isEmpty() ||
@@ -86,16 +86,21 @@ std::unique_ptr<Link> openTcp(const QString& address, int deadline)
     Options options(address, url.query());
     const int unit = options.number("unit", 1, 0, kLastUnit);
     options.finish();
-    return std::make_unique<TcpLink>(url.host(), static_cast<quint16>(url.port(kUsualPort)),
-                                     static_cast<std::uint8_t>(unit), deadline);
+    return {std::make_unique<TcpTransport>(url.host(), static_cast<quint16>(url.port(kUsualPort))),
+            static_cast<std::uint8_t>(unit)};
 }
 
 } // namespace
 
+Endpoint endpointOf(const QString& address)
+{
+    return address.startsWith("rtu:") ? serialEndpoint(address) : tcpEndpoint(address);
+}
+
 std::unique_ptr<Link> openLink(const QString& address, int deadlineMilliseconds)
 {
-    return address.startsWith("rtu:") ? openSerial(address, deadlineMilliseconds)
-                                      : openTcp(address, deadlineMilliseconds);
+    Endpoint endpoint = endpointOf(address);
+    return std::make_unique<Link>(std::move(endpoint.transport), endpoint.unit, deadlineMilliseconds);
 }
 
 } // namespace zor::monitor

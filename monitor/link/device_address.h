@@ -15,10 +15,18 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// The link to
+/// Where a device is.
+struct Endpoint {
+    std::unique_ptr<Transport> transport;
+    std::uint8_t unit;
+};
+
+/// The endpoint that
 ///   tcp://HOST:PORT[?unit=N]                                      (the scheme may be left out; port 502)
 ///   rtu:DEVICE[?unit=N&baud=B&parity=none|even|odd&stop=1|2]      (19200 baud, even, 1 stop bit)
-/// with unit 1 unless it says another. Raises AddressError. Nothing is connected yet.
+/// names, with unit 1 unless it says another. Raises AddressError. Nothing is connected yet.
+[[nodiscard]] Endpoint endpointOf(const QString& address);
+/// A link to it.
 [[nodiscard]] std::unique_ptr<Link> openLink(const QString& address, int deadlineMilliseconds);
 
 } // namespace zor::monitor

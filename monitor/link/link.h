@@ -1,9 +1,11 @@
 #pragma once
 
-/// The connection to a device: one request at a time, each with one deadline for its whole reply.
+/// The connection to a device: requests in their order, each with one deadline for its whole reply.
 
-#include <zor/monitor/link/modbus.h>
+#include <zor/monitor/link/frames.h>
+#include <zor/monitor/link/transport.h>
 
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QObject>
 #include <QString>
@@ -12,6 +14,7 @@
 #include <array>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace zor::monitor {
@@ -28,14 +31,23 @@ struct Traffic {
     }
 };
 
-/// Never blocks, and never sends anything a second time: a write without an answer stays unconfirmed until
-/// somebody reads back. After a failure the connection is given up, so that nothing that comes late is ever
-/// taken for an answer to something else; the next request connects anew.
+/// What a device stands.
+struct Manners {
+    int pause = 0;    ///< milliseconds from the end of one frame to the next request
+    int retries = 0;  ///< of a read without an answer
+    int underWay = 1; ///< reads at a time, where frames are numbered
+};
+
+/// Never blocks, and never sends a write a second time: one without an answer stays unconfirmed until somebody
+/// reads back. Nothing else is under way while a write is. After a failure the connection is given up, so that
+/// nothing that comes late is ever taken for an answer to something else; the next request connects anew. Where
+/// frames have no numbers, the line is left alone for another deadline before the same unit is asked again.
 class Link : public QObject {
 public:
     using Done = std::function<void(const Reply&)>;
 
-    explicit Link(int deadlineMilliseconds);
+    Link(std::unique_ptr<Transport> transport, std::uint8_t unit, int deadlineMilliseconds);
+    ~Link() override;
 
     /// `done` hears the outcome once, never before send() has returned, and never after the link has ended. With
     /// the number of a connection the request goes over that one or not at all: at the other end of another there
@@ -44,56 +56,80 @@ public:
     /// A number that tells this connection from every other; nothing when there is none.
     [[nodiscard]] std::optional<unsigned> connection() const
     {
-        return isConnected() ? std::optional(m_connection) : std::nullopt;
+        return m_transport->isOpen() ? std::optional(m_connection) : std::nullopt;
     }
     /// Requests that wait or are under way.
-    [[nodiscard]] std::size_t pending() const { return m_queue.size(); }
+    [[nodiscard]] std::size_t pending() const { return m_queue.size() + m_underWay.size() + m_outcomes.size(); }
     [[nodiscard]] int deadline() const { return m_deadlineMilliseconds; }
     void setDeadline(int milliseconds) { m_deadlineMilliseconds = milliseconds; }
+    [[nodiscard]] const Manners& manners() const { return m_manners; }
+    void setManners(const Manners& manners) { m_manners = manners; }
+    /// Connects to something else. What waits or is under way fails.
+    void connectTo(std::unique_ptr<Transport> transport, std::uint8_t unit);
 
-    /// What the link is connected to, for people.
-    [[nodiscard]] virtual QString description() const = 0;
+    /// What the link is connected to, for people; the unit too, unless it is 1.
+    [[nodiscard]] QString description() const;
     [[nodiscard]] const Traffic& reads() const { return m_traffic[0]; }
     [[nodiscard]] const Traffic& writes() const { return m_traffic[1]; }
-
-protected:
-    /// Brings the request on its way; ends in finish(), now or later.
-    virtual void transmit(const Request& request) = 0;
-    /// Gives the connection up; must not call finish().
-    virtual void drop() = 0;
-    [[nodiscard]] virtual bool isConnected() const = 0;
-    /// There is a new connection.
-    void connected() { ++m_connection; }
-
-    [[nodiscard]] bool isBusy() const { return m_busy; }
-    [[nodiscard]] const Request& current() const { return m_queue.front().request; }
-    /// The request has left for the device.
-    void sent();
-    /// The outcome of the current request. Everything but an answer and a refusal drops the connection.
-    void finish(Reply reply);
-    void fail(const QString& reason);
+    [[nodiscard]] Frames& frames() { return m_frames; }
+    /// The last request that was refused or not answered; an answered one when there was none.
+    [[nodiscard]] const Reply& lastFailure() const { return m_lastFailure; }
 
 private:
     struct Waiting {
         Request request;
         Done done;
         std::optional<unsigned> connection;
+        int attempts = 0;
+    };
+    struct UnderWay {
+        Waiting waiting;
+        std::uint16_t transaction = 0;
+        QDeadlineTimer deadline{};
+        QElapsedTimer clock{};
+        FramePointer frame{}; ///< none before it has left for the device
+    };
+    struct Ended {
+        Done done;
+        Reply reply;
     };
 
     void next();
-    void deliver(const Reply& reply);
+    [[nodiscard]] bool mayStart() const;
+    [[nodiscard]] int quietFor() const;
+    void start(Waiting waiting);
+    void transmit(UnderWay& one);
+    void adopt();
+    void opened();
+    void receive();
+    [[nodiscard]] bool takeFrame();
+    void watch();
+    void finish(std::size_t index, Reply reply);
+    void fail(std::size_t index, Fault fault, const QString& words = {});
+    void end(UnderWay one, Reply reply);
+    void note(const Reply& reply, const FramePointer& request);
+    void deliver();
+    [[nodiscard]] std::uint8_t unitOf(const Request& request) const { return request.unit.value_or(m_unit); }
 
+    std::unique_ptr<Transport> m_transport;
+    Manners m_manners;
+    Frames m_frames;
     std::deque<Waiting> m_queue;
+    std::deque<UnderWay> m_underWay; ///< the earliest deadline first
+    std::deque<Ended> m_outcomes;
+    Bytes m_received;
     std::array<Traffic, 2> m_traffic;
+    Reply m_lastFailure;
     QTimer m_deadline;
     QTimer m_later;
-    QElapsedTimer m_clock;
-    Reply m_outcome;
+    QTimer m_quiet;
+    QElapsedTimer m_sinceFrame;
+    QDeadlineTimer m_suspicion;            ///< until when a late reply may come
+    std::optional<std::uint8_t> m_suspect; ///< of the unit whose; nothing for any
     int m_deadlineMilliseconds;
     unsigned m_connection = 0;
-    bool m_busy = false;
-    bool m_sent = false;
-    bool m_finished = false;
+    std::uint16_t m_transaction = 0;
+    std::uint8_t m_unit;
 };
 
 } // namespace zor::monitor

@@ -1,72 +1,83 @@
 #include <zor/monitor/link/rtu_link.h>
 
-#include <QVariant>
+#include <algorithm>
+#include <array>
 
 namespace zor::monitor {
+namespace {
 
-RtuLink::RtuLink(const SerialSettings& settings, std::uint8_t unit, int deadlineMilliseconds)
-    : Link(deadlineMilliseconds), m_device(settings.device), m_unit(unit)
+struct ErrorRow {
+    QSerialPort::SerialPortError error;
+    Fault fault;
+};
+
+constexpr std::array kErrors{
+    ErrorRow{QSerialPort::DeviceNotFoundError, Fault::NoPort},
+    ErrorRow{QSerialPort::PermissionError, Fault::PortDenied},
+    ErrorRow{QSerialPort::ResourceError, Fault::PortLost},
+};
+
+Fault faultOf(QSerialPort::SerialPortError error)
 {
-    m_client.setConnectionParameter(QModbusDevice::SerialPortNameParameter, settings.device);
-    m_client.setConnectionParameter(QModbusDevice::SerialBaudRateParameter, settings.baud);
-    m_client.setConnectionParameter(QModbusDevice::SerialParityParameter, settings.parity);
-    m_client.setConnectionParameter(QModbusDevice::SerialStopBitsParameter, settings.stopBits);
-    m_client.setConnectionParameter(QModbusDevice::SerialDataBitsParameter, 8);
-    // The deadline is the link's; Qt's own timer must not come first, nor send anything again.
-    constexpr int kLongAfter = 60000;
-    m_client.setTimeout(kLongAfter);
-    m_client.setNumberOfRetries(0);
+    const auto* const row = std::ranges::find(kErrors, error, &ErrorRow::error);
+    return row != kErrors.end() ? row->fault : Fault::System;
 }
 
-RtuLink::~RtuLink() { drop(); }
-
-QString RtuLink::description() const { return "rtu:" + m_device; }
-
-void RtuLink::transmit(const Request& request)
+/// Three and a half characters, by which the units of a line tell where a frame ends.
+int silenceAt(int baud)
 {
-    if (!isConnected()) {
-        if (!m_client.connectDevice())
-            return fail(m_client.errorString());
-        connected();
-    }
-    const std::vector<std::uint8_t> pdu = requestPdu(request);
-    const QByteArray data(reinterpret_cast<const char*>(pdu.data() + 1), static_cast<qsizetype>(pdu.size() - 1));
-    m_reply = m_client.sendRawRequest(
-        QModbusRequest(static_cast<QModbusPdu::FunctionCode>(request.function), data), m_unit);
-    if (m_reply == nullptr)
-        return fail(m_client.errorString());
-    sent();
-    connect(m_reply, &QModbusReply::finished, this, [this] { hear(*m_reply); });
+    constexpr int kBits = 7 * 11 / 2; // of 3.5 characters, rounded down
+    constexpr int kShortest = 2;
+    constexpr int kSecond = 1000;
+    return std::max(kShortest, kBits * kSecond / baud + 1);
 }
 
-void RtuLink::drop()
+} // namespace
+
+RtuTransport::RtuTransport(const SerialSettings& settings) : m_silence(silenceAt(settings.baud))
 {
-    if (m_reply != nullptr) {
-        m_reply->disconnect(this);
-        m_reply->deleteLater();
-        m_reply = nullptr;
-    }
-    m_client.disconnectDevice();
+    m_port.setPortName(settings.device);
+    m_port.setBaudRate(settings.baud);
+    m_port.setDataBits(QSerialPort::Data8);
+    m_port.setParity(static_cast<QSerialPort::Parity>(settings.parity));
+    m_port.setStopBits(static_cast<QSerialPort::StopBits>(settings.stopBits));
+    QObject::connect(&m_port, &QSerialPort::readyRead, &m_port, [this] { onBytes(); });
+    QObject::connect(&m_port, &QSerialPort::errorOccurred, &m_port, [this](auto error) {
+        if (error != QSerialPort::NoError)
+            onFailure(faultOf(error), m_port.errorString());
+    });
 }
 
-void RtuLink::hear(const QModbusReply& reply)
+RtuTransport::~RtuTransport()
 {
-    const bool replied = reply.error() == QModbusDevice::NoError || reply.error() == QModbusDevice::ProtocolError;
-    if (!replied || reply.serverAddress() != m_unit)
-        return fail(reply.errorString());
-    const QModbusResponse response = reply.rawResult();
-    // Qt has compared the function; of an exception its own accessors would read a code that is no member of
-    // their enumeration.
-    const bool exception = reply.error() == QModbusDevice::ProtocolError;
-    const unsigned function = exception ? static_cast<unsigned>(current().function) | 0x80U
-                                        : static_cast<unsigned>(response.functionCode());
-    std::vector<std::uint8_t> pdu{static_cast<std::uint8_t>(function)};
-    for (const char byte : response.data())
-        pdu.push_back(static_cast<std::uint8_t>(byte));
-    m_reply->disconnect(this);
-    m_reply->deleteLater();
-    m_reply = nullptr;
-    finish(judgeReply(current(), pdu));
+    m_port.disconnect();
+    close();
+}
+
+void RtuTransport::open()
+{
+    if (!m_port.open(QIODevice::ReadWrite))
+        return;
+    // What came while nobody listened belongs to nobody.
+    m_port.clear();
+    onOpen();
+}
+
+void RtuTransport::close()
+{
+    if (m_port.isOpen())
+        m_port.close();
+}
+
+void RtuTransport::write(const Bytes& bytes)
+{
+    m_port.write(reinterpret_cast<const char*>(bytes.data()), static_cast<qint64>(bytes.size()));
+}
+
+Bytes RtuTransport::read(std::size_t most)
+{
+    const QByteArray bytes = m_port.isOpen() ? m_port.read(static_cast<qint64>(most)) : QByteArray();
+    return {bytes.begin(), bytes.end()};
 }
 
 } // namespace zor::monitor

@@ -1,37 +1,37 @@
 #pragma once
 
-/// Modbus RTU over a serial line. Qt frames and checks the bytes; the fields are judged here as on TCP.
+/// Modbus RTU on a serial line.
 
-#include <zor/monitor/link/link.h>
+#include <zor/monitor/link/transport.h>
 
-#include <QModbusRtuSerialClient>
+#include <QSerialPort>
 
 namespace zor::monitor {
 
 struct SerialSettings {
     QString device;
     int baud = 19200;
-    int parity = 2; ///< 0 none, 2 even, 3 odd
+    int parity = QSerialPort::EvenParity;
     int stopBits = 1;
 };
 
-class RtuLink final : public Link {
+class RtuTransport final : public Transport {
 public:
-    RtuLink(const SerialSettings& settings, std::uint8_t unit, int deadlineMilliseconds);
-    ~RtuLink() override;
+    explicit RtuTransport(const SerialSettings& settings);
+    ~RtuTransport() override;
 
-    [[nodiscard]] QString description() const override;
+    void open() override;
+    void close() override;
+    [[nodiscard]] bool isOpen() const override { return m_port.isOpen(); }
+    void write(const Bytes& bytes) override;
+    [[nodiscard]] Bytes read(std::size_t most) override;
+    [[nodiscard]] const Framing& framing() const override { return rtuFraming(); }
+    [[nodiscard]] QString description() const override { return "rtu:" + m_port.portName(); }
+    [[nodiscard]] int silence() const override { return m_silence; }
 
 private:
-    void transmit(const Request& request) override;
-    void drop() override;
-    [[nodiscard]] bool isConnected() const override { return m_client.state() == QModbusDevice::ConnectedState; }
-    void hear(const QModbusReply& reply);
-
-    QModbusRtuSerialClient m_client;
-    QString m_device;
-    QModbusReply* m_reply = nullptr;
-    std::uint8_t m_unit;
+    QSerialPort m_port;
+    int m_silence;
 };
 
 } // namespace zor::monitor

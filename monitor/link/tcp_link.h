@@ -1,35 +1,38 @@
 #pragma once
 
-/// Modbus TCP, framed here: no reply is taken that does not fit the request in every field.
+/// Modbus TCP on a plain socket.
 
 #include <zor/monitor/link/link.h>
 
-#include <QByteArray>
 #include <QTcpSocket>
 
 namespace zor::monitor {
 
-class TcpLink final : public Link {
+class TcpTransport final : public Transport {
 public:
-    TcpLink(QString host, quint16 port, std::uint8_t unit, int deadlineMilliseconds);
-    ~TcpLink() override;
+    TcpTransport(QString host, quint16 port);
+    ~TcpTransport() override;
 
+    void open() override;
+    void close() override { m_socket.abort(); }
+    [[nodiscard]] bool isOpen() const override { return m_socket.state() == QAbstractSocket::ConnectedState; }
+    void write(const Bytes& bytes) override;
+    [[nodiscard]] Bytes read(std::size_t most) override;
+    [[nodiscard]] const Framing& framing() const override { return tcpFraming(); }
     [[nodiscard]] QString description() const override;
 
 private:
-    void transmit(const Request& request) override;
-    void drop() override;
-    [[nodiscard]] bool isConnected() const override;
-    void write();
-    void receive();
-    void judge();
-
     QTcpSocket m_socket;
     QString m_host;
-    QByteArray m_received;
     quint16 m_port;
-    std::uint16_t m_transaction = 0;
-    std::uint8_t m_unit;
+};
+
+/// A link over TCP.
+class TcpLink final : public Link {
+public:
+    TcpLink(QString host, quint16 port, std::uint8_t unit, int deadlineMilliseconds)
+        : Link(std::make_unique<TcpTransport>(std::move(host), port), unit, deadlineMilliseconds)
+    {}
 };
 
 } // namespace zor::monitor

@@ -83,7 +83,8 @@ void Binding::applyFile()
         return;
     }
     setFlag(m_row.waiting, true);
-    putIfThere("RegisterType", static_cast<std::int32_t>(m_parameter->location.bank));
+    const REGISTER_TYPE kind = isReadOnly(m_parameter->location.bank) ? InputRegister : HoldingRegister;
+    putIfThere("RegisterType", static_cast<std::int32_t>(kind));
     if (!m_parameter->writable)
         putIfThere("ReadOnly", true);
     // Nothing is known of the device: a control that some devices do not have waits until there is one that has

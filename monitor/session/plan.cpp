@@ -6,14 +6,14 @@
 namespace zor::monitor {
 namespace {
 
-constexpr int kWidestGap = 8; ///< registers read for nothing are cheaper than another request
-
 int endOf(const Location& location) { return location.address + location.registers; }
 
 } // namespace
 
-std::vector<Batch> plan(std::span<const Parameter> parameters, std::vector<std::size_t> wanted, const Cuts& cuts)
+std::vector<Batch> plan(std::span<const Parameter> parameters, std::vector<std::size_t> wanted, const Cuts& cuts,
+                        const Requests& requests)
 {
+    constexpr int kBits = 16; // of a register: no more is transferred for nothing
     const auto place = [&](std::size_t i) {
         const Location& location = parameters[i].location;
         return std::tuple(location.bank, location.address, i);
@@ -28,9 +28,10 @@ std::vector<Batch> plan(std::span<const Parameter> parameters, std::vector<std::
             const auto cut = cuts.upper_bound({last->bank, last->first});
             return cut != cuts.end() && cut->first == last->bank && cut->second <= location.address;
         };
+        const bool bits = holdsBits(location.bank);
         if (last != nullptr && last->bank == location.bank &&
-            location.address - (last->first + last->count) <= kWidestGap &&
-            endOf(location) - last->first <= kMostReadRegisters && !cutBetween()) {
+            location.address - (last->first + last->count) <= requests.gap * (bits ? kBits : 1) &&
+            endOf(location) - last->first <= (bits ? requests.bits : requests.registers) && !cutBetween()) {
             last->count = std::max(last->count, endOf(location) - last->first);
             last->parameters.push_back(i);
         } else {

@@ -1,6 +1,7 @@
 #include <zor/monitor/session/poller.h>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace zor::monitor {
@@ -41,8 +42,10 @@ Poller::Poller(Link& link, const ParameterFile& file) : m_link(link), m_file(fil
 
 Request Poller::readRequest(const Location& location)
 {
-    return {location.bank == InputRegister ? Function::ReadInput : Function::ReadHolding, location.address,
-            location.registers};
+    // In the order of Bank.
+    constexpr std::array kFunctions{Function::ReadHolding, Function::ReadInput, Function::ReadCoils,
+                                    Function::ReadDiscrete};
+    return {kFunctions[static_cast<std::size_t>(location.bank)], location.address, location.registers};
 }
 
 void Poller::start(int periodMilliseconds)
@@ -68,6 +71,8 @@ void Poller::tick()
     // A device slower than the period is asked again only when it has answered.
     if (std::exchange(m_late, true))
         return;
+    for (const Batch& batch : m_asked)
+        tell(batch, {ReadOutcome::Late});
     for (const Batch& batch : m_todo)
         tell(batch, {ReadOutcome::Late});
 }
@@ -78,7 +83,7 @@ void Poller::begin()
         return;
     m_inRound = true;
     m_late = m_answered = m_again = false;
-    const std::vector<Batch> batches = plan(m_file.parameters, wanted(), m_cuts);
+    const std::vector<Batch> batches = plan(m_file.parameters, wanted(), m_cuts, m_file.requests);
     const auto isSilent = [&](const Batch& batch) {
         return std::ranges::any_of(batch.parameters, [&](std::size_t i) { return m_silent.contains(i); });
     };
@@ -94,16 +99,23 @@ void Poller::begin()
 
 void Poller::next()
 {
-    const Batch& batch = m_todo.front();
-    const Location location{batch.bank, static_cast<std::uint16_t>(batch.first),
-                            static_cast<std::uint16_t>(batch.count)};
-    m_link.send(readRequest(location), [this](const Reply& reply) { hear(reply); });
+    // Until something has answered, one at a time: see hear().
+    const std::size_t most = m_answered ? static_cast<std::size_t>(m_file.requests.underWay) : 1;
+    while (!m_todo.empty() && m_asked.size() < most) {
+        const auto asked = m_asked.insert(m_asked.end(), std::move(m_todo.front()));
+        m_todo.pop_front();
+        const Location location{asked->bank, static_cast<std::uint16_t>(asked->first),
+                                static_cast<std::uint16_t>(asked->count)};
+        m_link.send(readRequest(location), [this, asked](const Reply& reply) {
+            const Batch batch = std::move(*asked);
+            m_asked.erase(asked);
+            hear(batch, reply);
+        });
+    }
 }
 
-void Poller::hear(const Reply& reply)
+void Poller::hear(const Batch& batch, const Reply& reply)
 {
-    const Batch batch = std::move(m_todo.front());
-    m_todo.pop_front();
     const ReadOutcome outcome = outcomeOf(reply);
     const bool answered = outcome != ReadOutcome::NoAnswer;
     if (!answered)
@@ -127,7 +139,7 @@ void Poller::hear(const Reply& reply)
         for (const Batch& rest : std::exchange(m_todo, {}))
             tell(rest, {outcome, {}, reply.reason});
     }
-    if (m_todo.empty())
+    if (m_todo.empty() && m_asked.empty())
         end();
     else
         next();
@@ -149,7 +161,7 @@ void Poller::tell(const Batch& batch, const Reading& reading)
 void Poller::divide(const Batch& batch, const Cut& cut)
 {
     m_cuts.insert(cut);
-    const std::vector<Batch> parts = plan(m_file.parameters, batch.parameters, m_cuts);
+    const std::vector<Batch> parts = plan(m_file.parameters, batch.parameters, m_cuts, m_file.requests);
     m_todo.insert(m_todo.begin(), parts.begin(), parts.end());
 }
 

@@ -10,6 +10,7 @@
 
 #include <deque>
 #include <functional>
+#include <list>
 #include <optional>
 #include <span>
 #include <string>
@@ -68,7 +69,7 @@ private:
     void tick();
     void begin();
     void next();
-    void hear(const Reply& reply);
+    void hear(const Batch& batch, const Reply& reply);
     void tell(const Batch& batch, const Reading& reading);
     void divide(const Batch& batch, const Cut& cut);
     void end();
@@ -83,6 +84,7 @@ private:
     /// Parameters whose read timed out while others were answered; they come last, so that they hold up nobody.
     std::set<std::size_t> m_silent;
     std::deque<Batch> m_todo;
+    std::list<Batch> m_asked; ///< what has not been answered yet
     Reply m_failure;
     std::optional<std::pair<std::string, std::string>> m_identity;
     std::optional<unsigned> m_identifiedOn; ///< the connection

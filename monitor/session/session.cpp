@@ -11,6 +11,7 @@ Session::Session(std::unique_ptr<Link> link, ParameterFile file, Log* log)
       m_writer(*m_link, m_file), m_states(m_file.parameters.size()), m_shownBy(m_states.size())
 {
     m_clock.start();
+    m_link->setManners({m_file.requests.pause, m_file.requests.retries, m_file.requests.underWay});
     m_poller.wanted = [this] { return wanted(); };
     m_poller.onReading = [this](std::size_t parameter, const Reading& reading) { hear(parameter, reading); };
     m_poller.onRound = [this](bool answered) { hearRound(answered); };
@@ -233,6 +234,8 @@ void Session::hearIdentity(const std::string& type, const std::string& version)
         if (binding->isModified() && !binding->seen.empty())
             binding->tellOther(Registers(binding->seen));
     }
+    if (other)
+        m_writer.forgetDevice();
     for (State& state : m_states) {
         if (other) {
             state.written.clear();

@@ -1,3 +1,4 @@
+#include <zor/monitor/session/poller.h>
 #include <zor/monitor/session/writer.h>
 
 #include <algorithm>
@@ -35,19 +36,21 @@ void Writer::write(std::vector<Change> changes, std::optional<unsigned> connecti
 {
     m_connection = connection;
     std::ranges::stable_sort(changes, {}, [this](const Change& change) {
-        return m_file.parameters[change.parameter].location.address;
+        const Location& location = m_file.parameters[change.parameter].location;
+        return std::pair(location.bank, location.address);
     });
+    const int most = std::min(kMostWriteRegisters, m_file.requests.registers);
     for (Change& change : changes) {
         const Location& location = m_file.parameters[change.parameter].location;
         const bool bits = change.mask != 0;
         const int end = location.address + location.registers;
         const auto shares = [&](const Job& job) {
-            return job.bits && bits && location.address < job.first + job.count &&
-                   end - job.first <= kMostWriteRegisters;
+            return job.bits && bits && location.bank == job.bank && location.address < job.first + job.count &&
+                   end - job.first <= most;
         };
         const auto found = std::ranges::find_if(m_jobs, shares);
         if (found == m_jobs.end()) {
-            m_jobs.push_back({location.address, location.registers, bits, {}});
+            m_jobs.push_back({location.bank, location.address, location.registers, bits, {}});
             m_jobs.back().changes.push_back(std::move(change));
         } else {
             found->count = std::max(found->count, end - found->first);
@@ -59,8 +62,9 @@ void Writer::write(std::vector<Change> changes, std::optional<unsigned> connecti
 
 Request Writer::readRequest() const
 {
-    return {Function::ReadHolding, static_cast<std::uint16_t>(m_jobs.front().first),
-            static_cast<std::uint16_t>(m_jobs.front().count)};
+    const Job& job = m_jobs.front();
+    return Poller::readRequest(
+        {job.bank, static_cast<std::uint16_t>(job.first), static_cast<std::uint16_t>(job.count)});
 }
 
 void Writer::next()
@@ -112,25 +116,99 @@ void Writer::compare(const Registers& held)
     }
     if (!job.bits)
         return send(job.changes.front().target);
+    if (const auto masked = maskedRequest())
+        return sendMasked(*masked);
     Registers registers = held;
     for (const Change& change : job.changes) {
         const Location& location = m_file.parameters[change.parameter].location;
         const Registers merged = mergeBits(location, partOf(registers, change), change.mask, change.bits);
         std::ranges::copy(merged, registers.begin() + (location.address - job.first));
     }
-    send(std::move(registers));
+    send(registers);
 }
 
-void Writer::send(Registers registers)
+std::optional<Request> Writer::maskedRequest() const
 {
-    const auto address = static_cast<std::uint16_t>(m_jobs.front().first);
+    const Job& job = m_jobs.front();
+    if (!m_isMaskable || !m_file.requests.masked || holdsBits(job.bank))
+        return std::nullopt;
+    // By register of the job: what stays, and what is set.
+    Registers kept(static_cast<std::size_t>(job.count), UINT16_MAX);
+    Registers set(kept.size(), 0);
+    for (const Change& change : job.changes) {
+        const Location& location = m_file.parameters[change.parameter].location;
+        const Registers none(location.registers, 0);
+        const Registers mask = mergeBits(location, none, change.mask, change.mask);
+        const Registers bits = mergeBits(location, none, change.mask, change.bits);
+        for (std::size_t i = 0; i < mask.size(); ++i) {
+            const auto at = static_cast<std::size_t>(location.address - job.first) + i;
+            kept[at] = static_cast<std::uint16_t>(kept[at] & ~mask[i]);
+            set[at] |= bits[i];
+        }
+    }
+    const auto touches = [](std::uint16_t word) { return word != UINT16_MAX; };
+    if (std::ranges::count_if(kept, touches) != 1)
+        return std::nullopt;
+    const auto at = std::ranges::find_if(kept, touches) - kept.begin();
+    return Request{Function::MaskWrite,
+                   static_cast<std::uint16_t>(job.first + at),
+                   1,
+                   {kept[static_cast<std::size_t>(at)], set[static_cast<std::size_t>(at)]}};
+}
+
+void Writer::sendMasked(const Request& request)
+{
+    constexpr std::uint8_t kUnknownFunction = 1;
     const auto hear = [this](const Reply& reply) {
-        const WriteResult result = resultOf(reply);
-        if (result.outcome == WriteOutcome::Refused || result.outcome == WriteOutcome::NotSent)
-            return finish(result, {});
-        readBack(result);
+        const bool unknown = reply.exception == kUnknownFunction;
+        // Some devices leave what they do not know without an answer.
+        if (unknown || reply.outcome == Outcome::NoAnswer)
+            m_isMaskable = false;
+        if (unknown)
+            return readFirst();
+        hearWrite(reply);
     };
-    m_link.send(writeRequest(address, std::move(registers)), hear, m_connection);
+    m_link.send(request, hear, m_connection);
+}
+
+void Writer::send(const Registers& registers)
+{
+    const Job& job = m_jobs.front();
+    const auto address = static_cast<std::uint16_t>(job.first);
+    const bool coils = holdsBits(job.bank);
+    m_parts.clear();
+    if (m_file.requests.write != WriteWith::Single) {
+        m_parts.push_back(writeRequest(address, registers, coils, m_file.requests.write == WriteWith::Multiple));
+    } else {
+        for (std::size_t i = 0; i < registers.size(); ++i)
+            m_parts.push_back(writeRequest(static_cast<std::uint16_t>(address + i), {registers[i]}, coils));
+    }
+    sendParts();
+}
+
+void Writer::sendParts()
+{
+    Request part = std::move(m_parts.front());
+    m_parts.pop_front();
+    const auto hear = [this](const Reply& reply) {
+        if (reply.outcome != Outcome::Answered || m_parts.empty())
+            return hearWrite(reply);
+        m_isBegun = true;
+        sendParts();
+    };
+    m_link.send(std::move(part), hear, m_connection);
+}
+
+void Writer::hearWrite(const Reply& reply)
+{
+    WriteResult result = resultOf(reply);
+    const bool unchanged = result.outcome == WriteOutcome::Refused || result.outcome == WriteOutcome::NotSent;
+    if (unchanged && !m_isBegun)
+        return finish(result, {});
+    // A part of the registers holds the new value already.
+    if (unchanged)
+        result.outcome = WriteOutcome::Differs;
+    readBack(result);
 }
 
 void Writer::readBack(const WriteResult& written)
@@ -162,6 +240,7 @@ void Writer::finish(const WriteResult& result, const Registers& registers)
         onResult(change, own);
     }
     m_jobs.pop_front();
+    m_isBegun = false;
     next();
 }
 

@@ -32,9 +32,9 @@ struct WriteResult {
     std::string reason{};
 };
 
-/// Each change is written only when the device still holds what was reviewed as the old value. Changes of bits
-/// that share registers are merged into what was read for that, and written together, so that no other bit is
-/// touched.
+/// Each change is written only when the device still holds what was reviewed as the old value. Bits of one
+/// register are written with a mask in the device. Where it does not have that, and where they lie in several
+/// registers, they are merged into what was read for that, and written together, so that no other bit is touched.
 class Writer : public QObject {
 public:
     Writer(Link& link, const ParameterFile& file) : m_link(link), m_file(file) {}
@@ -47,10 +47,13 @@ public:
     void write(std::vector<Change> changes, std::optional<unsigned> connection = std::nullopt);
     [[nodiscard]] bool isWriting() const { return !m_jobs.empty(); }
     [[nodiscard]] bool isWriting(std::size_t parameter) const;
+    /// What has been learned of the device is not true of another.
+    void forgetDevice() { m_isMaskable = true; }
 
 private:
     /// Registers written in one request, and the changes that this brings about.
     struct Job {
+        Bank bank;
         int first;
         int count;
         bool bits;
@@ -61,7 +64,11 @@ private:
     void readFirst();
     void compare(const Registers& held);
     [[nodiscard]] Registers partOf(const Registers& registers, const Change& change) const;
-    void send(Registers registers);
+    [[nodiscard]] std::optional<Request> maskedRequest() const;
+    void sendMasked(const Request& request);
+    void send(const Registers& registers);
+    void sendParts();
+    void hearWrite(const Reply& reply);
     void readBack(const WriteResult& written);
     void finish(const WriteResult& result, const Registers& registers);
     [[nodiscard]] Request readRequest() const;
@@ -69,6 +76,9 @@ private:
     Link& m_link;
     const ParameterFile& m_file;
     std::deque<Job> m_jobs;
+    std::deque<Request> m_parts; ///< of the job under way, that are still to be sent
+    bool m_isBegun = false;      ///< a part has been carried out
+    bool m_isMaskable = true;    ///< as far as is known of the device
     std::optional<unsigned> m_connection;
 };
 

@@ -131,8 +131,11 @@ bool survey(Session& session, std::vector<std::size_t> parameters)
 
 int noAnswer(Session& session, std::ostream& errors, int status)
 {
-    const std::string& reason = session.poller().failure().reason;
-    errors << "zor-monitor: the device did not answer" << (reason.empty() ? "" : ": ") << reason << '\n';
+    const Reply& failure = session.poller().failure();
+    errors << "zor-monitor: the device did not answer" << (failure.reason.empty() ? "" : ": ") << failure.reason
+           << '\n';
+    if (const std::string_view advice = adviceOn(failure.fault, failure.exception); !advice.empty())
+        errors << advice << '\n';
     return status;
 }
 

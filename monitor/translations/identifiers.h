@@ -18,34 +18,6 @@ const char* const kMessages[] = {
     QT_TRANSLATE_NOOP("messages", "MsgInvalidEntryForText"),
 };
 
-// Why a request was not answered, as the link says it.
-const char* const kReasons[] = {
-    QT_TRANSLATE_NOOP("reasons", "no complete answer in time"),
-    QT_TRANSLATE_NOOP("reasons", "the connection was refused"),
-    QT_TRANSLATE_NOOP("reasons", "the device closed the connection"),
-    QT_TRANSLATE_NOOP("reasons", "there is no such host"),
-    QT_TRANSLATE_NOOP("reasons", "the network does not reach the device"),
-    QT_TRANSLATE_NOOP("reasons", "a reply to another transaction"),
-    QT_TRANSLATE_NOOP("reasons", "a reply in another protocol"),
-    QT_TRANSLATE_NOOP("reasons", "a reply of an impossible length"),
-    QT_TRANSLATE_NOOP("reasons", "a reply from another unit"),
-    QT_TRANSLATE_NOOP("reasons", "more bytes than the reply has"),
-    QT_TRANSLATE_NOOP("reasons", "a reply of another length than was asked for"),
-    QT_TRANSLATE_NOOP("reasons", "an empty reply"),
-    QT_TRANSLATE_NOOP("reasons", "an exception of the wrong length"),
-    QT_TRANSLATE_NOOP("reasons", "a reply to another function"),
-    QT_TRANSLATE_NOOP("reasons", "a reply to another write"),
-    QT_TRANSLATE_NOOP("reasons", "the device does not know this function"),
-    QT_TRANSLATE_NOOP("reasons", "the device does not have this address"),
-    QT_TRANSLATE_NOOP("reasons", "the device does not take this value"),
-    QT_TRANSLATE_NOOP("reasons", "the device has failed"),
-    QT_TRANSLATE_NOOP("reasons", "the device is still working on it"),
-    QT_TRANSLATE_NOOP("reasons", "the device is busy"),
-    QT_TRANSLATE_NOOP("reasons", "the device's memory is damaged"),
-    QT_TRANSLATE_NOOP("reasons", "the gateway has no path to the device"),
-    QT_TRANSLATE_NOOP("reasons", "the device behind the gateway does not answer"),
-};
-
 // Kinds of unit, by their words in the unit catalogue.
 const char* const kUnitTypes[] = {
     QT_TRANSLATE_NOOP("units", "Length"),      QT_TRANSLATE_NOOP("units", "Velocity"),

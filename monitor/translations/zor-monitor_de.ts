@@ -32,6 +32,131 @@
     </message>
 </context>
 <context>
+    <name>FramesDock</name>
+    <message>
+        <source>Frames</source>
+        <translation>Telegramme</translation>
+    </message>
+    <message>
+        <source>Filter: message, unit or bytes</source>
+        <translation>Filter: Telegramm, Gerät oder Bytes</translation>
+    </message>
+    <message>
+        <source>All frames</source>
+        <translation>Alle Telegramme</translation>
+    </message>
+    <message>
+        <source>Only failures</source>
+        <translation>Nur Fehler</translation>
+    </message>
+    <message>
+        <source>Only writes</source>
+        <translation>Nur Schreiben</translation>
+    </message>
+    <message>
+        <source>What is shown</source>
+        <translation>Was gezeigt wird</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Anhalten</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ear</source>
+        <translation>&amp;Leeren</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve...</source>
+        <translation>&amp;Sichern ...</translation>
+    </message>
+    <message>
+        <source>Fields of the frame</source>
+        <translation>Felder des Telegramms</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>No failure so far.</source>
+        <translation>Bisher kein Fehler.</translation>
+    </message>
+    <message>
+        <source>Last failure: %1. %2</source>
+        <translation>Letzter Fehler: %1. %2</translation>
+    </message>
+    <message>
+        <source>Save frames</source>
+        <translation>Telegramme sichern</translation>
+    </message>
+    <message>
+        <source>Text files (*.txt)</source>
+        <translation>Textdateien (*.txt)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frame(s) saved</source>
+        <translation>
+            <numerusform>%n Telegramm gesichert</numerusform>
+            <numerusform>%n Telegramme gesichert</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FramesModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Telegramm</translation>
+    </message>
+    <message>
+        <source>Round trip</source>
+        <translation>Laufzeit</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>request</source>
+        <translation>Anfrage</translation>
+    </message>
+    <message>
+        <source>reply</source>
+        <translation>Antwort</translation>
+    </message>
+    <message>
+        <source>remark</source>
+        <translation>Bemerkung</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
     <name>GeneratedForm</name>
     <message>
         <source>General</source>
@@ -625,6 +750,252 @@
     </message>
 </context>
 <context>
+    <name>advice</name>
+    <message>
+        <source>What answers does not keep to the protocol, or two programs talk on the same line; see the bytes in the frames.</source>
+        <translation>Was antwortet, hält sich nicht an das Protokoll, oder zwei Programme sprechen auf derselben Leitung; die Bytes stehen in den Telegrammen.</translation>
+    </message>
+    <message>
+        <source>Check baud rate, parity and stop bits, the termination of the line, and that nobody else is sending on it.</source>
+        <translation>Baudrate, Parität und Stoppbits prüfen, den Abschluss der Leitung, und dass sonst niemand auf ihr sendet.</translation>
+    </message>
+    <message>
+        <source>Wait a little; if it stays so, restart the device.</source>
+        <translation>Etwas warten; bleibt es so, das Gerät neu starten.</translation>
+    </message>
+    <message>
+        <source>The operating system says why; check cable, adapter and address.</source>
+        <translation>Das Betriebssystem sagt, warum; Kabel, Adapter und Adresse prüfen.</translation>
+    </message>
+    <message>
+        <source>The host is there, but nothing listens on this port. Check the port (usually 502), that Modbus TCP is switched on in the device, and that it has a connection to spare.</source>
+        <translation>Den Rechner gibt es, aber niemand hört auf diesem Port. Den Port prüfen (üblich 502), dass Modbus TCP im Gerät eingeschaltet ist und dass es noch eine Verbindung frei hat.</translation>
+    </message>
+    <message>
+        <source>The device may allow too few connections at a time, or only certain addresses. End other programs that are connected to it.</source>
+        <translation>Das Gerät lässt vielleicht zu wenige Verbindungen gleichzeitig zu oder nur bestimmte Adressen. Andere Programme beenden, die mit ihm verbunden sind.</translation>
+    </message>
+    <message>
+        <source>Check the spelling of the name, or write the address in numbers.</source>
+        <translation>Die Schreibweise des Namens prüfen oder die Adresse in Zahlen angeben.</translation>
+    </message>
+    <message>
+        <source>Check cable and link lamp, the address and mask of this computer, and the way (gateway) to the device's network.</source>
+        <translation>Kabel und Verbindungslampe prüfen, Adresse und Maske dieses Rechners und den Weg (Gateway) ins Netz des Geräts.</translation>
+    </message>
+    <message>
+        <source>Check that the device is switched on, its address and cable, and that no firewall stands between. A slow network needs a longer timeout.</source>
+        <translation>Prüfen, dass das Gerät eingeschaltet ist, seine Adresse und sein Kabel, und dass keine Firewall dazwischen steht. Ein langsames Netz braucht eine längere Wartezeit.</translation>
+    </message>
+    <message>
+        <source>Check that the adapter is plugged in, and the name of the port.</source>
+        <translation>Prüfen, dass der Adapter steckt, und den Namen der Schnittstelle.</translation>
+    </message>
+    <message>
+        <source>End the program that has the port open; on Linux the user must be in the port's group, usually dialout.</source>
+        <translation>Das Programm beenden, das die Schnittstelle offen hat; unter Linux muss der Benutzer in ihrer Gruppe sein, üblich dialout.</translation>
+    </message>
+    <message>
+        <source>Check that the adapter is plugged in.</source>
+        <translation>Prüfen, dass der Adapter steckt.</translation>
+    </message>
+    <message>
+        <source>Connected, but nothing came back. Check the unit number; behind a gateway also the wiring, baud rate and parity of its line. A slow device needs a longer timeout.</source>
+        <translation>Verbunden, aber es kam nichts zurück. Die Gerätenummer (unit) prüfen; hinter einem Gateway auch Verdrahtung, Baudrate und Parität seiner Leitung. Ein langsames Gerät braucht eine längere Wartezeit.</translation>
+    </message>
+    <message>
+        <source>Check the unit number, baud rate, parity and stop bits, the wiring (A and B may be exchanged) and that the device is switched on. A slow device needs a longer timeout.</source>
+        <translation>Gerätenummer (unit), Baudrate, Parität und Stoppbits prüfen, die Verdrahtung (A und B vielleicht vertauscht) und dass das Gerät eingeschaltet ist. Ein langsames Gerät braucht eine längere Wartezeit.</translation>
+    </message>
+    <message>
+        <source>It is connected anew with the next request.</source>
+        <translation>Mit der nächsten Anfrage wird neu verbunden.</translation>
+    </message>
+    <message>
+        <source>What listens on this port is not Modbus TCP; check the port.</source>
+        <translation>Was auf diesem Port hört, spricht nicht Modbus TCP; den Port prüfen.</translation>
+    </message>
+    <message>
+        <source>Check the unit number; on a serial line also baud rate and parity, and that no two devices have the same number.</source>
+        <translation>Die Gerätenummer (unit) prüfen; auf einer seriellen Leitung auch Baudrate und Parität, und dass keine zwei Geräte dieselbe Nummer haben.</translation>
+    </message>
+    <message>
+        <source>Check the bank in the parameter file, and whether the device writes single registers or several.</source>
+        <translation>In der Parameterdatei die Bank prüfen, und ob das Gerät einzelne Register schreibt oder mehrere.</translation>
+    </message>
+    <message>
+        <source>Check bank and address in the parameter file: manuals often count from 1, 40001 or 30001. The device may also take fewer registers in a request, or no gaps between them.</source>
+        <translation>In der Parameterdatei Bank und Adresse prüfen: Handbücher zählen oft ab 1, 40001 oder 30001. Vielleicht nimmt das Gerät auch weniger Register je Anfrage oder keine Lücken dazwischen.</translation>
+    </message>
+    <message>
+        <source>Check the limits of the parameter in the device's manual.</source>
+        <translation>Die Grenzen des Parameters im Handbuch des Geräts prüfen.</translation>
+    </message>
+    <message>
+        <source>The device needs repair.</source>
+        <translation>Das Gerät muss repariert werden.</translation>
+    </message>
+    <message>
+        <source>Check the unit number and the gateway's table of units and lines.</source>
+        <translation>Die Gerätenummer (unit) prüfen und die Tabelle der Geräte und Leitungen im Gateway.</translation>
+    </message>
+    <message>
+        <source>The gateway is there, the device is not. Check the unit number, that the device is switched on, and the wiring, baud rate and parity of the gateway's line.</source>
+        <translation>Das Gateway ist da, das Gerät nicht. Gerätenummer (unit) prüfen, dass das Gerät eingeschaltet ist, und Verdrahtung, Baudrate und Parität der Leitung des Gateways.</translation>
+    </message>
+</context>
+<context>
+    <name>frames</name>
+    <message>
+        <source>address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>count</source>
+        <translation>Anzahl</translation>
+    </message>
+    <message>
+        <source>value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>bits kept</source>
+        <translation>behaltene Bits</translation>
+    </message>
+    <message>
+        <source>bits set</source>
+        <translation>gesetzte Bits</translation>
+    </message>
+    <message>
+        <source>byte count</source>
+        <translation>Anzahl Bytes</translation>
+    </message>
+    <message>
+        <source>coil</source>
+        <translation>Bit</translation>
+    </message>
+    <message>
+        <source>register</source>
+        <translation>Register</translation>
+    </message>
+    <message>
+        <source>kind of request</source>
+        <translation>Art der Anfrage</translation>
+    </message>
+    <message>
+        <source>part</source>
+        <translation>Teil</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>conformity</source>
+        <translation>Konformität</translation>
+    </message>
+    <message>
+        <source>more follows</source>
+        <translation>Fortsetzung</translation>
+    </message>
+    <message>
+        <source>read coils</source>
+        <translation>Coils lesen</translation>
+    </message>
+    <message>
+        <source>read discrete inputs</source>
+        <translation>diskrete Eingänge lesen</translation>
+    </message>
+    <message>
+        <source>read holding registers</source>
+        <translation>Holding-Register lesen</translation>
+    </message>
+    <message>
+        <source>read input registers</source>
+        <translation>Input-Register lesen</translation>
+    </message>
+    <message>
+        <source>write a coil</source>
+        <translation>ein Coil schreiben</translation>
+    </message>
+    <message>
+        <source>write a register</source>
+        <translation>ein Register schreiben</translation>
+    </message>
+    <message>
+        <source>write coils</source>
+        <translation>Coils schreiben</translation>
+    </message>
+    <message>
+        <source>write registers</source>
+        <translation>Register schreiben</translation>
+    </message>
+    <message>
+        <source>masked write of a register</source>
+        <translation>ein Register mit Maske schreiben</translation>
+    </message>
+    <message>
+        <source>device identification</source>
+        <translation>Geräteidentifikation</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>function</source>
+        <translation>Funktion</translation>
+    </message>
+    <message>
+        <source>exception</source>
+        <translation>Ausnahme</translation>
+    </message>
+    <message>
+        <source>left over</source>
+        <translation>übrig</translation>
+    </message>
+    <message>
+        <source>unit</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>transaction</source>
+        <translation>Transaktion</translation>
+    </message>
+    <message>
+        <source>protocol</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>neither on nor off</source>
+        <translation>weder ein noch aus</translation>
+    </message>
+    <message>
+        <source>checksum</source>
+        <translation>Prüfsumme</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>richtig</translation>
+    </message>
+    <message>
+        <source>wrong</source>
+        <translation>falsch</translation>
+    </message>
+</context>
+<context>
     <name>messages</name>
     <message>
         <source>MSG_CFAIL</source>
@@ -798,6 +1169,34 @@
     <message>
         <source>the device behind the gateway does not answer</source>
         <translation>das Gerät hinter dem Gateway antwortet nicht</translation>
+    </message>
+    <message>
+        <source>the host does not answer</source>
+        <translation>der Rechner antwortet nicht</translation>
+    </message>
+    <message>
+        <source>there is no such serial port</source>
+        <translation>diese serielle Schnittstelle gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the serial port cannot be opened</source>
+        <translation>die serielle Schnittstelle lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>the serial port is gone</source>
+        <translation>die serielle Schnittstelle ist verschwunden</translation>
+    </message>
+    <message>
+        <source>the connection was lost</source>
+        <translation>die Verbindung ging verloren</translation>
+    </message>
+    <message>
+        <source>a wrong checksum</source>
+        <translation>eine falsche Prüfsumme</translation>
+    </message>
+    <message>
+        <source>bytes that nobody asked for</source>
+        <translation>Bytes, um die niemand gebeten hat</translation>
     </message>
 </context>
 <context>

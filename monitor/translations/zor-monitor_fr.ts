@@ -32,6 +32,131 @@
     </message>
 </context>
 <context>
+    <name>FramesDock</name>
+    <message>
+        <source>Frames</source>
+        <translation>Trames</translation>
+    </message>
+    <message>
+        <source>Filter: message, unit or bytes</source>
+        <translation>Filtre : message, esclave ou octets</translation>
+    </message>
+    <message>
+        <source>All frames</source>
+        <translation>Toutes les trames</translation>
+    </message>
+    <message>
+        <source>Only failures</source>
+        <translation>Échecs seulement</translation>
+    </message>
+    <message>
+        <source>Only writes</source>
+        <translation>Écritures seulement</translation>
+    </message>
+    <message>
+        <source>What is shown</source>
+        <translation>Ce qui est montré</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pause</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ear</source>
+        <translation>&amp;Vider</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve...</source>
+        <translation>Enre&amp;gistrer...</translation>
+    </message>
+    <message>
+        <source>Fields of the frame</source>
+        <translation>Champs de la trame</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Champ</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Octets</translation>
+    </message>
+    <message>
+        <source>No failure so far.</source>
+        <translation>Aucun échec jusqu'ici.</translation>
+    </message>
+    <message>
+        <source>Last failure: %1. %2</source>
+        <translation>Dernier échec : %1. %2</translation>
+    </message>
+    <message>
+        <source>Save frames</source>
+        <translation>Enregistrer les trames</translation>
+    </message>
+    <message>
+        <source>Text files (*.txt)</source>
+        <translation>Fichiers texte (*.txt)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frame(s) saved</source>
+        <translation>
+            <numerusform>%n trame enregistrée</numerusform>
+            <numerusform>%n trames enregistrées</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FramesModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Sens</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Esclave</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Message</translation>
+    </message>
+    <message>
+        <source>Round trip</source>
+        <translation>Aller-retour</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Octets</translation>
+    </message>
+    <message>
+        <source>request</source>
+        <translation>requête</translation>
+    </message>
+    <message>
+        <source>reply</source>
+        <translation>réponse</translation>
+    </message>
+    <message>
+        <source>remark</source>
+        <translation>remarque</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
     <name>GeneratedForm</name>
     <message>
         <source>General</source>
@@ -625,6 +750,252 @@
     </message>
 </context>
 <context>
+    <name>advice</name>
+    <message>
+        <source>What answers does not keep to the protocol, or two programs talk on the same line; see the bytes in the frames.</source>
+        <translation>Ce qui répond ne respecte pas le protocole, ou deux programmes parlent sur la même ligne ; voir les octets dans les trames.</translation>
+    </message>
+    <message>
+        <source>Check baud rate, parity and stop bits, the termination of the line, and that nobody else is sending on it.</source>
+        <translation>Vérifier la vitesse, la parité et les bits d'arrêt, la terminaison de la ligne, et que personne d'autre n'y émet.</translation>
+    </message>
+    <message>
+        <source>Wait a little; if it stays so, restart the device.</source>
+        <translation>Attendre un peu ; si cela persiste, redémarrer l'appareil.</translation>
+    </message>
+    <message>
+        <source>The operating system says why; check cable, adapter and address.</source>
+        <translation>Le système d'exploitation dit pourquoi ; vérifier câble, adaptateur et adresse.</translation>
+    </message>
+    <message>
+        <source>The host is there, but nothing listens on this port. Check the port (usually 502), that Modbus TCP is switched on in the device, and that it has a connection to spare.</source>
+        <translation>L'hôte est là, mais rien n'écoute sur ce port. Vérifier le port (502 d'habitude), que Modbus TCP est activé dans l'appareil et qu'il a encore une connexion libre.</translation>
+    </message>
+    <message>
+        <source>The device may allow too few connections at a time, or only certain addresses. End other programs that are connected to it.</source>
+        <translation>L'appareil admet peut-être trop peu de connexions à la fois, ou seulement certaines adresses. Fermer les autres programmes qui y sont connectés.</translation>
+    </message>
+    <message>
+        <source>Check the spelling of the name, or write the address in numbers.</source>
+        <translation>Vérifier l'orthographe du nom, ou donner l'adresse en chiffres.</translation>
+    </message>
+    <message>
+        <source>Check cable and link lamp, the address and mask of this computer, and the way (gateway) to the device's network.</source>
+        <translation>Vérifier le câble et le voyant de liaison, l'adresse et le masque de cet ordinateur, et le chemin (passerelle) vers le réseau de l'appareil.</translation>
+    </message>
+    <message>
+        <source>Check that the device is switched on, its address and cable, and that no firewall stands between. A slow network needs a longer timeout.</source>
+        <translation>Vérifier que l'appareil est sous tension, son adresse et son câble, et qu'aucun pare-feu ne s'interpose. Un réseau lent demande un délai plus long.</translation>
+    </message>
+    <message>
+        <source>Check that the adapter is plugged in, and the name of the port.</source>
+        <translation>Vérifier que l'adaptateur est branché, et le nom du port.</translation>
+    </message>
+    <message>
+        <source>End the program that has the port open; on Linux the user must be in the port's group, usually dialout.</source>
+        <translation>Fermer le programme qui tient le port ouvert ; sous Linux l'utilisateur doit être dans le groupe du port, dialout d'habitude.</translation>
+    </message>
+    <message>
+        <source>Check that the adapter is plugged in.</source>
+        <translation>Vérifier que l'adaptateur est branché.</translation>
+    </message>
+    <message>
+        <source>Connected, but nothing came back. Check the unit number; behind a gateway also the wiring, baud rate and parity of its line. A slow device needs a longer timeout.</source>
+        <translation>Connecté, mais rien n'est revenu. Vérifier le numéro d'esclave (unit) ; derrière une passerelle aussi le câblage, la vitesse et la parité de sa ligne. Un appareil lent demande un délai plus long.</translation>
+    </message>
+    <message>
+        <source>Check the unit number, baud rate, parity and stop bits, the wiring (A and B may be exchanged) and that the device is switched on. A slow device needs a longer timeout.</source>
+        <translation>Vérifier le numéro d'esclave (unit), la vitesse, la parité et les bits d'arrêt, le câblage (A et B peut-être inversés) et que l'appareil est sous tension. Un appareil lent demande un délai plus long.</translation>
+    </message>
+    <message>
+        <source>It is connected anew with the next request.</source>
+        <translation>La connexion est refaite à la requête suivante.</translation>
+    </message>
+    <message>
+        <source>What listens on this port is not Modbus TCP; check the port.</source>
+        <translation>Ce qui écoute sur ce port n'est pas Modbus TCP ; vérifier le port.</translation>
+    </message>
+    <message>
+        <source>Check the unit number; on a serial line also baud rate and parity, and that no two devices have the same number.</source>
+        <translation>Vérifier le numéro d'esclave (unit) ; sur une ligne série aussi la vitesse et la parité, et que deux appareils n'ont pas le même numéro.</translation>
+    </message>
+    <message>
+        <source>Check the bank in the parameter file, and whether the device writes single registers or several.</source>
+        <translation>Vérifier la banque dans le fichier de paramètres, et si l'appareil écrit les registres un par un ou plusieurs à la fois.</translation>
+    </message>
+    <message>
+        <source>Check bank and address in the parameter file: manuals often count from 1, 40001 or 30001. The device may also take fewer registers in a request, or no gaps between them.</source>
+        <translation>Vérifier banque et adresse dans le fichier de paramètres : les manuels comptent souvent à partir de 1, 40001 ou 30001. L'appareil accepte peut-être aussi moins de registres par requête, ou pas de trous entre eux.</translation>
+    </message>
+    <message>
+        <source>Check the limits of the parameter in the device's manual.</source>
+        <translation>Vérifier les limites du paramètre dans le manuel de l'appareil.</translation>
+    </message>
+    <message>
+        <source>The device needs repair.</source>
+        <translation>L'appareil doit être réparé.</translation>
+    </message>
+    <message>
+        <source>Check the unit number and the gateway's table of units and lines.</source>
+        <translation>Vérifier le numéro d'esclave (unit) et la table des esclaves et des lignes de la passerelle.</translation>
+    </message>
+    <message>
+        <source>The gateway is there, the device is not. Check the unit number, that the device is switched on, and the wiring, baud rate and parity of the gateway's line.</source>
+        <translation>La passerelle est là, pas l'appareil. Vérifier le numéro d'esclave (unit), que l'appareil est sous tension, et le câblage, la vitesse et la parité de la ligne de la passerelle.</translation>
+    </message>
+</context>
+<context>
+    <name>frames</name>
+    <message>
+        <source>address</source>
+        <translation>adresse</translation>
+    </message>
+    <message>
+        <source>count</source>
+        <translation>nombre</translation>
+    </message>
+    <message>
+        <source>value</source>
+        <translation>valeur</translation>
+    </message>
+    <message>
+        <source>bits kept</source>
+        <translation>bits gardés</translation>
+    </message>
+    <message>
+        <source>bits set</source>
+        <translation>bits mis à un</translation>
+    </message>
+    <message>
+        <source>byte count</source>
+        <translation>nombre d'octets</translation>
+    </message>
+    <message>
+        <source>coil</source>
+        <translation>bit</translation>
+    </message>
+    <message>
+        <source>register</source>
+        <translation>registre</translation>
+    </message>
+    <message>
+        <source>kind of request</source>
+        <translation>type de requête</translation>
+    </message>
+    <message>
+        <source>part</source>
+        <translation>partie</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>texte</translation>
+    </message>
+    <message>
+        <source>conformity</source>
+        <translation>conformité</translation>
+    </message>
+    <message>
+        <source>more follows</source>
+        <translation>suite</translation>
+    </message>
+    <message>
+        <source>read coils</source>
+        <translation>lire des bobines</translation>
+    </message>
+    <message>
+        <source>read discrete inputs</source>
+        <translation>lire des entrées TOR</translation>
+    </message>
+    <message>
+        <source>read holding registers</source>
+        <translation>lire des registres de maintien</translation>
+    </message>
+    <message>
+        <source>read input registers</source>
+        <translation>lire des registres d'entrée</translation>
+    </message>
+    <message>
+        <source>write a coil</source>
+        <translation>écrire une bobine</translation>
+    </message>
+    <message>
+        <source>write a register</source>
+        <translation>écrire un registre</translation>
+    </message>
+    <message>
+        <source>write coils</source>
+        <translation>écrire des bobines</translation>
+    </message>
+    <message>
+        <source>write registers</source>
+        <translation>écrire des registres</translation>
+    </message>
+    <message>
+        <source>masked write of a register</source>
+        <translation>écrire un registre avec masque</translation>
+    </message>
+    <message>
+        <source>device identification</source>
+        <translation>identification de l'appareil</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>inconnue</translation>
+    </message>
+    <message>
+        <source>function</source>
+        <translation>fonction</translation>
+    </message>
+    <message>
+        <source>exception</source>
+        <translation>exception</translation>
+    </message>
+    <message>
+        <source>left over</source>
+        <translation>en trop</translation>
+    </message>
+    <message>
+        <source>unit</source>
+        <translation>esclave</translation>
+    </message>
+    <message>
+        <source>transaction</source>
+        <translation>transaction</translation>
+    </message>
+    <message>
+        <source>protocol</source>
+        <translation>protocole</translation>
+    </message>
+    <message>
+        <source>length</source>
+        <translation>longueur</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>arrêt</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>marche</translation>
+    </message>
+    <message>
+        <source>neither on nor off</source>
+        <translation>ni marche ni arrêt</translation>
+    </message>
+    <message>
+        <source>checksum</source>
+        <translation>somme de contrôle</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>correcte</translation>
+    </message>
+    <message>
+        <source>wrong</source>
+        <translation>incorrecte</translation>
+    </message>
+</context>
+<context>
     <name>messages</name>
     <message>
         <source>MSG_CFAIL</source>
@@ -798,6 +1169,34 @@
     <message>
         <source>the device behind the gateway does not answer</source>
         <translation>l&apos;appareil derrière la passerelle ne répond pas</translation>
+    </message>
+    <message>
+        <source>the host does not answer</source>
+        <translation>l'hôte ne répond pas</translation>
+    </message>
+    <message>
+        <source>there is no such serial port</source>
+        <translation>ce port série n'existe pas</translation>
+    </message>
+    <message>
+        <source>the serial port cannot be opened</source>
+        <translation>le port série ne peut pas être ouvert</translation>
+    </message>
+    <message>
+        <source>the serial port is gone</source>
+        <translation>le port série a disparu</translation>
+    </message>
+    <message>
+        <source>the connection was lost</source>
+        <translation>la connexion a été perdue</translation>
+    </message>
+    <message>
+        <source>a wrong checksum</source>
+        <translation>une somme de contrôle incorrecte</translation>
+    </message>
+    <message>
+        <source>bytes that nobody asked for</source>
+        <translation>des octets que personne n'a demandés</translation>
     </message>
 </context>
 <context>

@@ -13,7 +13,8 @@ public:
         setTextFormat(Qt::PlainText);
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     }
-    void show(const QString& text);
+    /// `more` stands below it in the tooltip.
+    void show(const QString& text, const QString& more = {});
 
 protected:
     void paintEvent(QPaintEvent* event) override;

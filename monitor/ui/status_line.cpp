@@ -14,12 +14,13 @@ constexpr int kMessageMilliseconds = 8000;
 
 } // namespace
 
-void ElidedLabel::show(const QString& text)
+void ElidedLabel::show(const QString& text, const QString& more)
 {
     if (text == this->text())
         return;
     setText(text);
-    setToolTip("<span>" + text.toHtmlEscaped() + "</span>");
+    const QString below = more.isEmpty() ? QString() : "<br>" + more.toHtmlEscaped();
+    setToolTip("<span>" + text.toHtmlEscaped() + below + "</span>");
 }
 
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/)
@@ -55,7 +56,9 @@ void StatusLine::showRound(bool answered)
     font.setBold(!answered || !record.isEmpty());
     m_state->setFont(font);
     const QString state = connection(answered);
-    m_state->show(record.isEmpty() ? state : tr("The record cannot be written: %1").arg(record) + "  |  " + state);
+    const bool failed = !answered && m_session->poller().rounds() > 0;
+    m_state->show(record.isEmpty() ? state : tr("The record cannot be written: %1").arg(record) + "  |  " + state,
+                  failed ? Words::advice(m_session->poller().failure()) : QString());
     // Who does not answer has no speed, and the reason needs the room.
     m_traffic->setVisible(answered);
     showTraffic();

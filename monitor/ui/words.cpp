@@ -79,6 +79,12 @@ QString Words::reason(const Reply& reply)
     return meaning.empty() ? text : text + ": " + translated(meaning);
 }
 
+QString Words::advice(const Reply& reply)
+{
+    const std::string advice(adviceOn(reply.fault, reply.exception));
+    return advice.empty() ? QString() : QCoreApplication::translate("advice", advice.c_str());
+}
+
 QString Words::unit(MEAS_TYPE unit)
 {
     const std::string identifier(fc_GetUnitID(unit));

@@ -46,6 +46,17 @@ TEST(ParameterFile, SaysWhatIsWrongAndWhere)
         {one(R"("type": "text", "registers": 124)"), "f:4: a whole number from 1 to 123"},
         {one(R"("type": "uint16", "registers": 2)"), "f:4: only a text has a number of registers"},
         {one(R"("type": "bit")"), "f:3: \"bit\" is missing"},
+        {R"({"parameters": [{"tag": "A", "bank": "coil", "address": 1, "type": "uint16"}]})",
+         "f:1: a coil or a discrete input is of the type bit"},
+        {R"({"parameters": [{"tag": "A", "bank": "coil", "address": 1, "type": "bit", "bit": 1}]})",
+         "f:1: \"bit\" is not known here"},
+        {R"({"parameters": [{"tag": "A", "bank": "discrete", "address": 1, "type": "bit", "access": "write"}]})",
+         "f:1: a discrete input cannot be written"},
+        {R"({"requests": {"underWay": 17}})", "f:1: a whole number from 1 to 16"},
+        {R"({"requests": {"write": "never"}})", "f:1: \"never\" is none of usual, single, multiple"},
+        {"{\"requests\": {\"registers\": 1}, \"parameters\": [\n{\"tag\": \"A\", \"bank\": \"input\", \"type\": "
+         "\"int32\", \"address\": 1}]}",
+         "f:2: the parameter is longer than a request may be"},
         {one(R"("type": "float32", "bits": [{"bit": 1, "text": "a"}])"), "f:4: only an integer"},
         {one("\"type\": \"uint16\", \"entries\": [{\"value\": 1, \"text\": \"a\"},\n{\"value\": 1, \"text\": "
              "\"b\"}]"),
@@ -214,7 +225,7 @@ std::string planned(const ParameterFile& file, const std::vector<std::size_t>& w
 {
     std::string text;
     for (const Batch& batch : plan(file.parameters, wanted, cuts))
-        text += std::string(batch.bank == InputRegister ? "i" : "h") + std::to_string(batch.first) + '+' +
+        text += std::string(batch.bank == Bank::Input ? "i" : "h") + std::to_string(batch.first) + '+' +
                 std::to_string(batch.count) + ' ';
     return text;
 }
@@ -230,9 +241,13 @@ TEST(Plan, ReadsNeighboursTogetherAndDividesWhatIsRefused)
     EXPECT_EQ(planned(file, {5, 0, 1, 4, 3, 2, 0}), "h0+14 h23+2 i2+4 ");
     EXPECT_EQ(planned(file, {}), "");
     const std::optional<Cut> cut = cutOf(file.parameters, plan(file.parameters, {0, 1, 2}, {}).at(0));
-    EXPECT_EQ(cut, (Cut{HoldingRegister, 12})) << "the widest gap first";
+    EXPECT_EQ(cut, (Cut{Bank::Holding, 12})) << "the widest gap first";
     EXPECT_EQ(planned(file, {0, 1, 2, 4, 5}, {*cut}), "h0+4 h12+2 i2+4 ");
     EXPECT_EQ(cutOf(file.parameters, plan(file.parameters, {3}, {}).at(0)), std::nullopt);
+    Requests shy;
+    shy.registers = 4;
+    shy.gap = 0;
+    EXPECT_EQ(plan(file.parameters, {0, 1, 2, 3, 4, 5}, {}, shy).size(), 4U);
 }
 
 TEST(Plan, OfRandomParametersHasNoRequestLongerThanTheProtocolAllowsAndTearsNoValue)
@@ -252,7 +267,7 @@ TEST(Plan, OfRandomParametersHasNoRequestLongerThanTheProtocolAllowsAndTearsNoVa
         wanted[i] = i;
     Cuts cuts;
     for (int i = 0; i < 50; ++i)
-        cuts.insert({random() % 2 == 0 ? InputRegister : HoldingRegister, static_cast<int>(random() % 2000)});
+        cuts.insert({random() % 2 == 0 ? Bank::Input : Bank::Holding, static_cast<int>(random() % 2000)});
     std::size_t found = 0;
     for (const Batch& batch : plan(file.parameters, wanted, cuts)) {
         EXPECT_LE(batch.count, 125);

@@ -28,17 +28,30 @@ TEST(Interop, TheMonitorWithAServerByOthers)
         return Host::until([&] { return (said += server.readAllStandardOutput()).contains("ready"); });
     };
     ASSERT_TRUE(start()) << "python3-pymodbus: " << server.readAllStandardError().toStdString();
-    Host host(static_cast<quint16>(port));
+    std::string file = tests::kParameters;
+    const std::string list = "\"parameters\": [";
+    file.replace(file.find(list), list.size(), R"("requests": {"underWay": 4, "pause": 2}, )" + list + R"(
+      {"tag": "Pump", "bank": "coil", "address": 4, "type": "bit", "access": "write"},
+      {"tag": "Door", "bank": "discrete", "address": 7, "type": "bit"},)");
+    Host host(static_cast<quint16>(port), nullptr, file.c_str());
+    for (const char* tag : {"Pump", "Door", "Horn"})
+        host.boxes[tag] = host.add("ctx_ZorCheckBox", tag);
     host.run({"Level", "Limit", "Wide", "Name", "Missing"});
+    EXPECT_EQ(host.get("Pump", "DeviceValue"), Variant(0));
+    EXPECT_EQ(host.get("Door", "DeviceValue"), Variant(1));
     EXPECT_EQ(host.text("Level"), "10");
     EXPECT_EQ(host.text("Wide"), "1441815.000");
     EXPECT_TRUE(host.box("Missing").DataNotAvailable());
     EXPECT_FALSE(host.box("Limit").DataNotAvailable());
     host.type("Limit", "450");
     host.type("Wide", "70000");
+    for (const char* tag : {"Pump", "Horn"})
+        host.box(tag).setProperty("ModifiedValue", 1);
     for (const Written& written : host.write())
         EXPECT_EQ(written.result.outcome, WriteOutcome::Written) << written.result.reason;
     EXPECT_EQ(host.text("Limit") + ' ' + host.text("Wide"), "450 70000.000");
+    EXPECT_EQ(host.get("Pump", "DeviceValue"), Variant(1));
+    EXPECT_EQ(host.session->held(*host.session->file().indexOf("Horn")), (Registers{51})) << "with a mask";
     host.type("Limit", "451");
     server.kill();
     server.waitForFinished();
@@ -68,6 +81,8 @@ TEST(Interop, TheSimulatedDeviceWithAClientByOthers)
         R"({"parameters": [
           {"tag": "Gain", "bank": "holding", "address": 4, "type": "float32", "access": "write", "order": "CDAB",
            "simulation": {"value": 1.5}},
+          {"tag": "Pump", "bank": "coil", "address": 6, "type": "bit", "access": "write"},
+          {"tag": "Door", "bank": "discrete", "address": 8, "type": "bit", "simulation": {"value": 1}},
           {"tag": "Count", "bank": "input", "address": 7, "type": "uint16", "simulation": {"value": 4711}},
           {"tag": "Gone", "bank": "input", "address": 9, "type": "uint16", "simulation": {"absent": true}}]})",
         "test");
@@ -79,8 +94,11 @@ TEST(Interop, TheSimulatedDeviceWithAClientByOthers)
     has(mbpoll(device.port(), {"-0", "-t", "3", "-r", "7", "-c", "1"}), R"(\[7\]:\s+4711)");
     has(mbpoll(device.port(), {"-0", "-t", "4:float", "-r", "4", "-c", "1"}), R"(\[4\]:\s+1\.5)");
     has(mbpoll(device.port(), {"-0", "-t", "3", "-r", "9", "-c", "1"}), "Illegal data address");
+    has(mbpoll(device.port(), {"-0", "-t", "1", "-r", "8", "-c", "1"}), R"(\[8\]:\s+1)");
+    has(mbpoll(device.port(), {"-0", "-t", "0", "-r", "6"}, {"1"}), "Written 1 references");
+    EXPECT_EQ(device.registers(Bank::Coil, 6, 1), (Registers{1}));
     has(mbpoll(device.port(), {"-0", "-t", "4:float", "-r", "4"}, {"2.25"}), "Written 1 references");
-    EXPECT_EQ(decode(file.parameters[0], device.registers(HoldingRegister, 4, 2)), Variant(2.25));
+    EXPECT_EQ(decode(file.parameters[0], device.registers(Bank::Holding, 4, 2)), Variant(2.25));
 }
 
 TEST(Interop, TheSchemaAgreesWithTheReader)
@@ -103,10 +121,19 @@ TEST(Interop, TheSchemaAgreesWithTheReader)
     };
     EXPECT_TRUE(schemaTakes(ZOR_TEST_DATA "/../../monitor/device/demo.json"));
     for (const Row& row :
-         {Row{"", ""}, Row{"\"address\": 1", "\"address\": 65536"}, Row{"uint16\"", "text\""},
-          Row{"uint16\"", "uint16\", \"access\": \"always\""}, Row{"\"tag\"", "\"tga\""},
-          Row{"holding\"", "input\", \"access\": \"write\""}, Row{"uint16\"", "bit\", \"scale\": 2"},
-          Row{"uint16\"", "uint16\", \"unit\": \"LgthU_MM\""}, Row{"uint16\"", "uint16\", \"unit\": \"Length\""},
+         {Row{"", ""},
+          Row{"\"address\": 1", "\"address\": 65536"},
+          Row{"uint16\"", "text\""},
+          Row{"uint16\"", "uint16\", \"access\": \"always\""},
+          Row{"\"tag\"", "\"tga\""},
+          Row{"holding\"", "input\", \"access\": \"write\""},
+          Row{"uint16\"", "bit\", \"scale\": 2"},
+          Row{"holding", "coil"},
+          Row{"holding\", \"address\": 1, \"type\": \"uint16", "coil\", \"address\": 1, \"type\": \"bit"},
+          Row{"{\"par", "{\"requests\": {\"pause\": -1}, \"par"},
+          Row{"{\"par", "{\"requests\": {\"write\": \"single\"}, \"par"},
+          Row{"uint16\"", "uint16\", \"unit\": \"LgthU_MM\""},
+          Row{"uint16\"", "uint16\", \"unit\": \"Length\""},
           Row{"uint16\"", "uint16\", \"unit\": \"LgthU_MM\", \"digits\": 2"},
           Row{"uint16\"", "bit\", \"bit\": 1, \"minimum\": 0"},
           Row{"uint16\"", "uint16\", \"control\": \"ctx_ZorKnob\""},

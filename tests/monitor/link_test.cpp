@@ -54,6 +54,110 @@ TEST(TcpLink, TakesNothingThatIsNotTheReplyAndRecovers)
     }
 }
 
+/// Sends reads of one register at 10, 11 ... and waits for all.
+std::vector<Reply> askMany(Link& link, int count)
+{
+    std::vector<Reply> replies(static_cast<std::size_t>(count));
+    int heard = 0;
+    for (int i = 0; i < count; ++i)
+        link.send({Function::ReadHolding, static_cast<std::uint16_t>(10 + i), 1}, [&, i](const Reply& reply) {
+            replies[static_cast<std::size_t>(i)] = reply;
+            ++heard;
+        });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return heard == count; }, kPatience));
+    return replies;
+}
+
+TEST(TcpLink, SeveralReadsUnderWaySufferNoMoreFromAFaultThanOne)
+{
+    tests::Peer peer;
+    const auto good = peer.answer;
+    TcpLink link("127.0.0.1", peer.serverPort(), 1, kDeadline);
+    link.setManners({0, 0, 4});
+    for (const tests::Fault& fault : tests::faults()) {
+        SCOPED_TRACE(fault.name);
+        (void)ask(link, kRead);
+        peer.answer = [&](QTcpSocket& socket, const QByteArray& reply) {
+            peer.answer = good;
+            fault.answer(socket, reply);
+        };
+        const std::vector<Reply> replies = askMany(link, 6);
+        int failures = 0;
+        for (std::size_t i = 0; i < replies.size(); ++i) {
+            failures += replies[i].outcome == Outcome::Answered ? 0 : 1;
+            EXPECT_TRUE(replies[i].outcome == Outcome::NoAnswer ||
+                        replies[i].registers == Registers{std::uint16_t(10 + i)})
+                << i;
+        }
+        EXPECT_LE(failures, 1);
+    }
+}
+
+TEST(TcpLink, TakesRepliesInAnyOrderAndWritesAlone)
+{
+    tests::Peer peer;
+    std::vector<QByteArray> held;
+    std::size_t most = 0;
+    QTimer flush;
+    flush.setSingleShot(true);
+    peer.answer = [&](QTcpSocket& socket, const QByteArray& reply) {
+        held.push_back(reply);
+        most = std::max(most, held.size());
+        EXPECT_TRUE(held.size() == 1 || (held.front()[7] == 3 && reply[7] == 3)) << "a write is not alone";
+        flush.disconnect();
+        QObject::connect(&flush, &QTimer::timeout, &socket, [&] {
+            QByteArray all;
+            for (const QByteArray& one : std::exchange(held, {}))
+                all.prepend(one);
+            socket.write(all);
+        });
+        flush.start(20);
+    };
+    TcpLink link("127.0.0.1", peer.serverPort(), 1, kDeadline);
+    link.setManners({0, 0, 3});
+    Outcome written = Outcome::NoAnswer;
+    (void)ask(link, kRead);
+    link.send(kRead, [](const Reply&) {});
+    link.send(writeRequest(40, {7}), [&](const Reply& reply) { written = reply.outcome; });
+    for (const Reply& reply : askMany(link, 5))
+        EXPECT_EQ(reply.outcome, Outcome::Answered);
+    EXPECT_EQ(written, Outcome::Answered);
+    EXPECT_EQ(most, 3U);
+}
+
+TEST(TcpLink, ReadsAreRetriedAndPausedAsToldWritesNever)
+{
+    tests::Peer peer;
+    const auto good = peer.answer;
+    int silent = 0;
+    QElapsedTimer clock;
+    std::vector<qint64> times;
+    peer.answer = [&](QTcpSocket& socket, const QByteArray& reply) {
+        times.push_back(clock.elapsed());
+        if (silent-- <= 0)
+            good(socket, reply);
+    };
+    TcpLink link("127.0.0.1", peer.serverPort(), 1, 100);
+    link.setManners({60, 2, 1});
+    silent = 2;
+    EXPECT_EQ(ask(link, kRead).outcome, Outcome::Answered);
+    silent = 1;
+    EXPECT_EQ(ask(link, writeRequest(40, {7})).outcome, Outcome::NoAnswer);
+    EXPECT_EQ(peer.functions, (std::vector<int>{3, 3, 3, 6}));
+    times.clear();
+    clock.start();
+    (void)askMany(link, 3);
+    ASSERT_EQ(times.size(), 3U);
+    EXPECT_GE(times[2] - times[0], 118);
+    silent = 9;
+    link.send(kRead, [](const Reply& reply) { EXPECT_EQ(reply.outcome, Outcome::NoAnswer); });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return times.size() > 3; }, kPatience));
+    tests::Peer other;
+    link.connectTo(std::make_unique<TcpTransport>("127.0.0.1", other.serverPort()), 1);
+    EXPECT_EQ(ask(link, kRead).outcome, Outcome::Answered);
+    EXPECT_EQ(other.functions.size(), 1U);
+}
+
 TEST(TcpLink, ComparesTheEchoOfAWrite)
 {
     tests::Peer peer;
@@ -132,7 +236,7 @@ struct SerialPeer {
             std::array<char, 256> bytes{};
             const auto count = read(handle, bytes.data(), bytes.size());
             heard.append(bytes.data(), count > 0 ? count : 0);
-            if (heard.size() >= 8)
+            if (heard.size() >= size)
                 send(answer);
         });
     }
@@ -150,6 +254,7 @@ struct SerialPeer {
 
     int handle;
     unsigned wrong = 0;
+    int size = 8; ///< of a request
     QByteArray heard;
     QByteArray answer;
     std::unique_ptr<QSocketNotifier> notifier;
@@ -183,7 +288,22 @@ TEST(RtuLink, ReadsAndJudgesAsOnTcp)
     EXPECT_EQ(ask(*link, read).outcome, Outcome::NoAnswer) << "a wrong checksum";
     peer.wrong = 0;
     EXPECT_EQ(ask(*link, read).registers, (Registers{0x0102, 0xFFFE})) << "recovers";
-    EXPECT_EQ(ask(*openLink("rtu:/dev/there-is-none", 500), read).outcome, Outcome::NotSent);
+    EXPECT_EQ(ask(*openLink("rtu:/dev/there-is-none", 500), read).fault, Fault::NoPort);
+}
+
+TEST(RtuLink, TakesNoReplyThatComesLate)
+{
+    SerialPeer peer;
+    const auto link = openLink(QString("rtu:%1?parity=none").arg(ptsname(peer.handle)), 100);
+    EXPECT_EQ(ask(*link, kRead).outcome, Outcome::NoAnswer);
+    link->send(kRead, [](const Reply& reply) { EXPECT_EQ(reply.outcome, Outcome::NoAnswer); });
+    QTest::qWait(50);
+    peer.send(QByteArray::fromHex("0103 06 0001 0002 0003"));
+    QTest::qWait(250);
+    peer.size = 7;
+    peer.answer = QByteArray::fromHex("012B 0E 01 01 00 00 01 00 03 414243");
+    const Reply reply = ask(*link, identifyRequest());
+    EXPECT_EQ(reply.texts.at(0), "ABC") << reply.reason;
 }
 
 } // namespace

@@ -13,7 +13,7 @@
 
 namespace zor::tests {
 
-/// A Modbus TCP device of 200 registers in which everything can go wrong.
+/// A Modbus TCP device of 200 registers and 200 bits in which everything can go wrong.
 class Peer : public QTcpServer {
 public:
     Peer()
@@ -33,6 +33,8 @@ public:
     std::function<void(QTcpSocket&, const QByteArray& reply)> answer =
         [](QTcpSocket& socket, const QByteArray& reply) { socket.write(reply); };
     std::array<std::uint16_t, 200> registers{};
+    std::array<bool, 200> bits{};
+    bool masks = false; ///< knows the masked write
     /// Function codes of the requests so far.
     std::vector<int> functions;
     std::vector<QPointer<QTcpSocket>> sockets;
@@ -70,10 +72,28 @@ private:
         };
         const int function = static_cast<quint8>(request[7]);
         const std::size_t address = word(8);
-        const std::size_t count = function == 6 ? 1 : word(10);
         QByteArray pdu(1, request[7]);
-        if (address + count > registers.size()) {
+        const bool one = function == 5 || function == 6 || function == 22;
+        const std::size_t count = one ? 1 : word(10);
+        if (function == 22 && !masks) {
+            pdu = QByteArray(1, static_cast<char>(function | 0x80)) + '\1';
+        } else if (address + count > registers.size()) {
             pdu = QByteArray(1, static_cast<char>(function | 0x80)) + '\2';
+        } else if (function == 22) {
+            registers[address] =
+                static_cast<std::uint16_t>((registers[address] & word(10)) | (word(12) & ~word(10)));
+            pdu = request.mid(7);
+        } else if (function == 1 || function == 2) {
+            pdu += static_cast<char>((count + 7) / 8);
+            pdu.append(static_cast<qsizetype>((count + 7) / 8), '\0');
+            for (std::size_t i = 0; i < count; ++i)
+                pdu[static_cast<qsizetype>(2 + i / 8)] |= static_cast<char>(bits[address + i] ? 1 << i % 8 : 0);
+        } else if (function == 5 || function == 15) {
+            for (std::size_t i = 0; i < count; ++i)
+                bits[address + i] = function == 5
+                                        ? request[10] != 0
+                                        : (request[static_cast<qsizetype>(13 + i / 8)] >> i % 8 & 1) != 0;
+            pdu = request.mid(7, 5);
         } else if (function == 3 || function == 4) {
             pdu += static_cast<char>(2 * count);
             for (std::size_t i = 0; i < count; ++i) {

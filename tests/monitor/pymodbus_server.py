@@ -1,4 +1,4 @@
-"""A Modbus TCP server by others: registers 0 to 199 hold their own address, or that and argument 2. Prints "ready" when it listens."""
+"""A Modbus TCP server by others: registers 0 to 199 hold their own address, or that and argument 2. Coils and discrete inputs are set at odd addresses. Prints "ready" when it listens."""
 import sys
 import threading
 
@@ -7,7 +7,8 @@ from pymodbus.server import StartTcpServer
 
 more = int(sys.argv[2]) if len(sys.argv) > 2 else 0
 block = lambda: ModbusSequentialDataBlock(0, list(range(more, more + 200)))
-slave = ModbusSlaveContext(hr=block(), ir=block(), zero_mode=True)
+bits = lambda: ModbusSequentialDataBlock(0, [False, True] * 100)
+slave = ModbusSlaveContext(hr=block(), ir=block(), co=bits(), di=bits(), zero_mode=True)
 context = ModbusServerContext(slaves={1: slave}, single=False)
 
 

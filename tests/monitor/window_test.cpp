@@ -1,10 +1,12 @@
 // The window against the simulated device, over real TCP: what an operator sees and does.
 
 #include <zor/controls/registration.h>
+#include <zor/monitor/ui/frames_dock.h>
 #include <zor/monitor/ui/settings_dialog.h>
 #include <zor/monitor/ui/window.h>
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,9 +15,11 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStatusBar>
+#include <QTableView>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTreeWidget>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -153,15 +157,14 @@ TEST_F(Demo, WritesWhatHasBeenReviewed)
         row += table->item(0, column)->text() + '|';
     EXPECT_EQ(row, "High temperature alarm|HighAlarm|85.0 \u00B0C|91.3 \u00B0C||")
         << "what is shown is what the registers will hold";
-    EXPECT_EQ(device().registers(HoldingRegister, 2, 1), (Registers{850}))
-        << "written before the review has ended";
-    device().setRegisters(HoldingRegister, 2, {870}); // another master
+    EXPECT_EQ(device().registers(Bank::Holding, 2, 1), (Registers{850})) << "written before the review has ended";
+    device().setRegisters(Bank::Holding, 2, {870}); // another master
     EXPECT_TRUE(QTest::qWaitFor([&] { return table->item(0, 2)->text() == "87.0 \u00B0C"; }, kPatience));
     EXPECT_FALSE(button(*window->front().openReview(), "&Write")->isEnabled()) << "not without another yes";
     window->front().openReview()->findChild<QCheckBox*>()->click();
     button(*window->front().openReview(), "&Write")->click();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window->session().hasEdits(); }, kPatience));
-    EXPECT_EQ(device().registers(HoldingRegister, 2, 1), (Registers{913}));
+    EXPECT_EQ(device().registers(Bank::Holding, 2, 1), (Registers{913}));
     EXPECT_EQ(field("HighAlarm").text(), "91.3");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !dotted(1); }, kPatience));
     window->front().review();
@@ -227,13 +230,13 @@ TEST_F(Demo, LoadsFromASettingsFileWhatIsTickedThroughTheReview)
     EXPECT_EQ(settings.size(), 11U);
     const auto held = [&](const Setting& setting) {
         const Location& location = this->file.parameters[*this->file.indexOf(setting.tag)].location;
-        return device().registers(HoldingRegister, location.address, location.registers);
+        return device().registers(Bank::Holding, location.address, location.registers);
     };
     for (const Setting& setting : settings) {
         const Location& location = this->file.parameters[*this->file.indexOf(setting.tag)].location;
         Registers other = held(setting);
         other.back() ^= static_cast<std::uint16_t>(1U << location.bit);
-        device().setRegisters(HoldingRegister, location.address, other);
+        device().setRegisters(Bank::Holding, location.address, other);
     }
     window->front().transfer().load(file);
     ASSERT_TRUE(QTest::qWaitFor([&] { return window->front().transfer().openDialog() != nullptr; }, kPatience));
@@ -251,6 +254,41 @@ TEST_F(Demo, LoadsFromASettingsFileWhatIsTickedThroughTheReview)
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window->session().hasEdits(); }, 2 * kPatience));
     for (const Setting& setting : settings)
         EXPECT_EQ(held(setting) == setting.registers, setting.tag != "Damping") << setting.tag;
+}
+
+TEST_F(Demo, FramesShowWhatGoesOverTheLineAndWhyItFails)
+{
+    FramesDock& dock = FramesDock::addTo(*window);
+    EXPECT_FALSE(dock.isVisible());
+    dock.toggleViewAction()->trigger();
+    auto& table = *dock.findChild<QTableView*>();
+    auto& fields = *dock.findChild<QTreeWidget*>();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return table.model()->rowCount() > 2; }, kPatience));
+    const auto cell = [&](int column) { return table.model()->index(0, column).data().toString(); };
+    EXPECT_EQ(cell(1) + ", " + cell(2), "request, 1");
+    dock.findChild<QComboBox*>()->setCurrentIndex(1);
+    dock.findChild<QLineEdit*>()->setText("exception 2");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return table.model()->rowCount() > 0; }, kPatience));
+    table.selectRow(0);
+    EXPECT_EQ(fields.topLevelItem(fields.topLevelItemCount() - 1)->text(1),
+              "2 (the device does not have this address)");
+    EXPECT_TRUE(says("Check bank and address in the parameter file"));
+    window->setLanguage("de");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fields.topLevelItem(3)->text(0) == "Ger\u00E4t"; }, kPatience));
+    window->setLanguage("en");
+    device().stop();
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return says("Last failure: the connection was refused. The host is"); }, kPatience));
+    button(dock, "&Pause")->click();
+    const int rows = table.model()->rowCount();
+    ASSERT_TRUE(device().start());
+    EXPECT_TRUE(untilLive());
+    EXPECT_EQ(table.model()->rowCount(), rows);
+    QTemporaryDir folder;
+    dock.save(folder.filePath("frames.txt"));
+    QFile saved(folder.filePath("frames.txt"));
+    ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+    EXPECT_EQ(saved.readAll().count(" <- unit 1  "), rows);
 }
 
 struct Drawn : Demo {
@@ -275,7 +313,7 @@ TEST_F(Drawn, ShowsAllNineClassesAndWritesThroughThem)
     ASSERT_NE(window->front().openReview(), nullptr);
     window->front().openReview()->accept();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window->session().hasEdits(); }, kPatience));
-    EXPECT_EQ(device().registers(HoldingRegister, 3, 1), (Registers{42}));
+    EXPECT_EQ(device().registers(Bank::Holding, 3, 1), (Registers{42}));
 }
 
 // As Designer saves a form that nobody has laid out.
@@ -335,7 +373,7 @@ TEST_F(Tutorial, CanBeFollowedToItsEnd)
     ASSERT_NE(window->front().openReview(), nullptr);
     button(*window->front().openReview(), "&Write")->click();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window->session().hasEdits(); }, kPatience));
-    EXPECT_EQ(device().registers(HoldingRegister, 100, 1), (Registers{45}));
+    EXPECT_EQ(device().registers(Bank::Holding, 100, 1), (Registers{45}));
     EXPECT_EQ(field("Damping").text(), "4.5");
 }
 
