@@ -18,7 +18,7 @@ namespace {
 
 enum Which : int { kDifferences, kAll };
 
-QString shown(const std::string& utf8) { return QString::fromStdString(utf8); }
+QString asText(const std::string& utf8) { return QString::fromStdString(utf8); }
 
 } // namespace
 
@@ -125,9 +125,9 @@ QStringList SettingsDialog::textsOf(const Compared& row) const
     else if (row.verdict == Verdict::Different && m_use.loads && !isLoadable(row))
         remark += ": " + tr("this form has no field for it");
     const QString caption = row.parameter
-                                ? shown(m_parameters.parameters[*row.parameter].appearance.caption.in(m_language))
+                                ? asText(m_parameters.parameters[*row.parameter].appearance.caption.in(m_language))
                                 : QString();
-    return {caption, shown(row.tag), Words::value(row.fileText, row.unit), Words::value(row.deviceText, row.unit),
+    return {caption, asText(row.tag), Words::value(row.fileText, row.unit), Words::value(row.deviceText, row.unit),
             remark};
 }
 
