@@ -93,7 +93,8 @@ void FramesDock::build()
     m_table->setWordWrap(false);
     constexpr std::array<int, FramesModel::kColumns> kCharacters{14, 10, 6, 46, 11, 40};
     for (int i = 0; i < FramesModel::kColumns; ++i)
-        m_table->setColumnWidth(i, fontMetrics().horizontalAdvance('0') * kCharacters[static_cast<std::size_t>(i)]);
+        m_table->setColumnWidth(i,
+                                fontMetrics().horizontalAdvance('0') * kCharacters[static_cast<std::size_t>(i)]);
     m_fields = new QTreeWidget(parts);
     m_fields->setRootIsDecorated(false);
     m_fields->setUniformRowHeights(true);
