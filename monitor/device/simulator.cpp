@@ -16,8 +16,8 @@ namespace {
 constexpr int kTickMilliseconds = 200;
 
 // In the order of Bank.
-constexpr std::array kTypes{QModbusDataUnit::HoldingRegisters, QModbusDataUnit::InputRegisters,
-                            QModbusDataUnit::Coils, QModbusDataUnit::DiscreteInputs};
+constexpr std::array kServedTypes{QModbusDataUnit::HoldingRegisters, QModbusDataUnit::InputRegisters,
+                                  QModbusDataUnit::Coils, QModbusDataUnit::DiscreteInputs};
 
 struct AccessRow {
     int function;
@@ -25,13 +25,13 @@ struct AccessRow {
     bool one; ///< has no count
 };
 
-constexpr std::array kAccesses{
+constexpr std::array kServedAccesses{
     AccessRow{1, Bank::Coil, false},  AccessRow{2, Bank::Discrete, false}, AccessRow{3, Bank::Holding, false},
     AccessRow{4, Bank::Input, false}, AccessRow{5, Bank::Coil, true},      AccessRow{6, Bank::Holding, true},
     AccessRow{15, Bank::Coil, false}, AccessRow{16, Bank::Holding, false}, AccessRow{22, Bank::Holding, true},
 };
 
-QModbusDataUnit::RegisterType typeOf(Bank bank) { return kTypes[static_cast<std::size_t>(bank)]; }
+QModbusDataUnit::RegisterType typeOf(Bank bank) { return kServedTypes[static_cast<std::size_t>(bank)]; }
 
 /// A port that is free now.
 int freePort()
@@ -48,8 +48,8 @@ QModbusResponse SimulatedServer::processRequest(const QModbusPdu& request)
     quint16 address = 0;
     quint16 count = 0;
     const auto code = static_cast<int>(request.functionCode());
-    const auto* const access = std::ranges::find(kAccesses, code, &AccessRow::function);
-    if (access != kAccesses.end() && request.dataSize() >= 4) {
+    const auto* const access = std::ranges::find(kServedAccesses, code, &AccessRow::function);
+    if (access != kServedAccesses.end() && request.dataSize() >= 4) {
         request.decodeData(&address, &count);
         const int end = address + (access->one ? 1 : count);
         const bool refused = std::ranges::any_of(absent, [&](const Location& location) {
@@ -65,7 +65,7 @@ QModbusResponse SimulatedServer::processRequest(const QModbusPdu& request)
 
 Simulator::Simulator(const ParameterFile& file, int port) : m_file(file), m_port(port != 0 ? port : freePort())
 {
-    std::array<int, kTypes.size()> ends{1, 1, 1, 1};
+    std::array<int, kServedTypes.size()> ends{1, 1, 1, 1};
     const auto reach = [&](const Location& location) {
         int& end = ends[static_cast<std::size_t>(location.bank)];
         end = std::max(end, location.address + location.registers);
@@ -82,7 +82,7 @@ Simulator::Simulator(const ParameterFile& file, int port) : m_file(file), m_port
     QModbusDataUnitMap map;
     for (std::size_t i = 0; i < ends.size(); ++i) {
         // A unit counts with 16 bits, so the last address of all cannot be had.
-        map.insert(kTypes[i], {kTypes[i], 0, static_cast<quint16>(std::min(ends[i], 65535))});
+        map.insert(kServedTypes[i], {kServedTypes[i], 0, static_cast<quint16>(std::min(ends[i], 65535))});
     }
     m_server.setMap(map);
     m_server.setServerAddress(1);

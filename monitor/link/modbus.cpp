@@ -6,7 +6,7 @@
 namespace zor::monitor {
 namespace {
 
-constexpr unsigned kExceptionBit = 0x80;
+constexpr unsigned kRefusedBit = 0x80;
 constexpr std::uint16_t kOn = 0xFF00;    ///< what a single coil is written with
 constexpr std::size_t kIdentityHead = 7; ///< function, type, code, conformity, more, next, count
 constexpr std::uint8_t kIdentityType = 14;
@@ -164,7 +164,7 @@ std::optional<std::size_t> replySize(const Request& request, std::span<const std
     if (begin.empty())
         return std::nullopt;
     const unsigned function = static_cast<std::uint8_t>(request.function);
-    if (begin[0] == (function | kExceptionBit))
+    if (begin[0] == (function | kRefusedBit))
         return 2;
     if (begin[0] != function)
         return 0;
@@ -181,7 +181,7 @@ Reply judgeReply(const Request& request, std::span<const std::uint8_t> pdu)
     const unsigned function = static_cast<std::uint8_t>(request.function);
     if (pdu.empty())
         return failed(Fault::Empty);
-    if (pdu[0] == (function | kExceptionBit)) {
+    if (pdu[0] == (function | kRefusedBit)) {
         if (pdu.size() != 2 || pdu[1] == 0)
             return failed(Fault::WrongException);
         Reply reply;

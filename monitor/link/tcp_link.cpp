@@ -6,23 +6,23 @@
 namespace zor::monitor {
 namespace {
 
-struct ErrorRow {
+struct SocketErrorRow {
     QAbstractSocket::SocketError error;
     Fault fault;
 };
 
 // The same words whatever language the libraries speak: they stand in the record.
-constexpr std::array kErrors{
-    ErrorRow{QAbstractSocket::ConnectionRefusedError, Fault::Refused},
-    ErrorRow{QAbstractSocket::RemoteHostClosedError, Fault::Closed},
-    ErrorRow{QAbstractSocket::HostNotFoundError, Fault::NoHost},
-    ErrorRow{QAbstractSocket::NetworkError, Fault::Network},
+constexpr std::array kSocketErrors{
+    SocketErrorRow{QAbstractSocket::ConnectionRefusedError, Fault::Refused},
+    SocketErrorRow{QAbstractSocket::RemoteHostClosedError, Fault::Closed},
+    SocketErrorRow{QAbstractSocket::HostNotFoundError, Fault::NoHost},
+    SocketErrorRow{QAbstractSocket::NetworkError, Fault::Network},
 };
 
 Fault faultOf(QAbstractSocket::SocketError error)
 {
-    const auto* const row = std::ranges::find(kErrors, error, &ErrorRow::error);
-    return row != kErrors.end() ? row->fault : Fault::System;
+    const auto* const row = std::ranges::find(kSocketErrors, error, &SocketErrorRow::error);
+    return row != kSocketErrors.end() ? row->fault : Fault::System;
 }
 
 } // namespace

@@ -15,16 +15,16 @@ namespace {
 constexpr std::array<std::string_view, 6> kVerdicts{"same",          "different",    "missing here",
                                                     "missing there", "not writable", "unfit"};
 // In the order of Problem.
-constexpr std::array<std::string_view, 10> kReasons{"",
-                                                    "not a value of this parameter",
-                                                    "not a number in a unit of this parameter",
-                                                    "beyond what the device can hold",
-                                                    "outside the limits",
-                                                    "too long",
-                                                    "characters that the device does not have",
-                                                    "can only be read",
-                                                    "not read",
-                                                    "two different values"};
+constexpr std::array<std::string_view, 10> kUnfitReasons{"",
+                                                         "not a value of this parameter",
+                                                         "not a number in a unit of this parameter",
+                                                         "beyond what the device can hold",
+                                                         "outside the limits",
+                                                         "too long",
+                                                         "characters that the device does not have",
+                                                         "can only be read",
+                                                         "not read",
+                                                         "two different values"};
 
 /// What decides whether two values are the same: of a single bit only that bit, of all others all of it.
 bool holdSame(const Parameter& parameter, const Registers& one, const Registers& other)
@@ -100,7 +100,7 @@ bool isOther(const std::string& one, const std::string& other)
 
 std::span<const std::string_view> verdictNames() noexcept { return kVerdicts; }
 
-std::string_view reasonOf(Problem problem) noexcept { return kReasons[static_cast<std::size_t>(problem)]; }
+std::string_view reasonOf(Problem problem) noexcept { return kUnfitReasons[static_cast<std::size_t>(problem)]; }
 
 bool isSupported(const Supported& by, const std::string& type, const std::string& version)
 {

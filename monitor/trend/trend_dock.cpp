@@ -33,7 +33,7 @@ struct ActionRow {
 };
 
 // In the order of Which.
-constexpr std::array kRows{
+constexpr std::array kTools{
     ActionRow{QT_TRANSLATE_NOOP("TrendDock", "Parameters..."),
               QT_TRANSLATE_NOOP("TrendDock", "Choose the parameters that are plotted"), "Ins"},
     ActionRow{QT_TRANSLATE_NOOP("TrendDock", "Remove"),
@@ -123,7 +123,7 @@ TrendDock::TrendDock(const Languages& languages, QWidget* parent)
 
 void TrendDock::buildActions()
 {
-    const std::array<std::function<void()>, kRows.size()> works{
+    const std::array<std::function<void()>, kTools.size()> works{
         [this] { choose(); },
         [this] { removeSelected(); },
         [this] { m_plot->pause(m_actions[kPause]->isChecked()); },
@@ -133,14 +133,14 @@ void TrendDock::buildActions()
         [this] { m_plot->fitValues(); },
         [this] { save(); },
     };
-    for (std::size_t i = 0; i < kRows.size(); ++i) {
+    for (std::size_t i = 0; i < kTools.size(); ++i) {
         m_actions.push_back(m_bar->addAction(QString()));
         connect(m_actions.back(), &QAction::triggered, this, works[i]);
     }
     m_actions[kPause]->setCheckable(true);
     // The plot has the other keys itself.
     for (const Which which : {kChoose, kRemove}) {
-        m_actions[which]->setShortcut(QKeySequence(kRows[which].key));
+        m_actions[which]->setShortcut(QKeySequence(kTools[which].key));
         m_actions[which]->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         addAction(m_actions[which]);
     }
@@ -149,10 +149,10 @@ void TrendDock::buildActions()
 void TrendDock::translate()
 {
     setWindowTitle(tr("Trend"));
-    for (std::size_t i = 0; i < kRows.size(); ++i) {
-        m_actions[i]->setText(tr(kRows[i].text));
-        const QString key = QKeySequence(kRows[i].key).toString(QKeySequence::NativeText);
-        m_actions[i]->setToolTip(tr(kRows[i].tip) + (key.isEmpty() ? QString() : " (" + key + ')'));
+    for (std::size_t i = 0; i < kTools.size(); ++i) {
+        m_actions[i]->setText(tr(kTools[i].text));
+        const QString key = QKeySequence(kTools[i].key).toString(QKeySequence::NativeText);
+        m_actions[i]->setToolTip(tr(kTools[i].tip) + (key.isEmpty() ? QString() : " (" + key + ')'));
     }
     m_bar->setWindowTitle(tr("Trend"));
     m_plot->setAccessibleName(tr("Plot"));

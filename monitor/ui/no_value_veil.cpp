@@ -13,7 +13,7 @@ namespace zor::monitor {
 namespace {
 
 // By name: without a meta-object of its own a veil is found as any widget.
-const QString kName = QStringLiteral("noValueVeil");
+const QString kVeilName = QStringLiteral("noValueVeil");
 
 constexpr int kStrength = 80; ///< of the hatching, of 255: the control stays recognisable
 constexpr int kMargin = 4;    ///< around the words
@@ -49,7 +49,7 @@ QWidget* NoValueVeil::faceOf(core::Control& control)
 
 void NoValueVeil::put(QWidget& face, bool veiled)
 {
-    const auto* veil = face.findChild<QWidget*>(kName, Qt::FindDirectChildrenOnly);
+    const auto* veil = face.findChild<QWidget*>(kVeilName, Qt::FindDirectChildrenOnly);
     if (!veiled)
         delete veil;
     else if (veil == nullptr)
@@ -58,7 +58,7 @@ void NoValueVeil::put(QWidget& face, bool veiled)
 
 NoValueVeil::NoValueVeil(QWidget& face) : QWidget(&face)
 {
-    setObjectName(kName);
+    setObjectName(kVeilName);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAccessibleName(tr("no value"));
     // Of the program: those of a control tell its state.

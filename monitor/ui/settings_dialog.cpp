@@ -16,7 +16,7 @@
 namespace zor::monitor {
 namespace {
 
-enum Which : int { kDifferences, kAll };
+enum Filter : int { kDifferences, kAll };
 
 QString asText(const std::string& utf8) { return QString::fromStdString(utf8); }
 

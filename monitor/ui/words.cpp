@@ -22,7 +22,7 @@ constexpr std::array kProblems{
 };
 
 // In the order of WriteOutcome.
-constexpr std::array kOutcomes{
+constexpr std::array kOutcomeWords{
     QT_TRANSLATE_NOOP("Words", "written and read back"),
     QT_TRANSLATE_NOOP("Words", "refused by the device"),
     QT_TRANSLATE_NOOP("Words", "not sent: no connection"),
@@ -34,7 +34,7 @@ constexpr std::array kOutcomes{
 };
 
 // In the order of Verdict.
-constexpr std::array kVerdicts{
+constexpr std::array kVerdictWords{
     QT_TRANSLATE_NOOP("Words", "same"),
     QT_TRANSLATE_NOOP("Words", "different"),
     QT_TRANSLATE_NOOP("Words", "only in the file"),
@@ -45,7 +45,7 @@ constexpr std::array kVerdicts{
 
 } // namespace
 
-QString Words::verdict(Verdict verdict) { return tr(kVerdicts[static_cast<std::size_t>(verdict)]); }
+QString Words::verdict(Verdict verdict) { return tr(kVerdictWords[static_cast<std::size_t>(verdict)]); }
 
 QString Words::value(const std::string& text, MEAS_TYPE unit)
 {
@@ -58,7 +58,7 @@ QString Words::problem(Problem problem) { return tr(kProblems[static_cast<std::s
 
 QString Words::outcome(const WriteResult& result)
 {
-    QString text = tr(kOutcomes[static_cast<std::size_t>(result.outcome)]);
+    QString text = tr(kOutcomeWords[static_cast<std::size_t>(result.outcome)]);
     if (result.exception == 0)
         return text;
     Reply reply;
