@@ -94,7 +94,7 @@ public:
     void setItalic(bool italic) override { m_italic = italic; }
 
 protected:
-    [[nodiscard]] std::string marked(std::string text) const { return m_bold ? text + '*' : text; }
+    [[nodiscard]] std::string marked(const std::string& text) const { return m_bold ? text + '*' : text; }
 
 private:
     Colour m_foreColour = zor::ButtonText;

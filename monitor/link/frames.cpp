@@ -13,7 +13,7 @@ FramePointer Frames::add(Frame frame)
     m_frames.push_back(std::make_shared<const Frame>(std::move(frame)));
     if (m_frames.size() > kMost)
         m_frames.pop_front();
-    const FramePointer added = m_frames.back();
+    FramePointer added = m_frames.back();
     if (onFrame)
         onFrame(*added);
     return added;

@@ -85,7 +85,8 @@ Reply judgeRead(const Request& request, Shape shape, std::span<const std::uint8_
     reply.outcome = Outcome::Answered;
     for (std::size_t i = 0; i < request.count; ++i)
         reply.registers.push_back(static_cast<std::uint16_t>(
-            shape == Shape::ReadBits ? pdu[2 + i / 8] >> i % 8 & 1U : pdu[2 + 2 * i] << 8U | pdu[3 + 2 * i]));
+            shape == Shape::ReadBits ? std::uint32_t{pdu[2 + i / 8]} >> i % 8 & 1U
+                                     : std::uint32_t{pdu[2 + 2 * i]} << 8U | std::uint32_t{pdu[3 + 2 * i]}));
     return reply;
 }
 

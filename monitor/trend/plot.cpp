@@ -218,7 +218,8 @@ private:
             m_painter.setPen(m_palette.color(QPalette::Text));
             const int start = left ? edge - kTick - kGap - axis.width : edge + kTick + kGap;
             m_painter.drawText(QRect(start, at - line / 2, axis.width, line),
-                               Qt::AlignVCenter | (left ? Qt::AlignRight : Qt::AlignLeft), axis.labels[i]);
+                               static_cast<int>(Qt::AlignVCenter | (left ? Qt::AlignRight : Qt::AlignLeft)),
+                               axis.labels[i]);
         }
         QString unit = Words::unit(axis.unit);
         if (unit.isEmpty())
@@ -238,7 +239,8 @@ private:
         m_painter.save();
         m_painter.setRenderHint(QPainter::Antialiasing, points <= kSmooth);
         const auto isEmphasized = [this](const Stroke& s) { return m_view.emphasized == s.curve->parameter; };
-        std::ranges::stable_partition(m_strokes, [&](const Stroke& stroke) { return !isEmphasized(stroke); });
+        std::stable_partition(m_strokes.begin(), m_strokes.end(),
+                              [&](const Stroke& stroke) { return !isEmphasized(stroke); });
         for (const Stroke& stroke : m_strokes) {
             m_painter.setClipRect(m_layout.panes[stroke.axis / kAxesOfPane].area);
             // A line of one pixel is drawn many times as fast as a broader one.

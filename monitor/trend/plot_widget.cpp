@@ -13,7 +13,7 @@
 namespace zor::monitor {
 namespace {
 
-constexpr std::int64_t kUsualTime = 2 * 60 * 1000; ///< milliseconds in sight
+constexpr std::int64_t kUsualTime = std::int64_t{2} * 60 * 1000; ///< milliseconds in sight
 constexpr std::int64_t kLeastTime = 1000;
 constexpr std::int64_t kMostTime = std::int64_t{7} * 24 * 3600 * 1000;
 constexpr double kZoom = 1.25; ///< of a step of the wheel or a key
