@@ -134,4 +134,17 @@ struct Host {
     std::unique_ptr<Session> session;
 };
 
+/// The outcome of the one write that was made.
+inline WriteOutcome only(const std::vector<Written>& results)
+{
+    EXPECT_EQ(results.size(), 1U);
+    return results.empty() ? WriteOutcome::NotSent : results.front().result.outcome;
+}
+
+/// A device and a host without a window.
+struct SessionTest : testing::Test {
+    Peer peer;
+    Host host{peer.serverPort()};
+};
+
 } // namespace zor::tests
