@@ -40,7 +40,9 @@ std::string play(std::string_view input)
     static int count = 1;
     static char name[] = "fuzz";
     static char* words[] = {name, nullptr};
-    static QApplication application(count, words);
+    // Never destroyed: at the program's end Qt's own statics are gone before those of a function.
+    static const auto* const application = new QApplication(count, words);
+    static_cast<void>(application);
     QWidget form;
     platform::qt::QtContainer container(form, core::pictureData);
     std::string wrong;

@@ -127,6 +127,7 @@ TEST(Sessions, ASlowDeviceIsWaitedForAndHoldsUpNoOperator)
     host.boxes["Level"] = host.add("ctx_ZorTextBox", "Level");
     host.run(tags);
     host.session->link().setDeadline(10 * kPeriod);
+    host.rounds(); // what is under way has the deadline of its start
     peer.answer = [&](QTcpSocket& socket, const QByteArray& reply) {
         QTimer::singleShot(3 * kPeriod, &socket, [&socket, reply] { socket.write(reply); });
     };
