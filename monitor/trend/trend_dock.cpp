@@ -304,9 +304,8 @@ QString TrendDock::head() const
     const PlotView& view = m_plot->view();
     if (!view.cursor)
         return m_plot->isPaused() ? tr("Paused; values of now") : tr("Values of now");
-    const QString time =
-        QLocale().toString(QDateTime::fromMSecsSinceEpoch(*view.cursor).date(), QLocale::ShortFormat) +
-        QDateTime::fromMSecsSinceEpoch(*view.cursor).toString(" HH:mm:ss.zzz");
+    QString time = QLocale().toString(QDateTime::fromMSecsSinceEpoch(*view.cursor).date(), QLocale::ShortFormat) +
+                   QDateTime::fromMSecsSinceEpoch(*view.cursor).toString(" HH:mm:ss.zzz");
     const WriteRecord* write = m_plot->writeAtCursor();
     if (write == nullptr)
         return time;

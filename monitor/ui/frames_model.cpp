@@ -35,7 +35,7 @@ bool writes(const Frame& frame)
 
 std::string FramesModel::word(std::string_view english)
 {
-    const std::string key(english);
+    std::string key(english);
     for (const char* context : {"frames", "reasons"}) {
         const QString translated = QCoreApplication::translate(context, key.c_str());
         if (translated != QString::fromStdString(key))
