@@ -139,6 +139,14 @@ struct ClassInfo {
     [[nodiscard]] const EventRow* event(std::string_view event) const noexcept;
 };
 
+/// ClassInfo::create of a class. A function, for a lambda in its place loses its argument with clang++ 14 as
+/// C++23.
+template <class C>
+[[nodiscard]] ControlPtr<> created(platform::Container& container)
+{
+    return C::create(container);
+}
+
 /// A class's tables, looked over at compile time: everything in them says what it means.
 [[nodiscard]] consteval ClassInfo complete(const ClassInfo& info)
 {

@@ -74,21 +74,21 @@ struct ctx_ZorComboBox::Tables {
 const core::ClassInfo& ctx_ZorComboBox::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info = core::complete(
-        {.name = "ctx_ZorComboBox",
-         .properties = T::kProperties,
-         .initialOrder = Rows::kStored,
-         .messages = Rows::kMessages,
-         .events = T::kEvents,
-         .raised = {.invalid = named(T::kEvents, "InvalidValueSetTrue"),
-                    .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
-                    .outputValueChange = named(T::kEvents, "OutputValueChange"),
-                    .changed = named(T::kEvents, "ComboClick")},
-         .methods = T::kMethods,
-         .states = Rows::kStates,
-         .effects = controls::ChoiceRows::kEffects,
-         .widgets = T::kWidgets,
-         .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
+    static constexpr core::ClassInfo info =
+        core::complete({.name = "ctx_ZorComboBox",
+                        .properties = T::kProperties,
+                        .initialOrder = Rows::kStored,
+                        .messages = Rows::kMessages,
+                        .events = T::kEvents,
+                        .raised = {.invalid = named(T::kEvents, "InvalidValueSetTrue"),
+                                   .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                                   .changed = named(T::kEvents, "ComboClick")},
+                        .methods = T::kMethods,
+                        .states = Rows::kStates,
+                        .effects = controls::ChoiceRows::kEffects,
+                        .widgets = T::kWidgets,
+                        .create = core::created<ctx_ZorComboBox>});
     return info;
 }
 

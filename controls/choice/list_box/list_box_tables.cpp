@@ -74,20 +74,20 @@ struct ctx_ZorListBox::Tables {
 const core::ClassInfo& ctx_ZorListBox::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info = core::complete(
-        {.name = "ctx_ZorListBox",
-         .properties = T::kProperties,
-         .initialOrder = Rows::kStored,
-         .messages = Rows::kMessages,
-         .events = T::kEvents,
-         .raised = {.dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
-                    .outputValueChange = named(T::kEvents, "OutputValueChange"),
-                    .changed = named(T::kEvents, "ListClick")},
-         .methods = T::kMethods,
-         .states = Rows::kStates,
-         .effects = controls::ChoiceRows::kEffects,
-         .widgets = T::kWidgets,
-         .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
+    static constexpr core::ClassInfo info =
+        core::complete({.name = "ctx_ZorListBox",
+                        .properties = T::kProperties,
+                        .initialOrder = Rows::kStored,
+                        .messages = Rows::kMessages,
+                        .events = T::kEvents,
+                        .raised = {.dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                                   .changed = named(T::kEvents, "ListClick")},
+                        .methods = T::kMethods,
+                        .states = Rows::kStates,
+                        .effects = controls::ChoiceRows::kEffects,
+                        .widgets = T::kWidgets,
+                        .create = core::created<ctx_ZorListBox>});
     return info;
 }
 

@@ -55,20 +55,20 @@ struct ctx_ZorOptionButton::Tables {
 const core::ClassInfo& ctx_ZorOptionButton::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info = core::complete(
-        {.name = "ctx_ZorOptionButton",
-         .properties = T::kProperties,
-         .initialOrder = T::kInitialOrder,
-         .messages = Rows::kMessages,
-         .events = T::kEvents,
-         .raised = {.dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
-                    .outputValueChange = named(T::kEvents, "OutputValueChange"),
-                    .changed = named(T::kEvents, "OptionClick")},
-         .methods = controls::ChoiceRows::kMethods,
-         .states = Rows::kStates,
-         .effects = controls::ChoiceRows::kEffects,
-         .widgets = T::kWidgets,
-         .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
+    static constexpr core::ClassInfo info =
+        core::complete({.name = "ctx_ZorOptionButton",
+                        .properties = T::kProperties,
+                        .initialOrder = T::kInitialOrder,
+                        .messages = Rows::kMessages,
+                        .events = T::kEvents,
+                        .raised = {.dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                                   .changed = named(T::kEvents, "OptionClick")},
+                        .methods = controls::ChoiceRows::kMethods,
+                        .states = Rows::kStates,
+                        .effects = controls::ChoiceRows::kEffects,
+                        .widgets = T::kWidgets,
+                        .create = core::created<ctx_ZorOptionButton>});
     return info;
 }
 

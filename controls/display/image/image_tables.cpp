@@ -126,25 +126,30 @@ struct ctx_ZorImage::Tables {
     static constexpr std::array kWidgets{
         core::kSurfaceRow,
         core::WidgetRow{img_State, "img_State", "The picture, which is the control; a click explains it."}};
+
+    // Functions, for the reason that core::created is one.
+    static std::string_view subject(const core::Control& control) { return control.MessageHeader(); }
+    static std::string boxTitle(const core::Control& control)
+    {
+        return States::self(control).StatusText() + " - " + control.MessageHeader();
+    }
 };
 
 const core::ClassInfo& ctx_ZorImage::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info = core::complete(
-        {.name = "ctx_ZorImage",
-         .properties = T::kProperties,
-         .initialOrder = T::kInitialOrder,
-         .messages = T::kMessages,
-         .events = T::kEvents,
-         .methods = T::kMethods,
-         .states = T::kStates,
-         .effects = T::kEffects,
-         .widgets = T::kWidgets,
-         .subject = [](const core::Control& c) -> std::string_view { return c.MessageHeader(); },
-         .boxTitle =
-             [](const core::Control& c) { return States::self(c).StatusText() + " - " + c.MessageHeader(); },
-         .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
+    static constexpr core::ClassInfo info = core::complete({.name = "ctx_ZorImage",
+                                                            .properties = T::kProperties,
+                                                            .initialOrder = T::kInitialOrder,
+                                                            .messages = T::kMessages,
+                                                            .events = T::kEvents,
+                                                            .methods = T::kMethods,
+                                                            .states = T::kStates,
+                                                            .effects = T::kEffects,
+                                                            .widgets = T::kWidgets,
+                                                            .subject = T::subject,
+                                                            .boxTitle = T::boxTitle,
+                                                            .create = core::created<ctx_ZorImage>});
     return info;
 }
 

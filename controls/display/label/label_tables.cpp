@@ -88,17 +88,16 @@ struct ctx_ZorLabel::Tables {
 const core::ClassInfo& ctx_ZorLabel::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info = core::complete(
-        {.name = "ctx_ZorLabel",
-         .properties = T::kProperties,
-         .initialOrder = T::kInitialOrder,
-         .messages = T::kMessages,
-         .events = T::kEvents,
-         .methods = T::kMethods,
-         .states = T::kStates,
-         .effects = T::kEffects,
-         .widgets = T::kWidgets,
-         .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
+    static constexpr core::ClassInfo info = core::complete({.name = "ctx_ZorLabel",
+                                                            .properties = T::kProperties,
+                                                            .initialOrder = T::kInitialOrder,
+                                                            .messages = T::kMessages,
+                                                            .events = T::kEvents,
+                                                            .methods = T::kMethods,
+                                                            .states = T::kStates,
+                                                            .effects = T::kEffects,
+                                                            .widgets = T::kWidgets,
+                                                            .create = core::created<ctx_ZorLabel>});
     return info;
 }
 

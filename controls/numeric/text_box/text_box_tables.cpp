@@ -130,21 +130,21 @@ struct ctx_ZorTextBox::Tables {
 const core::ClassInfo& ctx_ZorTextBox::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info = core::complete(
-        {.name = "ctx_ZorTextBox",
-         .properties = T::kProperties,
-         .initialOrder = T::kInitialOrder,
-         .messages = T::kMessages,
-         .otherMessage = "MSG_INVALIDENTRYTO",
-         .events = T::kEvents,
-         .raised = {.invalid = named(T::kEvents, "InvalidEntrySetTrue"),
-                    .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
-                    .outputValueChange = named(T::kEvents, "OutputValueChange"),
-                    .changed = named(T::kEvents, "textChange")},
-         .methods = T::kMethods,
-         .states = T::kStates,
-         .widgets = T::kWidgets,
-         .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
+    static constexpr core::ClassInfo info =
+        core::complete({.name = "ctx_ZorTextBox",
+                        .properties = T::kProperties,
+                        .initialOrder = T::kInitialOrder,
+                        .messages = T::kMessages,
+                        .otherMessage = "MSG_INVALIDENTRYTO",
+                        .events = T::kEvents,
+                        .raised = {.invalid = named(T::kEvents, "InvalidEntrySetTrue"),
+                                   .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                                   .changed = named(T::kEvents, "textChange")},
+                        .methods = T::kMethods,
+                        .states = T::kStates,
+                        .widgets = T::kWidgets,
+                        .create = core::created<ctx_ZorTextBox>});
     return info;
 }
 

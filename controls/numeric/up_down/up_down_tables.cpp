@@ -60,22 +60,22 @@ struct ctx_ZorUpDown::Tables {
 const core::ClassInfo& ctx_ZorUpDown::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info = core::complete(
-        {.name = "ctx_ZorUpDown",
-         .properties = T::kProperties,
-         .readOrder = T::kOrder,
-         .initialOrder = T::kOrder,
-         .messages = Rows::kMessages,
-         .events = T::kEvents,
-         .raised = {.invalid = named(T::kEvents, "InvalidValueSetTrue"),
-                    .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
-                    .outputValueChange = named(T::kEvents, "OutputValueChange"),
-                    .changed = named(T::kEvents, "textChange")},
-         .methods = T::kMethods,
-         .states = T::kStates,
-         .widgets = T::kWidgets,
-         .keepsFailedWrites = true,
-         .create = [](platform::Container& container) -> core::ControlPtr<> { return create(container); }});
+    static constexpr core::ClassInfo info =
+        core::complete({.name = "ctx_ZorUpDown",
+                        .properties = T::kProperties,
+                        .readOrder = T::kOrder,
+                        .initialOrder = T::kOrder,
+                        .messages = Rows::kMessages,
+                        .events = T::kEvents,
+                        .raised = {.invalid = named(T::kEvents, "InvalidValueSetTrue"),
+                                   .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                                   .changed = named(T::kEvents, "textChange")},
+                        .methods = T::kMethods,
+                        .states = T::kStates,
+                        .widgets = T::kWidgets,
+                        .keepsFailedWrites = true,
+                        .create = core::created<ctx_ZorUpDown>});
     return info;
 }
 
