@@ -211,7 +211,7 @@ TEST(Widgets, ADataMapperTakesThemAsItTakesASpinBox)
     auto* whole = new ZorUpDown;
     auto* spin = new QDoubleSpinBox;
     auto* other = new QLineEdit;
-    const std::vector<QWidget*> fields{box, whole, spin};
+    const QList<QWidget*> fields{box, whole, spin};
     QStandardItemModel model(2, 3);
     QDataWidgetMapper mapper;
     mapper.setModel(&model);

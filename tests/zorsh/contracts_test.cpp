@@ -162,7 +162,7 @@ private:
 /// Values, units and limits in the way, and entries to choose from.
 void furnish(core::Control& control)
 {
-    for (const auto& [name, value] :
+    for (const auto& setting :
          std::initializer_list<std::pair<const char*, Variant>>{{"UnitType", 0},
                                                                 {"DeviceUnit", 2},
                                                                 {"OutputUnit", 1},
@@ -171,7 +171,7 @@ void furnish(core::Control& control)
                                                                 {"InvalidEntryEnable", false},
                                                                 {"DeviceTypeSupported", "a,b"},
                                                                 {"DeviceMinVersionSupported", "1,2"}})
-        errorOf([&] { control.setProperty(name, value); });
+        errorOf([&] { control.setProperty(setting.first, setting.second); });
     for (const char* add : {"AddEnumEntry", "AddBitFieldEntry"})
         errorOf([&] { control.call(add, std::array<Variant, 2>{"entry", 0}); });
 }
