@@ -45,8 +45,8 @@ void applyCheck(benchmark::State& state)
 
 BENCHMARK(fillCombo)->Name("fill a combo box/zor")->Unit(benchmark::kMillisecond);
 BENCHMARK(fillList)->Name("fill a list box/zor")->Unit(benchmark::kMillisecond);
-BENCHMARK(applyCombo)->Name("value of a combo box/zor")->Unit(benchmark::kMicrosecond)->Apply(bench::lengths);
-BENCHMARK(applyList)->Name("value of a list box/zor")->Unit(benchmark::kMicrosecond)->Apply(bench::lengths);
+BENCHMARK(applyCombo)->Name("value of a combo box/zor")->Apply(bench::lengths);
+BENCHMARK(applyList)->Name("value of a list box/zor")->Apply(bench::lengths);
 BENCHMARK(applyCheck)->Name("value of a check box/zor");
 
 } // namespace

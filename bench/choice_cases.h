@@ -50,7 +50,7 @@ inline void fillList(benchmark::State& state, platform::Container& container)
 /// Lengths from which one sees whether the time is linear.
 inline void lengths(benchmark::internal::Benchmark* benchmark)
 {
-    benchmark->Arg(kFull / 16)->Arg(kFull / 4)->Arg(kFull);
+    benchmark->RangeMultiplier(10)->Range(10, kFull)->Unit(benchmark::kMicrosecond);
 }
 
 /// The last entry and the first in turn: the longest way.

@@ -1,14 +1,15 @@
-// Up-down, slider and label on the headless platform: a device value with a listener, and ten thousand controls.
+// Text box, up-down, slider and label on the headless platform: a device value with a listener, creating, storing
+// and restoring.
 
+#include <zor/bench/measures.h>
 #include <zor/controls/display/label/ctx_ZorLabel.h>
 #include <zor/controls/numeric/slider/ctx_ZorSlider.h>
+#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
 #include <zor/controls/numeric/up_down/ctx_ZorUpDown.h>
 #include <zor/platform/headless/container.h>
 #include <zor/platform/headless/memory_bag.h>
 
-#include <benchmark/benchmark.h>
-
-#include <malloc.h>
+#include <string>
 #include <vector>
 
 namespace {
@@ -17,75 +18,72 @@ using namespace zor;
 using platform::headless::HeadlessContainer;
 using platform::headless::MemoryPropertyBag;
 
-constexpr std::size_t kMany = 10'000;
-
 template <class Interface>
 struct Listener : Interface {
-    void OutputValueChange() override { ++outputs; }
-    long outputs = 0;
+    void OutputValueChange() override { ++heard; }
+    long heard = 0;
 };
 
 struct LabelListener : __ctx_ZorLabel {
-    void labelChange() override { ++changes; }
-    long changes = 0;
+    void labelChange() override { ++heard; }
+    long heard = 0;
 };
 
-template <class Control, class Interface>
-void deviceValue(benchmark::State& state)
+/// `set` gives the control its i-th value.
+template <class Control, class Sink, class Set>
+void deviceValue(benchmark::State& state, Set&& set)
 {
     HeadlessContainer container;
     const auto control = Control::create(container);
     control->initialiseProperties();
-    control->MaxValue(100'000);
-    Listener<Interface> listener;
+    Sink listener;
     control->subscribe(listener);
-    int value = 0;
-    for (auto _ : state)
-        control->DeviceValue(++value % 100'000);
-    benchmark::DoNotOptimize(listener.outputs);
+    int i = 0;
+    {
+        const bench::Allocations counted(state);
+        for (auto _ : state)
+            set(*control, ++i);
+    }
+    benchmark::DoNotOptimize(listener.heard);
     control->unsubscribe(listener);
 }
 
-void labelValue(benchmark::State& state)
-{
+template <class Control>
+struct Many {
     HeadlessContainer container;
-    const auto label = ctx_ZorLabel::create(container);
-    label->initialiseProperties();
-    LabelListener listener;
-    label->subscribe(listener);
-    bool other = false;
-    for (auto _ : state)
-        label->DeviceValue((other = !other) ? "12.5 m" : "12.6 m");
-    benchmark::DoNotOptimize(listener.changes);
-    label->unsubscribe(listener);
-}
+    std::vector<core::ControlPtr<Control>> controls;
+};
 
-/// Creates many controls, each made ready by `prepare`.
+/// Controls, each made ready by `prepare`.
 template <class Control, class Prepare>
-void createMany(benchmark::State& state, Prepare&& prepare)
+auto many(std::int64_t count, Prepare&& prepare)
 {
-    HeadlessContainer container;
-    double bytes = 0;
-    for (auto _ : state) {
-        std::vector<core::ControlPtr<Control>> controls;
-        controls.reserve(kMany);
-        const auto before = mallinfo2().uordblks;
-        for (std::size_t i = 0; i < kMany; ++i) {
-            controls.push_back(Control::create(container));
-            prepare(*controls.back());
-        }
-        bytes = static_cast<double>(mallinfo2().uordblks - before) / kMany;
-        state.PauseTiming();
-        controls.clear();
-        state.ResumeTiming();
+    auto made = std::make_unique<Many<Control>>();
+    made->controls.reserve(static_cast<std::size_t>(count));
+    for (std::int64_t i = 0; i < count; ++i) {
+        made->controls.push_back(Control::create(made->container));
+        prepare(*made->controls.back());
     }
-    state.counters["bytes_each"] = bytes;
+    return made;
 }
 
 template <class Control>
-void create(benchmark::State& state)
+auto initialised(std::int64_t count)
 {
-    createMany<Control>(state, [](Control& control) { control.initialiseProperties(); });
+    return many<Control>(count, [](Control& control) { control.initialiseProperties(); });
+}
+
+template <class Control>
+void store(benchmark::State& state)
+{
+    const auto made = initialised<Control>(state.range(0));
+    for (auto _ : state) {
+        for (const auto& control : made->controls) {
+            MemoryPropertyBag bag;
+            control->writeProperties(bag);
+            benchmark::DoNotOptimize(bag);
+        }
+    }
 }
 
 template <class Control>
@@ -94,15 +92,47 @@ void restore(benchmark::State& state)
     MemoryPropertyBag bag;
     bag.set("DeviceTag", "Distance");
     bag.set("MaxValue", 30000.0);
-    createMany<Control>(state, [&](Control& control) { control.readProperties(bag); });
+    bench::createMany(state, [&](std::int64_t count) {
+        return many<Control>(count, [&](Control& control) { control.readProperties(bag); });
+    });
 }
 
-BENCHMARK(deviceValue<ctx_ZorUpDown, __ctx_ZorUpDown>)->Name("DeviceValue, changing, up-down/zor");
-BENCHMARK(deviceValue<ctx_ZorSlider, __ctx_ZorSlider>)->Name("DeviceValue, changing, slider/zor");
-BENCHMARK(labelValue)->Name("DeviceValue, changing, label/zor");
-BENCHMARK(create<ctx_ZorUpDown>)->Name("create 10,000 up-downs/zor")->Unit(benchmark::kMillisecond);
-BENCHMARK(create<ctx_ZorSlider>)->Name("create 10,000 sliders/zor")->Unit(benchmark::kMillisecond);
-BENCHMARK(restore<ctx_ZorUpDown>)->Name("restore 10,000 up-downs/zor")->Unit(benchmark::kMillisecond);
-BENCHMARK(restore<ctx_ZorSlider>)->Name("restore 10,000 sliders/zor")->Unit(benchmark::kMillisecond);
+template <class Control, class Interface>
+void numeric(const std::string& name)
+{
+    using benchmark::RegisterBenchmark;
+    constexpr int kLimit = 100'000;
+    const auto values = [](auto number) {
+        return [number](benchmark::State& state) {
+            deviceValue<Control, Listener<Interface>>(state, [number](Control& control, int i) {
+                if (i == 1)
+                    control.MaxValue(kLimit);
+                control.DeviceValue(number(i));
+            });
+        };
+    };
+    const auto named = [&](const char* work) { return work + (", " + name + "/zor"); };
+    RegisterBenchmark(named("DeviceValue, changing").c_str(), values([](int i) { return i % kLimit; }));
+    RegisterBenchmark(named("DeviceValue, the same again").c_str(), values([](int) { return 1234; }));
+    RegisterBenchmark(named("create").c_str(), [](benchmark::State& state) {
+        bench::createMany(state, initialised<Control>);
+    })->Apply(bench::tenfold);
+    RegisterBenchmark(named("store").c_str(), store<Control>)->Arg(1000)->Unit(benchmark::kMicrosecond);
+    RegisterBenchmark(named("restore").c_str(), restore<Control>)->Arg(1000)->Unit(benchmark::kMicrosecond);
+}
+
+void labelValue(benchmark::State& state)
+{
+    deviceValue<ctx_ZorLabel, LabelListener>(
+        state, [](ctx_ZorLabel& label, int i) { label.DeviceValue(i % 2 == 0 ? "12.5 m" : "12.6 m"); });
+}
+
+const bool registered = [] {
+    numeric<ctx_ZorTextBox, __ctx_ZorTextBox>("text box");
+    numeric<ctx_ZorUpDown, __ctx_ZorUpDown>("up-down");
+    numeric<ctx_ZorSlider, __ctx_ZorSlider>("slider");
+    benchmark::RegisterBenchmark("DeviceValue, changing, label/zor", labelValue);
+    return true;
+}();
 
 } // namespace

@@ -2,10 +2,10 @@
 // and list filled item by item, and applying a value.
 
 #include <zor/bench/choice_cases.h>
+#include <zor/bench/qt_application.h>
 #include <zor/core/frm_Container.h>
 #include <zor/platform/qt/container.h>
 
-#include <QApplication>
 #include <QComboBox>
 #include <QListWidget>
 
@@ -13,17 +13,11 @@ namespace {
 
 using namespace zor;
 
-/// A form that is shown, on the one application of the program, offscreen whatever display there is.
+/// A form that is shown.
 struct Form {
     Form()
     {
-        static int argc = 1;
-        static char name[] = "bench";
-        static char* argv[] = {name, nullptr};
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        // Ends with the process: as a static object it would end after the plugins it needs.
-        static const auto* const application = new QApplication(argc, argv);
-        benchmark::DoNotOptimize(application);
+        bench::startQt();
         window = std::make_unique<QWidget>();
         container = std::make_unique<platform::qt::QtContainer>(*window, core::pictureData);
         window->show();
@@ -77,13 +71,7 @@ BENCHMARK(onForm<bench::fillCombo>)->Name("fill a combo box/zor")->Unit(benchmar
 BENCHMARK(fillPlainCombo)->Name("fill a combo box/QComboBox")->Unit(benchmark::kMillisecond);
 BENCHMARK(onForm<bench::fillList>)->Name("fill a list box/zor")->Unit(benchmark::kMillisecond);
 BENCHMARK(fillPlainList)->Name("fill a list box/QListWidget")->Unit(benchmark::kMillisecond);
-BENCHMARK(onForm<bench::applyCombo>)
-    ->Name("value of a combo box/zor")
-    ->Unit(benchmark::kMicrosecond)
-    ->Apply(bench::lengths);
-BENCHMARK(onForm<bench::applyList>)
-    ->Name("value of a list box/zor")
-    ->Unit(benchmark::kMicrosecond)
-    ->Apply(bench::lengths);
+BENCHMARK(onForm<bench::applyCombo>)->Name("value of a combo box/zor")->Apply(bench::lengths);
+BENCHMARK(onForm<bench::applyList>)->Name("value of a list box/zor")->Apply(bench::lengths);
 
 } // namespace

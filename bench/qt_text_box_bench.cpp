@@ -2,30 +2,17 @@
 // hidden, where the value path alone counts, and shown, where a frame is painted with each. The bare line edit is
 // what the text box has under it.
 
+#include <zor/bench/qt_application.h>
 #include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
 #include <zor/core/frm_Container.h>
 #include <zor/platform/qt/container.h>
 
-#include <QApplication>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
-#include <benchmark/benchmark.h>
 
 namespace {
 
 using namespace zor;
-
-/// The one application of the program, offscreen whatever display there is.
-void startQt()
-{
-    static int argc = 1;
-    static char name[] = "bench";
-    static char* argv[] = {name, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Ends with the process: as a static object it would end after the plugins it needs.
-    static const auto* const application = new QApplication(argc, argv);
-    benchmark::DoNotOptimize(application);
-}
 
 template <class Set>
 void run(benchmark::State& state, QWidget& form, bool shown, Set&& set)
@@ -44,7 +31,7 @@ void run(benchmark::State& state, QWidget& form, bool shown, Set&& set)
 
 void textBox(benchmark::State& state, bool shown)
 {
-    startQt();
+    bench::startQt();
     QWidget form;
     platform::qt::QtContainer container(form, core::pictureData);
     container.setUserMode(true);
@@ -55,7 +42,7 @@ void textBox(benchmark::State& state, bool shown)
 
 void spinBox(benchmark::State& state, bool shown)
 {
-    startQt();
+    bench::startQt();
     QWidget form;
     QDoubleSpinBox box(&form);
     box.setRange(0, 300'000);
@@ -64,7 +51,7 @@ void spinBox(benchmark::State& state, bool shown)
 
 void lineEdit(benchmark::State& state, bool shown)
 {
-    startQt();
+    bench::startQt();
     QWidget form;
     QLineEdit edit(&form);
     run(state, form, shown, [&](int value) { edit.setText(QString::number(value)); });

@@ -1,15 +1,19 @@
 // Runs the benchmarks of a program and closes with the ratios: of the benchmarks named GROUP/NAME, each is held
-// against the group's "zor", in processor time. Ratios of one run say more than times, which follow the machine's
-// mood.
+// against the group's "zor" of the same length, in processor time. Ratios of one run say more than times, which
+// follow the machine's mood.
 
-#include <benchmark/benchmark.h>
+#include <zor/bench/measures.h>
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
+#include <new>
 #include <string>
 #include <vector>
 
 namespace {
+
+long allocated = 0;
 
 class RatioReporter final : public benchmark::ConsoleReporter {
 public:
@@ -21,7 +25,7 @@ public:
         for (const Run& run : runs) {
             const bool isMedian = run.run_type == Run::RT_Aggregate && run.aggregate_name == "median";
             if (!run.error_occurred && (isMedian || (run.run_type == Run::RT_Iteration && run.repetitions <= 1)))
-                m_times.push_back({run.run_name.function_name, run.GetAdjustedCPUTime()});
+                m_times.push_back({run.run_name.function_name, run.run_name.args, run.GetAdjustedCPUTime()});
         }
     }
 
@@ -35,9 +39,9 @@ public:
                 continue;
             const std::string group = own.name.substr(0, slash);
             for (const Time& peer : m_times) {
-                if (peer.name != own.name && peer.name.rfind(group + '/', 0) == 0)
-                    std::printf("ratio  %-36s %-24s takes %8.2f times as long\n", group.c_str(),
-                                peer.name.substr(slash + 1).c_str(), peer.time / own.time);
+                if (peer.name != own.name && peer.args == own.args && peer.name.rfind(group + '/', 0) == 0)
+                    std::printf("ratio  %-36s %6s %-24s takes %8.2f times as long\n", group.c_str(),
+                                own.args.c_str(), peer.name.substr(slash + 1).c_str(), peer.time / own.time);
             }
         }
     }
@@ -45,12 +49,25 @@ public:
 private:
     struct Time {
         std::string name;
+        std::string args;
         double time;
     };
     std::vector<Time> m_times;
 };
 
 } // namespace
+
+long zor::bench::allocations() noexcept { return allocated; }
+
+void* operator new(std::size_t size)
+{
+    ++allocated;
+    if (void* memory = std::malloc(size))
+        return memory;
+    throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 int main(int argc, char** argv)
 {
