@@ -270,8 +270,9 @@ public:
     [[nodiscard]] virtual std::unique_ptr<TextField> createTextField(int widget) = 0;
     /// The widget reports under the number; it must not outlive the surface.
     [[nodiscard]] virtual std::unique_ptr<Label> createLabel(int widget) = 0;
-    /// The widget reports under the number; it must not outlive the surface.
-    [[nodiscard]] virtual std::unique_ptr<Image> createImage(int widget) = 0;
+    /// The widget reports under the number; it must not outlive the surface. Most state icons are never shown: one
+    /// that is hidden at first costs next to nothing until it is.
+    [[nodiscard]] virtual std::unique_ptr<Image> createImage(int widget, bool isVisible) = 0;
     /// The widget reports under the number; it must not outlive the surface.
     [[nodiscard]] virtual std::unique_ptr<SpinButton> createSpinButton(int widget) = 0;
     /// The widget reports under the number; it must not outlive the surface.

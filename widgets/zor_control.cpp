@@ -61,8 +61,17 @@ struct ZorControl::Inner final : QObject, core::EventSink {
           output(classInfo.property("OutputValue")), modified(classInfo.property("DataModified"))
     {
         container.setUserMode(true);
+    }
+    /// Makes the control. What a new one writes into itself nobody can have asked to hear of.
+    void make()
+    {
+        control = info->create(container);
+        control->initialiseProperties();
         container.onPropertyChanged = [this](platform::Component&, std::string_view name) { written(name); };
         container.onSettled = [this](platform::Component&) { settled(); };
+        control->subscribe(*this);
+        designed = control->surface().geometry();
+        face = &platform::qt::widgetOf(*control->widget(1));
     }
     using QObject::event;
     void event(core::Control&, const core::EventRow& row, platform::EventArgs args) override
@@ -104,6 +113,8 @@ struct ZorControl::Inner final : QObject, core::EventSink {
     const core::PropertyRow* output;   ///< nullptr for a control that hands nothing over
     const core::PropertyRow* modified; ///< with it
     core::ControlPtr<> control;
+    /// The part that a control shows where the device offers its parameter, and never else.
+    QWidget* face = nullptr;
     std::optional<Variant> handedOver; ///< since the device's value came
     std::vector<Watch> watches;
     platform::Rect designed;
@@ -137,7 +148,7 @@ bool ZorControl::Inner::takesOver()
     handedOver = std::move(value);
     if (!isOther || !control->isByOperator())
         return false;
-    const auto* track = qobject_cast<const QAbstractSlider*>(&owner->face());
+    const auto* track = qobject_cast<const QAbstractSlider*>(face);
     isDragged = track != nullptr && track->isSliderDown();
     return !isDragged;
 }
@@ -173,12 +184,9 @@ ZorControl::ZorControl(std::string_view className, QWidget* parent)
 {
     takeRegionalSettings();
     Inner& inner = *m_inner;
-    inner.control = inner.info->create(inner.container);
-    inner.control->initialiseProperties();
-    inner.control->subscribe(inner);
-    inner.designed = inner.control->surface().geometry();
+    inner.make();
     takeFocusProxy();
-    if (const auto* track = qobject_cast<const QAbstractSlider*>(&face()))
+    if (const auto* track = qobject_cast<const QAbstractSlider*>(inner.face))
         connect(track, &QAbstractSlider::sliderReleased, m_inner.get(), &Inner::released);
     setSizePolicy(QSizePolicy::Preferred, hasList() ? QSizePolicy::Expanding : QSizePolicy::Fixed);
     resize(sizeHint());
@@ -350,13 +358,10 @@ void ZorControl::takeFocusProxy()
         widget.installEventFilter(this);
         break;
     }
-    if (&face() != focusProxy())
-        face().installEventFilter(this);
+    if (m_inner->face != focusProxy())
+        m_inner->face->installEventFilter(this);
     followFace();
 }
-
-/// The part that a control shows where the device offers its parameter, and never else.
-QWidget& ZorControl::face() const { return platform::qt::widgetOf(*control().widget(1)); }
 
 void ZorControl::followFace()
 {
@@ -365,7 +370,7 @@ void ZorControl::followFace()
         const bool isReachable = proxy->isEnabled() && !proxy->isHidden();
         proxy->setFocusPolicy(isReachable ? m_inner->focusPolicy : Qt::NoFocus);
     }
-    const bool isAbsent = isUserMode() && face().isHidden();
+    const bool isAbsent = isUserMode() && m_inner->face->isHidden();
     if (std::exchange(m_inner->isAbsent, isAbsent) == isAbsent)
         return;
     if (isAbsent)
@@ -391,12 +396,7 @@ bool ZorControl::focusNextPrevChild(bool next)
     return m_inner->keepsFocus || ZorWidget::focusNextPrevChild(next);
 }
 
-bool ZorControl::hasList() const
-{
-    return std::ranges::any_of(info().widgets, [this](const core::WidgetRow& row) {
-        return dynamic_cast<const platform::ListBox*>(control().widget(row.widget)) != nullptr;
-    });
-}
+bool ZorControl::hasList() const { return dynamic_cast<const platform::ListBox*>(control().widget(1)) != nullptr; }
 
 bool ZorControl::eventFilter(QObject* watched, QEvent* event)
 {

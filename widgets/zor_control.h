@@ -109,7 +109,6 @@ private:
     void layOut();
     void followFont();
     void takeFocusProxy();
-    [[nodiscard]] QWidget& face() const;
     void followFace();
     /// A list grows with the form; everything else has the height of a line.
     [[nodiscard]] bool hasList() const;

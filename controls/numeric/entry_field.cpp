@@ -34,11 +34,10 @@ Twips centredOn(const Rect& field, const platform::Widget& widget)
 
 EntryField::EntryField(platform::Surface& surface)
     : m_text(surface.createTextField(kText)), m_units(surface.createLabel(kUnits)),
-      m_icon(surface.createImage(kState))
+      m_icon(surface.createImage(kState, false))
 {
     m_text->setGeometry({0, 0, kDesignedTextWidth, kDesignedHeight});
     move(*m_units, kDesignedTextWidth + kGap, 0);
-    m_icon->setVisible(false);
     m_icon->setGeometry({kDesignedTextWidth + kGap, kIconTop, kIconSize, kIconSize});
     m_heightMargin = surface.height() - m_text->height();
 }

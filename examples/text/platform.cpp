@@ -18,7 +18,12 @@ public:
 
     [[nodiscard]] std::unique_ptr<TextField> createTextField(int number) override { return make<Field>(number); }
     [[nodiscard]] std::unique_ptr<Label> createLabel(int number) override { return make<Caption>(number); }
-    [[nodiscard]] std::unique_ptr<Image> createImage(int number) override { return make<Picture>(number); }
+    [[nodiscard]] std::unique_ptr<Image> createImage(int number, bool isVisible) override
+    {
+        auto image = make<Picture>(number);
+        image->setVisible(isVisible);
+        return image;
+    }
     [[nodiscard]] std::unique_ptr<SpinButton> createSpinButton(int number) override { return make<Spin>(number); }
     [[nodiscard]] std::unique_ptr<Track> createTrack(int number) override { return make<Handle>(number); }
     [[nodiscard]] std::unique_ptr<ComboBox> createComboBox(int number) override { return make<DropDown>(number); }

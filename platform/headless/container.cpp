@@ -43,9 +43,11 @@ public:
     {
         return std::make_unique<HeadlessLabel>(*this, widget);
     }
-    [[nodiscard]] std::unique_ptr<Image> createImage(int widget) override
+    [[nodiscard]] std::unique_ptr<Image> createImage(int widget, bool isVisible) override
     {
-        return std::make_unique<HeadlessImage>(*this, widget);
+        auto image = std::make_unique<HeadlessImage>(*this, widget);
+        image->setVisible(isVisible);
+        return image;
     }
     [[nodiscard]] std::unique_ptr<SpinButton> createSpinButton(int widget) override
     {

@@ -148,7 +148,12 @@ public:
         return make<QtTextField>(number);
     }
     [[nodiscard]] std::unique_ptr<Label> createLabel(int number) override { return make<QtLabel>(number); }
-    [[nodiscard]] std::unique_ptr<Image> createImage(int number) override { return make<QtImage>(number); }
+    [[nodiscard]] std::unique_ptr<Image> createImage(int number, bool isVisible) override
+    {
+        if (isVisible)
+            return make<QtImage>(number, Made::Now);
+        return std::make_unique<QtImage>(m_inner, number, Made::WhenShown);
+    }
     [[nodiscard]] std::unique_ptr<SpinButton> createSpinButton(int number) override
     {
         return make<QtSpinButton>(number);
@@ -180,11 +185,13 @@ public:
     }
 
 private:
-    template <class T>
-    std::unique_ptr<T> make(int number)
+    template <class T, class... More>
+    std::unique_ptr<T> make(int number, More... more)
     {
-        auto made = std::make_unique<T>(m_inner, number);
-        made->qwidget().setVisible(true);
+        auto made = std::make_unique<T>(m_inner, number, more...);
+        // On a surface that is not on screen yet it will be seen with it.
+        if (made->qwidget().isHidden())
+            made->qwidget().setVisible(true);
         return made;
     }
 

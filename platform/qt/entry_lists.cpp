@@ -186,8 +186,17 @@ QPoint CheckList::textOf(const QModelIndex& index)
     return {std::min(place.left() + reporter->scale().pixels(kListText), place.right() - 1), place.center().y()};
 }
 
+bool CheckList::event(QEvent* event)
+{
+    if (onEvent)
+        onEvent();
+    return QListView::event(event);
+}
+
 bool CheckList::viewportEvent(QEvent* event)
 {
+    if (onEvent)
+        onEvent();
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
@@ -246,10 +255,12 @@ void CheckList::focusInEvent(QFocusEvent* event)
 QtListBox::QtListBox(const Context& context, int number) : QtEntryBase(context, number, true)
 {
     widget().reporter = this;
+    widget().onEvent = [this] { arrive(); };
     paintColours();
     model().onMarked = [this](std::int32_t row) {
         {
             const Quiet quiet(*this);
+            m_passing.reset();
             widget().makeCurrent(model().index(row), true);
         }
         changed();
@@ -279,12 +290,17 @@ void QtListBox::setSelected(std::int32_t index, bool selected)
 {
     if (!model().setMarked(index, selected))
         return;
-    widget().viewport()->update();
-    {
-        const Quiet quiet(*this);
-        widget().makeCurrent(model().index(index), false);
-    }
+    if (!std::exchange(m_passing, index))
+        widget().viewport()->update();
     report(Notice::Click);
+}
+
+void QtListBox::arrive()
+{
+    if (!m_passing)
+        return;
+    const Quiet quiet(*this);
+    widget().makeCurrent(model().index(*std::exchange(m_passing, std::nullopt)), false);
 }
 
 void QtListBox::setEnabled(bool enabled)
@@ -292,6 +308,7 @@ void QtListBox::setEnabled(bool enabled)
     QtEntryBase::setEnabled(enabled);
     // A click that is cut off leaves no trace.
     if (!enabled && std::exchange(m_isChangePending, false)) {
+        arrive();
         const Quiet quiet(*this);
         widget().makeCurrent(m_before, false);
     }

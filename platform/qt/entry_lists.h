@@ -10,6 +10,7 @@
 #include <QListView>
 
 #include <functional>
+#include <optional>
 
 namespace zor::platform::qt {
 
@@ -47,6 +48,8 @@ public:
 
     /// Receives the mouse events, which Qt sends to the list's viewport.
     QtWidget* reporter = nullptr;
+    /// Called before the list sees an event, of which painting is one.
+    std::function<void()> onEvent;
 
     /// Makes an entry, or none, the current one. Scrolling there is for the one entry the list ends up with,
     /// not for each that it passes.
@@ -57,6 +60,7 @@ public:
     [[nodiscard]] QPoint textOf(const QModelIndex& index);
 
 protected:
+    bool event(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -177,11 +181,28 @@ private:
 class QtListBox final : public QtEntryBase<ListBox, CheckList> {
 public:
     QtListBox(const Context& context, int number);
-    ~QtListBox() override { widget().reporter = nullptr; }
+    ~QtListBox() override
+    {
+        widget().reporter = nullptr;
+        widget().onEvent = nullptr;
+    }
     QtListBox(const QtListBox&) = delete;
     QtListBox& operator=(const QtListBox&) = delete;
 
-    [[nodiscard]] std::int32_t current() const override { return widget().currentIndex().row(); }
+    [[nodiscard]] std::int32_t current() const override
+    {
+        return m_passing.value_or(widget().currentIndex().row());
+    }
+    void remove(std::int32_t index) override
+    {
+        arrive();
+        QtEntryBase::remove(index);
+    }
+    void clear() override
+    {
+        arrive();
+        QtEntryBase::clear();
+    }
     [[nodiscard]] bool isSelected(std::int32_t index) const override { return model().isMarked(index); }
     void setSelected(std::int32_t index, bool selected) override;
     [[nodiscard]] std::int32_t selectedCount() const override { return model().markedCount(); }
@@ -198,12 +219,20 @@ public:
     /// @}
 
 private:
-    void select(std::int32_t index) override { widget().makeCurrent(model().index(index), true); }
+    void select(std::int32_t index) override
+    {
+        arrive();
+        widget().makeCurrent(model().index(index), true);
+    }
+    void arrive();
     void paintColours() override;
     void changed();
 
     /// The mouse changed something and is not released yet.
     bool m_isChangePending = false;
+    /// The current entry, where one mark after the other is set: the list hears of the last one, before it has
+    /// anything else to do.
+    std::optional<std::int32_t> m_passing;
     /// The entry that was the current one before.
     QPersistentModelIndex m_before;
 };

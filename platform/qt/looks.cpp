@@ -1,15 +1,21 @@
 #include <zor/platform/qt/looks.h>
 #include <zor/platform/text.h>
 
+#include <QCache>
 #include <QFontMetrics>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QStyle>
+#include <QSvgRenderer>
 #include <QTextDocument>
 #include <QWidget>
 
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <utility>
 
 namespace zor::platform::qt {
 namespace {
@@ -53,6 +59,36 @@ QString shownText(std::string_view text, int limit)
     return cut ? shown + QChar(0x2026) : shown;
 }
 
+namespace {
+
+/// A text in a font, on a device of a resolution.
+struct Line {
+    QString text;
+    QFont font;
+    int resolution;
+    bool operator==(const Line&) const = default;
+};
+
+std::size_t qHash(const Line& line, std::size_t seed = 0)
+{
+    return qHashMulti(seed, line.text, line.font, line.resolution);
+}
+
+} // namespace
+
+QSize textSize(const QString& text, const QFont& font, const QPaintDevice& device)
+{
+    constexpr qsizetype kMost = 1000;
+    static QCache<Line, QSize> measured(kMost);
+    const Line line{text, font, device.logicalDpiY()};
+    if (const QSize* known = measured.object(line))
+        return *known;
+    const QFontMetrics metrics(font, &device);
+    const QSize size = metrics.size(0, text).expandedTo({0, metrics.height()});
+    measured.insert(line, new QSize(size));
+    return size;
+}
+
 QString plainToolTip(std::string_view text)
 {
     QString shown = shownText(text, kToolTipLimit);
@@ -61,6 +97,26 @@ QString plainToolTip(std::string_view text)
     // Mark-up would make two ends of a line of it.
     shown.replace("\r\n", "\n");
     return "<span style=\"white-space: pre-wrap\">" + shown.toHtmlEscaped() + "</span>";
+}
+
+QPixmap shownPicture(std::string_view svg, QSize size, double ratio)
+{
+    const QByteArray text = QByteArray::fromRawData(svg.data(), static_cast<qsizetype>(svg.size()));
+    const QString key =
+        QString("%1 %2 %3 ").arg(size.width()).arg(size.height()).arg(ratio) + QString::fromUtf8(text);
+    QPixmap picture;
+    if (QPixmapCache::find(key, &picture))
+        return picture;
+    picture = QPixmap((QSizeF(size) * ratio).toSize());
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QSvgRenderer renderer(text);
+    renderer.setAspectRatioMode(Qt::KeepAspectRatio);
+    QPainter painter(&picture);
+    renderer.render(&painter, QRectF(QPointF(), size));
+    painter.end();
+    QPixmapCache::insert(key, picture);
+    return picture;
 }
 
 QColor toQColor(Colour colour)
@@ -95,6 +151,29 @@ QColor readableOn(Colour wanted, const QColor& background)
                                   mix(start.blueF(), end.blueF()));
     }
     return colour;
+}
+
+QPalette paletteOf(Colour back, Colour fore)
+{
+    constexpr std::size_t kMost = 64;
+    static std::map<std::pair<Colour, Colour>, QPalette> made;
+    static qint64 theme = 0;
+    const qint64 now = QGuiApplication::palette().cacheKey();
+    if (std::exchange(theme, now) != now || made.size() > kMost)
+        made.clear();
+    const auto [at, isNew] = made.try_emplace({back, fore});
+    if (isNew) {
+        QPalette& palette = at->second;
+        const QColor field = toQColor(back);
+        const QColor text = readableOn(fore, field);
+        for (const auto role : {QPalette::Base, QPalette::Window})
+            palette.setColor(role, field);
+        for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+            palette.setColor(QPalette::Active, role, text);
+            palette.setColor(QPalette::Inactive, role, text);
+        }
+    }
+    return at->second;
 }
 
 QColor frameSource(const QColor& text, const QColor& background)

@@ -7,12 +7,15 @@
 
 #include <QColor>
 #include <QFont>
+#include <QPalette>
+#include <QPixmap>
 #include <QRect>
 #include <QString>
 
 #include <string>
 #include <string_view>
 
+class QPaintDevice;
 class QWidget;
 
 namespace zor::platform::qt {
@@ -37,8 +40,15 @@ private:
 /// characters, an ellipsis in place of the rest.
 [[nodiscard]] QString shownText(std::string_view text, int limit);
 
+/// The room that a text of one line or several takes on a device, at least a line. Most labels say what others say
+/// as well: each text is measured once in a font.
+[[nodiscard]] QSize textSize(const QString& text, const QFont& font, const QPaintDevice& device);
+
 /// A tooltip that is never taken for mark-up.
 [[nodiscard]] QString plainToolTip(std::string_view text);
+
+/// A picture in the middle of a size, as sharp as the pixel ratio asks for. Each is drawn once, whoever shows it.
+[[nodiscard]] QPixmap shownPicture(std::string_view svg, QSize size, double ratio);
 
 /// The theme's colour for a system colour, any other as it is.
 [[nodiscard]] QColor toQColor(Colour colour);
@@ -49,6 +59,9 @@ private:
 /// The text colour nearest to the one wanted that reaches a contrast of 4.5 on the background. A system
 /// colour that does not reach it becomes black or white.
 [[nodiscard]] QColor readableOn(Colour wanted, const QColor& background);
+
+/// What a widget with these colours paints with, in the present theme. The same for all of one colour: made once.
+[[nodiscard]] QPalette paletteOf(Colour back, Colour fore);
 
 /// The window colour of a palette from which a style paints the frame of an empty mark: one that is seen on the
 /// background, whatever colour it has.

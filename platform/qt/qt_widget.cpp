@@ -88,6 +88,7 @@ void EventReports::after()
             m_widget.report(Notice::Click);
         break;
     }
+    case QEvent::FontChange: m_widget.fontChanged(); break;
     case QEvent::StyleChange:
     case QEvent::ApplicationPaletteChange: m_widget.themeChanged(); break;
     default: break;

@@ -78,6 +78,8 @@ public:
     [[nodiscard]] bool isReachable() const { return qwidget().isEnabled() && !qwidget().isHidden(); }
     /// The theme changed: colours that follow it are set anew.
     virtual void themeChanged() = 0;
+    /// The widget writes in another font, for whatever reason.
+    virtual void fontChanged() {}
 
     /// Whether the listener believes that the widget has the focus.
     bool focusReported = false;
@@ -188,6 +190,7 @@ private:
         case QEvent::MouseButtonRelease:
         case QEvent::MouseButtonDblClick:
         case QEvent::MouseMove:
+        case QEvent::FontChange:
         case QEvent::StyleChange:
         case QEvent::ApplicationPaletteChange: return true;
         default: return false;
@@ -195,17 +198,24 @@ private:
     }
 };
 
+/// Whether a part has its Qt widget from the beginning, or from when it is first shown: an icon that most controls
+/// never show is as much work as the field beside it.
+enum class Made : std::uint8_t { Now, WhenShown };
+
 /// The interface's settings over a Qt widget of type Q.
 template <class Interface, class Q>
 class QtBase : public Interface, public QtWidget {
 public:
-    QtBase(const Context& context, int number, Colour backColour)
-        : QtWidget(context, number), m_widget(new Reporting<Q>(context.surface)), m_backColour(backColour)
+    QtBase(const Context& context, int number, Colour backColour, Made made = Made::Now)
+        : QtWidget(context, number), m_backColour(backColour)
     {
-        m_widget->owner = this;
+        if (made == Made::Now)
+            make();
     }
     ~QtBase() override
     {
+        if (!isMade())
+            return;
         m_widget->owner = nullptr;
         // Our own connections only: Qt's accessibility must still hear that the widget ends.
         QObject::disconnect(m_widget, nullptr, m_widget, nullptr);
@@ -220,22 +230,26 @@ public:
         if (m_geometry == geometry)
             return;
         m_geometry = geometry;
-        m_widget->setGeometry(scale().pixels(m_geometry));
+        QtBase::placeAnew();
     }
-    void placeAnew() override { m_widget->setGeometry(scale().pixels(m_geometry)); }
-    [[nodiscard]] bool isVisible() const override { return !m_widget->isHidden(); }
+    void placeAnew() override
+    {
+        if (isMade())
+            m_widget->setGeometry(scale().pixels(m_geometry));
+    }
+    [[nodiscard]] bool isVisible() const override { return isMade() && !m_widget->isHidden(); }
     void setVisible(bool visible) override
     {
         if (isVisible() == visible)
             return;
         keepsFocus = true;
-        m_widget->setVisible(visible);
+        widget().setVisible(visible);
         keepsFocus = false;
     }
     [[nodiscard]] bool isEnabled() const override { return m_enabled; }
     void setEnabled(bool enabled) override
     {
-        if (std::exchange(m_enabled, enabled) == enabled)
+        if (std::exchange(m_enabled, enabled) == enabled || !isMade())
             return;
         keepsFocus = true;
         m_widget->setEnabled(enabled);
@@ -244,7 +258,7 @@ public:
     [[nodiscard]] Colour backColour() const override { return m_backColour; }
     void setBackColour(Colour colour) override
     {
-        if (std::exchange(m_backColour, colour) == colour)
+        if (std::exchange(m_backColour, colour) == colour || !isMade())
             return;
         paintColours();
         announce();
@@ -255,14 +269,22 @@ public:
         if (m_toolTip == text)
             return;
         m_toolTip = text;
+        if (!isMade())
+            return;
         m_widget->setToolTip(plainToolTip(m_toolTip));
         announce();
     }
-    [[nodiscard]] QWidget& qwidget() const override { return *m_widget; }
+    [[nodiscard]] QWidget& qwidget() const override { return widget(); }
     void themeChanged() override { paintColours(); }
 
 protected:
-    [[nodiscard]] Reporting<Q>& widget() const { return *m_widget; }
+    [[nodiscard]] bool isMade() const noexcept { return m_widget != nullptr; }
+    [[nodiscard]] Reporting<Q>& widget() const
+    {
+        if (!isMade())
+            const_cast<QtBase&>(*this).makeHidden();
+        return *m_widget;
+    }
     virtual void paintColours()
     {
         QPalette palette;
@@ -271,10 +293,28 @@ protected:
         m_widget->setAutoFillBackground((m_backColour & kSystemColourBit) == 0);
     }
 
+    /// Gives a widget that is made later what its kind is given at the beginning.
+    virtual void prepare() {}
+
     Rect m_geometry;
 
 private:
-    Reporting<Q>* m_widget;
+    void make()
+    {
+        m_widget = new Reporting<Q>(context().surface);
+        m_widget->owner = this;
+    }
+    void makeHidden()
+    {
+        make();
+        m_widget->setVisible(false);
+        placeAnew();
+        m_widget->setEnabled(m_enabled);
+        m_widget->setToolTip(plainToolTip(m_toolTip));
+        prepare();
+    }
+
+    Reporting<Q>* m_widget = nullptr;
     std::string m_toolTip;
     Colour m_backColour;
     bool m_enabled = true;
@@ -310,16 +350,7 @@ public:
 protected:
     void paintColours() override
     {
-        const QColor back = toQColor(this->backColour());
-        const QColor fore = readableOn(m_foreColour, back);
-        QPalette palette;
-        for (const auto role : {QPalette::Base, QPalette::Window})
-            palette.setColor(role, back);
-        for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
-            palette.setColor(QPalette::Active, role, fore);
-            palette.setColor(QPalette::Inactive, role, fore);
-        }
-        this->widget().setPalette(palette);
+        this->widget().setPalette(paletteOf(this->backColour(), m_foreColour));
         this->widget().setAutoFillBackground((this->backColour() & kSystemColourBit) == 0);
         holdAgainstStyleSheet(this->widget(), this->backColour(), m_foreColour);
     }
@@ -331,9 +362,7 @@ private:
         QFont font = this->widget().font();
         change(font);
         this->widget().setFont(font);
-        fontChanged();
     }
-    virtual void fontChanged() {}
 
     Colour m_foreColour = ButtonText;
 };

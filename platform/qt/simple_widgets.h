@@ -11,7 +11,6 @@
 #include <QPainter>
 #include <QRadioButton>
 #include <QStyleOptionFocusRect>
-#include <QSvgRenderer>
 
 #include <cmath>
 
@@ -105,10 +104,10 @@ private:
     void fontChanged() override { fit(); }
     void fit()
     {
-        const QSize size = widget().fontMetrics().size(0, widget().text());
+        const QSize size = textSize(widget().text(), widget().font(), widget());
         Rect fitted = m_geometry;
         fitted.width = scale().twips(size.width());
-        m_lines = std::max(size.height(), widget().fontMetrics().height());
+        m_lines = size.height();
         // One line is as high as designed, also where the font needs a pixel more: it hangs below.
         fitted.height = scale().twips(m_lines);
         if (std::abs(fitted.height - kLineHeight) <= scale().twips(1))
@@ -131,10 +130,10 @@ private:
 class PictureWidget : public QWidget {
 public:
     explicit PictureWidget(QWidget* parent) : QWidget(parent) { setFocusPolicy(Qt::TabFocus); }
+    /// The text must outlive the widget.
     void setPicture(std::string_view svg)
     {
-        m_renderer.load(QByteArray(svg.data(), static_cast<qsizetype>(svg.size())));
-        m_renderer.setAspectRatioMode(Qt::KeepAspectRatio);
+        m_svg = svg;
         update();
     }
 
@@ -142,9 +141,9 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);
-        if (m_renderer.isValid()) {
+        if (!m_svg.empty()) {
             painter.setOpacity(isEnabled() ? 1.0 : 0.4);
-            m_renderer.render(&painter, QRectF(rect()));
+            painter.drawPixmap(0, 0, shownPicture(m_svg, size(), devicePixelRatioF()));
             painter.setOpacity(1.0);
         }
         if (hasFocus()) {
@@ -158,26 +157,42 @@ protected:
     }
 
 private:
-    QSvgRenderer m_renderer;
+    std::string_view m_svg;
 };
 
 class QtImage final : public QtBase<Image, PictureWidget> {
 public:
-    QtImage(const Context& context, int number) : QtBase(context, number, ButtonFace)
+    QtImage(const Context& context, int number, Made made) : QtBase(context, number, ButtonFace, made)
     {
         setGeometry({0, 0, 285, 285});
-        // What the mouse can do, the keyboard can: Space and Enter click.
-        widget().installEventFilter(&m_keys);
+        if (isMade())
+            QtImage::prepare();
     }
 
     [[nodiscard]] int picture() const override { return m_picture; }
     void setPicture(int index) override
     {
-        if (std::exchange(m_picture, index) != index)
-            widget().setPicture(context().container->picture(index));
+        if (std::exchange(m_picture, index) != index && isMade())
+            showPicture();
     }
 
 private:
+    void prepare() override
+    {
+        // What the mouse can do, the keyboard can: Space and Enter click.
+        widget().installEventFilter(&m_keys);
+        showPicture();
+        if (backColour() != ButtonFace)
+            paintColours();
+        // Made late, it still comes behind the parts that were there before and not behind those of other
+        // controls.
+        for (QObject* before : context().surface->children()) {
+            if (auto* part = qobject_cast<QWidget*>(before); part != nullptr && part != &widget())
+                QWidget::setTabOrder(part, &widget());
+        }
+    }
+    void showPicture() { widget().setPicture(context().container->picture(m_picture)); }
+
     class Keys : public QObject {
     public:
         explicit Keys(QtImage& image) : m_image(image) {}

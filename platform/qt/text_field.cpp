@@ -16,6 +16,34 @@ constexpr int kShownLimit = 32767;
 
 } // namespace
 
+void FieldEdit::takeAnyLength()
+{
+    constexpr int kAny = std::numeric_limits<int>::max();
+    if (maxLength() == kAny)
+        return;
+    const int caret = cursorPosition();
+    const int start = selectionStart();
+    const int length = selectionLength();
+    setMaxLength(kAny);
+    if (start < 0)
+        setCursorPosition(caret);
+    else
+        setSelection(start, length);
+}
+
+// What the operator enters comes with one of these first.
+void FieldEdit::focusInEvent(QFocusEvent* event)
+{
+    takeAnyLength();
+    QLineEdit::focusInEvent(event);
+}
+
+void FieldEdit::dragEnterEvent(QDragEnterEvent* event)
+{
+    takeAnyLength();
+    QLineEdit::dragEnterEvent(event);
+}
+
 void FieldEdit::contextMenuEvent(QContextMenuEvent* event)
 {
     const QPointer<FieldEdit> alive = this;
@@ -54,7 +82,6 @@ void FieldEdit::wheelEvent(QWheelEvent* event)
 
 QtTextField::QtTextField(const Context& context, int number) : QtFontBase(context, number, WindowBackground)
 {
-    widget().setMaxLength(std::numeric_limits<int>::max());
     paintColours();
     QObject::connect(&widget(), &QLineEdit::textChanged, &widget(), [this](const QString& text) {
         if (m_setting)
@@ -78,6 +105,8 @@ void QtTextField::showText(std::size_t caret)
     m_setting = true;
     const QString shown = shownText(m_text, kShownLimit);
     m_cut = shown.size() > kShownLimit;
+    if (m_cut)
+        widget().takeAnyLength();
     widget().setText(shown);
     widget().setCursorPosition(units(caret));
     m_setting = false;

@@ -14,7 +14,12 @@ public:
     using QLineEdit::QLineEdit;
     std::function<void(bool up)> onStep;
 
+    /// Takes texts of any length. Qt lays the text out anew with it: for the few fields that need it.
+    void takeAnyLength();
+
 protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
     /// The menu key is for the surface, which offers the undo; where it has no menu, the line edit's own opens.
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -13,7 +13,7 @@ constexpr std::string_view kLineBreak = "\r\n";
 
 ctx_ZorImage::ctx_ZorImage(platform::Container& container)
     : Control(classInfo(), container, kDesignedSize, kDesignedSize),
-      m_picture(surface().createImage(img_State)), m_body{m_picture.get()}
+      m_picture(surface().createImage(img_State, true)), m_body{m_picture.get()}
 {
     m_messages.header = "Qex";
     m_picture->setPicture(frm_Container::StatusOk);

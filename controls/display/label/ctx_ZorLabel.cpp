@@ -18,11 +18,10 @@ constexpr Twips kGap = 100;
 
 ctx_ZorLabel::ctx_ZorLabel(platform::Container& container)
     : Control(classInfo(), container, kDesignedWidth, kIconSize), m_label(surface().createLabel(lbl_Label)),
-      m_icon(surface().createImage(img_State)), m_body{m_label.get()}
+      m_icon(surface().createImage(img_State, false)), m_body{m_label.get()}
 {
     m_label->setSelectable(true);
     m_label->setGeometry({0, (kIconSize - m_label->height()) / 2, 0, m_label->height()});
-    m_icon->setVisible(false);
     m_icon->setGeometry({0, 0, kIconSize, kIconSize});
     s_PlaceIcon();
 }

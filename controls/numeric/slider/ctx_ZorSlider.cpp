@@ -37,7 +37,7 @@ double finite(double value)
 
 ctx_ZorSlider::ctx_ZorSlider(platform::Container& container)
     : RangeControl(classInfo(), container, kDesignedWidth, kHeight, LgthU_1By10_MM),
-      m_track(surface().createTrack(sld_Slider)), m_icon(surface().createImage(img_State))
+      m_track(surface().createTrack(sld_Slider)), m_icon(surface().createImage(img_State, false))
 {
     auto body = m_body.begin();
     *body++ = m_track.get();
