@@ -1,3 +1,4 @@
+#include <zor/core/mistake.h>
 #include <zor/pages/fields.h>
 #include <zor/pages/registration.h>
 
@@ -29,22 +30,30 @@ constexpr std::array<std::string_view, 5> kOtherControls{"ctx_ZorLabel", "ctx_Zo
 constexpr std::array kImageFields{&kDeviceTag, &kRegisterType, &kDeviceTypes, &kMinVersions, &kMaxVersions};
 constexpr std::array<std::string_view, 1> kImageControls{"ctx_ZorImage"};
 
+/// A page's row, looked over at compile time, as the fields are where they are declared: it says what it means.
+consteval PageInfo complete(const PageInfo& page)
+{
+    if (page.meaning.empty())
+        core::mistake("a page has no meaning: say it in its row");
+    return page;
+}
+
 } // namespace
 
-constexpr PageInfo prp_ZorTextBoxGeneral{
-    "prp_ZorTextBoxGeneral", kDevice,
-    "Which parameter a text box shows, on which devices, and what its operator may enter in which kind of unit.",
-    kTextBoxFields, kTextBoxControls};
-constexpr PageInfo prp_ZorUpDSldDevice{
-    "prp_ZorUpDSldDevice", kDevice,
-    "Which parameter an up-down or a slider shows, on which devices and in which kind of unit.", kUpDSldFields,
-    kUpDSldControls};
-constexpr PageInfo prp_ZorOtherControls{"prp_ZorOtherControls", kDevice,
-                                        "Which parameter a label or a choice shows, and on which devices.",
-                                        kOtherFields, kOtherControls};
-constexpr PageInfo prp_ZorImage{"prp_ZorImage", kDevice,
-                                "Which status register the image shows, and on which devices.", kImageFields,
-                                kImageControls};
+constexpr PageInfo prp_ZorTextBoxGeneral = complete(
+    {"prp_ZorTextBoxGeneral", kDevice,
+     "Which parameter a text box shows, on which devices, and what its operator may enter in which kind of unit.",
+     kTextBoxFields, kTextBoxControls});
+constexpr PageInfo prp_ZorUpDSldDevice =
+    complete({"prp_ZorUpDSldDevice", kDevice,
+              "Which parameter an up-down or a slider shows, on which devices and in which kind of unit.",
+              kUpDSldFields, kUpDSldControls});
+constexpr PageInfo prp_ZorOtherControls =
+    complete({"prp_ZorOtherControls", kDevice, "Which parameter a label or a choice shows, and on which devices.",
+              kOtherFields, kOtherControls});
+constexpr PageInfo prp_ZorImage =
+    complete({"prp_ZorImage", kDevice, "Which status register the image shows, and on which devices.",
+              kImageFields, kImageControls});
 
 void registerPages(PageRegistry& registry)
 {
