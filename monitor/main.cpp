@@ -2,15 +2,19 @@
 #include <zor/forms/form_error.h>
 #include <zor/monitor/device/device.h>
 #include <zor/monitor/link/device_address.h>
+#include <zor/monitor/report/report.h>
 #include <zor/monitor/settings/settings_commands.h>
+#include <zor/monitor/settings/survey.h>
 #include <zor/monitor/ui/frames_dock.h>
 #include <zor/monitor/ui/window.h>
 #include <zor/platform/version.h>
 
 #include <CLI/CLI.hpp>
 #include <QApplication>
+#include <QSaveFile>
 
 #include <iostream>
+#include <numeric>
 
 namespace {
 
@@ -32,6 +36,7 @@ struct Settings {
     int tab = 0;
     std::vector<std::string> trend;
     std::vector<std::string> saveTrend;
+    std::string report;
     SettingsTask task;
 };
 
@@ -41,6 +46,15 @@ const std::map<std::string, UnitSystem> kUnitSystems{{"form", UnitSystem::Form},
                                                      {"metric", UnitSystem::Metric},
                                                      {"us", UnitSystem::Us},
                                                      {"device", UnitSystem::Device}};
+
+CLI::Validator endingIn(const char* one, const char* other)
+{
+    return {[=](const std::string& name) {
+                return name.ends_with(one) || name.ends_with(other) ? ""
+                                                                    : name + ": neither " + one + " nor " + other;
+            },
+            "FILE"};
+}
 
 void addOptions(CLI::App& app, Settings& settings)
 {
@@ -72,11 +86,7 @@ void addOptions(CLI::App& app, Settings& settings)
             ->allow_extra_args(false);
     app.add_option("--save-trend", settings.saveTrend,
                    "file for the curves at the end: values (.csv) or a picture (.png)")
-        ->check(CLI::Validator(
-            [](const std::string& name) {
-                return name.ends_with(".csv") || name.ends_with(".png") ? "" : name + ": neither .csv nor .png";
-            },
-            "FILE"))
+        ->check(endingIn(".csv", ".png"))
         ->allow_extra_args(false)
         ->needs(trend);
     auto* save = app.add_option("--save-settings", settings.task.save,
@@ -89,7 +99,14 @@ void addOptions(CLI::App& app, Settings& settings)
     save->excludes(load, compare);
     load->excludes(compare);
     app.add_flag("--yes", settings.task.yes, "writes what --load-settings lists")->needs(load);
-    app.add_option("--against", settings.task.against, "settings file instead of the device")->needs(compare);
+    auto* against =
+        app.add_option("--against", settings.task.against, "settings file instead of the device")->needs(compare);
+    app.add_option(
+           "--report", settings.report,
+           "file for a report (.pdf or .html): with --run-for at the end, else as soon as every parameter has "
+           "been read; with --compare or --load-settings as well about that file")
+        ->check(endingIn(".pdf", ".html"))
+        ->excludes(against);
     app.add_flag("--json", settings.task.json, "prints the comparison as JSON")->needs(compare);
     app.add_option("--serve", settings.serve, "run only the simulated device, on this port")
         ->check(CLI::Range(1, 65535));
@@ -115,13 +132,13 @@ DeviceEntry entryOf(const Settings& settings)
 }
 
 /// Why the device does not answer, and what to try.
-int failUnhealthy(std::string text, const Reply& failure)
+int failUnhealthy(std::string text, const Reply& failure, int status = kUnhealthy)
 {
     if (!failure.reason.empty())
         text += ": " + failure.reason;
     if (const std::string_view advice = adviceOn(failure.fault, failure.exception); !advice.empty())
         text.append("\n").append(advice);
-    return fail(kUnhealthy, text);
+    return fail(status, text);
 }
 
 /// The status, or 2 when lines are missing from a file.
@@ -155,6 +172,12 @@ int finish(Window& window, const Settings& settings)
         if (!error.isEmpty())
             return fail(kUsage, name + ": " + error.toStdString());
     }
+    if (!settings.report.empty()) {
+        const QString error =
+            window.report().save(window.front(), QString::fromStdString(settings.report), std::nullopt, true);
+        if (!error.isEmpty())
+            return fail(kUsage, settings.report + ": " + error.toStdString());
+    }
     if (settings.runFor == 0)
         return kWell;
     const int rounds = session.poller().rounds();
@@ -167,13 +190,52 @@ int finish(Window& window, const Settings& settings)
     return kWell;
 }
 
+QString languageOf(const Settings& settings)
+{
+    return settings.language.empty() ? Languages::systemLanguage() : QString::fromStdString(settings.language);
+}
+
+/// What the device is asked for and reported is in the operator's language; what was printed before is English.
+int report(Session& session, const Settings& settings)
+{
+    session.setUnits(kUnitSystems.at(settings.units));
+    Languages languages;
+    languages.use(languageOf(settings));
+    ReportParts parts;
+    parts.language = languages.current().toStdString();
+    const std::string& compared = settings.task.compare.empty() ? settings.task.load : settings.task.compare;
+    if (!compared.empty())
+        parts.compared = loadSettingsFile(compared);
+    std::vector<std::size_t> all(session.file().parameters.size());
+    std::iota(all.begin(), all.end(), std::size_t{0});
+    const bool whole = surveyAtOnce(session, std::move(all));
+    // What is missing is named in it: after a write it must not be lost with the device.
+    const QString error = saveReport(QString::fromStdString(settings.report), session, parts);
+    if (!error.isEmpty())
+        return fail(kUsage, settings.report + ": " + error.toStdString());
+    if (whole)
+        return kWell;
+    constexpr int kSilent = 3; ///< of a comparison
+    return failUnhealthy("the device did not answer for all parameters", session.poller().failure(),
+                         settings.task.compare.empty() ? kUnhealthy : kSilent);
+}
+
 int transfer(const Settings& settings, ParameterFile file)
 {
     if (!settings.task.needsDevice())
         return compareFiles(file, settings.task, std::cout);
+    if (QSaveFile target(QString::fromStdString(settings.report));
+        !settings.report.empty() && !target.open(QIODevice::WriteOnly))
+        throw FileError(settings.report, 0, target.errorString().toStdString());
     Device device(entryOf(settings), std::move(file));
     device.start();
-    const int status = runSettings(device.session(), settings.task, std::cout, std::cerr);
+    int status = kWell;
+    if (settings.task.isGiven())
+        status = runSettings(device.session(), settings.task, std::cout, std::cerr);
+    if (!settings.report.empty()) {
+        const int reported = report(device.session(), settings);
+        status = status == kWell ? reported : status;
+    }
     return withFiles(settings, device, status);
 }
 
@@ -188,8 +250,7 @@ std::unique_ptr<Form> formOf(const Settings& settings, const Session& session,
 int monitor(const Settings& settings, ParameterFile file)
 {
     Languages languages;
-    languages.use(settings.language.empty() ? Languages::systemLanguage()
-                                            : QString::fromStdString(settings.language));
+    languages.use(languageOf(settings));
     zor::core::ClassRegistry classes;
     zor::registerControls(classes);
     auto device = std::make_unique<Device>(entryOf(settings), std::move(file));
@@ -242,7 +303,7 @@ int run(int argc, char** argv)
     const QApplication application(argc, argv);
     const Languages resources;
     ParameterFile file = loadParameters(entryOf(settings));
-    if (settings.task.isGiven())
+    if (settings.task.isGiven() || (!settings.report.empty() && settings.runFor == 0))
         return transfer(settings, std::move(file));
     return settings.serve > 0 ? serve(file, settings.serve) : monitor(settings, std::move(file));
 }

@@ -361,6 +361,7 @@ void Session::setLanguage(const std::string& language)
 
 void Session::setUnits(UnitSystem system)
 {
+    m_units = system;
     for (std::size_t i = 0; i < m_bindings.size(); ++i) {
         Binding& binding = *m_bindings[i];
         if (binding.parameter() != nullptr)

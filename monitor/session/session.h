@@ -93,6 +93,7 @@ public:
     [[nodiscard]] const ParameterFile& file() const { return m_file; }
     [[nodiscard]] Poller& poller() { return m_poller; }
     [[nodiscard]] Link& link() { return *m_link; }
+    [[nodiscard]] const Link& link() const { return *m_link; }
     [[nodiscard]] std::span<const std::unique_ptr<Binding>> bindings() const { return m_bindings; }
     /// Whether the device answered in the last round.
     [[nodiscard]] bool isHealthy() const { return m_healthy; }
@@ -175,6 +176,7 @@ private:
     std::vector<std::size_t> m_followed;
     QElapsedTimer m_clock;
     std::string m_language = "en";
+    UnitSystem m_units = UnitSystem::Form;
     std::string m_type;
     std::string m_version;
     int m_timeout = 0;

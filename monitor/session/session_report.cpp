@@ -56,7 +56,8 @@ bool Session::hasValues() const
 
 MEAS_TYPE Session::shownUnit(std::size_t parameter) const
 {
-    MEAS_TYPE unit = m_file.parameters[parameter].appearance.unit;
+    const Parameter& row = m_file.parameters[parameter];
+    MEAS_TYPE unit = unitIn(m_units, row.appearance.unit, row.unit);
     forEach(parameter, [&](const Binding& binding) { unit = binding.shownUnit(); });
     return unit;
 }

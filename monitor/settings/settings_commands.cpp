@@ -112,23 +112,6 @@ int tell(const Comparison& comparison, const SettingsFile& file, const Held& hel
     return comparison.isSame() ? 0 : 1;
 }
 
-/// Whether the device answered for each of the parameters.
-bool survey(Session& session, std::vector<std::size_t> parameters)
-{
-    Survey survey(session, std::move(parameters));
-    QEventLoop loop;
-    bool complete = false;
-    session.onRound = [&](bool answered) {
-        const Survey::State state = survey.hearRound(answered);
-        complete = state == Survey::State::Complete;
-        if (state != Survey::State::Going)
-            loop.quit();
-    };
-    loop.exec();
-    session.onRound = nullptr;
-    return complete;
-}
-
 int noAnswer(Session& session, std::ostream& errors, int status)
 {
     const Reply& failure = session.poller().failure();
@@ -145,7 +128,7 @@ int save(Session& session, const SettingsTask& task, std::ostream& out, std::ost
     QSaveFile target(QString::fromStdString(task.save));
     if (!target.open(QIODevice::WriteOnly))
         throw FileError(task.save, 0, target.errorString().toStdString());
-    if (!survey(session, concerned(session.file(), {})))
+    if (!surveyAtOnce(session, concerned(session.file(), {})))
         return noAnswer(session, errors, 1);
     const SettingsFile file = settingsOf(session);
     if (file.settings.empty()) {
@@ -189,7 +172,7 @@ int load(Session& session, const SettingsTask& task, const SettingsFile& file, s
          std::ostream& errors)
 {
     const auto parameters = concerned(session.file(), file);
-    if (!survey(session, parameters))
+    if (!surveyAtOnce(session, parameters))
         return noAnswer(session, errors, 1);
     const Held held = heldBy(session);
     const Comparison before = compare(session.file(), file, held, kLanguage);
@@ -202,7 +185,7 @@ int load(Session& session, const SettingsTask& task, const SettingsFile& file, s
     }
     write(session, changes, out);
     // What was not confirmed may have been carried out all the same, and what was may have moved another value.
-    if (!survey(session, parameters))
+    if (!surveyAtOnce(session, parameters))
         return noAnswer(session, errors, 1);
     const Comparison after = compare(session.file(), file, heldBy(session), kLanguage);
     printText(after, out);
@@ -225,7 +208,7 @@ int runSettings(Session& session, const SettingsTask& task, std::ostream& out, s
     const SettingsFile file = loadSettingsFile(task.load.empty() ? task.compare : task.load);
     if (!task.load.empty())
         return load(session, task, file, out, errors);
-    if (!survey(session, concerned(session.file(), file)))
+    if (!surveyAtOnce(session, concerned(session.file(), file)))
         return noAnswer(session, errors, kSilent);
     const Held held = heldBy(session);
     return tell(compare(session.file(), file, held, kLanguage), file, held, task, out);

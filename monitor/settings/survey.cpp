@@ -1,5 +1,7 @@
 #include <zor/monitor/settings/survey.h>
 
+#include <QEventLoop>
+
 #include <algorithm>
 #include <utility>
 
@@ -36,6 +38,22 @@ Survey::State Survey::hearRound(bool answered)
     m_silent = answered ? 0 : m_silent + 1;
     m_idle = m_done > before ? 0 : m_idle + 1;
     return m_silent >= kMostSilent || m_idle >= kMostIdle ? State::GivenUp : State::Going;
+}
+
+bool surveyAtOnce(Session& session, std::vector<std::size_t> parameters)
+{
+    Survey survey(session, std::move(parameters));
+    QEventLoop loop;
+    bool complete = false;
+    session.onRound = [&](bool answered) {
+        const Survey::State state = survey.hearRound(answered);
+        complete = state == Survey::State::Complete;
+        if (state != Survey::State::Going)
+            loop.quit();
+    };
+    loop.exec();
+    session.onRound = nullptr;
+    return complete;
 }
 
 } // namespace zor::monitor

@@ -33,4 +33,8 @@ private:
     int m_idle = 0;   ///< rounds without progress
 };
 
+/// Reads them in the program's event loop; whether the device answered for each. Nobody else may be told of
+/// rounds.
+[[nodiscard]] bool surveyAtOnce(Session& session, std::vector<std::size_t> parameters);
+
 } // namespace zor::monitor

@@ -175,6 +175,271 @@
     </message>
 </context>
 <context>
+    <name>Report</name>
+    <message>
+        <source>live</source>
+        <translation>gelesen</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>the device was busy</source>
+        <translation>das Gerät war beschäftigt</translation>
+    </message>
+    <message>
+        <source>communication failed</source>
+        <translation>Kommunikation gestört</translation>
+    </message>
+    <message>
+        <source>not answered yet</source>
+        <translation>noch nicht beantwortet</translation>
+    </message>
+    <message>
+        <source>the device has no value</source>
+        <translation>das Gerät hat keinen Wert</translation>
+    </message>
+    <message>
+        <source>written</source>
+        <translation>geschrieben und zurückgelesen</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>abgelehnt</translation>
+    </message>
+    <message>
+        <source>not sent</source>
+        <translation>nicht gesendet</translation>
+    </message>
+    <message>
+        <source>unconfirmed</source>
+        <translation>nicht bestätigt</translation>
+    </message>
+    <message>
+        <source>differs</source>
+        <translation>das Gerät hält einen anderen Wert</translation>
+    </message>
+    <message>
+        <source>not read back</source>
+        <translation>nicht zurückgelesen</translation>
+    </message>
+    <message>
+        <source>overtaken</source>
+        <translation>überholt: nicht geschrieben</translation>
+    </message>
+    <message>
+        <source>confirmed</source>
+        <translation>bestätigt</translation>
+    </message>
+    <message>
+        <source>not carried out</source>
+        <translation>nicht ausgeführt</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>%1 - Report</source>
+        <translation>%1 - Bericht</translation>
+    </message>
+    <message>
+        <source>Made by zor-monitor %1.</source>
+        <translation>Erstellt von zor-monitor %1.</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <translation>Bediener</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Kennung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>nicht gelesen</translation>
+    </message>
+    <message>
+        <source>this device does not have it</source>
+        <translation>dieses Gerät hat ihn nicht</translation>
+    </message>
+    <message>
+        <source>Differences to the settings file</source>
+        <translation>Unterschiede zur Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>Attention: the file is of another type of device.</source>
+        <translation>Achtung: Die Datei ist von einem anderen Gerätetyp.</translation>
+    </message>
+    <message>
+        <source>Attention: the file is of another version of the device.</source>
+        <translation>Achtung: Die Datei ist von einer anderen Version des Geräts.</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation>Nichts weicht ab.</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Bemerkung</translation>
+    </message>
+    <message>
+        <source>Writes of this session</source>
+        <translation>In dieser Sitzung geschrieben</translation>
+    </message>
+    <message>
+        <source>Nothing was written.</source>
+        <translation>Es wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Who</source>
+        <translation>Wer</translation>
+    </message>
+    <message>
+        <source>Old value</source>
+        <translation>Alter Wert</translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <translation>Neuer Wert</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Trend</translation>
+    </message>
+    <message>
+        <source>Curves of the session</source>
+        <translation>Kurven der Sitzung</translation>
+    </message>
+</context>
+<context>
+    <name>ReportDialog</name>
+    <message>
+        <source>With a &amp;picture of the trend</source>
+        <translation>Mit einem &amp;Bild des Trends</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>The report holds what the device is, every parameter with its value, and what has been written in this session. All parameters are read first.</source>
+        <translation>Der Bericht sagt, was für ein Gerät es ist, nennt jeden Parameter mit seinem Wert und was in dieser Sitzung geschrieben wurde. Vorher werden alle Parameter gelesen.</translation>
+    </message>
+    <message>
+        <source>&amp;Differences to a settings file (may be empty):</source>
+        <translation>&amp;Unterschiede zu einer Einstellungsdatei (kann leer bleiben):</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Settings file</source>
+        <translation>Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>Settings files (*.json)</source>
+        <translation>Einstellungsdateien (*.json)</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>&amp;Speichern...</translation>
+    </message>
+</context>
+<context>
+    <name>ReportMaker</name>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>HTML (*.html)</source>
+        <translation>HTML (*.html)</translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation>Bericht speichern</translation>
+    </message>
+    <message>
+        <source>This is no settings file that can be used:</source>
+        <translation>Das ist keine brauchbare Einstellungsdatei:</translation>
+    </message>
+    <message>
+        <source>Report saved: %1</source>
+        <translation>Bericht gespeichert: %1</translation>
+    </message>
+</context>
+<context>
     <name>ReviewDialog</name>
     <message>
         <source>The device has changed while this list was open. I have seen what is marked.</source>
@@ -553,6 +818,10 @@
 </context>
 <context>
     <name>Window</name>
+    <message>
+        <source>&amp;Report...</source>
+        <translation>Be&amp;richt...</translation>
+    </message>
     <message>
         <source>&amp;View</source>
         <translation>&amp;Ansicht</translation>

@@ -175,6 +175,271 @@
     </message>
 </context>
 <context>
+    <name>Report</name>
+    <message>
+        <source>live</source>
+        <translation>lu</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>non disponible</translation>
+    </message>
+    <message>
+        <source>the device was busy</source>
+        <translation>l&apos;appareil était occupé</translation>
+    </message>
+    <message>
+        <source>communication failed</source>
+        <translation>communication en défaut</translation>
+    </message>
+    <message>
+        <source>not answered yet</source>
+        <translation>pas encore de réponse</translation>
+    </message>
+    <message>
+        <source>the device has no value</source>
+        <translation>l&apos;appareil n&apos;a pas de valeur</translation>
+    </message>
+    <message>
+        <source>written</source>
+        <translation>écrit et relu</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>refusé</translation>
+    </message>
+    <message>
+        <source>not sent</source>
+        <translation>non envoyé</translation>
+    </message>
+    <message>
+        <source>unconfirmed</source>
+        <translation>non confirmé</translation>
+    </message>
+    <message>
+        <source>differs</source>
+        <translation>l&apos;appareil contient une autre valeur</translation>
+    </message>
+    <message>
+        <source>not read back</source>
+        <translation>non relu</translation>
+    </message>
+    <message>
+        <source>overtaken</source>
+        <translation>dépassé : non écrit</translation>
+    </message>
+    <message>
+        <source>confirmed</source>
+        <translation>confirmé</translation>
+    </message>
+    <message>
+        <source>not carried out</source>
+        <translation>non exécuté</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>%1 - Report</source>
+        <translation>%1 - Rapport</translation>
+    </message>
+    <message>
+        <source>Made by zor-monitor %1.</source>
+        <translation>Établi par zor-monitor %1.</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Appareil</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <translation>Opérateur</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Paramètre</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Repère</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>non lu</translation>
+    </message>
+    <message>
+        <source>this device does not have it</source>
+        <translation>cet appareil ne l&apos;a pas</translation>
+    </message>
+    <message>
+        <source>Differences to the settings file</source>
+        <translation>Différences avec le fichier de réglages</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Enregistré</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>Attention: the file is of another type of device.</source>
+        <translation>Attention : le fichier vient d&apos;un autre type d&apos;appareil.</translation>
+    </message>
+    <message>
+        <source>Attention: the file is of another version of the device.</source>
+        <translation>Attention : le fichier vient d&apos;une autre version de l&apos;appareil.</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation>Rien ne diffère.</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>Writes of this session</source>
+        <translation>Écritures de cette session</translation>
+    </message>
+    <message>
+        <source>Nothing was written.</source>
+        <translation>Rien n&apos;a été écrit.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Who</source>
+        <translation>Qui</translation>
+    </message>
+    <message>
+        <source>Old value</source>
+        <translation>Ancienne valeur</translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <translation>Nouvelle valeur</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Tendance</translation>
+    </message>
+    <message>
+        <source>Curves of the session</source>
+        <translation>Courbes de la session</translation>
+    </message>
+</context>
+<context>
+    <name>ReportDialog</name>
+    <message>
+        <source>With a &amp;picture of the trend</source>
+        <translation>Avec une &amp;image de la tendance</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>The report holds what the device is, every parameter with its value, and what has been written in this session. All parameters are read first.</source>
+        <translation>Le rapport dit quel est l&apos;appareil, donne chaque paramètre avec sa valeur et ce qui a été écrit dans cette session. Tous les paramètres sont d&apos;abord lus.</translation>
+    </message>
+    <message>
+        <source>&amp;Differences to a settings file (may be empty):</source>
+        <translation>&amp;Différences avec un fichier de réglages (facultatif) :</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Parcourir...</translation>
+    </message>
+    <message>
+        <source>Settings file</source>
+        <translation>Fichier de réglages</translation>
+    </message>
+    <message>
+        <source>Settings files (*.json)</source>
+        <translation>Fichiers de réglages (*.json)</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>&amp;Enregistrer...</translation>
+    </message>
+</context>
+<context>
+    <name>ReportMaker</name>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>HTML (*.html)</source>
+        <translation>HTML (*.html)</translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation>Enregistrer le rapport</translation>
+    </message>
+    <message>
+        <source>This is no settings file that can be used:</source>
+        <translation>Ce fichier de réglages n&apos;est pas utilisable :</translation>
+    </message>
+    <message>
+        <source>Report saved: %1</source>
+        <translation>Rapport enregistré : %1</translation>
+    </message>
+</context>
+<context>
     <name>ReviewDialog</name>
     <message>
         <source>The device has changed while this list was open. I have seen what is marked.</source>
@@ -553,6 +818,10 @@
 </context>
 <context>
     <name>Window</name>
+    <message>
+        <source>&amp;Report...</source>
+        <translation>&amp;Rapport...</translation>
+    </message>
     <message>
         <source>&amp;View</source>
         <translation>&amp;Affichage</translation>

@@ -16,7 +16,7 @@ namespace zor::monitor {
 
 Window::Window(std::unique_ptr<DevicePanel> first, Languages& languages)
     : m_stack(new QStackedWidget), m_languages(languages), m_bar(addToolBar(QString())), m_status(*statusBar()),
-      m_trend(new TrendDock(languages, this)), m_controlMenu(*this)
+      m_trend(new TrendDock(languages, this)), m_controlMenu(*this), m_report(*this, *m_trend, languages)
 {
     setCentralWidget(m_stack);
     m_bar->setObjectName("toolBar");

@@ -2,6 +2,7 @@
 
 /// The monitor's window.
 
+#include <zor/monitor/report/report_maker.h>
 #include <zor/monitor/trend/trend_dock.h>
 #include <zor/monitor/ui/control_menu.h>
 #include <zor/monitor/ui/device_panel.h>
@@ -47,6 +48,7 @@ public:
     void remember(QSettings& settings);
 
     [[nodiscard]] TrendDock& trend() { return *m_trend; }
+    [[nodiscard]] ReportMaker& report() { return m_report; }
 
     /// Closes without a question, edits or not.
     void closeUnasked();
@@ -79,6 +81,7 @@ private:
     StatusLine m_status;
     TrendDock* m_trend;
     ControlMenu m_controlMenu;
+    ReportMaker m_report;
     std::vector<std::function<void(DevicePanel&)>> m_whenFront;
     std::vector<QDockWidget*> m_docks;
     Memory m_memory;

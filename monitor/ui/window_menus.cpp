@@ -68,6 +68,7 @@ void Window::addSettingsActions(QMenu& menu)
     menu.addAction(tr("&Compare with file..."), QKeySequence("Ctrl+D"), this,
                    [this] { m_front->transfer().compare(); });
     menu.addAction(tr("Compare &two files..."), this, [this] { m_front->transfer().compareFiles(); });
+    menu.addAction(tr("&Report..."), QKeySequence::Print, this, [this] { m_report.ask(*m_front); });
 }
 
 void Window::addDeviceActions(QMenu& menu)

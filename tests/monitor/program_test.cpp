@@ -31,11 +31,19 @@ TEST(Program, RunsUnattendedAndLeavesAReportAPictureAndARecord)
     QTemporaryDir folder;
     const QString picture = folder.filePath("picture.png");
     const QString log = folder.filePath("log.csv");
-    const Ended good = run({"--run-for", "2", "--screenshot", picture, "--log", log, "--language", "de"});
+    const QString report = folder.filePath("report.html");
+    const Ended good = run({"--run-for", "2", "--screenshot", picture, "--log", log, "--language", "de", "--trend",
+                            "Distance", "--report", report});
     EXPECT_EQ(good.status, 0) << good.error.toStdString();
     EXPECT_TRUE(good.out.contains("Density  ?  not available\n")) << good.out.toStdString();
     EXPECT_TRUE(good.out.contains(" m3  live\n")) << good.out.toStdString();
     EXPECT_FALSE(QImage(picture).isNull());
+    QFile written(report);
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    const QString html = written.readAll();
+    EXPECT_TRUE(html.contains("<td>Tankhöhe</td><td>TankHeight</td><td>12,500</td><td>m</td><td>gelesen</td>"))
+        << html.toStdString();
+    EXPECT_TRUE(html.contains("data:image/png"));
     QFile record(log);
     ASSERT_TRUE(record.open(QIODevice::ReadOnly));
     const QString lines = record.readAll();
@@ -84,6 +92,11 @@ TEST(Program, SaysWhyItCannotRun)
         {{"--frames", "/dev/full", "--run-for", "1"}, 2, "/dev/full: No space left on device"},
         {{"--log", "/dev/full", "--run-for", "1"}, 2, "/dev/full: No space left on device"},
         {{"--screenshot", folder.filePath("no/a.png"), "--run-for", "1"}, 2, "cannot write"},
+        {{"--report", "a.txt"}, 2, "a.txt: neither .pdf nor .html"},
+        {{"--report", folder.filePath("no/a.pdf")}, 2, "no/a.pdf: "},
+        {{"--device", "127.0.0.1:1", "--report", folder.filePath("a.pdf")},
+         1,
+         "for all parameters: the connection"},
         {{"--trend", "Name"}, 2, "--trend Name: no parameter that is a number"},
         {{"--trend", "Flow", "--save-trend", "a.txt"}, 2, "a.txt: neither .csv nor .png"},
         {{"--trend", "Flow", "--save-trend", folder.filePath("no/a.csv"), "--run-for", "1"}, 2, "no/a.csv: "},

@@ -1,0 +1,73 @@
+#include <zor/monitor/report/report_dialog.h>
+#include <zor/monitor/report/report_maker.h>
+
+#include <QDate>
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include <numeric>
+
+namespace zor::monitor {
+
+void ReportMaker::fail(const QString& text)
+{
+    auto* box = new QMessageBox(QMessageBox::Warning, tr("Report"), text, QMessageBox::Ok, &m_window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    box->open();
+}
+
+void ReportMaker::ask(DevicePanel& panel)
+{
+    auto* dialog = new ReportDialog(!panel.trend().curves().empty(), &m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(dialog, &QDialog::accepted, &panel, [this, dialog, &panel] {
+        const QString usual = "report-" + QString::fromStdString(panel.session().deviceType()) +
+                              QDate::currentDate().toString("-yyyy-MM-dd") + ".pdf";
+        const QString pdf = tr("PDF (*.pdf)");
+        QString filter = pdf;
+        QString file = QFileDialog::getSaveFileName(&m_window, tr("Save report"), usual,
+                                                    pdf + ";;" + tr("HTML (*.html)"), &filter);
+        if (filter != pdf && file.endsWith(".pdf"))
+            file.replace(file.size() - 4, 4, ".html");
+        if (!file.isEmpty())
+            make(panel, file, dialog->compared(), dialog->hasPicture());
+    });
+    dialog->open();
+}
+
+void ReportMaker::make(DevicePanel& panel, const QString& file, const QString& compared, bool picture)
+{
+    std::optional<SettingsFile> settings;
+    try {
+        if (!compared.isEmpty())
+            settings = loadSettingsFile(compared.toStdString());
+    } catch (const FileError& error) {
+        return fail(tr("This is no settings file that can be used:") + "\n\n" + QString::fromUtf8(error.what()));
+    }
+    const auto finish = [this, &panel, file, settings, picture] {
+        const QString error = save(panel, file, settings, picture);
+        if (!error.isEmpty())
+            return fail(file + ": " + error);
+        panel.say(tr("Report saved: %1").arg(file));
+    };
+    if (!panel.isAnswered())
+        return finish();
+    std::vector<std::size_t> all(panel.session().file().parameters.size());
+    std::iota(all.begin(), all.end(), std::size_t{0});
+    panel.transfer().read(std::move(all), finish);
+}
+
+QString ReportMaker::save(DevicePanel& panel, const QString& file, std::optional<SettingsFile> compared,
+                          bool picture) const
+{
+    constexpr QSize kSize(660, 380); ///< what fits a page
+    constexpr double kRatio = 3;     ///< as fine as a printer
+    ReportParts parts{std::move(compared), {}, m_languages.current().toStdString()};
+    if (picture && !panel.trend().curves().empty())
+        parts.pictures.push_back(
+            plotPicture(panel.trend(), m_trend.plot().lastingView(), kSize, kRatio, parts.language));
+    return saveReport(file, panel.session(), parts);
+}
+
+} // namespace zor::monitor
