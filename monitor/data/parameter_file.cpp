@@ -2,6 +2,7 @@
 #include <zor/monitor/data/json_fields.h>
 #include <zor/monitor/data/parameter_file.h>
 #include <zor/monitor/data/parameter_rules.h>
+#include <zor/units/mod_Common.h>
 #include <zor/units/unit_catalogue.h>
 
 #include <algorithm>
@@ -288,6 +289,25 @@ std::optional<std::size_t> ParameterFile::indexOf(std::string_view tag) const
     const auto found = std::ranges::find(parameters, tag, &Parameter::tag);
     return found == parameters.end() ? std::nullopt
                                      : std::optional(static_cast<std::size_t>(found - parameters.begin()));
+}
+
+TagIndex::TagIndex(const ParameterFile& file)
+{
+    m_indices.reserve(file.parameters.size());
+    for (std::size_t i = 0; i < file.parameters.size(); ++i)
+        m_indices.emplace(file.parameters[i].tag, i);
+}
+
+std::optional<std::size_t> TagIndex::operator()(std::string_view tag) const
+{
+    const auto found = m_indices.find(tag);
+    return found == m_indices.end() ? std::nullopt : std::optional(found->second);
+}
+
+bool isSupported(const Supported& by, const std::string& type, const std::string& version)
+{
+    const std::int16_t index = fi_GetDeviceTypeIndex(by.types, type);
+    return index != -1 && !fb_VersionNotSupported(by.minVersions, by.maxVersions, version, index);
 }
 
 ParameterFile readParameterFile(std::string_view text, const std::string& name)

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace zor::monitor {
@@ -139,8 +140,22 @@ struct ParameterFile {
     Identity identity;
     std::vector<Parameter> parameters;
 
+    /// For a single question; TagIndex is for many.
     [[nodiscard]] std::optional<std::size_t> indexOf(std::string_view tag) const;
 };
+
+/// Finds parameters by their tags. The file must stay where and as it is.
+class TagIndex {
+public:
+    explicit TagIndex(const ParameterFile& file);
+    [[nodiscard]] std::optional<std::size_t> operator()(std::string_view tag) const;
+
+private:
+    std::unordered_map<std::string_view, std::size_t> m_indices;
+};
+
+/// Whether a device offers a parameter.
+[[nodiscard]] bool isSupported(const Supported& by, const std::string& type, const std::string& version);
 
 /// Reads and checks a parameter file; `name` stands in its errors. Raises FileError with the line and the
 /// reason for anything that is not as docs/parameter-file.md says.

@@ -83,15 +83,15 @@ void describeChange(Change& change, const Parameter& parameter, const std::strin
 
 Problem problemOf(Unfit unfit) noexcept { return kProblemOf[static_cast<std::size_t>(unfit)]; }
 
-std::vector<Change> collectChanges(const ParameterFile& file, std::span<const std::unique_ptr<Binding>> bindings,
+std::vector<Change> collectChanges(const ParameterFile& file, std::span<const std::vector<Binding*>> shownBy,
                                    const std::string& language)
 {
     std::vector<Change> changes;
     for (std::size_t i = 0; i < file.parameters.size(); ++i) {
         Change change;
         change.parameter = i;
-        for (const auto& binding : bindings) {
-            if (binding->parameter() == &file.parameters[i] && binding->isModified())
+        for (Binding* binding : shownBy[i]) {
+            if (binding->isModified())
                 take(change, file.parameters[i], *binding);
         }
         if (change.origins.empty())

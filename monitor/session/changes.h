@@ -53,9 +53,9 @@ struct Change {
     /// @}
 };
 
-/// The changes that the bound controls hold, in the order of the parameter file.
+/// The changes that the bound controls, those of each parameter, hold; in the order of the parameter file.
 [[nodiscard]] std::vector<Change> collectChanges(const ParameterFile& file,
-                                                 std::span<const std::unique_ptr<Binding>> bindings,
+                                                 std::span<const std::vector<Binding*>> shownBy,
                                                  const std::string& language);
 
 /// Whether the device still holds what the change was reviewed against.

@@ -1,5 +1,4 @@
 #include <zor/monitor/session/session.h>
-#include <zor/platform/error.h>
 
 #include <algorithm>
 #include <numeric>
@@ -20,26 +19,6 @@ Session::Session(std::unique_ptr<Link> link, ParameterFile file, Log* log)
     };
     m_writer.onResult = [this](const Change& change, const WriteResult& result) { hearResult(change, result); };
     m_writer.onDone = [this] { endWriting(); };
-}
-
-void Session::bind(core::Control& control)
-{
-    const auto index = m_file.indexOf(control.DeviceTag());
-    auto binding = std::make_unique<Binding>(control, index ? &m_file.parameters[*index] : nullptr);
-    binding->applyFile();
-    binding->refresh(m_language);
-    binding->onEdit = [this] {
-        if (onEdit)
-            onEdit();
-    };
-    if (binding->isChoice()) {
-        Binding* chooser = binding.get();
-        chooser->onChosen = [this, chooser](const Variant& value) { chosen(*chooser, value); };
-    }
-    if (index)
-        m_shownBy[*index].push_back(binding.get());
-    m_views.push_back({binding->outputUnit()});
-    m_bindings.push_back(std::move(binding));
 }
 
 void Session::start(int periodMilliseconds, int timeoutMilliseconds)
@@ -168,7 +147,7 @@ bool Session::hasEdits() const
 
 std::vector<Change> Session::pending() const
 {
-    std::vector<Change> changes = collectChanges(m_file, m_bindings, m_language);
+    std::vector<Change> changes = collectChanges(m_file, m_shownBy, m_language);
     for (Change& change : changes)
         change.device = m_device;
     return changes;
@@ -301,27 +280,6 @@ void Session::settle(std::size_t parameter, const Registers& registers)
         endEdits(change, registers);
 }
 
-std::set<std::size_t> Session::editable() const
-{
-    std::set<std::size_t> parameters;
-    for (std::size_t i = 0; i < m_states.size(); ++i) {
-        forEach(i, [&](const Binding& binding) {
-            const core::Control& control = binding.control();
-            if (m_file.parameters[i].writable && binding.has("ModifiedValue") &&
-                !control.DeviceTypeNotSupported() && !control.DeviceVerNotSupported())
-                parameters.insert(i);
-        });
-    }
-    return parameters;
-}
-
-bool Session::propose(std::size_t parameter, const Registers& registers)
-{
-    bool taken = false;
-    forEach(parameter, [&](Binding& binding) { taken = binding.propose(registers) || taken; });
-    return taken;
-}
-
 void Session::undoAll()
 {
     for (std::size_t i = 0; i < m_states.size(); ++i) {
@@ -338,46 +296,6 @@ void Session::undoAll()
                 binding.showValue(m_states[i].last, m_language);
         });
     }
-}
-
-void Session::chosen(Binding& binding, const Variant& value)
-{
-    for (const auto& other : m_bindings) {
-        if (other.get() != &binding && other->isChoice() && other->parameter() == binding.parameter())
-            other->follow(value);
-    }
-}
-
-// --- How values are shown
-
-void Session::setLanguage(const std::string& language)
-{
-    m_language = language;
-    for (std::size_t i = 0; i < m_bindings.size(); ++i) {
-        m_bindings[i]->refresh(language);
-        m_bindings[i]->texts().apply();
-    }
-}
-
-void Session::setUnits(UnitSystem system)
-{
-    m_units = system;
-    for (std::size_t i = 0; i < m_bindings.size(); ++i) {
-        Binding& binding = *m_bindings[i];
-        if (binding.parameter() != nullptr)
-            setUnit(binding, unitIn(system, m_views[i].formUnit, binding.parameter()->unit));
-    }
-}
-
-bool Session::setUnit(Binding& binding, MEAS_TYPE unit)
-{
-    try {
-        binding.showIn(unit, m_language);
-    } catch (const RunTimeError&) {
-        return false;
-    }
-    binding.texts().applyUnitLabel();
-    return true;
 }
 
 } // namespace zor::monitor

@@ -13,6 +13,7 @@
 #include <QElapsedTimer>
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <set>
 
@@ -43,6 +44,20 @@ public:
     /// Takes a control under the session's care: by its DeviceTag it finds its parameter. The control must
     /// outlive the session.
     void bind(core::Control& control);
+    /// @name Controls that a form makes when they are first needed; without it, all have been bound
+    /// @{
+    /// The class of the control that a parameter will have; nullptr when it has it by now, or never will.
+    std::function<const core::ClassInfo*(std::size_t parameter)> foreseen;
+    /// Makes the controls of a parameter and binds them.
+    std::function<void(std::size_t parameter)> make;
+    /// Whether a parameter has a control, made or foreseen.
+    [[nodiscard]] bool hasControl(std::size_t parameter) const
+    {
+        return !m_shownBy[parameter].empty() || classToCome(parameter) != nullptr;
+    }
+    /// Binds the controls of a parameter that have been foreseen; the first of all, nullptr when there is none.
+    Binding* reach(std::size_t parameter);
+    /// @}
     /// A timeout of 0 is the poll period, whatever that is set to.
     void start(int periodMilliseconds, int timeoutMilliseconds = 0);
     void setPeriod(int milliseconds);
@@ -71,7 +86,8 @@ public:
     /// and held in the list; false when a list is still being written.
     bool write(const std::vector<Change>& changes);
     [[nodiscard]] bool isWriting() const { return m_isWriting; }
-    /// The parameters that the operator can edit: those with a control for it that the device has.
+    /// The parameters that the operator can edit: those with a control for it, made or foreseen, that the device
+    /// has.
     [[nodiscard]] std::set<std::size_t> editable() const;
     /// Makes a value an edit in the parameter's controls, to be reviewed as any other. False when none took it.
     bool propose(std::size_t parameter, const Registers& registers);
@@ -84,8 +100,12 @@ public:
     /// "en", "de" or "fr": texts and entries. Translators and separators must be in force already.
     void setLanguage(const std::string& language);
     void setUnits(UnitSystem system);
-    /// False when the value cannot be expressed in the unit.
-    bool setUnit(Binding& binding, MEAS_TYPE unit);
+    /// All parameters of a kind in one unit. False when not every value can be expressed in it.
+    bool setUnit(UNIT_TYPE type, MEAS_TYPE unit);
+    /// The kinds of unit that controls, made or foreseen, let the operator choose.
+    [[nodiscard]] std::set<UNIT_TYPE> unitTypes() const;
+    /// The unit in which the operator sees a parameter, or would.
+    [[nodiscard]] MEAS_TYPE shownUnit(std::size_t parameter) const;
     /// @}
 
     /// @name For people
@@ -95,6 +115,8 @@ public:
     [[nodiscard]] Link& link() { return *m_link; }
     [[nodiscard]] const Link& link() const { return *m_link; }
     [[nodiscard]] std::span<const std::unique_ptr<Binding>> bindings() const { return m_bindings; }
+    [[nodiscard]] std::span<Binding* const> bindings(std::size_t parameter) const { return m_shownBy[parameter]; }
+    [[nodiscard]] std::optional<std::size_t> indexOf(std::string_view tag) const { return m_indexOf(tag); }
     /// Whether the device answered in the last round.
     [[nodiscard]] bool isHealthy() const { return m_healthy; }
     [[nodiscard]] int failedRounds() const { return m_failedRounds; }
@@ -115,8 +137,6 @@ public:
     /// Milliseconds on the session's clock: now, and when the device last answered for a parameter, -1 for never.
     [[nodiscard]] qint64 now() const { return m_clock.elapsed(); }
     [[nodiscard]] qint64 readAt(std::size_t parameter) const { return m_states[parameter].readAt; }
-    /// The unit in which the operator sees a parameter's numbers.
-    [[nodiscard]] MEAS_TYPE shownUnit(std::size_t parameter) const;
     /// All that has become of writes, the oldest first.
     [[nodiscard]] const std::vector<WriteRecord>& writes() const { return m_writes; }
     /// A line for each parameter: tag, value, unit, state.
@@ -141,6 +161,10 @@ private:
     };
 
     [[nodiscard]] std::vector<std::size_t> wanted();
+    void catchUp(Binding& binding, std::size_t parameter);
+    [[nodiscard]] const core::ClassInfo* classToCome(std::size_t parameter) const;
+    [[nodiscard]] MEAS_TYPE unitInForce(const Parameter& parameter, MEAS_TYPE formUnit) const;
+    bool showIn(Binding& binding, MEAS_TYPE unit);
     void hear(std::size_t parameter, const Reading& reading);
     void hearValue(std::size_t parameter, const Registers& registers);
     void update(Binding& binding, const Registers& registers, bool foreign, bool again);
@@ -164,6 +188,7 @@ private:
 
     std::unique_ptr<Link> m_link;
     ParameterFile m_file;
+    TagIndex m_indexOf{m_file};
     Log* m_log;
     Poller m_poller;
     Writer m_writer;
@@ -177,6 +202,7 @@ private:
     QElapsedTimer m_clock;
     std::string m_language = "en";
     UnitSystem m_units = UnitSystem::Form;
+    std::map<UNIT_TYPE, MEAS_TYPE> m_unitOf; ///< chosen since
     std::string m_type;
     std::string m_version;
     int m_timeout = 0;

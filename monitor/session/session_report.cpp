@@ -54,14 +54,6 @@ bool Session::hasValues() const
     return std::ranges::any_of(m_states, [](const State& state) { return !state.last.empty(); });
 }
 
-MEAS_TYPE Session::shownUnit(std::size_t parameter) const
-{
-    const Parameter& row = m_file.parameters[parameter];
-    MEAS_TYPE unit = unitIn(m_units, row.appearance.unit, row.unit);
-    forEach(parameter, [&](const Binding& binding) { unit = binding.shownUnit(); });
-    return unit;
-}
-
 std::string Session::report() const
 {
     std::string lines;

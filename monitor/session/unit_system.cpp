@@ -1,4 +1,8 @@
+#include <zor/monitor/data/codec.h>
 #include <zor/monitor/session/unit_system.h>
+#include <zor/units/unit_catalogue.h>
+
+#include <climits>
 
 #include <algorithm>
 #include <array>
@@ -51,6 +55,13 @@ constexpr std::array kRows{
     UnitsOfRow{VolFlowU_bblPerHr, VolFlowU_m3PerHr, VolFlowU_bblPerHr},
 };
 
+/// Decimals that a unit is shown with; any number without a unit.
+int decimalsIn(MEAS_TYPE unit)
+{
+    const auto* const row = std::ranges::find(units::kUnits, unit, &units::UnitRow::unit);
+    return row == units::kUnits.end() || unit == NoneU ? INT_MAX : row->decimals;
+}
+
 } // namespace
 
 MEAS_TYPE unitIn(UnitSystem system, MEAS_TYPE form, MEAS_TYPE device) noexcept
@@ -63,6 +74,14 @@ MEAS_TYPE unitIn(UnitSystem system, MEAS_TYPE form, MEAS_TYPE device) noexcept
     if (row == kRows.end())
         return form;
     return system == UnitSystem::Metric ? row->metric : row->us;
+}
+
+MEAS_TYPE formUnit(const Parameter& parameter, const core::ClassInfo& control)
+{
+    const Appearance& appearance = parameter.appearance;
+    const bool coarse = appearance.unit == parameter.unit && isInteger(parameter.location.type) &&
+                        decimalsOf(parameter).value_or(kUsualDigits) > decimalsIn(appearance.unit);
+    return coarse && control.property("OutputUnit") != nullptr ? NoneU : appearance.unit;
 }
 
 } // namespace zor::monitor

@@ -102,12 +102,6 @@ std::span<const std::string_view> verdictNames() noexcept { return kVerdicts; }
 
 std::string_view reasonOf(Problem problem) noexcept { return kUnfitReasons[static_cast<std::size_t>(problem)]; }
 
-bool isSupported(const Supported& by, const std::string& type, const std::string& version)
-{
-    const std::int16_t index = fi_GetDeviceTypeIndex(by.types, type);
-    return index != -1 && !fb_VersionNotSupported(by.minVersions, by.maxVersions, version, index);
-}
-
 Held heldBy(const Session& session)
 {
     Held held{session.deviceType(), session.deviceVersion(), session.device(), {}};
@@ -123,8 +117,9 @@ Held heldBy(const Session& session)
 Held heldBy(const ParameterFile& parameters, const SettingsFile& file)
 {
     Held held{file.deviceType, file.deviceVersion, 0, std::vector<Registers>(parameters.parameters.size())};
+    const TagIndex indexOf(parameters);
     for (const Setting& setting : file.settings) {
-        if (const auto index = parameters.indexOf(setting.tag))
+        if (const auto index = indexOf(setting.tag))
             held.registers[*index] = wantedOf(parameters.parameters[*index], setting).registers;
     }
     return held;

@@ -57,9 +57,6 @@ struct Comparison {
 [[nodiscard]] std::vector<Change> changesOf(const ParameterFile& parameters, const Comparison& comparison,
                                             const std::string& language);
 
-/// Whether a device offers a parameter.
-[[nodiscard]] bool isSupported(const Supported& by, const std::string& type, const std::string& version);
-
 /// The parameters that must have been read for a comparison with the file, or for a new file: those that can be
 /// written, and those that it has.
 [[nodiscard]] std::vector<std::size_t> concerned(const ParameterFile& parameters, const SettingsFile& file);

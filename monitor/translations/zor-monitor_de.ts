@@ -4,6 +4,10 @@
 <context>
     <name>DevicePanel</name>
     <message>
+        <source>The device does not have this parameter</source>
+        <translation>Das Gerät hat diesen Parameter nicht</translation>
+    </message>
+    <message>
         <source>Nothing to write</source>
         <translation>Nichts zu schreiben</translation>
     </message>
@@ -440,6 +444,13 @@
     </message>
 </context>
 <context>
+    <name>GroupTree</name>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppen</translation>
+    </message>
+</context>
+<context>
     <name>ReviewDialog</name>
     <message>
         <source>The device has changed while this list was open. I have seen what is marked.</source>
@@ -484,6 +495,21 @@
     <message>
         <source>Tag</source>
         <translation>Kennung</translation>
+    </message>
+</context>
+<context>
+    <name>SearchField</name>
+    <message>
+        <source>Find: tag, caption, value</source>
+        <translation>Suchen: Kennung, Name, Wert</translation>
+    </message>
+    <message>
+        <source>Find a parameter</source>
+        <translation>Parameter suchen</translation>
+    </message>
+    <message>
+        <source>Find a parameter by its tag, its caption or the value that was last read (%1)</source>
+        <translation>Einen Parameter nach Kennung, Name oder zuletzt gelesenem Wert suchen (%1)</translation>
     </message>
 </context>
 <context>
@@ -821,6 +847,14 @@
     <message>
         <source>&amp;Report...</source>
         <translation>Be&amp;richt...</translation>
+    </message>
+    <message>
+        <source>&amp;Find parameter</source>
+        <translation>Parameter &amp;suchen</translation>
+    </message>
+    <message>
+        <source>No parameter has &quot;%1&quot; in its tag, caption or last value</source>
+        <translation>Kein Parameter hat „%1“ in Kennung, Name oder letztem Wert</translation>
     </message>
     <message>
         <source>&amp;View</source>

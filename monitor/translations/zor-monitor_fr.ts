@@ -4,6 +4,10 @@
 <context>
     <name>DevicePanel</name>
     <message>
+        <source>The device does not have this parameter</source>
+        <translation>L'appareil n'a pas ce paramètre</translation>
+    </message>
+    <message>
         <source>Nothing to write</source>
         <translation>Rien à écrire</translation>
     </message>
@@ -440,6 +444,13 @@
     </message>
 </context>
 <context>
+    <name>GroupTree</name>
+    <message>
+        <source>Groups</source>
+        <translation>Groupes</translation>
+    </message>
+</context>
+<context>
     <name>ReviewDialog</name>
     <message>
         <source>The device has changed while this list was open. I have seen what is marked.</source>
@@ -484,6 +495,21 @@
     <message>
         <source>Tag</source>
         <translation>Repère</translation>
+    </message>
+</context>
+<context>
+    <name>SearchField</name>
+    <message>
+        <source>Find: tag, caption, value</source>
+        <translation>Chercher : repère, nom, valeur</translation>
+    </message>
+    <message>
+        <source>Find a parameter</source>
+        <translation>Chercher un paramètre</translation>
+    </message>
+    <message>
+        <source>Find a parameter by its tag, its caption or the value that was last read (%1)</source>
+        <translation>Chercher un paramètre par son repère, son nom ou la dernière valeur lue (%1)</translation>
     </message>
 </context>
 <context>
@@ -821,6 +847,14 @@
     <message>
         <source>&amp;Report...</source>
         <translation>&amp;Rapport...</translation>
+    </message>
+    <message>
+        <source>&amp;Find parameter</source>
+        <translation>&amp;Chercher un paramètre</translation>
+    </message>
+    <message>
+        <source>No parameter has &quot;%1&quot; in its tag, caption or last value</source>
+        <translation>Aucun paramètre n'a « %1 » dans son repère, son nom ou sa dernière valeur</translation>
     </message>
     <message>
         <source>&amp;View</source>

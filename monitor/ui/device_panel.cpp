@@ -49,8 +49,13 @@ void DevicePanel::listen()
 {
     Session& session = this->session();
     session.isVisible = isInSight;
-    for (core::Control* control : m_form->controls())
-        session.bind(*control);
+    const auto& parameters = session.file().parameters;
+    session.foreseen = [this, &parameters](std::size_t i) { return m_form->foreseen(parameters[i]); };
+    session.make = [this, &parameters](std::size_t i) { m_form->make(parameters[i]); };
+    m_form->whenMade([&session](std::span<core::Control* const> controls) {
+        for (core::Control* control : controls)
+            session.bind(*control);
+    });
     session.onRound = [this](bool answered) {
         m_answered = answered;
         showRound();
@@ -59,9 +64,10 @@ void DevicePanel::listen()
     session.onWritten = [this](const std::vector<Written>& results) { showResults(results); };
     session.onEdit = [this] { m_soon.start(0); };
     m_form->isKnown = [this](const core::Control& control) {
-        const auto all = this->session().bindings();
-        const auto at = std::ranges::find_if(all, [&](const auto& one) { return &one->control() == &control; });
-        return at != all.end() && !(*at)->shown.empty();
+        const auto parameter = this->session().indexOf(control.DeviceTag());
+        return parameter && std::ranges::any_of(this->session().bindings(*parameter), [&](const Binding* one) {
+                   return &one->control() == &control && !one->shown.empty();
+               });
     };
     if (QTabWidget* tabs = m_form->tabs()) {
         connect(tabs, &QTabWidget::currentChanged, this, [this] {
@@ -101,11 +107,7 @@ void DevicePanel::setUnits(UnitSystem system)
 
 void DevicePanel::setUnit(UNIT_TYPE type, MEAS_TYPE unit)
 {
-    bool shown = true;
-    for (const auto& binding : session().bindings()) {
-        if (binding->parameter() != nullptr && binding->parameter()->unitType == type)
-            shown = session().setUnit(*binding, unit) && shown;
-    }
+    const bool shown = session().setUnit(type, unit);
     m_form->arrange();
     if (!shown)
         say(tr("Not every value can be shown in that unit"));
@@ -115,6 +117,16 @@ QString DevicePanel::captionOf(const Parameter& parameter) const
 {
     const std::string& caption = parameter.appearance.caption.in(m_language);
     return QString::fromStdString(caption.empty() ? parameter.tag : caption);
+}
+
+void DevicePanel::reveal(std::size_t parameter)
+{
+    const Binding* binding = session().reach(parameter);
+    if (binding == nullptr)
+        return;
+    if (binding->control().DeviceTypeNotSupported() || binding->control().DeviceVerNotSupported())
+        return say(tr("The device does not have this parameter"));
+    m_form->reveal(binding->control());
 }
 
 // --- Editing
@@ -183,8 +195,8 @@ void DevicePanel::markTabs(QTabWidget& tabs)
         const bool holds = edited.contains(tabs.widget(i));
         if (tabs.tabIcon(i).isNull() == !holds)
             continue;
-        tabs.setTabIcon(i, holds ? dot(tabs.iconSize()) : QIcon());
-        tabs.setTabToolTip(i, holds ? tr("Holds edits that have not been written") : QString());
+        m_form->mark(i, holds ? dot(tabs.iconSize()) : QIcon(),
+                     holds ? tr("Holds edits that have not been written") : QString());
     }
 }
 

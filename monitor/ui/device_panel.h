@@ -49,6 +49,9 @@ public:
     void remember(const Memory& memory) { m_memory = memory; }
     /// @}
 
+    /// Brings a parameter into sight, with the focus in its control.
+    void reveal(std::size_t parameter);
+
     /// @name Editing
     /// @{
     /// Takes the entry under way over.

@@ -4,16 +4,21 @@
 
 #include <zor/core/class_info.h>
 #include <zor/monitor/data/parameter_file.h>
+#include <zor/monitor/ui/group_tree.h>
 #include <zor/platform/qt/container.h>
 
 #include <QCoreApplication>
 #include <QGridLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QPointer>
+#include <QScrollArea>
 #include <QTabWidget>
 
 #include <functional>
 #include <memory>
+#include <span>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -28,7 +33,16 @@ public:
     Form& operator=(const Form&) = delete;
 
     [[nodiscard]] virtual QWidget& widget() = 0;
+    /// Those that there are by now.
     [[nodiscard]] virtual std::vector<core::Control*> controls() = 0;
+    /// Calls with the controls that there are, and with others when they are made; from now on the page in front
+    /// has its controls.
+    virtual void whenMade(std::function<void(std::span<core::Control* const>)> hear) { hear(controls()); }
+    /// The class of the control that a parameter will have when its page is made; nullptr when it has one by now,
+    /// or never will.
+    [[nodiscard]] virtual const core::ClassInfo* foreseen(const Parameter& /*parameter*/) const { return nullptr; }
+    /// Makes the page of a parameter that has been foreseen.
+    virtual void make(const Parameter& /*parameter*/) {}
     /// Shows the texts that belong to the form, not to its controls, in a language.
     virtual void translate(const std::string& language) = 0;
     /// Whether the device's value of a control is known; without it, every value is.
@@ -40,46 +54,68 @@ public:
     [[nodiscard]] virtual QSize wholeSize() { return widget().sizeHint(); }
     /// The tabs, if it has some.
     [[nodiscard]] virtual QTabWidget* tabs() { return nullptr; }
+    /// Gives a tab an icon, or none.
+    virtual void mark(int page, const QIcon& icon, const QString& tip);
+    /// Brings a control into sight, with the focus in it, and marks it for a moment.
+    void reveal(core::Control& control);
 };
 
-/// A form made from a parameter file: a tab for each group, a row for each parameter, an option button for each
-/// entry. Where a program does not have the class that the file names, a text box takes its place.
+/// A form made from a parameter file: a tab for each group, or a tree of the groups when there are many; a row for
+/// each parameter, an option button for each entry. Where a program does not have the class that the file names, a
+/// text box takes its place. A page is made when it first comes to the front: what nobody looks at costs nothing.
 class GeneratedForm final : public Form {
     Q_DECLARE_TR_FUNCTIONS(GeneratedForm)
 public:
     GeneratedForm(const ParameterFile& file, const core::ClassRegistry& classes);
     ~GeneratedForm() override;
 
-    [[nodiscard]] QWidget& widget() override { return *m_widget; }
+    [[nodiscard]] QWidget& widget() override { return *m_whole; }
     [[nodiscard]] std::vector<core::Control*> controls() override;
+    void whenMade(std::function<void(std::span<core::Control* const>)> hear) override;
+    [[nodiscard]] const core::ClassInfo* foreseen(const Parameter& parameter) const override;
+    void make(const Parameter& parameter) override;
     void translate(const std::string& language) override;
     void arrange() override;
     [[nodiscard]] QSize wholeSize() override;
-    [[nodiscard]] QTabWidget* tabs() override { return m_widget; }
+    [[nodiscard]] QTabWidget* tabs() override { return m_tabs; }
+    void mark(int page, const QIcon& icon, const QString& tip) override;
 
 private:
     /// A parameter on the form.
     struct Row {
         const Parameter* parameter;
-        std::size_t tab;
         QLabel* caption;                          ///< left of the controls
         QLabel* note;                             ///< right of them: what they do not show themselves
         std::vector<core::ControlPtr<>> controls; ///< one, or one for each entry
     };
+    /// A group.
+    struct Page {
+        const LocalText* title;
+        QScrollArea* area;
+        std::vector<const Parameter*> parameters;
+        std::unique_ptr<platform::qt::QtContainer> container; ///< once it has been made
+        std::vector<Row> rows;
+    };
 
-    void addTab(const ParameterFile& file, const LocalText& group);
-    void addRow(QGridLayout& grid, const Parameter& parameter);
-    core::Control& addControl(Row& row, const core::ClassInfo& info, const Entry* entry);
+    void addPages(const ParameterFile& file);
+    void addTree();
+    void makePage(std::size_t index);
+    void addRow(Page& page, QGridLayout& grid, const Parameter& parameter);
+    core::Control& addControl(Page& page, Row& row, const core::ClassInfo& info, const Entry* entry);
     void prepare(core::Control& control, const Parameter& parameter);
-    void arrangeCaptions();
+    void translatePage(const Page& page);
+    void translateRow(const Row& row);
+    [[nodiscard]] int heightOf(const Page& page) const;
     [[nodiscard]] const core::ClassInfo& classOf(const Parameter& parameter) const;
 
     const core::ClassRegistry& m_classes;
-    QTabWidget* m_widget;
-    platform::qt::QtContainer m_container;
-    std::vector<Row> m_rows;
+    QWidget* m_whole; ///< the tabs, or what holds them and the tree
+    QTabWidget* m_tabs;
+    GroupTree* m_tree = nullptr;
+    std::vector<Page> m_pages;
+    std::unordered_map<const Parameter*, std::size_t> m_pageOf;
+    std::function<void(std::span<core::Control* const>)> m_hear;
     std::string m_language = "en";
-    std::vector<const LocalText*> m_tabTexts;
 };
 
 /// A form drawn in Qt Designer. Its own texts stay as they were drawn.

@@ -1,19 +1,19 @@
 #include <zor/core/control.h>
 #include <zor/core/frm_Container.h>
 #include <zor/monitor/data/codec.h>
+#include <zor/monitor/session/unit_system.h>
 #include <zor/monitor/ui/form.h>
 #include <zor/monitor/ui/row_looks.h>
-#include <zor/units/unit_catalogue.h>
 
 #include <QGridLayout>
-#include <QPointer>
-#include <QScrollArea>
 #include <QScrollBar>
+#include <QSplitter>
+#include <QStyle>
 #include <QTabBar>
 #include <QVBoxLayout>
-#include <climits>
 
 #include <algorithm>
+#include <utility>
 
 namespace zor::monitor {
 namespace {
@@ -21,15 +21,12 @@ namespace {
 constexpr std::string_view kUsualClass = "ctx_ZorTextBox";
 constexpr int kWidestCaption = 260;
 constexpr int kFrame = 4; ///< around what stands beside a caption
+constexpr int kTreeWidth = 240;
+constexpr std::size_t kMostTabs = 8; ///< more do not fit beside each other
 
 QString text(const std::string& utf8) { return QString::fromStdString(utf8); }
 
-/// Decimals that a unit is shown with; any number without a unit.
-int decimalsIn(MEAS_TYPE unit)
-{
-    const auto* const row = std::ranges::find(units::kUnits, unit, &units::UnitRow::unit);
-    return row == units::kUnits.end() || unit == NoneU ? INT_MAX : row->decimals;
-}
+[[nodiscard]] bool isChoice(const core::ClassInfo& info) { return info.property("EnumEntryValue") != nullptr; }
 
 void putIfThere(core::Control& control, std::string_view name, const Variant& value)
 {
@@ -40,53 +37,112 @@ void putIfThere(core::Control& control, std::string_view name, const Variant& va
 } // namespace
 
 GeneratedForm::GeneratedForm(const ParameterFile& file, const core::ClassRegistry& classes)
-    : m_classes(classes), m_widget(new QTabWidget), m_container(*m_widget, core::pictureData)
+    : m_classes(classes), m_whole(new QTabWidget), m_tabs(static_cast<QTabWidget*>(m_whole))
 {
-    m_widget->setDocumentMode(true);
-    std::vector<std::string> groups;
-    for (const Parameter& parameter : file.parameters) {
-        const std::string group = parameter.appearance.group.in("en");
-        if (std::ranges::find(groups, group) != groups.end())
-            continue;
-        groups.push_back(group);
-        addTab(file, parameter.appearance.group);
-    }
-    m_container.setUserMode(true);
+    m_tabs->setDocumentMode(true);
+    addPages(file);
+    QObject::connect(m_tabs, &QTabWidget::currentChanged, m_tabs, [this](int page) {
+        if (m_hear && page >= 0)
+            makePage(static_cast<std::size_t>(page));
+    });
+    if (m_pages.size() > kMostTabs)
+        addTree();
 }
 
 GeneratedForm::~GeneratedForm()
 {
     // The controls' widgets are children of the tabs; they go before those do.
-    m_rows.clear();
-    if (m_widget->parent() == nullptr)
-        delete m_widget;
+    m_pages.clear();
+    if (m_whole->parent() == nullptr)
+        delete m_whole;
 }
 
-void GeneratedForm::addTab(const ParameterFile& file, const LocalText& group)
+void GeneratedForm::addPages(const ParameterFile& file)
 {
-    auto* page = new QWidget;
-    auto* grid = new QGridLayout(page);
+    std::unordered_map<std::string_view, std::size_t> known;
     for (const Parameter& parameter : file.parameters) {
-        if (parameter.appearance.group.in("en") == group.in("en"))
-            addRow(*grid, parameter);
+        const LocalText& group = parameter.appearance.group;
+        const auto [place, isNew] = known.emplace(group.in("en"), m_pages.size());
+        if (isNew) {
+            auto* area = new QScrollArea(m_tabs);
+            area->setWidgetResizable(true);
+            area->setFrameShape(QFrame::NoFrame);
+            m_tabs->addTab(area, QString());
+            m_pages.push_back({&group, area, {}, nullptr, {}});
+        }
+        m_pages[place->second].parameters.push_back(&parameter);
+        m_pageOf.emplace(&parameter, place->second);
     }
+}
+
+void GeneratedForm::addTree()
+{
+    auto* both = new QSplitter;
+    m_tree = new GroupTree(*m_tabs);
+    m_tree->parametersOf = [this](int page) {
+        return std::span<const Parameter* const>(m_pages[static_cast<std::size_t>(page)].parameters);
+    };
+    m_tree->onChosen = [this](const Parameter& parameter) {
+        make(parameter);
+        const auto& rows = m_pages[m_pageOf.at(&parameter)].rows;
+        reveal(*std::ranges::find(rows, &parameter, &Row::parameter)->controls.front());
+    };
+    both->addWidget(m_tree);
+    both->addWidget(m_tabs);
+    both->setStretchFactor(1, 1);
+    both->setSizes({kTreeWidth, kWidestCaption});
+    both->setChildrenCollapsible(false);
+    m_whole = both;
+}
+
+void GeneratedForm::whenMade(std::function<void(std::span<core::Control* const>)> hear)
+{
+    m_hear = std::move(hear);
+    m_hear(controls());
+    makePage(static_cast<std::size_t>(m_tabs->currentIndex()));
+}
+
+const core::ClassInfo* GeneratedForm::foreseen(const Parameter& parameter) const
+{
+    const auto page = m_pageOf.find(&parameter);
+    const bool toCome = page != m_pageOf.end() && m_pages[page->second].container == nullptr;
+    return toCome ? &classOf(parameter) : nullptr;
+}
+
+void GeneratedForm::make(const Parameter& parameter) { makePage(m_pageOf.at(&parameter)); }
+
+void GeneratedForm::makePage(std::size_t index)
+{
+    Page& page = m_pages[index];
+    if (page.container != nullptr)
+        return;
+    // In its place from the start: moving a widget into another takes the longer the more there are.
+    auto* widget = new QWidget(page.area->viewport());
+    auto* grid = new QGridLayout(widget);
+    page.container = std::make_unique<platform::qt::QtContainer>(*widget, core::pictureData);
+    for (const Parameter* parameter : page.parameters)
+        addRow(page, *grid, *parameter);
     grid->setRowStretch(grid->rowCount(), 1);
     grid->setColumnStretch(2, 1);
-    auto* scroll = new QScrollArea;
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidget(page);
-    m_widget->addTab(scroll, QString());
-    m_tabTexts.push_back(&group);
+    page.container->setUserMode(true);
+    std::vector<core::Control*> made;
+    for (const Row& row : page.rows) {
+        for (const auto& control : row.controls)
+            made.push_back(control.get());
+    }
+    m_hear(made);
+    translatePage(page);
+    page.area->setWidget(widget);
 }
 
-void GeneratedForm::addRow(QGridLayout& grid, const Parameter& parameter)
+void GeneratedForm::addRow(Page& page, QGridLayout& grid, const Parameter& parameter)
 {
     const int line = grid.rowCount();
     const core::ClassInfo& info = classOf(parameter);
     const LooksRow& looks = looksOf(info);
     const Qt::Alignment level = looks.tall ? Qt::AlignTop : Qt::AlignVCenter;
-    Row row{&parameter, m_tabTexts.size(), new QLabel, new QLabel, {}};
+    QWidget* widget = grid.parentWidget();
+    Row row{&parameter, new QLabel(widget), new QLabel(widget), {}};
     for (QLabel* label : {row.caption, row.note})
         label->setTextFormat(Qt::PlainText);
     row.caption->setWordWrap(true);
@@ -94,9 +150,8 @@ void GeneratedForm::addRow(QGridLayout& grid, const Parameter& parameter)
         label->setContentsMargins(0, looks.tall ? kFrame : 0, 0, 0);
     auto* column = new QVBoxLayout;
     column->setSpacing(0);
-    const bool choice = info.property("EnumEntryValue") != nullptr;
-    for (std::size_t i = 0; i < (choice ? parameter.entries.size() : 1); ++i) {
-        core::Control& control = addControl(row, info, choice ? &parameter.entries[i] : nullptr);
+    for (std::size_t i = 0; i < (isChoice(info) ? parameter.entries.size() : 1); ++i) {
+        core::Control& control = addControl(page, row, info, isChoice(info) ? &parameter.entries[i] : nullptr);
         column->addWidget(&platform::qt::widgetOf(control.surface()), 0, Qt::AlignLeft);
     }
     auto* field = new QHBoxLayout;
@@ -104,12 +159,12 @@ void GeneratedForm::addRow(QGridLayout& grid, const Parameter& parameter)
     field->addWidget(row.note, 0, level);
     grid.addWidget(row.caption, line, 0, level);
     grid.addLayout(field, line, 1, Qt::AlignLeft | level);
-    m_rows.push_back(std::move(row));
+    page.rows.push_back(std::move(row));
 }
 
-core::Control& GeneratedForm::addControl(Row& row, const core::ClassInfo& info, const Entry* entry)
+core::Control& GeneratedForm::addControl(Page& page, Row& row, const core::ClassInfo& info, const Entry* entry)
 {
-    core::ControlPtr<> control = info.create(m_container);
+    core::ControlPtr<> control = info.create(*page.container);
     control->initialiseProperties();
     prepare(*control, *row.parameter);
     if (entry != nullptr)
@@ -128,12 +183,9 @@ void GeneratedForm::prepare(core::Control& control, const Parameter& parameter)
     control.DeviceMaxVersionSupported(appearance.supported.maxVersions);
     putIfThere(control, "UnitType", static_cast<std::int32_t>(parameter.unitType));
     putIfThere(control, "DeviceUnit", static_cast<std::int32_t>(parameter.unit));
-    // A unit brings its own decimals; where they are too few for the register, its numbers are shown without it.
-    const std::int16_t digits = decimalsOf(parameter).value_or(kUsualDigits);
-    const bool coarse = appearance.unit == parameter.unit && isInteger(parameter.location.type) &&
-                        digits > decimalsIn(appearance.unit);
-    putIfThere(control, "OutputUnit", static_cast<std::int32_t>(coarse ? NoneU : appearance.unit));
-    putIfThere(control, "NumberOfDigits", appearance.digits.value_or(digits));
+    putIfThere(control, "OutputUnit", static_cast<std::int32_t>(formUnit(parameter, control.info())));
+    putIfThere(control, "NumberOfDigits",
+               appearance.digits.value_or(decimalsOf(parameter).value_or(kUsualDigits)));
 }
 
 const core::ClassInfo& GeneratedForm::classOf(const Parameter& parameter) const
@@ -145,19 +197,25 @@ const core::ClassInfo& GeneratedForm::classOf(const Parameter& parameter) const
 std::vector<core::Control*> GeneratedForm::controls()
 {
     std::vector<core::Control*> controls;
-    for (const Row& row : m_rows) {
-        for (const auto& control : row.controls)
-            controls.push_back(control.get());
+    for (const Page& page : m_pages) {
+        for (const Row& row : page.rows) {
+            for (const auto& control : row.controls)
+                controls.push_back(control.get());
+        }
     }
     return controls;
 }
 
+void GeneratedForm::mark(int page, const QIcon& icon, const QString& tip)
+{
+    Form::mark(page, icon, tip);
+    if (m_tree != nullptr)
+        m_tree->mark(page);
+}
+
 void GeneratedForm::arrange()
 {
-    const auto front = static_cast<std::size_t>(std::max(m_widget->currentIndex(), 0));
-    for (Row& row : m_rows) {
-        if (row.tab != front)
-            continue;
+    for (Row& row : m_pages[static_cast<std::size_t>(std::max(m_tabs->currentIndex(), 0))].rows) {
         for (const auto& control : row.controls)
             fitSize(*control);
         if (row.controls.empty())
@@ -173,56 +231,70 @@ void GeneratedForm::arrange()
 
 QSize GeneratedForm::wholeSize()
 {
-    QSize size = m_widget->sizeHint();
-    for (int i = 0; i < m_widget->count(); ++i) {
-        const auto* scroll = qobject_cast<const QScrollArea*>(m_widget->widget(i));
-        const QSize bars(scroll->verticalScrollBar()->sizeHint().width(), m_widget->tabBar()->sizeHint().height());
-        size = size.expandedTo(scroll->widget()->sizeHint() + bars);
+    QSize inner(0, 0);
+    int scrollBar = 0;
+    for (const Page& page : m_pages) {
+        if (const QWidget* made = page.area->widget())
+            inner = inner.expandedTo(made->sizeHint());
+        inner.setHeight(std::max(inner.height(), heightOf(page)));
+        scrollBar = page.area->verticalScrollBar()->sizeHint().width();
     }
-    return size;
+    if (m_tree != nullptr)
+        return inner + QSize(scrollBar + kTreeWidth, 0);
+    return m_tabs->sizeHint().expandedTo(inner + QSize(scrollBar, m_tabs->tabBar()->sizeHint().height()));
+}
+
+int GeneratedForm::heightOf(const Page& page) const
+{
+    // What is not there yet cannot be measured.
+    const int space = m_whole->style()->pixelMetric(QStyle::PM_LayoutVerticalSpacing);
+    int height = 0;
+    for (const Parameter* parameter : page.parameters) {
+        const core::ClassInfo& info = classOf(*parameter);
+        height += heightIn(info, *parameter, m_whole->fontMetrics()) + std::max(space, kFrame);
+    }
+    return height;
 }
 
 void GeneratedForm::translate(const std::string& language)
 {
     m_language = language;
-    for (const Row& row : m_rows) {
-        const Appearance& appearance = row.parameter->appearance;
-        row.caption->setText(breakable(text(appearance.caption.in(language))));
-        for (std::size_t i = 0; i < row.controls.size(); ++i) {
-            core::Control& control = *row.controls[i];
-            if (control.info().property("EnumEntryValue") != nullptr)
-                setOwnCaption(control, text(row.parameter->entries[i].text.in(language)));
-            else if (!looksOf(control.info()).caption.empty())
-                setOwnCaption(control, {});
-            else if (control.info().name == "ctx_ZorListBox")
-                giveRoomForBits(control, *row.parameter, language);
-            else if (control.info().name == "ctx_ZorComboBox")
-                giveRoomForEntries(control);
-        }
+    for (std::size_t i = 0; i < m_pages.size(); ++i) {
+        const QString name = text(m_pages[i].title->in(language)).replace('&', "&&");
+        m_tabs->setTabText(static_cast<int>(i), name.isEmpty() ? tr("General") : name);
+        translatePage(m_pages[i]);
     }
-    for (std::size_t i = 0; i < m_tabTexts.size(); ++i) {
-        const QString name = text(m_tabTexts[i]->in(language)).replace('&', "&&");
-        m_widget->setTabText(static_cast<int>(i), name.isEmpty() ? tr("General") : name);
-    }
-    arrangeCaptions();
+    if (m_tree != nullptr)
+        m_tree->renew(language);
     arrange();
 }
 
-void GeneratedForm::arrangeCaptions()
+void GeneratedForm::translatePage(const Page& page)
 {
-    std::vector<int> widths(m_tabTexts.size(), 0);
-    for (const Row& row : m_rows) {
-        const int width = row.caption->fontMetrics().horizontalAdvance(row.caption->text()) + 2;
-        widths[row.tab] = std::max(widths[row.tab], std::min(width, kWidestCaption));
+    int width = 0;
+    for (const Row& row : page.rows) {
+        translateRow(row);
+        const int own = row.caption->fontMetrics().horizontalAdvance(row.caption->text()) + 2;
+        width = std::max(width, std::min(own, kWidestCaption));
     }
-    for (const Row& row : m_rows)
-        row.caption->setFixedWidth(widths[row.tab]);
+    for (const Row& row : page.rows)
+        row.caption->setFixedWidth(width);
 }
 
-bool isInSight(core::Control& control)
+void GeneratedForm::translateRow(const Row& row)
 {
-    const QWidget& widget = platform::qt::widgetOf(control.surface());
-    return widget.isVisible() && !widget.window()->isMinimized();
+    row.caption->setText(breakable(text(row.parameter->appearance.caption.in(m_language))));
+    for (std::size_t i = 0; i < row.controls.size(); ++i) {
+        core::Control& control = *row.controls[i];
+        if (isChoice(control.info()))
+            setOwnCaption(control, text(row.parameter->entries[i].text.in(m_language)));
+        else if (!looksOf(control.info()).caption.empty())
+            setOwnCaption(control, {});
+        else if (control.info().name == "ctx_ZorListBox")
+            giveRoomForBits(control, *row.parameter, m_language);
+        else if (control.info().name == "ctx_ZorComboBox")
+            giveRoomForEntries(control);
+    }
 }
 
 } // namespace zor::monitor

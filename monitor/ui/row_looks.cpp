@@ -40,6 +40,10 @@ constexpr std::array kLooks{
 };
 constexpr LooksRow kUsualLooks{"", kUsualWidth, 27};
 
+constexpr int kSpace = 4; ///< between the lines of a list
+
+int linesOf(const Parameter& list) { return std::clamp(static_cast<int>(list.bits.size()), 2, kMostLines); }
+
 QWidget& surfaceOf(core::Control& control) { return platform::qt::widgetOf(control.surface()); }
 
 /// The right end of what is on the control, shown or not: the icon comes and goes.
@@ -142,12 +146,20 @@ void giveRoomForBits(core::Control& list, const Parameter& parameter, const std:
     int widest = 0;
     for (const Entry& bit : parameter.bits)
         widest = std::max(widest, metrics.horizontalAdvance(QString::fromStdString(bit.text.in(language))));
-    constexpr int kSpace = 4;
     const int wanted = widest + kMark + kIconRoom + surface.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    const auto lines = std::clamp(static_cast<int>(parameter.bits.size()), 2, kMostLines);
     // What is still too wide is scrolled; the bar for it takes a line.
-    surface.setFixedHeight((lines + (wanted > kWidest ? 1 : 0)) * (metrics.height() + kSpace) + kSpace);
+    surface.setFixedHeight((linesOf(parameter) + (wanted > kWidest ? 1 : 0)) * (metrics.height() + kSpace) +
+                           kSpace);
     setWidth(list, std::clamp(wanted, kUsualWidth, kWidest));
+}
+
+int heightIn(const core::ClassInfo& info, const Parameter& parameter, const QFontMetrics& metrics)
+{
+    const int height = looksOf(info).height;
+    if (height == 0)
+        return linesOf(parameter) * (metrics.height() + kSpace) + kSpace;
+    const bool choice = info.property("EnumEntryValue") != nullptr;
+    return choice ? height * static_cast<int>(parameter.entries.size()) : height;
 }
 
 void giveRoomForEntries(core::Control& comboBox)

@@ -26,6 +26,9 @@ void giveSize(core::Control& control);
 /// A list shows the names of its bits, as far as that is possible.
 void giveRoomForBits(core::Control& list, const Parameter& parameter, const std::string& language);
 
+/// The height of a row, as far as it can be told before there are controls in it.
+[[nodiscard]] int heightIn(const core::ClassInfo& info, const Parameter& parameter, const QFontMetrics& metrics);
+
 /// The list that a combo box opens shows whole entries, as far as that is possible.
 void giveRoomForEntries(core::Control& comboBox);
 

@@ -21,6 +21,7 @@ Window::Window(std::unique_ptr<DevicePanel> first, Languages& languages)
     setCentralWidget(m_stack);
     m_bar->setObjectName("toolBar");
     m_bar->setMovable(false);
+    addSearch();
     bringToFront(add(std::move(first)));
     buildTrend();
     keepFrozenReadable();
@@ -59,6 +60,22 @@ void Window::remember(QSettings& settings)
     m_memory.restore(*this, "window");
     for (const auto& panel : m_panels)
         panel->remember(m_memory);
+}
+
+void Window::addSearch()
+{
+    constexpr std::size_t kMostHits = 100;
+    auto* space = new QWidget;
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    m_search = new SearchField;
+    m_atTheRight = {m_bar->addWidget(space), m_bar->addWidget(m_search)};
+    m_search->find = [this](const QString& text) {
+        return search(session(), text, m_languages.current().toStdString(), kMostHits);
+    };
+    m_search->onChosen = [this](std::size_t parameter) { m_front->reveal(parameter); };
+    m_search->onNothing = [this](const QString& text) {
+        m_status.say(tr("No parameter has \"%1\" in its tag, caption or last value").arg(text));
+    };
 }
 
 // --- Devices
@@ -104,6 +121,8 @@ void Window::whenFront(std::function<void(DevicePanel& panel)> hear)
 void Window::showFront()
 {
     m_status.follow(m_front->session());
+    m_search->clear();
+    m_search->translate();
     const QString title = m_front->title();
     setWindowTitle(title.isEmpty() ? tr("ZorSmartControls Monitor") : tr("%1 - Monitor").arg(title));
     buildMenus();

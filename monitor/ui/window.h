@@ -7,11 +7,14 @@
 #include <zor/monitor/ui/control_menu.h>
 #include <zor/monitor/ui/device_panel.h>
 #include <zor/monitor/ui/languages.h>
+#include <zor/monitor/ui/search_field.h>
 #include <zor/monitor/ui/status_line.h>
 
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QStackedWidget>
+
+#include <array>
 
 namespace zor::monitor {
 
@@ -72,12 +75,15 @@ private:
     void setUnit(UNIT_TYPE type, MEAS_TYPE unit);
     void showFront();
     void buildTrend();
+    void addSearch();
 
     std::vector<std::unique_ptr<DevicePanel>> m_panels;
     DevicePanel* m_front = nullptr;
     QStackedWidget* m_stack;
     Languages& m_languages;
     QToolBar* m_bar;
+    SearchField* m_search = nullptr;
+    std::array<QAction*, 2> m_atTheRight{}; ///< of the tool bar: space, and the search
     StatusLine m_status;
     TrendDock* m_trend;
     ControlMenu m_controlMenu;

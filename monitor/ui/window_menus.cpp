@@ -10,7 +10,6 @@
 #include <QToolBar>
 
 #include <array>
-#include <set>
 
 namespace zor::monitor {
 namespace {
@@ -56,6 +55,8 @@ void Window::buildMenus()
     m_bar->setWindowTitle(tr("Device"));
     m_bar->addAction(write);
     m_bar->addAction(undo);
+    for (QAction* action : m_atTheRight)
+        m_bar->addAction(action);
     buildViewMenu();
     buildUnitMenu();
     buildLanguageMenu();
@@ -102,6 +103,12 @@ void Window::buildViewMenu()
         menu->addAction(dock->toggleViewAction());
     m_bar->toggleViewAction()->setText(tr("&Tool bar"));
     menu->addAction(m_bar->toggleViewAction());
+    menu->addSeparator();
+    menu->addAction(tr("&Find parameter"), QKeySequence::Find, this, [this] {
+        m_bar->show();
+        m_search->setFocus(Qt::ShortcutFocusReason);
+        m_search->selectAll();
+    });
 }
 
 void Window::buildUnitMenu()
@@ -116,12 +123,7 @@ void Window::buildUnitMenu()
     }
     menu->addSeparator();
     // A device has thousands of parameters, but few kinds of unit.
-    std::set<UNIT_TYPE> types;
-    for (const auto& binding : session().bindings()) {
-        if (binding->parameter() != nullptr && binding->has("OutputUnit"))
-            types.insert(binding->parameter()->unitType);
-    }
-    for (const UNIT_TYPE type : types)
+    for (const UNIT_TYPE type : session().unitTypes())
         addUnits(*menu, type);
 }
 

@@ -134,10 +134,7 @@ TEST_F(SessionTest, WhatIsTypedIsWrittenWhateverTheUnitShows)
         host.type(row.tag, row.typed);
         // Neither another unit nor passing through the field changes what has been typed.
         for (const MEAS_TYPE unit : {TimeU_hr, TimeU_s}) {
-            host.session->setUnit(
-                **std::ranges::find_if(host.session->bindings(),
-                                       [](const auto& one) { return one->control().DeviceTag() == "Damping"; }),
-                unit);
+            host.session->setUnit(TIMEUNITS, unit);
             host.hands.focus(host.field(row.tag));
             host.hands.blur(host.field(row.tag));
         }

@@ -196,8 +196,7 @@ TEST_F(Plotted, FollowsTheUnitAndMarksWrites)
     EXPECT_NE(csv.find("Z,10,"), std::string::npos) << csv;
     EXPECT_NE(csv.find("Z,,,,Limit=77: written\n"), std::string::npos) << csv;
 
-    for (const auto& binding : host.session->bindings())
-        EXPECT_TRUE(host.session->setUnit(*binding, LgthU_CM));
+    EXPECT_TRUE(host.session->setUnit(UNIT_TYPE::Length, LgthU_CM));
     draw();
     EXPECT_TRUE(layout.panes[0].axes[0].unit == LgthU_CM && layout.panes[0].axes[0].span.high < 2);
     EXPECT_NE(trendCsv(trend).find("Level [cm]"), std::string::npos);

@@ -2,6 +2,8 @@
 
 #include <zor/controls/registration.h>
 #include <zor/monitor/ui/frames_dock.h>
+#include <zor/monitor/ui/group_tree.h>
+#include <zor/monitor/ui/search_field.h>
 #include <zor/monitor/ui/settings_dialog.h>
 #include <zor/monitor/ui/window.h>
 
@@ -229,11 +231,11 @@ TEST_F(Demo, LoadsFromASettingsFileWhatIsTickedThroughTheReview)
     const auto settings = loadSettingsFile(file.toStdString()).settings;
     EXPECT_EQ(settings.size(), 11U);
     const auto held = [&](const Setting& setting) {
-        const Location& location = this->file.parameters[*this->file.indexOf(setting.tag)].location;
+        const Location& location = this->file.parameters[*window->session().indexOf(setting.tag)].location;
         return device().registers(Bank::Holding, location.address, location.registers);
     };
     for (const Setting& setting : settings) {
-        const Location& location = this->file.parameters[*this->file.indexOf(setting.tag)].location;
+        const Location& location = this->file.parameters[*window->session().indexOf(setting.tag)].location;
         Registers other = held(setting);
         other.back() ^= static_cast<std::uint16_t>(1U << location.bit);
         device().setRegisters(Bank::Holding, location.address, other);
@@ -289,6 +291,78 @@ TEST_F(Demo, FramesShowWhatGoesOverTheLineAndWhyItFails)
     QFile saved(folder.filePath("frames.txt"));
     ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
     EXPECT_EQ(saved.readAll().count(" <- unit 1  "), rows);
+}
+
+/// More groups than fit beside each other as tabs; each begins with a length that is writable.
+struct Large : Demo {
+    static constexpr int kGroups = 12;
+    static constexpr int kRows = 20;
+
+    Large() : Demo(nullptr, parameters()) {}
+    static ParameterFile parameters()
+    {
+        std::string rows;
+        for (int i = 0; i < kGroups * kRows; ++i) {
+            const std::string number = std::to_string(i);
+            rows += R"({"tag": "P)" + number +
+                    R"(", "bank": "holding", "type": "uint16", "access": "write", "address": )" + number +
+                    R"(, "unit": "LgthU_MM", "digits": 1, "caption": "Caption )" + number +
+                    R"(", "group": "Group )" + std::to_string(i / kRows) + R"(", "simulation": {"value": )" +
+                    std::to_string(1000 + i) + "}},";
+        }
+        rows.pop_back();
+        return readParameterFile(R"({"parameters": [)" + rows + "]}", "large.json");
+    }
+    /// Types into the search field and takes the first that is found.
+    void find(const QString& text)
+    {
+        auto* search = window->findChild<SearchField*>();
+        search->setFocus();
+        search->selectAll();
+        QTest::keyClicks(search, text);
+        QTest::keyClick(search, Qt::Key_Return);
+    }
+    bool isIn(const char* tag)
+    {
+        const auto made = window->session().bindings(*window->session().indexOf(tag));
+        return !made.empty() &&
+               platform::qt::widgetOf(made.front()->control().surface()).isAncestorOf(QApplication::focusWidget());
+    }
+};
+
+TEST_F(Large, MakesAPageWhenItIsFirstOpenedAndThenAsAllOthersAre)
+{
+    EXPECT_EQ(window->form().controls().size(), kRows);
+    window->setUnits(UnitSystem::Us);
+    EXPECT_TRUE(window->session().report().find("P239  48.779") != std::string::npos)
+        << window->session().report();
+    auto* tree = window->findChild<GroupTree*>();
+    ASSERT_NE(tree, nullptr);
+    tree->setFocus();
+    QTest::keyClick(tree, Qt::Key_Down);
+    EXPECT_TRUE(untilLive());
+    EXPECT_EQ(field("P20").text(), "40.157") << "not in the unit that was chosen before";
+    EXPECT_EQ(window->form().controls().size(), 2 * kRows);
+    type("P20", "50");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !tree->topLevelItem(1)->icon(0).isNull(); }, kPatience)) << "no mark";
+    device().stop();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return binding("P21").control().CFail(); }, kPatience));
+    window->form().tabs()->setCurrentIndex(2);
+    EXPECT_TRUE(binding("P40").control().CFail()) << "a page made now looks well";
+    EXPECT_EQ(window->session().pending().size(), 1U);
+}
+
+TEST_F(Large, FindsATagACaptionAndAValueAndGoesThere)
+{
+    find("p150");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isIn("P150"); }, kPatience));
+    find("tion 33");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isIn("P33"); }, kPatience));
+    EXPECT_TRUE(untilLive());
+    find("1034");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isIn("P34"); }, kPatience)) << "not by the value that was read";
+    find("nowhere");
+    EXPECT_TRUE(window->statusBar()->currentMessage().startsWith("No parameter has"));
 }
 
 struct Drawn : Demo {
