@@ -9,7 +9,7 @@
 namespace zor::monitor {
 namespace {
 
-constexpr int kFrame = 4; ///< around what is marked
+constexpr int kMarkFrame = 4; ///< around what is marked
 
 /// Brings every page and tab on which a widget lies to the front.
 void turnTo(QWidget& widget)
@@ -46,7 +46,7 @@ void showMarked(QWidget& surface)
     if (QWidget* entry = entryOf(surface))
         entry->setFocus(Qt::ShortcutFocusReason);
     auto* mark = new QRubberBand(QRubberBand::Rectangle, surface.parentWidget());
-    mark->setGeometry(surface.geometry().adjusted(-kFrame, -kFrame, kFrame, kFrame));
+    mark->setGeometry(surface.geometry().adjusted(-kMarkFrame, -kMarkFrame, kMarkFrame, kMarkFrame));
     mark->setAttribute(Qt::WA_TransparentForMouseEvents);
     mark->show();
     QTimer::singleShot(kMilliseconds, mark, [mark] { mark->deleteLater(); });

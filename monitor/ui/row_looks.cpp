@@ -40,7 +40,7 @@ constexpr std::array kLooks{
 };
 constexpr LooksRow kUsualLooks{"", kUsualWidth, 27};
 
-constexpr int kSpace = 4; ///< between the lines of a list
+constexpr int kRowSpace = 4; ///< between the lines of a list
 
 int linesOf(const Parameter& list) { return std::clamp(static_cast<int>(list.bits.size()), 2, kMostLines); }
 
@@ -148,8 +148,8 @@ void giveRoomForBits(core::Control& list, const Parameter& parameter, const std:
         widest = std::max(widest, metrics.horizontalAdvance(QString::fromStdString(bit.text.in(language))));
     const int wanted = widest + kMark + kIconRoom + surface.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     // What is still too wide is scrolled; the bar for it takes a line.
-    surface.setFixedHeight((linesOf(parameter) + (wanted > kWidest ? 1 : 0)) * (metrics.height() + kSpace) +
-                           kSpace);
+    surface.setFixedHeight((linesOf(parameter) + (wanted > kWidest ? 1 : 0)) * (metrics.height() + kRowSpace) +
+                           kRowSpace);
     setWidth(list, std::clamp(wanted, kUsualWidth, kWidest));
 }
 
@@ -157,7 +157,7 @@ int heightIn(const core::ClassInfo& info, const Parameter& parameter, const QFon
 {
     const int height = looksOf(info).height;
     if (height == 0)
-        return linesOf(parameter) * (metrics.height() + kSpace) + kSpace;
+        return linesOf(parameter) * (metrics.height() + kRowSpace) + kRowSpace;
     const bool choice = info.property("EnumEntryValue") != nullptr;
     return choice ? height * static_cast<int>(parameter.entries.size()) : height;
 }
