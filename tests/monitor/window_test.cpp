@@ -306,9 +306,9 @@ struct Large : Demo {
             const std::string number = std::to_string(i);
             rows += R"({"tag": "P)" + number +
                     R"(", "bank": "holding", "type": "uint16", "access": "write", "address": )" + number +
-                    R"(, "unit": "LgthU_MM", "digits": 1, "caption": "Caption )" + number +
-                    R"(", "group": "Group )" + std::to_string(i / kRows) + R"(", "simulation": {"value": )" +
-                    std::to_string(1000 + i) + "}},";
+                    R"(, "unit": "LgthU_MM", "caption": "Caption )" + number + R"(", "group": "Group )" +
+                    std::to_string(i / kRows) + R"(", "simulation": {"value": )" + std::to_string(1000 + i) +
+                    "}},";
         }
         rows.pop_back();
         return readParameterFile(R"({"parameters": [)" + rows + "]}", "large.json");
