@@ -10,6 +10,7 @@ namespace zor::monitor {
 namespace {
 
 constexpr int kMarkFrame = 4; ///< around what is marked
+constexpr int kAgain = 50;    ///< milliseconds until a control is asked again whether it can be edited
 
 /// Brings every page and tab on which a widget lies to the front.
 void turnTo(QWidget& widget)
@@ -35,6 +36,25 @@ QWidget* entryOf(QWidget& surface)
     return nullptr;
 }
 
+/// Gives it the focus: at once, or when its first value has come, unless the operator has gone elsewhere. Tries as
+/// long as the mark is there.
+void focusOn(QWidget& surface, QObject& mark)
+{
+    if (QWidget* entry = entryOf(surface))
+        return entry->setFocus(Qt::ShortcutFocusReason);
+    auto* again = new QTimer(&mark);
+    QObject::connect(again, &QTimer::timeout, &surface,
+                     [&surface, again, before = QPointer(surface.window()->focusWidget())] {
+                         QWidget* entry = entryOf(surface);
+                         const bool elsewhere = surface.window()->focusWidget() != before;
+                         if (entry != nullptr && !elsewhere)
+                             entry->setFocus(Qt::ShortcutFocusReason);
+                         if (entry != nullptr || elsewhere)
+                             again->stop();
+                     });
+    again->start(kAgain);
+}
+
 void showMarked(QWidget& surface)
 {
     constexpr int kMilliseconds = 2500;
@@ -43,12 +63,11 @@ void showMarked(QWidget& surface)
         if (auto* area = qobject_cast<QScrollArea*>(parent))
             area->ensureWidgetVisible(&surface, kMargin, kMargin);
     }
-    if (QWidget* entry = entryOf(surface))
-        entry->setFocus(Qt::ShortcutFocusReason);
     auto* mark = new QRubberBand(QRubberBand::Rectangle, surface.parentWidget());
     mark->setGeometry(surface.geometry().adjusted(-kMarkFrame, -kMarkFrame, kMarkFrame, kMarkFrame));
     mark->setAttribute(Qt::WA_TransparentForMouseEvents);
     mark->show();
+    focusOn(surface, *mark);
     QTimer::singleShot(kMilliseconds, mark, [mark] { mark->deleteLater(); });
 }
 

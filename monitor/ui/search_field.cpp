@@ -50,7 +50,7 @@ void SearchField::list(const QString& text)
 void SearchField::choose()
 {
     const QAbstractItemView* shown = completer()->popup();
-    if (shown->isVisible() && shown->currentIndex().isValid())
+    if (shown->isVisible() && shown->selectionModel()->hasSelection())
         return; // the list says so itself
     list(text());
     completer()->popup()->hide();
