@@ -148,11 +148,19 @@ void Control::stored(const PropertyRow& row)
 {
     if (row.access != Access::Silent && !m_ended)
         m_container.propertyChanged(*this, row.name);
-    const auto own = std::ranges::find(m_info.effects, &row, &EffectRow::property);
-    for (const Refresh step : own == m_info.effects.end() ? row.refreshes : own->refreshes)
+    for (const Refresh step : refreshesOf(row))
         refresh(step);
     if (row.after != nullptr)
         row.after(*this);
+}
+
+const Refreshes& Control::refreshesOf(const PropertyRow& row) const noexcept
+{
+    for (const EffectRow& effect : m_info.effects) {
+        if (effect.property == &row)
+            return effect.refreshes;
+    }
+    return row.refreshes;
 }
 
 void Control::refresh(Refresh refresh)
@@ -203,11 +211,15 @@ void Control::s_UpdateStatusDisplay()
 {
     if (!isDeviceSupported())
         return;
+    // With every value, and nearly always there is no state to show: then nothing is to be done.
     const StatusRow* state = shownState();
+    if (state != nullptr || !m_isDefaultShown)
+        showState(state);
+}
+
+void Control::showState(const StatusRow* state)
+{
     if (state == nullptr) {
-        // With every value, and nearly always so: then nothing is to be done.
-        if (m_isDefaultShown)
-            return;
         body().front()->setToolTip(m_messages.defaultText);
         icon().setVisible(false);
         m_isDefaultShown = true;
@@ -225,9 +237,11 @@ void Control::s_UpdateStatusDisplay()
 
 const StatusRow* Control::shownState() const
 {
-    const auto row =
-        std::ranges::find_if(m_info.states, [this](const StatusRow& state) { return state.applies(*this); });
-    return row == m_info.states.end() ? nullptr : &*row;
+    for (const StatusRow& state : m_info.states) {
+        if (state.applies(*this))
+            return &state;
+    }
+    return nullptr;
 }
 
 platform::Spoken Control::spoken(int number)
@@ -385,11 +399,26 @@ void Control::initialiseProperties()
 {
     carryOut([this] {
         for (const PropertyRow* row : m_info.initialOrder) {
-            const bool isDefault = std::holds_alternative<std::monostate>(row->initial);
             if (row->access != Access::Derived)
-                assign(*row, toVariant(isDefault ? row->bagDefault : row->initial));
+                initialise(*row);
         }
     });
+}
+
+void Control::initialise(const PropertyRow& row)
+{
+    const bool isDefault = std::holds_alternative<std::monostate>(row.initial);
+    const Literal& value = isDefault ? row.bagDefault : row.initial;
+    if (row.put != nullptr) {
+        row.put(*this, toVariant(value));
+        return;
+    }
+    // A row's constant is of the property's type: nothing is to be converted.
+    std::visit(
+        [&](auto* field) {
+            write(row, *field, detail::constantOf<std::remove_pointer_t<decltype(field)>>(value));
+        },
+        row.field.at(*this));
 }
 
 void Control::load(const PropertyRow& row, const platform::PropertyBag& bag)

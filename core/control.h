@@ -257,12 +257,16 @@ protected:
     }
     [[nodiscard]] platform::Container& container() noexcept { return m_container; }
 
-    /// Writes a property: store, notify, refresh.
-    template <class C, class T>
-    void write(const Row<C, T>& row, std::type_identity_t<T> value)
+    /// Writes a property: store, notify, refresh. A text comes as a view, which may be one of the property itself.
+    template <class C, class T, class V>
+    void write(const Row<C, T>& row, V&& value)
     {
+        using Value = std::remove_cvref_t<V>;
+        static_assert(std::is_same_v<Value, T> ||
+                          (std::is_same_v<T, std::string> && std::is_same_v<Value, std::string_view>),
+                      "the value has another type than the property");
         assert(row.in != nullptr); // a property that a function answers is not written into a field
-        naming(m_info.name, row.name, [&] { write(row, row.in(*this), std::move(value)); });
+        naming(m_info.name, row.name, [&] { write(row, row.in(*this), std::forward<V>(value)); });
     }
 
     /// Carries out what the host or the operator asks for, which may raise events: keeps the control alive, and
@@ -305,16 +309,24 @@ private:
     friend struct ControlDeleter;
     class Acting;
 
-    template <class T>
-    void write(const PropertyRow& row, T& field, std::type_identity_t<T>&& value);
+    template <class T, class V>
+    void write(const PropertyRow& row, T& field, V&& value);
+    /// Puts a value into a field; answers the old one where it was another, or may have been.
+    template <class T, class V>
+    static std::optional<T> replace(T& field, V&& value);
     /// The class's own row, or NoSuchMember.
     const PropertyRow& own(const PropertyRow& row) const;
     [[nodiscard]] Variant read(const PropertyRow& row) const;
     void assign(const PropertyRow& row, const Variant& value);
+    void initialise(const PropertyRow& row);
     /// The state that the icon stands for, nullptr for none.
     [[nodiscard]] const StatusRow* shownState() const;
+    /// Shows a state, or with nullptr that there is none.
+    void showState(const StatusRow* state);
     [[nodiscard]] bool refusesWrite(const PropertyRow& row) const;
     void stored(const PropertyRow& row);
+    /// What a write of a row refreshes in this class.
+    [[nodiscard]] const Refreshes& refreshesOf(const PropertyRow& row) const noexcept;
     void refresh(Refresh refresh);
     void deliver(const SinkList::Entry& entry, const EventRow& row, platform::EventArgs args);
     void passOnHandlerError();
@@ -388,20 +400,36 @@ void Control::writeWidget(Set&& set)
         passOnReportError();
 }
 
-template <class T>
-void Control::write(const PropertyRow& row, T& field, std::type_identity_t<T>&& value)
+template <class T, class V>
+std::optional<T> Control::replace(T& field, V&& value)
+{
+    // Most texts that a new control is given stand there already, and texts are long. An equal number need not be
+    // the same: 0 and -0, 16 bits and 32.
+    if constexpr (std::is_same_v<T, std::string>) {
+        if (field == value)
+            return std::nullopt;
+        return std::exchange(field, T(std::forward<V>(value)));
+    }
+    // A copy, for the value may be the field's own.
+    std::optional<T> before(field);
+    field = std::forward<V>(value);
+    return before;
+}
+
+template <class T, class V>
+void Control::write(const PropertyRow& row, T& field, V&& value)
 {
     if (refusesWrite(row))
         return;
     if constexpr (std::is_same_v<T, double> || std::is_same_v<T, Variant>)
         requireFinite(value);
     carryOut([&] {
-        T before = std::exchange(field, std::move(value));
+        std::optional<T> before = replace(field, std::forward<V>(value));
         try {
             stored(row);
         } catch (...) {
-            if (!m_info.keepsFailedWrites)
-                field = std::move(before);
+            if (before && !m_info.keepsFailedWrites)
+                field = std::move(*before);
             m_isDefaultShown = false;
             throw;
         }

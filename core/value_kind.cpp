@@ -1,7 +1,4 @@
 #include <zor/core/value_kind.h>
-#include <zor/platform/error.h>
-
-#include <cmath>
 
 namespace zor::core {
 
@@ -43,12 +40,6 @@ Variant valueOf(const FieldRef& field)
 void storeInto(const FieldRef& field, const Variant& value)
 {
     std::visit([&](auto* at) { *at = detail::convertTo<std::decay_t<decltype(*at)>>(value); }, field);
-}
-
-void requireFinite(const Variant& value)
-{
-    if (value.isNumber() && !std::isfinite(value.number()))
-        raiseError(ErrorNumber::Overflow);
 }
 
 std::uint32_t detail::toColour(const Variant& value)

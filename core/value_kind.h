@@ -2,10 +2,12 @@
 
 /// The types that properties, arguments and results have, and what converts between them and values of any type.
 
+#include <zor/platform/error.h>
 #include <zor/platform/macros_aside.h>
 #include <zor/platform/variant.h>
 #include <zor/units/unit_types.h>
 
+#include <cmath>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -55,7 +57,17 @@ using FieldRef = std::variant<bool*, std::int16_t*, std::int32_t*, double*, std:
 void storeInto(const FieldRef& field, const Variant& value);
 
 /// No property is infinite or undefined: raises Overflow for such a number.
-void requireFinite(const Variant& value);
+inline void requireFinite(double value)
+{
+    if (!std::isfinite(value))
+        raiseError(ErrorNumber::Overflow);
+}
+/// An integer is finite, and what is no number is none that is not.
+inline void requireFinite(const Variant& value)
+{
+    if (const auto* number = std::get_if<double>(&value.storage()))
+        requireFinite(*number);
+}
 
 namespace detail {
 
@@ -110,6 +122,22 @@ template <class T>
         return toColour(value);
     else
         return static_cast<T>(value.toInt32());
+}
+
+/// The constant of a property of type T, a text as a view; the type's first value where there is none.
+template <class T>
+[[nodiscard]] auto constantOf(const Literal& literal)
+{
+    if constexpr (std::is_same_v<T, Variant>) {
+        return core::toVariant(literal);
+    } else {
+        using Kept = std::conditional_t<
+            std::is_same_v<T, std::string>, std::string_view,
+            std::conditional_t<std::is_same_v<T, bool> || std::is_same_v<T, double>, T, std::int32_t>>;
+        using Given = std::conditional_t<std::is_same_v<T, std::string>, std::string_view, T>;
+        const auto* kept = std::get_if<Kept>(&literal);
+        return kept != nullptr ? static_cast<Given>(*kept) : Given{};
+    }
 }
 
 template <class T>

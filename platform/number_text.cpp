@@ -111,37 +111,42 @@ constexpr auto kPairs = [] {
     return pairs;
 }();
 
-std::size_t digitCount(std::uint64_t number) noexcept
-{
-    std::size_t count = 1;
-    for (std::uint64_t next = 10; number >= next; next *= 10)
-        ++count;
-    return count;
-}
+/// A decimal separator of at most so many bytes leaves room for all digits below.
+constexpr std::size_t kLongestPoint = 8;
 
 /// The text of a number of units of 10^-decimals, of 15 digits at the most.
 std::string shortText(bool isNegative, std::uint64_t number, std::size_t decimals, std::string_view point)
 {
-    const std::size_t digits = std::max(digitCount(number), decimals + 1);
-    std::string text(digits + (isNegative ? 1 : 0) + (decimals > 0 ? point.size() : 0), '-');
-    char* at = text.data() + text.size();
-    const auto putDigits = [&](std::size_t count) {
-        for (; count > 1; count -= 2) {
-            at -= 2;
-            std::copy_n(kPairs[number % 100].data(), 2, at);
-            number /= 100;
-        }
-        if (count == 1) {
-            *--at = static_cast<char>('0' + number % 10);
-            number /= 10;
-        }
+    std::array<char, 2 * kPowersOfTen.size()> buffer{};
+    static_assert(buffer.size() >= 1 + kPowersOfTen.size() + kLongestPoint); // a sign, 0 and its decimals
+    char* const end = buffer.data() + buffer.size();
+    char* at = end; // from the last character to the first
+    const auto putPair = [&] {
+        at -= 2;
+        std::copy_n(kPairs[number % 100].data(), 2, at);
+        number /= 100;
+    };
+    const auto putDigit = [&] {
+        *--at = static_cast<char>('0' + number % 10);
+        number /= 10;
     };
     if (decimals > 0) {
-        putDigits(decimals);
-        at = std::copy_backward(point.begin(), point.end(), at);
+        for (; decimals > 1; decimals -= 2)
+            putPair();
+        if (decimals == 1)
+            putDigit();
+        for (auto byte = point.rbegin(); byte != point.rend(); ++byte)
+            *--at = *byte;
     }
-    putDigits(digits - decimals);
-    return text;
+    while (number >= 100)
+        putPair();
+    if (number >= 10)
+        putPair();
+    else
+        putDigit();
+    if (isNegative)
+        *--at = '-';
+    return {at, end};
 }
 
 } // namespace
@@ -149,7 +154,8 @@ std::string shortText(bool isNegative, std::uint64_t number, std::size_t decimal
 std::string formatFixed(double value, int decimals)
 {
     const std::string& point = regionalSettings().decimal;
-    if (const std::optional<std::uint64_t> number = roundedShort(std::fabs(value), decimals))
+    const std::optional<std::uint64_t> number = roundedShort(std::fabs(value), decimals);
+    if (number && point.size() <= kLongestPoint)
         return shortText(std::signbit(value), *number, static_cast<std::size_t>(decimals), point);
     std::string text;
     Decimal decimal = shortest(value);

@@ -13,6 +13,8 @@ RegionalSettings& current() noexcept
     return settings;
 }
 
+std::uint32_t revision = 0;
+
 /// Why a text cannot separate; nothing when it can.
 std::string_view objection(std::string_view separator) noexcept
 {
@@ -27,6 +29,8 @@ std::string_view objection(std::string_view separator) noexcept
 
 const RegionalSettings& regionalSettings() noexcept { return current(); }
 
+std::uint32_t regionalRevision() noexcept { return revision; }
+
 void setRegionalSettings(RegionalSettings settings)
 {
     if (settings.decimal.empty())
@@ -38,6 +42,7 @@ void setRegionalSettings(RegionalSettings settings)
             raiseError(ErrorNumber::InvalidCall, why);
     }
     current() = std::move(settings);
+    ++revision;
 }
 
 } // namespace zor::platform

@@ -2,6 +2,7 @@
 
 /// The user's regional settings: which characters separate decimals and groups of digits.
 
+#include <cstdint>
 #include <string>
 
 namespace zor::platform {
@@ -21,6 +22,9 @@ struct RegionalSettings {
 
 /// The settings in force. Read on the user-interface thread only.
 [[nodiscard]] const RegionalSettings& regionalSettings() noexcept;
+
+/// Another number after each replacement: what has been made with the settings is good while it stays.
+[[nodiscard]] std::uint32_t regionalRevision() noexcept;
 
 /// Replaces the settings, while running if need be; values already shown keep their text until they are
 /// shown anew. Raises InvalidCall when the decimal separator is empty, equals the grouping separator, or

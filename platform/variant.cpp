@@ -3,27 +3,28 @@
 #include <zor/platform/variant.h>
 
 #include <cmath>
-#include <limits>
+#include <utility>
 
 namespace zor {
 namespace {
 
-double roundHalfEven(double value) noexcept
-{
-    const double below = std::floor(value);
-    const double rest = value - below;
-    if (rest > 0.5 || (rest == 0.5 && std::fmod(below, 2.0) != 0.0))
-        return below + 1.0;
-    return below;
-}
-
 template <class Integer>
 Integer roundTo(double value)
 {
-    const double rounded = roundHalfEven(value);
-    if (!(rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max()))
+    constexpr double kBeyondAll = 4e9;
+    if (!(std::fabs(value) < kBeyondAll))
         raiseError(ErrorNumber::Overflow);
-    return static_cast<Integer>(rounded);
+    // Cutting off is the same in every floating-point mode, and leaves a rest that is exact.
+    auto whole = static_cast<std::int64_t>(value);
+    const double rest = value - static_cast<double>(whole);
+    const bool isOdd = (whole & 1) != 0;
+    if (rest > 0.5 || (rest == 0.5 && isOdd))
+        ++whole;
+    else if (rest < -0.5 || (rest == -0.5 && isOdd))
+        --whole;
+    if (!std::in_range<Integer>(whole))
+        raiseError(ErrorNumber::Overflow);
+    return static_cast<Integer>(whole);
 }
 
 template <class Integer>
@@ -41,17 +42,6 @@ std::int32_t roundToInt32(double value) { return roundTo<std::int32_t>(value); }
 std::int16_t roundToInt16(double value) { return roundTo<std::int16_t>(value); }
 
 void Variant::raiseOverflow() { raiseError(ErrorNumber::Overflow); }
-
-double Variant::number() const noexcept
-{
-    if (const auto* value = std::get_if<double>(&m_value))
-        return *value;
-    if (const auto* value = std::get_if<std::int32_t>(&m_value))
-        return *value;
-    if (const auto* value = std::get_if<std::int16_t>(&m_value))
-        return *value;
-    return 0.0;
-}
 
 double Variant::toDouble() const
 {

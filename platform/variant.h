@@ -3,6 +3,7 @@
 /// Variant values: what properties, property bags and the console exchange.
 
 #include <cmath>
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -43,6 +44,13 @@ public:
     Variant(std::string_view value) : m_value(std::string(value)) {}
     /// A text in UTF-8.
     Variant(const char* value) : m_value(std::string(value)) {}
+    /// Takes a text over; one that is a text already keeps its place for it.
+    template <std::same_as<std::string> Text>
+    Variant& operator=(Text&& value)
+    {
+        m_value = std::move(value);
+        return *this;
+    }
     /// No other pointer is a value.
     template <NotCharacter T>
     Variant(T* value) = delete;
@@ -80,7 +88,15 @@ public:
     /// The string itself; only for a value that isText().
     [[nodiscard]] const std::string& text() const noexcept { return *std::get_if<std::string>(&m_value); }
     /// The number of a value that isNumber(), as a double.
-    [[nodiscard]] double number() const noexcept;
+    [[nodiscard]] double number() const noexcept
+    {
+        if (const auto* value = std::get_if<double>(&m_value))
+            return *value;
+        if (const auto* value = std::get_if<std::int32_t>(&m_value))
+            return *value;
+        const auto* value = std::get_if<std::int16_t>(&m_value);
+        return value != nullptr ? *value : 0.0;
+    }
 
     /// The value as it is kept.
     [[nodiscard]] const Storage& storage() const noexcept { return m_value; }

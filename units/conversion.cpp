@@ -180,11 +180,16 @@ double fd_GetOffset(MEAS_TYPE i_FromUnit, const MEAS_TYPE& i_ToUnit) noexcept
     return cellOf(None, i_FromUnit, i_ToUnit).offset;
 }
 
-double convert(double value, UNIT_TYPE type, MEAS_TYPE from, MEAS_TYPE to)
+double converted(double value, UNIT_TYPE type, MEAS_TYPE from, MEAS_TYPE to) noexcept
 {
     const Cell cell = cellOf(type, from, to);
     const double scaled = value * cell.factor;
-    const double result = scaled + cell.offset;
+    return scaled + cell.offset;
+}
+
+double convert(double value, UNIT_TYPE type, MEAS_TYPE from, MEAS_TYPE to)
+{
+    const double result = converted(value, type, from, to);
     if (!std::isfinite(result))
         raiseError(ErrorNumber::Overflow);
     return result;

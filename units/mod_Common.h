@@ -42,7 +42,10 @@ inline constexpr double IN3_PER_LITRE = 61.02374; ///< cubic inches per litre
 /// What is added after the factor; other than 0 between temperatures only.
 [[nodiscard]] double fd_GetOffset(MEAS_TYPE i_FromUnit, const MEAS_TYPE& i_ToUnit) noexcept;
 
-/// value x factor + offset, in that order. Raises Overflow when the result is infinite or undefined.
+/// value x factor + offset, in that order. The result may be infinite or undefined.
+[[nodiscard]] double converted(double value, UNIT_TYPE type, MEAS_TYPE from, MEAS_TYPE to) noexcept;
+
+/// As converted(), but raises Overflow when the result is infinite or undefined.
 [[nodiscard]] double convert(double value, UNIT_TYPE type, MEAS_TYPE from, MEAS_TYPE to);
 
 /// The text of a value as an operator reads it: as many decimals as the unit is shown with, `i_Digits` of

@@ -63,9 +63,8 @@ std::optional<double> validNumber(const Variant& value) noexcept
 {
     if (value.isText())
         return validNumber(std::string_view(value.text()));
-    if (!value.isNumber() || !std::isfinite(value.number()))
-        return std::nullopt;
-    return value.number();
+    const double number = value.number();
+    return value.isNumber() && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
 bool fb_IsValidNumber(const Variant& v_Value) noexcept { return validNumber(v_Value).has_value(); }

@@ -79,6 +79,13 @@ void countNumeric(const char* changing, const char* same)
     control->unsubscribe(listener);
 }
 
+template <class Control>
+void countCreation(const char* name)
+{
+    platform::headless::HeadlessContainer container;
+    count(name, [&](int) { Control::create(container)->initialiseProperties(); });
+}
+
 void countLabel()
 {
     platform::headless::HeadlessContainer container;
@@ -102,5 +109,7 @@ int main()
     countNumeric<ctx_ZorUpDown, __ctx_ZorUpDown>("up-down, changing", "up-down, same");
     countNumeric<ctx_ZorSlider, __ctx_ZorSlider>("slider, changing", "slider, same");
     countLabel();
+    countCreation<ctx_ZorTextBox>("text box, created");
+    countCreation<ctx_ZorSlider>("slider, created");
     return seen < 0 ? 1 : 0;
 }

@@ -4,10 +4,7 @@
 namespace zor::controls {
 
 void RangeControl::InvalidValue(bool value) { write(RangeRows::InvalidValue, value); }
-void RangeControl::MsgInvalidValue(std::string_view value)
-{
-    write(RangeRows::MsgInvalidValue, std::string(value));
-}
+void RangeControl::MsgInvalidValue(std::string_view value) { write(RangeRows::MsgInvalidValue, value); }
 
 void RangeControl::testValue(double deviceValue)
 {

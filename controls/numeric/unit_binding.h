@@ -51,17 +51,12 @@ struct UnitBinding {
     [[nodiscard]] bool isOutside(double deviceValue) const noexcept
     {
         // A limit beyond every number of the device unit becomes infinite, and limits nothing.
-        return isBeyond(deviceValue, taken(minParam, outputUnit, deviceUnit),
-                        taken(maxParam, outputUnit, deviceUnit)) &&
-               isBeyond(taken(deviceValue, deviceUnit, outputUnit), minParam, maxParam);
+        return isBeyond(deviceValue, converted(minParam, unitType, outputUnit, deviceUnit),
+                        converted(maxParam, unitType, outputUnit, deviceUnit)) &&
+               isBeyond(converted(deviceValue, unitType, deviceUnit, outputUnit), minParam, maxParam);
     }
 
 private:
-    /// A conversion whose result may be infinite.
-    [[nodiscard]] double taken(double value, MEAS_TYPE from, MEAS_TYPE to) const noexcept
-    {
-        return value * fd_GetConversionFactor(unitType, from, to) + fd_GetOffset(from, to);
-    }
     [[nodiscard]] static bool isBeyond(double value, double lower, double upper) noexcept
     {
         constexpr double kRounding = 1e-9;

@@ -42,10 +42,7 @@ void UnitControl::s_AfterOutputUnit()
 
 void UnitControl::DefaultUnit(MEAS_TYPE value) { write(UnitRows::DefaultUnit, value); }
 void UnitControl::UnitEnable(bool value) { write(UnitRows::UnitEnable, value); }
-void UnitControl::UnitLabelCaption(std::string_view value)
-{
-    write(UnitRows::UnitLabelCaption, std::string(value));
-}
+void UnitControl::UnitLabelCaption(std::string_view value) { write(UnitRows::UnitLabelCaption, value); }
 
 void UnitControl::describe(platform::Spoken& spoken) const
 {

@@ -107,7 +107,7 @@ void ctx_ZorCheckBox::s_UndoEdit()
 // --- Properties
 
 void ctx_ZorCheckBox::BitFieldEntryIndex(std::int16_t value) { write(Rows::BitFieldEntryIndex, value); }
-void ctx_ZorCheckBox::CheckBoxCaption(std::string_view value) { write(Rows::CheckBoxCaption, std::string(value)); }
+void ctx_ZorCheckBox::CheckBoxCaption(std::string_view value) { write(Rows::CheckBoxCaption, value); }
 void ctx_ZorCheckBox::CheckBoxValue(bool value) { put(Rows::CheckBoxValue, value); }
 void ctx_ZorCheckBox::OtherUserValue(bool value) { write(Rows::OtherUser, value); }
 

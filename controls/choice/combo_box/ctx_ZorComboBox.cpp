@@ -145,7 +145,7 @@ Variant ctx_ZorComboBox::GetEnumEntryCount() const { return m_entries.count(); }
 // --- Properties
 
 void ctx_ZorComboBox::InvalidValue(bool value) { write(Rows::InvalidValue, value); }
-void ctx_ZorComboBox::MsgInvalidValue(std::string_view value) { write(Rows::MsgInvalidValue, std::string(value)); }
+void ctx_ZorComboBox::MsgInvalidValue(std::string_view value) { write(Rows::MsgInvalidValue, value); }
 void ctx_ZorComboBox::OtherUserValue(std::int16_t value) { write(Rows::OtherUser, value); }
 
 } // namespace zor

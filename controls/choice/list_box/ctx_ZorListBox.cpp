@@ -153,7 +153,7 @@ Variant ctx_ZorListBox::GetBitFieldEntryCount() const { return m_entries.count()
 // --- Properties
 
 void ctx_ZorListBox::InvalidValue(bool value) { write(Rows::InvalidValue, value); }
-void ctx_ZorListBox::MsgInvalidValue(std::string_view value) { write(Rows::MsgInvalidValue, std::string(value)); }
+void ctx_ZorListBox::MsgInvalidValue(std::string_view value) { write(Rows::MsgInvalidValue, value); }
 void ctx_ZorListBox::OtherUserValue(std::int32_t value) { write(Rows::OtherUser, value); }
 
 } // namespace zor

@@ -111,10 +111,7 @@ void ctx_ZorOptionButton::s_UndoEdit()
 
 void ctx_ZorOptionButton::EnumEntryValue(std::int32_t value) { write(Rows::EnumEntryValue, value); }
 void ctx_ZorOptionButton::EnumValue(std::int32_t value) { write(Rows::EnumValue, value); }
-void ctx_ZorOptionButton::OptionButtonCaption(std::string_view value)
-{
-    write(Rows::OptionButtonCaption, std::string(value));
-}
+void ctx_ZorOptionButton::OptionButtonCaption(std::string_view value) { write(Rows::OptionButtonCaption, value); }
 void ctx_ZorOptionButton::OtherUserValue(std::int32_t value) { write(Rows::OtherUser, value); }
 
 } // namespace zor

@@ -112,11 +112,11 @@ void ctx_ZorImage::s_Layout()
 void ctx_ZorImage::DeviceValue(std::int32_t value) { write(Rows::DeviceValue, value); }
 void ctx_ZorImage::UseAuxIcon(bool value) { write(Rows::UseAuxIcon, value); }
 void ctx_ZorImage::ReadOnly(bool value) { write(Rows::ReadOnly, value); }
-void ctx_ZorImage::MessageHeader(std::string_view value) { write(Rows::MessageHeader, std::string(value)); }
-void ctx_ZorImage::StatusText(std::string_view value) { write(Rows::StatusText, std::string(value)); }
-void ctx_ZorImage::MsgStatusNotOK(std::string_view value) { write(Rows::MsgStatusNotOK, std::string(value)); }
-void ctx_ZorImage::MsgStatusOK(std::string_view value) { write(Rows::MsgStatusOK, std::string(value)); }
-void ctx_ZorImage::MsgUndefined(std::string_view value) { write(Rows::MsgUndefined, std::string(value)); }
-void ctx_ZorImage::MsgBit(std::string_view value) { write(Rows::MsgBit, std::string(value)); }
+void ctx_ZorImage::MessageHeader(std::string_view value) { write(Rows::MessageHeader, value); }
+void ctx_ZorImage::StatusText(std::string_view value) { write(Rows::StatusText, value); }
+void ctx_ZorImage::MsgStatusNotOK(std::string_view value) { write(Rows::MsgStatusNotOK, value); }
+void ctx_ZorImage::MsgStatusOK(std::string_view value) { write(Rows::MsgStatusOK, value); }
+void ctx_ZorImage::MsgUndefined(std::string_view value) { write(Rows::MsgUndefined, value); }
+void ctx_ZorImage::MsgBit(std::string_view value) { write(Rows::MsgBit, value); }
 
 } // namespace zor

@@ -87,7 +87,7 @@ void ctx_ZorLabel::s_AfterLoading()
 
 // --- Properties
 
-void ctx_ZorLabel::DeviceValue(std::string_view value) { write(Rows::DeviceValue, std::string(value)); }
-void ctx_ZorLabel::LabelCaption(std::string_view value) { write(Rows::LabelCaption, std::string(value)); }
+void ctx_ZorLabel::DeviceValue(std::string_view value) { write(Rows::DeviceValue, value); }
+void ctx_ZorLabel::LabelCaption(std::string_view value) { write(Rows::LabelCaption, value); }
 
 } // namespace zor

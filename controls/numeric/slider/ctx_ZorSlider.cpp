@@ -284,7 +284,7 @@ void ctx_ZorSlider::ScaleFactor(std::int32_t value) { write(Rows::ScaleFactor, v
 void ctx_ZorSlider::OutputValue(double value) { write(Rows::OutputValue, value); }
 void ctx_ZorSlider::OtherUserValue(double value) { write(Rows::OtherUserValue, value); }
 void ctx_ZorSlider::EnableValues(bool value) { write(Rows::EnableValues, value); }
-void ctx_ZorSlider::MinPrefix(std::string_view value) { write(Rows::MinPrefix, std::string(value)); }
-void ctx_ZorSlider::MaxPrefix(std::string_view value) { write(Rows::MaxPrefix, std::string(value)); }
+void ctx_ZorSlider::MinPrefix(std::string_view value) { write(Rows::MinPrefix, value); }
+void ctx_ZorSlider::MaxPrefix(std::string_view value) { write(Rows::MaxPrefix, value); }
 
 } // namespace zor

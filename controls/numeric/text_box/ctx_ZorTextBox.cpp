@@ -1,4 +1,7 @@
 #include <zor/controls/numeric/text_box/text_box_rows.h>
+#include <zor/platform/regional.h>
+
+#include <bit>
 
 namespace zor {
 
@@ -35,15 +38,16 @@ void ctx_ZorTextBox::s_ApplyDeviceValue()
     const std::optional<double> number = isNumeric() ? validNumber(m_deviceValue) : std::nullopt;
     // What can fail comes first: a value that is refused changes nothing.
     const double output = number ? m_units.toOutput(*number) : 0.0;
-    m_isDisplayFormatted = number && hasPattern(m_units.outputUnit);
-    if (m_isDisplayFormatted)
-        m_displayValue = formatValueText(output, m_units.outputUnit, m_numberOfDigits);
-    else
+    if (number && hasPattern(m_units.outputUnit)) {
+        formatDisplayValue(output);
+    } else {
+        m_formatted.reset();
         m_displayValue = number ? Variant() : m_deviceValue;
+    }
     m_shownDisplay.reset();
     m_deviceValueUnit = m_units.deviceUnit;
     m_source = Source::Device;
-    if (m_isDisplayFormatted) {
+    if (m_formatted) {
         // What has been formatted formats to itself: ten thousand fields are refreshed many times a second.
         m_field.text().setAlignment(Alignment::Right);
         setText(m_displayValue.text());
@@ -59,6 +63,16 @@ void ctx_ZorTextBox::s_ApplyDeviceValue()
     m_invalidEntry = false;
     s_UpdateColors();
     s_UpdateStatusDisplay();
+}
+
+void ctx_ZorTextBox::formatDisplayValue(double number)
+{
+    const Formatted from{std::bit_cast<std::uint64_t>(number), m_units.outputUnit, m_numberOfDigits,
+                         platform::regionalRevision()};
+    if (m_formatted == from)
+        return;
+    m_displayValue = formatValueText(number, m_units.outputUnit, m_numberOfDigits);
+    m_formatted = from;
 }
 
 Variant ctx_ZorTextBox::fv_FormatDisplayValue(const Variant& value, MEAS_TYPE unit)
@@ -100,7 +114,7 @@ bool ctx_ZorTextBox::equalsDisplayValue() const
     if (!isNumeric())
         return m_displayValue.isText() ? showsDisplayValue() : m_displayValue.toText() == m_field.text().text();
     // What has been formatted is a number and need not be read.
-    if (m_isDisplayFormatted && showsDisplayValue())
+    if (m_formatted && showsDisplayValue())
         return true;
     const std::optional<double> text = m_field.number();
     if (!text)
@@ -150,7 +164,7 @@ void ctx_ZorTextBox::s_OutputUnitChanged()
     m_units.maxParam = newMaximum;
     m_units.previousOutputUnit = m_units.outputUnit;
     m_displayValue = newDisplay;
-    m_isDisplayFormatted = false;
+    m_formatted.reset();
     m_shownDisplay.reset();
     // Showing the same value in another unit is no edit, even though rounding may part text and value.
     const bool modified = m_status.dataModified;
@@ -209,19 +223,10 @@ void ctx_ZorTextBox::InvalidEntry(bool value) { write(Rows::InvalidEntry, value)
 void ctx_ZorTextBox::MaxLength(std::int16_t value) { write(Rows::MaxLength, value); }
 void ctx_ZorTextBox::TextFontBold(bool value) { write(Rows::TextFontBold, value); }
 void ctx_ZorTextBox::WidthDifference(std::int16_t value) { write(Rows::WidthDifference, value); }
-void ctx_ZorTextBox::MsgInvalidEntry(std::string_view value) { write(Rows::MsgInvalidEntry, std::string(value)); }
-void ctx_ZorTextBox::MsgInvalidEntryTo(std::string_view value)
-{
-    write(Rows::MsgInvalidEntryTo, std::string(value));
-}
-void ctx_ZorTextBox::MsgInvalidEntryNAN(std::string_view value)
-{
-    write(Rows::MsgInvalidEntryNAN, std::string(value));
-}
-void ctx_ZorTextBox::MsgInvalidEntryForText(std::string_view value)
-{
-    write(Rows::MsgInvalidEntryForText, std::string(value));
-}
+void ctx_ZorTextBox::MsgInvalidEntry(std::string_view value) { write(Rows::MsgInvalidEntry, value); }
+void ctx_ZorTextBox::MsgInvalidEntryTo(std::string_view value) { write(Rows::MsgInvalidEntryTo, value); }
+void ctx_ZorTextBox::MsgInvalidEntryNAN(std::string_view value) { write(Rows::MsgInvalidEntryNAN, value); }
+void ctx_ZorTextBox::MsgInvalidEntryForText(std::string_view value) { write(Rows::MsgInvalidEntryForText, value); }
 
 std::string ctx_ZorTextBox::SelectedText() const { return m_field.text().selectedText(); }
 void ctx_ZorTextBox::SelectedText(std::string_view value)

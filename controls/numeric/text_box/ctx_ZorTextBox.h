@@ -121,6 +121,15 @@ private:
         std::string tooLong = "Text is too long. Please enter a shorter text.";
     };
 
+    /// What the text of a number follows from. The same value comes again and again, and keeps its text.
+    struct Formatted {
+        std::uint64_t bits; ///< of the number: 0 and -0 have two texts
+        MEAS_TYPE unit;
+        std::int16_t digits;
+        std::uint32_t settings; ///< the user's
+        bool operator==(const Formatted&) const = default;
+    };
+
     /// Where the text came from: a host's ModifiedValue or a form, DeviceValue, or somebody's edit.
     enum class Source : std::uint8_t { Output, Device, Edit };
 
@@ -129,6 +138,8 @@ private:
 
     // Value pipeline
     void s_ApplyDeviceValue();
+    /// Makes the display value of a number in OutputUnit, which has a pattern.
+    void formatDisplayValue(double number);
     void s_DeviceUnitChanged() override;
     void s_OutputUnitChanged() override;
     void s_AfterOutputUnit() override;
@@ -178,8 +189,8 @@ private:
     Variant m_outputValue = 0;
     /// What was last shown from the device, in OutputUnit: the edit is judged against it and undo returns to it.
     Variant m_displayValue = 0.0;
-    /// The display value is a text that the value formatter made: a number for sure.
-    bool m_isDisplayFormatted = false;
+    /// What the display value was made from, where the value formatter made it: a number for sure.
+    std::optional<Formatted> m_formatted;
     /// What the operator reads of the display value, where that says less: after a change of OutputUnit.
     std::optional<std::string> m_shownDisplay;
     EntryMessages m_entryMessages;
