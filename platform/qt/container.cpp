@@ -118,7 +118,7 @@ public:
         setGeometry({0, 0, width, height});
         m_inner = context;
         m_inner.surface = &widget();
-        widget().setVisible(true);
+        showNow(widget());
         widget().onResized = [this](QSize size) { resizedByForm(size); };
         widget().onMenuKey = [this](QPoint at) { menuKey(at); };
     }
@@ -147,12 +147,15 @@ public:
     {
         return make<QtTextField>(number);
     }
-    [[nodiscard]] std::unique_ptr<Label> createLabel(int number) override { return make<QtLabel>(number); }
+    [[nodiscard]] std::unique_ptr<Label> createLabel(int number) override
+    {
+        return std::make_unique<QtLabel>(m_inner, number);
+    }
     [[nodiscard]] std::unique_ptr<Image> createImage(int number, bool isVisible) override
     {
-        if (isVisible)
-            return make<QtImage>(number, Made::Now);
-        return std::make_unique<QtImage>(m_inner, number, Made::WhenShown);
+        auto image = std::make_unique<QtImage>(m_inner, number);
+        image->setVisible(isVisible);
+        return image;
     }
     [[nodiscard]] std::unique_ptr<SpinButton> createSpinButton(int number) override
     {
@@ -185,13 +188,11 @@ public:
     }
 
 private:
-    template <class T, class... More>
-    std::unique_ptr<T> make(int number, More... more)
+    template <class T>
+    std::unique_ptr<T> make(int number)
     {
-        auto made = std::make_unique<T>(m_inner, number, more...);
-        // On a surface that is not on screen yet it will be seen with it.
-        if (made->qwidget().isHidden())
-            made->qwidget().setVisible(true);
+        auto made = std::make_unique<T>(m_inner, number);
+        showNow(made->qwidget());
         return made;
     }
 

@@ -61,29 +61,29 @@ QString shownText(std::string_view text, int limit)
 
 namespace {
 
-/// A text in a font, on a device of a resolution.
+/// A text in a font. Lines have another height where the screen has another resolution.
 struct Line {
     QString text;
     QFont font;
-    int resolution;
+    int height;
     bool operator==(const Line&) const = default;
 };
 
 std::size_t qHash(const Line& line, std::size_t seed = 0)
 {
-    return qHashMulti(seed, line.text, line.font, line.resolution);
+    return qHashMulti(seed, line.text, line.font, line.height);
 }
 
 } // namespace
 
-QSize textSize(const QString& text, const QFont& font, const QPaintDevice& device)
+QSize textSize(const QString& text, const QWidget& widget)
 {
     constexpr qsizetype kMost = 1000;
     static QCache<Line, QSize> measured(kMost);
-    const Line line{text, font, device.logicalDpiY()};
+    const QFontMetrics metrics = widget.fontMetrics();
+    const Line line{text, widget.font(), metrics.height()};
     if (const QSize* known = measured.object(line))
         return *known;
-    const QFontMetrics metrics(font, &device);
     const QSize size = metrics.size(0, text).expandedTo({0, metrics.height()});
     measured.insert(line, new QSize(size));
     return size;

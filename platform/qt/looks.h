@@ -15,7 +15,6 @@
 #include <string>
 #include <string_view>
 
-class QPaintDevice;
 class QWidget;
 
 namespace zor::platform::qt {
@@ -40,9 +39,9 @@ private:
 /// characters, an ellipsis in place of the rest.
 [[nodiscard]] QString shownText(std::string_view text, int limit);
 
-/// The room that a text of one line or several takes on a device, at least a line. Most labels say what others say
-/// as well: each text is measured once in a font.
-[[nodiscard]] QSize textSize(const QString& text, const QFont& font, const QPaintDevice& device);
+/// The room that a text of one line or several takes in a widget's font, at least a line. Most labels say what
+/// others say as well: each text is measured once in a font.
+[[nodiscard]] QSize textSize(const QString& text, const QWidget& widget);
 
 /// A tooltip that is never taken for mark-up.
 [[nodiscard]] QString plainToolTip(std::string_view text);

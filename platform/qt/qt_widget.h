@@ -198,8 +198,15 @@ private:
     }
 };
 
-/// Whether a part has its Qt widget from the beginning, or from when it is first shown: an icon that most controls
-/// never show is as much work as the field beside it.
+/// Shows a new widget. On a surface that is not on screen yet it will be seen with it.
+inline void showNow(QWidget& widget)
+{
+    if (widget.isHidden())
+        widget.setVisible(true);
+}
+
+/// Whether a part has its Qt widget from the beginning, or from when it first has something to show: an icon or a
+/// unit that most controls never show is as much work as half the field beside it.
 enum class Made : std::uint8_t { Now, WhenShown };
 
 /// The interface's settings over a Qt widget of type Q.
@@ -207,7 +214,7 @@ template <class Interface, class Q>
 class QtBase : public Interface, public QtWidget {
 public:
     QtBase(const Context& context, int number, Colour backColour, Made made = Made::Now)
-        : QtWidget(context, number), m_backColour(backColour)
+        : QtWidget(context, number), m_backColour(backColour), m_isShown(made == Made::Now)
     {
         if (made == Made::Now)
             make();
@@ -237,11 +244,15 @@ public:
         if (isMade())
             m_widget->setGeometry(scale().pixels(m_geometry));
     }
-    [[nodiscard]] bool isVisible() const override { return isMade() && !m_widget->isHidden(); }
+    [[nodiscard]] bool isVisible() const override { return isMade() ? !m_widget->isHidden() : m_isShown; }
     void setVisible(bool visible) override
     {
         if (isVisible() == visible)
             return;
+        if (!isMade()) {
+            m_isShown = visible;
+            return makeIfSeen();
+        }
         keepsFocus = true;
         widget().setVisible(visible);
         keepsFocus = false;
@@ -282,7 +293,7 @@ protected:
     [[nodiscard]] Reporting<Q>& widget() const
     {
         if (!isMade())
-            const_cast<QtBase&>(*this).makeHidden();
+            const_cast<QtBase&>(*this).makeLate();
         return *m_widget;
     }
     virtual void paintColours()
@@ -295,6 +306,13 @@ protected:
 
     /// Gives a widget that is made later what its kind is given at the beginning.
     virtual void prepare() {}
+    /// Whether there is anything to see of it.
+    [[nodiscard]] virtual bool hasFace() const { return true; }
+    void makeIfSeen()
+    {
+        if (!isMade() && m_isShown && hasFace())
+            makeLate();
+    }
 
     Rect m_geometry;
 
@@ -304,13 +322,17 @@ private:
         m_widget = new Reporting<Q>(context().surface);
         m_widget->owner = this;
     }
-    void makeHidden()
+    void makeLate()
     {
         make();
-        m_widget->setVisible(false);
+        if (m_isShown)
+            showNow(*m_widget);
+        else
+            m_widget->setVisible(false);
         placeAnew();
         m_widget->setEnabled(m_enabled);
-        m_widget->setToolTip(plainToolTip(m_toolTip));
+        if (!m_toolTip.empty())
+            m_widget->setToolTip(plainToolTip(m_toolTip));
         prepare();
     }
 
@@ -318,6 +340,7 @@ private:
     std::string m_toolTip;
     Colour m_backColour;
     bool m_enabled = true;
+    bool m_isShown; ///< until there is a widget that knows
 };
 
 /// The same for a widget that writes text.
@@ -329,18 +352,18 @@ public:
     [[nodiscard]] Colour foreColour() const override { return m_foreColour; }
     void setForeColour(Colour colour) override
     {
-        if (std::exchange(m_foreColour, colour) == colour)
+        if (std::exchange(m_foreColour, colour) == colour || !this->isMade())
             return;
         this->paintColours();
         this->announce();
     }
-    [[nodiscard]] bool isBold() const override { return this->widget().font().bold(); }
+    [[nodiscard]] bool isBold() const override { return dressed().font().bold(); }
     void setBold(bool bold) override
     {
         if (isBold() != bold)
             changeFont([bold](QFont& font) { font.setBold(bold); });
     }
-    [[nodiscard]] bool isItalic() const override { return this->widget().font().italic(); }
+    [[nodiscard]] bool isItalic() const override { return dressed().font().italic(); }
     void setItalic(bool italic) override
     {
         if (isItalic() != italic)
@@ -348,6 +371,11 @@ public:
     }
 
 protected:
+    /// Whose font it has.
+    [[nodiscard]] const QWidget& dressed() const
+    {
+        return this->isMade() ? this->widget() : *this->context().surface;
+    }
     void paintColours() override
     {
         this->widget().setPalette(paletteOf(this->backColour(), m_foreColour));

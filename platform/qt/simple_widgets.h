@@ -69,9 +69,9 @@ private:
 
 class QtLabel final : public QtFontBase<Label, SelectableLabel> {
 public:
-    QtLabel(const Context& context, int number) : QtFontBase(context, number, ButtonFace)
+    QtLabel(const Context& context, int number) : QtFontBase(context, number, ButtonFace, Made::WhenShown)
     {
-        widget().setTextFormat(Qt::PlainText);
+        QtLabel::setVisible(true);
         fit();
     }
 
@@ -87,9 +87,9 @@ public:
         if (m_caption == caption)
             return;
         m_caption = caption;
-        constexpr int kLimit = 4096;
-        widget().unmark();
-        widget().setText(shownText(m_caption, kLimit));
+        if (isMade())
+            showCaption();
+        makeIfSeen();
         fit();
         report(Notice::Change);
     }
@@ -101,10 +101,28 @@ public:
     }
 
 private:
+    void prepare() override
+    {
+        widget().setTextFormat(Qt::PlainText);
+        showCaption();
+        if (backColour() != ButtonFace || foreColour() != ButtonText)
+            paintColours();
+    }
+    [[nodiscard]] bool hasFace() const override { return !m_caption.empty(); }
     void fontChanged() override { fit(); }
+    [[nodiscard]] QString shown() const
+    {
+        constexpr int kLimit = 4096;
+        return shownText(m_caption, kLimit);
+    }
+    void showCaption()
+    {
+        widget().unmark();
+        widget().setText(shown());
+    }
     void fit()
     {
-        const QSize size = textSize(widget().text(), widget().font(), widget());
+        const QSize size = textSize(shown(), dressed());
         Rect fitted = m_geometry;
         fitted.width = scale().twips(size.width());
         m_lines = size.height();
@@ -117,7 +135,7 @@ private:
     void place(const Rect& geometry)
     {
         QtFontBase::setGeometry(geometry);
-        if (widget().height() < m_lines)
+        if (isMade() && widget().height() < m_lines)
             widget().resize(widget().width(), m_lines);
     }
 
@@ -162,11 +180,9 @@ private:
 
 class QtImage final : public QtBase<Image, PictureWidget> {
 public:
-    QtImage(const Context& context, int number, Made made) : QtBase(context, number, ButtonFace, made)
+    QtImage(const Context& context, int number) : QtBase(context, number, ButtonFace, Made::WhenShown)
     {
         setGeometry({0, 0, 285, 285});
-        if (isMade())
-            QtImage::prepare();
     }
 
     [[nodiscard]] int picture() const override { return m_picture; }
