@@ -5,7 +5,8 @@ how the work grows with what there is of it.
     bench/table.py FOLDER [--document FILE]
 
 FOLDER holds the benchmarks' results, PROGRAM.json each. Rows without a result are left out. --document writes the tables
-as a document, with the machine, the date and the notes of bench/notes.md, and then every row must have its result."""
+into a document, with the machine and the date, in place of those that stand between its two marks, and then every row
+must have its result. What the document says around them is people's."""
 
 import argparse
 import datetime
@@ -17,6 +18,9 @@ import subprocess
 import sys
 from typing import NamedTuple
 
+# Between them stands what has been measured.
+BEGIN = "<!-- written by scripts/bench --write -->\n"
+END = "<!-- end of what is written -->\n"
 UNITS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9, "B": 1, "kB": 1e3, "MB": 1e6, "%": 1e7, "": 1}
 
 
@@ -155,13 +159,14 @@ def main():
     tables = ["\n".join(bounds(found, options.document is not None)) + "\n", "\n".join(growth(found)) + "\n"]
     print(*tables, sep="\n", end="")
     if options.document:
-        notes = (pathlib.Path(__file__).parent / "notes.md").read_text()
-        pathlib.Path(options.document).write_text(
-            "# Performance\n\n"
-            "Written by `scripts/bench --write`: medians of processor time of one run. Times follow the machine and what else it\n"
-            "does; what is said of the peers of the same run says more. `scripts/instructions` holds the value path's work.\n\n"
-            f"{datetime.date.today().isoformat()}; {machine()}\n\n{tables[0]}\n## Growth\n\n"
-            f"Linear is what takes each as long as the one before; what only few ask for carries what is paid once.\n\n{tables[1]}\n{notes}")
+        document = pathlib.Path(options.document)
+        before, mark, rest = document.read_text().partition(BEGIN)
+        old, end, after = rest.partition(END)
+        if not mark or not end:
+            sys.exit(f"table: {document} lacks its marks")
+        document.write_text(f"{before}{BEGIN}\n{datetime.date.today().isoformat()}; {machine()}\n\n{tables[0]}\n## Growth\n\n"
+                            "Linear is what takes each as long as the one before; what only few ask for carries what is paid once.\n\n"
+                            f"{tables[1]}{END}{after}")
 
 
 main()
