@@ -5,17 +5,20 @@
 #include <zor/monitor/ui/words.h>
 #include <zor/platform/version.h>
 
-#include <QBuffer>
+#include <QAbstractTextDocumentLayout>
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QLocale>
+#include <QPainter>
 #include <QPdfWriter>
 #include <QSaveFile>
 #include <QSysInfo>
+#include <QTextBlock>
 #include <QTextDocument>
 
+#include <algorithm>
 #include <array>
-#include <set>
+#include <cmath>
 
 namespace zor::monitor {
 namespace {
@@ -110,10 +113,13 @@ private:
             describe(parameter, m_session.held(index), m_session.shownUnit(index), m_parts.language);
         const bool unasked = m_session.readAt(index) < 0 && outcome != ReadOutcome::NoAnswer;
         QString state = unasked ? tr("not read") : tr(kStates[static_cast<std::size_t>(outcome)]);
-        if (!isSupported(parameter.appearance.supported, m_session.deviceType(), m_session.deviceVersion()))
+        const bool lacking =
+            !m_session.deviceType().empty() &&
+            !isSupported(parameter.appearance.supported, m_session.deviceType(), m_session.deviceVersion());
+        if (lacking)
             state = tr("this device does not have it");
         // What was read once is no value of a device that has none now.
-        const bool has = outcome == ReadOutcome::Live || outcome == ReadOutcome::NoAnswer;
+        const bool has = !lacking && (outcome == ReadOutcome::Live || outcome == ReadOutcome::NoAnswer);
         const QString text = has && value.text != "?" ? plain(value.text) : QString();
         m_writer.row({caption(parameter), plain(parameter.tag), text,
                       text.isEmpty() ? QString() : Words::unit(value.unit), state});
@@ -201,21 +207,71 @@ private:
     ReportWriter m_writer;
 };
 
+/// No heading stays at the end of a page alone. Each break lays the whole document out anew, which for a large one
+/// takes longer than a heading is worth.
+void keepHeadings(QTextDocument& document, double line)
+{
+    constexpr int kMostPages = 30;
+    if (document.pageCount() > kMostPages)
+        return;
+    constexpr int kLines = 4; ///< that belong to it, for the first rows of a table
+    const auto place = [&](const QTextBlock& block) {
+        return document.documentLayout()->blockBoundingRect(block);
+    };
+    const auto pageOf = [&](double y) { return std::floor(y / document.pageSize().height()); };
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        QTextBlock content = block;
+        while (content.isValid() && content.blockFormat().headingLevel() > 0)
+            content = content.next();
+        if (content == block || !content.isValid())
+            continue;
+        const double last = std::max(place(content).bottom(), place(content).top() + kLines * line);
+        if (pageOf(last) == pageOf(place(block).top()))
+            continue;
+        QTextBlockFormat format = block.blockFormat();
+        format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+        QTextCursor(block).setBlockFormat(format);
+    }
+}
+
 void writePdf(QIODevice& target, const QString& html)
 {
     constexpr int kMargin = 15; ///< millimetres
+    constexpr double kPoints = 9;
     QPdfWriter pdf(&target);
     pdf.setPageSize(QPageSize(QPageSize::A4));
     pdf.setPageMargins(QMarginsF(kMargin, kMargin, kMargin, kMargin), QPageLayout::Millimeter);
     pdf.setCreator("zor-monitor");
     QTextDocument document;
     QFont font = document.defaultFont();
-    constexpr double kPoints = 9;
     font.setPointSizeF(kPoints);
+    const double line = QFontMetricsF(font, &pdf).lineSpacing();
+    document.documentLayout()->setPaintDevice(&pdf);
     document.setDefaultFont(font);
+    document.setDocumentMargin(0);
     document.setHtml(html);
+    const QRectF page(0, 0, pdf.width(), pdf.height() - 2 * line); // below it stands the number
+    document.setPageSize(page.size());
+    keepHeadings(document, line);
     pdf.setTitle(document.metaInformation(QTextDocument::DocumentTitle));
-    document.print(&pdf);
+    QPainter painter(&pdf);
+    painter.setFont(font);
+    // Black on white, whatever the colours of the screen.
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.palette.setColor(QPalette::Text, Qt::black);
+    for (int number = 0; number < document.pageCount(); ++number) {
+        if (number > 0)
+            pdf.newPage();
+        const double top = number * page.height();
+        painter.save();
+        painter.translate(0, -top);
+        context.clip = page.translated(0, top);
+        painter.setClipRect(context.clip);
+        document.documentLayout()->draw(&painter, context);
+        painter.restore();
+        painter.drawText(QRectF(0, 0, page.width(), pdf.height()), Qt::AlignRight | Qt::AlignBottom,
+                         QString("%1 / %2").arg(number + 1).arg(document.pageCount()));
+    }
 }
 
 } // namespace

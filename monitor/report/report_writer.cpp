@@ -16,7 +16,8 @@ QString escaped(QString text)
 }
 
 constexpr const char* kStyle =
-    "body{font-family:sans-serif;color:#111;background:#fff}h1{font-size:x-large}h2{font-size:large}"
+    "body{font-family:sans-serif;color:#111;background:#fff}h1{font-size:x-large}h2{font-size:large}h1,h2,h3{"
+    "margin-bottom:6px}"
     "h3{font-size:medium}table{border-collapse:collapse;width:100%}th,td{border:1px solid #999;padding:2px 6px;"
     "text-align:left;vertical-align:top}th{background-color:#e8e8e8}tr{page-break-inside:avoid}img{max-width:100%"
     "}";
