@@ -1,8 +1,8 @@
 #include <zor/controls/registration.h>
 #include <zor/forms/form_error.h>
 #include <zor/monitor/device/device.h>
-#include <zor/monitor/link/device_address.h>
 #include <zor/monitor/report/report.h>
+#include <zor/monitor/scan/scan_command.h>
 #include <zor/monitor/settings/settings_commands.h>
 #include <zor/monitor/settings/survey.h>
 #include <zor/monitor/ui/frames_dock.h>
@@ -15,6 +15,7 @@
 
 #include <iostream>
 #include <numeric>
+#include <unistd.h>
 
 namespace {
 
@@ -37,6 +38,7 @@ struct Settings {
     std::vector<std::string> trend;
     std::vector<std::string> saveTrend;
     std::string report;
+    std::vector<std::string> scan;
     SettingsTask task;
 };
 
@@ -101,13 +103,19 @@ void addOptions(CLI::App& app, Settings& settings)
     app.add_flag("--yes", settings.task.yes, "writes what --load-settings lists")->needs(load);
     auto* against =
         app.add_option("--against", settings.task.against, "settings file instead of the device")->needs(compare);
-    app.add_option(
-           "--report", settings.report,
-           "file for a report (.pdf or .html): with --run-for at the end, else as soon as every parameter has "
-           "been read; with --compare or --load-settings as well about that file")
-        ->check(endingIn(".pdf", ".html"))
-        ->excludes(against);
+    auto* report =
+        app.add_option(
+               "--report", settings.report,
+               "file for a report (.pdf or .html): with --run-for at the end, else as soon as every parameter has "
+               "been read; with --compare or --load-settings as well about that file")
+            ->check(endingIn(".pdf", ".html"))
+            ->excludes(against);
     app.add_flag("--json", settings.task.json, "prints the comparison as JSON")->needs(compare);
+    app.add_option(
+           "--scan", settings.scan,
+           "addresses to look for devices at, as of --device; unit may be a list (1-10,17), and so may baud "
+           "and parity")
+        ->excludes(save, load, compare, report);
     app.add_option("--serve", settings.serve, "run only the simulated device, on this port")
         ->check(CLI::Range(1, 65535));
 }
@@ -303,6 +311,9 @@ int run(int argc, char** argv)
     const QApplication application(argc, argv);
     const Languages resources;
     ParameterFile file = loadParameters(entryOf(settings));
+    if (!settings.scan.empty())
+        return runScan({settings.scan, settings.timeout, settings.frames, isatty(STDERR_FILENO) != 0}, file,
+                       std::cout, std::cerr);
     if (settings.task.isGiven() || (!settings.report.empty() && settings.runFor == 0))
         return transfer(settings, std::move(file));
     return settings.serve > 0 ? serve(file, settings.serve) : monitor(settings, std::move(file));

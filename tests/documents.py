@@ -99,7 +99,7 @@ def shell(line, content, scratch):
         status = int(found[1]) if (found := re.search(r"status (\d)", note)) else 0
         words = shlex.split(command)
         with contextlib.ExitStack() as stack:
-            if words[0] == "zor-monitor" and not re.search("--(run-for|serve|help|version|save-settings|load-settings|compare|report)", command) and status == 0:
+            if words[0] == "zor-monitor" and not re.search("--(run-for|serve|help|version|save-settings|load-settings|compare|report|scan)", command) and status == 0:
                 command += " --run-for 2"
                 shown = shown or ["..."]
             if DEVICE.search(command):

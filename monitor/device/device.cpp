@@ -31,6 +31,12 @@ Device::Device(DeviceEntry entry, ParameterFile file)
         m_frames->follow(m_session.link().frames());
 }
 
+void Device::connectTo(const QString& address)
+{
+    m_session.connectTo(endpointOf(address));
+    m_entry.address = address;
+}
+
 QString Device::addressFor(const ParameterFile& file)
 {
     if (!m_entry.address.isEmpty())

@@ -35,6 +35,9 @@ public:
 
     void start() { m_session.start(m_entry.period, m_entry.timeout); }
 
+    /// Goes on with the device at another address. Raises AddressError.
+    void connectTo(const QString& address);
+
     [[nodiscard]] const DeviceEntry& entry() const { return m_entry; }
     [[nodiscard]] Session& session() { return m_session; }
     /// Why frames are missing from their file; empty when none is.

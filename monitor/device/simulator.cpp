@@ -1,6 +1,7 @@
 #include <zor/monitor/device/simulator.h>
 #include <zor/monitor/link/modbus.h>
 
+#include <QModbusDeviceIdentification>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QVariant>
@@ -167,6 +168,12 @@ void Simulator::fill()
     };
     identify(m_file.identity.type, m_file.identity.simulatedType.text);
     identify(m_file.identity.version, m_file.identity.simulatedVersion.text);
+    QModbusDeviceIdentification own;
+    own.insert(QModbusDeviceIdentification::VendorNameObjectId, "ZorSmartControls");
+    own.insert(QModbusDeviceIdentification::ProductCodeObjectId, m_file.identity.simulatedType.text.c_str());
+    own.insert(QModbusDeviceIdentification::MajorMinorRevisionObjectId,
+               m_file.identity.simulatedVersion.text.c_str());
+    m_server.setValue(QModbusServer::DeviceIdentification, QVariant::fromValue(own));
 }
 
 void Simulator::tick()

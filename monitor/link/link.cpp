@@ -77,8 +77,7 @@ bool Link::mayStart() const
 
 int Link::quietFor() const
 {
-    const bool suspect =
-        !m_suspicion.hasExpired() && (!m_suspect || *m_suspect == unitOf(m_queue.front().request));
+    const bool suspect = !m_suspicion.hasExpired() && (!m_suspect || *m_suspect == m_unit);
     const qint64 suspicion = suspect ? m_suspicion.remainingTime() : 0;
     const int pause = std::max(m_manners.pause, m_transport->silence());
     const qint64 rest = m_sinceFrame.isValid() && pause > 0 ? pause - m_sinceFrame.elapsed() : 0;
@@ -127,7 +126,7 @@ void Link::transmit(UnderWay& one)
     Frame frame;
     frame.kind = Frame::Kind::Request;
     frame.framing = &m_transport->framing();
-    frame.bytes = frame.framing->wrap({one.transaction, unitOf(request), &request}, requestPdu(request));
+    frame.bytes = frame.framing->wrap({one.transaction, m_unit, &request}, requestPdu(request));
     one.frame = m_frames.add(std::move(frame));
     one.clock.start();
     m_sinceFrame.start();
@@ -168,7 +167,7 @@ bool Link::takeFrame()
     std::vector<Expected> expected;
     for (const UnderWay& one : m_underWay) {
         const Request& request = one.waiting.request;
-        expected.push_back({one.transaction, unitOf(request), &request});
+        expected.push_back({one.transaction, m_unit, &request});
     }
     const Framing& framing = m_transport->framing();
     const Found found = framing.find(m_received, expected);
@@ -228,10 +227,9 @@ void Link::fail(std::size_t index, Fault fault, const QString& words)
     const Framing& framing = m_transport->framing();
     std::deque<UnderWay> all = std::exchange(m_underWay, {});
     watch();
-    const Request& culprit = all[index].waiting.request;
     if (!framing.numbered && all[index].frame != nullptr) {
         m_suspicion = QDeadlineTimer(m_deadlineMilliseconds, Qt::PreciseTimer);
-        m_suspect = fault == framing.silence ? std::optional(unitOf(culprit)) : std::nullopt;
+        m_suspect = fault == framing.silence ? std::optional(m_unit) : std::nullopt;
     }
     const Reply reply = failed(fault, words.toStdString());
     note(reply, all[index].frame);

@@ -64,6 +64,8 @@ public:
     void setDeadline(int milliseconds) { m_deadlineMilliseconds = milliseconds; }
     [[nodiscard]] const Manners& manners() const { return m_manners; }
     void setManners(const Manners& manners) { m_manners = manners; }
+    /// Talks to another unit of the same line; not while anything waits or is under way.
+    void setUnit(std::uint8_t unit) { m_unit = unit; }
     /// Connects to something else. What waits or is under way fails.
     void connectTo(std::unique_ptr<Transport> transport, std::uint8_t unit);
 
@@ -109,7 +111,6 @@ private:
     void end(UnderWay one, Reply reply);
     void note(const Reply& reply, const FramePointer& request);
     void deliver();
-    [[nodiscard]] std::uint8_t unitOf(const Request& request) const { return request.unit.value_or(m_unit); }
 
     std::unique_ptr<Transport> m_transport;
     Manners m_manners;

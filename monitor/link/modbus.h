@@ -37,7 +37,6 @@ struct Request {
     /// To be written: registers, or 0 or 1 for each coil; of a masked write the bits to be kept and those to be
     /// set.
     Registers values{};
-    std::optional<std::uint8_t> unit{}; ///< another than the link's
 };
 
 /// A write of holding registers, or of coils: one and several have functions of their own. `several` takes that

@@ -185,6 +185,14 @@ void Poller::end()
 
 bool Poller::isIdentified() const { return m_identifiedOn && m_identifiedOn == m_link.connection(); }
 
+void Poller::forget()
+{
+    m_identifiedOn.reset();
+    m_identity.reset();
+    m_cuts.clear();
+    m_silent.clear();
+}
+
 void Poller::identify(std::function<void(const Reply&)> done)
 {
     readPart(m_file.identity.type, [this, done = std::move(done)](const Reply& asked, const std::string& type) {

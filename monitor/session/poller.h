@@ -59,6 +59,8 @@ public:
     [[nodiscard]] std::optional<unsigned> identifiedOn() const { return m_identifiedOn; }
     /// Asks the device what it is; `done` hears, after onIdentity, why it did not answer.
     void identify(std::function<void(const Reply&)> done);
+    /// What has been learned of the device is not true of the one that is there now.
+    void forget();
     [[nodiscard]] static Request readRequest(const Location& location);
 
     [[nodiscard]] int rounds() const { return m_rounds; }

@@ -34,6 +34,13 @@ void Session::setPeriod(int milliseconds)
     m_link->setDeadline(m_timeout > 0 ? m_timeout : milliseconds);
 }
 
+void Session::connectTo(Endpoint endpoint)
+{
+    m_link->connectTo(std::move(endpoint.transport), endpoint.unit);
+    m_poller.forget();
+    m_poller.pollNow();
+}
+
 // --- Reading
 
 std::vector<std::size_t> Session::wanted()

@@ -3,6 +3,7 @@
 /// A host's work without a window: reads the device into the bound controls, keeps the operator's edits, and
 /// writes them when told to.
 
+#include <zor/monitor/link/device_address.h>
 #include <zor/monitor/session/changes.h>
 #include <zor/monitor/session/log.h>
 #include <zor/monitor/session/poller.h>
@@ -66,6 +67,9 @@ public:
     [[nodiscard]] bool readsEverything() const { return m_readsAll; }
     /// Reads these parameters whether they are in sight or not.
     void follow(std::vector<std::size_t> parameters) { m_followed = std::move(parameters); }
+
+    /// Goes on with the device at another address. Edits stay, and carry the warning sign.
+    void connectTo(Endpoint endpoint);
 
     /// Whether the operator can see a control; without it, he sees all.
     std::function<bool(core::Control&)> isVisible;

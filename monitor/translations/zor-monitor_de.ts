@@ -498,6 +498,93 @@
     </message>
 </context>
 <context>
+    <name>ScanDialog</name>
+    <message>
+        <source>Look for devices</source>
+        <translation>Geräte suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Addresses, one to the line. Only these are asked. Unit, baud rate and parity may be lists: unit=1-10,17 baud=9600,19200 parity=even,none</source>
+        <translation>&amp;Adressen, eine je Zeile. Nur diese werden gefragt. Gerätenummer (unit), Baudrate und Parität können Listen sein: unit=1-10,17 baud=9600,19200 parity=even,none</translation>
+    </message>
+    <message>
+        <source>Insert an example...</source>
+        <translation>Beispiel einfügen ...</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>&amp;Timeout:</source>
+        <translation>&amp;Wartezeit:</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Identification</source>
+        <translation>Identifikation</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Bemerkung</translation>
+    </message>
+    <message>
+        <source>What answers</source>
+        <translation>Was antwortet</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnect</source>
+        <translation>&amp;Verbinden</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Stopp</translation>
+    </message>
+    <message>
+        <source>&amp;Scan</source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>This is no address that can be asked:</source>
+        <translation>Das ist keine Adresse, die gefragt werden kann:</translation>
+    </message>
+    <message>
+        <source>No address is given.</source>
+        <translation>Es ist keine Adresse angegeben.</translation>
+    </message>
+    <message>
+        <source>answers after %1 ms</source>
+        <translation>antwortet nach %1 ms</translation>
+    </message>
+    <message>
+        <source>Done.</source>
+        <translation>Fertig.</translation>
+    </message>
+    <message>
+        <source>There are edits that have not been written. Connect to another device all the same?</source>
+        <translation>Es gibt Änderungen, die nicht geschrieben sind. Trotzdem mit einem anderen Gerät verbinden?</translation>
+    </message>
+    <message>
+        <source>Devices that answer: %1</source>
+        <translation>Geräte, die antworten: %1</translation>
+    </message>
+</context>
+<context>
     <name>SearchField</name>
     <message>
         <source>Find: tag, caption, value</source>
@@ -955,6 +1042,10 @@
     <message>
         <source>Compare &amp;two files...</source>
         <translation>&amp;Zwei Dateien vergleichen...</translation>
+    </message>
+    <message>
+        <source>Look &amp;for devices...</source>
+        <translation>Geräte s&amp;uchen ...</translation>
     </message>
 </context>
 <context>

@@ -498,6 +498,93 @@
     </message>
 </context>
 <context>
+    <name>ScanDialog</name>
+    <message>
+        <source>Look for devices</source>
+        <translation>Chercher des appareils</translation>
+    </message>
+    <message>
+        <source>&amp;Addresses, one to the line. Only these are asked. Unit, baud rate and parity may be lists: unit=1-10,17 baud=9600,19200 parity=even,none</source>
+        <translation>&amp;Adresses, une par ligne. Seules celles-ci sont interrogées. Numéro d'esclave (unit), vitesse et parité peuvent être des listes : unit=1-10,17 baud=9600,19200 parity=even,none</translation>
+    </message>
+    <message>
+        <source>Insert an example...</source>
+        <translation>Insérer un exemple...</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>&amp;Timeout:</source>
+        <translation>&amp;Délai :</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Appareil</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Identification</source>
+        <translation>Identification</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>What answers</source>
+        <translation>Ce qui répond</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnect</source>
+        <translation>Se co&amp;nnecter</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>A&amp;rrêter</translation>
+    </message>
+    <message>
+        <source>&amp;Scan</source>
+        <translation>Cherche&amp;r</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Annulé.</translation>
+    </message>
+    <message>
+        <source>This is no address that can be asked:</source>
+        <translation>Ce n'est pas une adresse qui puisse être interrogée :</translation>
+    </message>
+    <message>
+        <source>No address is given.</source>
+        <translation>Aucune adresse n'est donnée.</translation>
+    </message>
+    <message>
+        <source>answers after %1 ms</source>
+        <translation>répond après %1 ms</translation>
+    </message>
+    <message>
+        <source>Done.</source>
+        <translation>Terminé.</translation>
+    </message>
+    <message>
+        <source>There are edits that have not been written. Connect to another device all the same?</source>
+        <translation>Il y a des modifications non écrites. Se connecter quand même à un autre appareil ?</translation>
+    </message>
+    <message>
+        <source>Devices that answer: %1</source>
+        <translation>Appareils qui répondent : %1</translation>
+    </message>
+</context>
+<context>
     <name>SearchField</name>
     <message>
         <source>Find: tag, caption, value</source>
@@ -955,6 +1042,10 @@
     <message>
         <source>Compare &amp;two files...</source>
         <translation>Comparer &amp;deux fichiers...</translation>
+    </message>
+    <message>
+        <source>Look &amp;for devices...</source>
+        <translation>C&amp;hercher des appareils...</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,6 @@
 // The window's menus. They are made anew with every language.
 
+#include <zor/monitor/ui/scan_dialog.h>
 #include <zor/monitor/ui/window.h>
 #include <zor/monitor/ui/words.h>
 #include <zor/units/unit_catalogue.h>
@@ -74,6 +75,8 @@ void Window::addSettingsActions(QMenu& menu)
 
 void Window::addDeviceActions(QMenu& menu)
 {
+    menu.addAction(tr("Look &for devices..."), QKeySequence("Ctrl+L"), this,
+                   [this] { ScanDialog::openFor(*m_front); });
     menu.addAction(tr("&Poll period..."), this, [this] {
         bool accepted = false;
         const int period = QInputDialog::getInt(this, tr("Poll period"), tr("Milliseconds from read to read:"),

@@ -1,7 +1,7 @@
 // The connection against a peer that misbehaves, over real TCP and over a pseudo-terminal.
 
-#include <zor/monitor/link/device_address.h>
 #include <zor/monitor/link/tcp_link.h>
+#include <zor/monitor/scan/scanner.h>
 #include <zor/tests/monitor/peer.h>
 
 #include <QElapsedTimer>
@@ -232,7 +232,7 @@ unsigned crc(const QByteArray& bytes)
 
 /// The other end of a serial line.
 struct SerialPeer {
-    SerialPeer() : handle(posix_openpt(O_RDWR | O_NOCTTY))
+    SerialPeer() : handle(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK))
     {
         EXPECT_EQ(grantpt(handle) | unlockpt(handle), 0);
         notifier = std::make_unique<QSocketNotifier>(handle, QSocketNotifier::Read);
@@ -293,6 +293,25 @@ TEST(RtuLink, ReadsAndJudgesAsOnTcp)
     peer.wrong = 0;
     EXPECT_EQ(ask(*link, read).registers, (Registers{0x0102, 0xFFFE})) << "recovers";
     EXPECT_EQ(ask(*openLink("rtu:/dev/there-is-none", 500), read).fault, Fault::NoPort);
+}
+
+TEST(RtuLink, IsScannedWithEachSettingInTurn)
+{
+    SerialPeer peer; // the identification, a shorter request, it does not answer
+    peer.answer = QByteArray::fromHex("0504 02 0102");
+    const ParameterFile file = readParameterFile(
+        R"({"parameters": [{"tag": "A", "bank": "input", "address": 0, "type": "uint16"}]})", "test");
+    Scanner scanner(scanLines(QString("rtu:%1?unit=4-6&baud=9600,19200&parity=none").arg(ptsname(peer.handle))),
+                    file, kDeadline);
+    QStringList hits;
+    bool over = false;
+    scanner.onHit = [&](const ScanHit& hit) { hits.append(hit.address.section('?', 1)); };
+    scanner.onTrouble = [](const QString&, const Reply& reply) { ADD_FAILURE() << reply.reason; };
+    scanner.onProgress = [](int, int) {};
+    scanner.onDone = [&] { over = true; };
+    scanner.start();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return over; }, kPatience));
+    EXPECT_EQ(hits.join("; "), "baud=9600&parity=none&unit=5; baud=19200&parity=none&unit=5");
 }
 
 TEST(RtuLink, TakesNoReplyThatComesLate)

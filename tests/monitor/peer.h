@@ -73,9 +73,9 @@ private:
         const int function = static_cast<quint8>(request[7]);
         const std::size_t address = word(8);
         QByteArray pdu(1, request[7]);
-        const bool one = function == 5 || function == 6 || function == 22;
+        const bool one = function == 5 || function == 6 || function == 22 || function == 43;
         const std::size_t count = one ? 1 : word(10);
-        if (function == 22 && !masks) {
+        if ((function == 22 && !masks) || function == 43) {
             pdu = QByteArray(1, static_cast<char>(function | 0x80)) + '\1';
         } else if (address + count > registers.size()) {
             pdu = QByteArray(1, static_cast<char>(function | 0x80)) + '\2';

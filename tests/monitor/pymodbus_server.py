@@ -3,13 +3,14 @@ import sys
 import threading
 
 from pymodbus.datastore import ModbusSequentialDataBlock, ModbusServerContext, ModbusSlaveContext
+from pymodbus.device import ModbusDeviceIdentification
 from pymodbus.server import StartTcpServer
 
 more = int(sys.argv[2]) if len(sys.argv) > 2 else 0
 block = lambda: ModbusSequentialDataBlock(0, list(range(more, more + 200)))
 bits = lambda: ModbusSequentialDataBlock(0, [False, True] * 100)
 slave = ModbusSlaveContext(hr=block(), ir=block(), co=bits(), di=bits(), zero_mode=True)
-context = ModbusServerContext(slaves={1: slave}, single=False)
+context = ModbusServerContext(slaves={1: slave, 3: slave}, single=False)
 
 
 def announce():
@@ -27,4 +28,5 @@ def announce():
 
 
 threading.Thread(target=announce, daemon=True).start()
-StartTcpServer(context=context, address=("127.0.0.1", int(sys.argv[1])), allow_reuse_address=True)
+identity = ModbusDeviceIdentification(info_name={"VendorName": "Maker", "ProductCode": "P-1", "MajorMinorRevision": "2.0"})
+StartTcpServer(context=context, identity=identity, address=("127.0.0.1", int(sys.argv[1])), allow_reuse_address=True)

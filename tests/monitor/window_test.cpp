@@ -3,6 +3,7 @@
 #include <zor/controls/registration.h>
 #include <zor/monitor/ui/frames_dock.h>
 #include <zor/monitor/ui/group_tree.h>
+#include <zor/monitor/ui/scan_dialog.h>
 #include <zor/monitor/ui/search_field.h>
 #include <zor/monitor/ui/settings_dialog.h>
 #include <zor/monitor/ui/window.h>
@@ -291,6 +292,31 @@ TEST_F(Demo, FramesShowWhatGoesOverTheLineAndWhyItFails)
     QFile saved(folder.filePath("frames.txt"));
     ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
     EXPECT_EQ(saved.readAll().count(" <- unit 1  "), rows);
+}
+
+TEST_F(Demo, ConnectsToADeviceThatWasLookedFor)
+{
+    Simulator other(file);
+    ASSERT_TRUE(other.start());
+    other.setRegisters(Bank::Holding, 2, {777});
+    open(1);
+    ScanDialog& dialog = ScanDialog::openFor(window->front());
+    auto& table = *dialog.findChild<QTableWidget*>();
+    const QString address = QString("tcp://127.0.0.1:%1?unit=1").arg(other.port());
+    dialog.setAddresses("127.0.0.1:1\n" + address + "\n");
+    button(dialog, "&Scan")->click();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog.isRunning() && table.rowCount() == 2; }, kPatience));
+    const int row = table.item(0, 0)->text() == address ? 0 : 1;
+    EXPECT_EQ(table.item(1 - row, 0)->text(), "127.0.0.1:1");
+    EXPECT_TRUE(table.item(1 - row, 4)->text().startsWith("the connection was refused. The host"));
+    table.setCurrentCell(1 - row, 0);
+    EXPECT_FALSE(button(dialog, "Co&nnect")->isEnabled());
+    EXPECT_EQ(table.item(row, 3)->text(), "ZorSmartControls ZT100 2.3");
+    table.setCurrentCell(row, 0);
+    button(dialog, "Co&nnect")->click();
+    const unsigned before = window->session().device();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return field("HighAlarm").text() == "77.7"; }, kPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->session().device() != before; }, kPatience));
 }
 
 /// More groups than fit beside each other as tabs; each begins with a length that is writable.

@@ -1,0 +1,77 @@
+#include <zor/monitor/scan/scan_command.h>
+#include <zor/monitor/session/frame_file.h>
+
+#include <QEventLoop>
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+#include <ostream>
+
+namespace zor::monitor {
+namespace {
+
+std::string printable(std::string text)
+{
+    std::ranges::replace_if(
+        text, [](char c) { return c < ' ' || c > '~'; }, '?');
+    return text;
+}
+
+} // namespace
+
+std::string identificationOf(const ScanHit& hit)
+{
+    std::string all;
+    for (const auto& [number, text] : hit.texts)
+        all.append(all.empty() ? "" : " ").append(printable(text));
+    return all;
+}
+
+int runScan(const ScanTask& task, const ParameterFile& file, std::ostream& out, std::ostream& errors)
+{
+    std::vector<ScanLine> lines;
+    for (const std::string& address : task.addresses)
+        std::ranges::move(scanLines(QString::fromStdString(address)), std::back_inserter(lines));
+    std::optional<FrameFile> frames;
+    if (!task.frames.empty())
+        frames.emplace(QString::fromStdString(task.frames));
+    Scanner scanner(std::move(lines), file, task.timeout > 0 ? task.timeout : kUsualScanTimeout);
+    QEventLoop loop;
+    int hits = 0;
+    // What stands in the last line of a terminal makes room for what stays.
+    const char* const room = task.progress ? "\r\033[K" : "";
+    scanner.onLink = [&](Link& link) {
+        if (frames)
+            frames->follow(link.frames());
+    };
+    scanner.onHit = [&](const ScanHit& hit) {
+        ++hits;
+        errors << room << std::flush;
+        out << hit.address.toStdString();
+        for (const std::string& text : {printable(hit.type), printable(hit.version), identificationOf(hit)})
+            out << (text.empty() ? "" : "  ") << text;
+        out << "  (" << hit.milliseconds << " ms)" << std::endl;
+    };
+    scanner.onTrouble = [&](const QString& address, const Reply& reply) {
+        errors << room << "zor-monitor: " << address.toStdString() << ": " << reply.reason << '\n'
+               << adviceOn(reply.fault, reply.exception) << std::endl;
+    };
+    scanner.onProgress = [&](int done, int total) {
+        if (task.progress)
+            errors << room << done << " of " << total << std::flush;
+    };
+    scanner.onDone = [&] { loop.quit(); };
+    scanner.start();
+    loop.exec();
+    errors << room;
+    if (hits == 0)
+        errors << "zor-monitor: nothing answers" << std::endl;
+    if (frames && !frames->error().isEmpty()) {
+        errors << "zor-monitor: " << task.frames << ": " << frames->error().toStdString() << std::endl;
+        return 2;
+    }
+    return hits > 0 ? 0 : 1;
+}
+
+} // namespace zor::monitor
