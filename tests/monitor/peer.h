@@ -24,6 +24,7 @@ public:
             while (QTcpSocket* socket = nextPendingConnection()) {
                 sockets.push_back(socket);
                 connect(socket, &QTcpSocket::readyRead, this, [this, socket] { receive(*socket); });
+                connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
             }
         });
         listen(QHostAddress::LocalHost);
