@@ -1,16 +1,18 @@
 #include <zor/controls/registration.h>
 #include <zor/forms/form_error.h>
-#include <zor/monitor/device/device.h>
+#include <zor/monitor/device/site_file.h>
 #include <zor/monitor/report/report.h>
 #include <zor/monitor/scan/scan_command.h>
 #include <zor/monitor/settings/settings_commands.h>
 #include <zor/monitor/settings/survey.h>
 #include <zor/monitor/ui/frames_dock.h>
+#include <zor/monitor/ui/open_dialog.h>
 #include <zor/monitor/ui/window.h>
 #include <zor/platform/version.h>
 
 #include <CLI/CLI.hpp>
 #include <QApplication>
+#include <QMessageBox>
 #include <QSaveFile>
 
 #include <iostream>
@@ -40,6 +42,8 @@ struct Settings {
     std::string report;
     std::vector<std::string> scan;
     SettingsTask task;
+    std::string site;
+    bool asks = false; ///< the operator is asked what to show
 };
 
 enum ExitStatus : int { kWell = 0, kUnhealthy = 1, kUsage = 2 };
@@ -61,23 +65,26 @@ CLI::Validator endingIn(const char* one, const char* other)
 void addOptions(CLI::App& app, Settings& settings)
 {
     constexpr int kLongest = 86400;
-    app.add_option("--form", settings.form,
-                   "form drawn in Qt Designer (.ui); without it, one is made from the parameter file");
-    app.add_option("--parameters", settings.parameters,
-                   "file that says where the device's parameters lie; without it, the demonstration device's");
-    app.add_option(
+    auto* form =
+        app.add_option("--form", settings.form,
+                       "form drawn in Qt Designer (.ui); without it, one is made from the parameter file");
+    auto* parameters =
+        app.add_option("--parameters", settings.parameters,
+                       "file that says where the device's parameters lie; without it, the demonstration device's");
+    auto* device = app.add_option(
         "--device", settings.device,
-        "tcp://HOST:PORT[?unit=N] or rtu:DEVICE[?unit=N&baud=B&parity=P&stop=S]; without it, a simulated "
-        "device");
+        "tcp://HOST:PORT[?unit=N] or rtu:DEVICE[?unit=N&baud=B&parity=P&stop=S]; without it, or with simulated, a "
+        "simulated device");
     app.add_option("--period", settings.period, "milliseconds from poll to poll")->check(CLI::Range(100, 60000));
     app.add_option("--timeout", settings.timeout, "milliseconds for a whole reply; without it, the poll period")
         ->check(CLI::Range(10, 60000));
     app.add_option("--run-for", settings.runFor, "seconds to run unattended; prints what was read")
         ->check(CLI::Range(1, kLongest));
     app.add_option("--screenshot", settings.screenshot, "file for a picture of the window, taken at the end");
-    app.add_option("--log", settings.log,
-                   "CSV file to which reads that change their outcome and writes are added");
-    app.add_option("--frames", settings.frames, "text file for every request and reply, as they come");
+    auto* log = app.add_option("--log", settings.log,
+                               "CSV file to which reads that change their outcome and writes are added");
+    auto* frames =
+        app.add_option("--frames", settings.frames, "text file for every request and reply, as they come");
     app.add_option("--language", settings.language, "en, de or fr; without it, that of the environment")
         ->check(CLI::IsMember({"en", "de", "fr"}));
     app.add_option("--units", settings.units, "form, metric, us or device")->check(CLI::IsMember(kUnitSystems));
@@ -116,9 +123,19 @@ void addOptions(CLI::App& app, Settings& settings)
            "addresses to look for devices at, as of --device; unit may be a list (1-10,17), and so may baud "
            "and parity")
         ->excludes(save, load, compare, report);
+    app.add_option("--site", settings.site, "file that lists several devices, each with its own files")
+        ->excludes(device, parameters, form, log, frames, save, load, compare, report);
     app.add_option("--serve", settings.serve, "run only the simulated device, on this port")
         ->check(CLI::Range(1, 65535));
 }
+
+using Panels = std::vector<std::unique_ptr<DevicePanel>>;
+
+/// What has been asked for cannot be had.
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
 
 int fail(int status, const std::string& text)
 {
@@ -150,12 +167,12 @@ int failUnhealthy(std::string text, const Reply& failure, int status = kUnhealth
 }
 
 /// The status, or 2 when lines are missing from a file.
-int withFiles(const Settings& settings, Device& device, int status)
+int withFiles(Device& device, int status)
 {
     if (const QString error = device.session().recordError(); !error.isEmpty())
-        return fail(kUsage, settings.log + ": " + error.toStdString());
+        return fail(kUsage, device.entry().record.toStdString() + ": " + error.toStdString());
     if (const QString error = device.framesError(); !error.isEmpty())
-        return fail(kUsage, settings.frames + ": " + error.toStdString());
+        return fail(kUsage, device.entry().frames.toStdString() + ": " + error.toStdString());
     return status;
 }
 
@@ -168,11 +185,33 @@ int serve(const ParameterFile& file, int port)
     return QApplication::exec();
 }
 
+/// Says how a device has fared.
+int finish(DevicePanel& panel, const Settings& settings)
+{
+    Session& session = panel.session();
+    if (settings.runFor == 0)
+        return kWell;
+    const std::string name = settings.site.empty() ? std::string() : panel.name().toStdString() + ": ";
+    const int rounds = session.poller().rounds();
+    if (session.failedRounds() > 0 || rounds == 0)
+        return failUnhealthy(name + "the device did not answer in " + std::to_string(session.failedRounds()) +
+                                 " of " + std::to_string(rounds) + " rounds",
+                             session.poller().failure());
+    if (!session.hasValues())
+        return failUnhealthy(name + "the device has none of the parameters", session.link().lastFailure());
+    return kWell;
+}
+
 int finish(Window& window, const Settings& settings)
 {
-    Session& session = window.session();
-    if (settings.runFor > 0 || !settings.screenshot.empty())
-        std::cout << session.report();
+    int status = kWell;
+    for (const auto& panel : window.panels()) {
+        if (!settings.site.empty())
+            std::cout << panel->name().toStdString() << '\n';
+        if (settings.runFor > 0 || !settings.screenshot.empty())
+            std::cout << panel->session().report();
+        status = std::max(status, withFiles(panel->device(), finish(*panel, settings)));
+    }
     if (!settings.screenshot.empty() && !window.grab().save(QString::fromStdString(settings.screenshot)))
         return fail(kUsage, "cannot write " + settings.screenshot);
     for (const std::string& name : settings.saveTrend) {
@@ -186,21 +225,15 @@ int finish(Window& window, const Settings& settings)
         if (!error.isEmpty())
             return fail(kUsage, settings.report + ": " + error.toStdString());
     }
-    if (settings.runFor == 0)
-        return kWell;
-    const int rounds = session.poller().rounds();
-    if (session.failedRounds() > 0 || rounds == 0)
-        return failUnhealthy("the device did not answer in " + std::to_string(session.failedRounds()) + " of " +
-                                 std::to_string(rounds) + " rounds",
-                             session.poller().failure());
-    if (!session.hasValues())
-        return failUnhealthy("the device has none of the parameters", session.link().lastFailure());
-    return kWell;
+    return status;
 }
 
-QString languageOf(const Settings& settings)
+/// As it was asked for, else chosen last, else that of the environment.
+QString languageOf(const Settings& settings, const Memory& memory = Memory())
 {
-    return settings.language.empty() ? Languages::systemLanguage() : QString::fromStdString(settings.language);
+    const QString language =
+        settings.language.empty() ? memory.language() : QString::fromStdString(settings.language);
+    return language.isEmpty() ? Languages::systemLanguage() : language;
 }
 
 /// What the device is asked for and reported is in the operator's language; what was printed before is English.
@@ -244,54 +277,101 @@ int transfer(const Settings& settings, ParameterFile file)
         const int reported = report(device.session(), settings);
         status = status == kWell ? reported : status;
     }
-    return withFiles(settings, device, status);
+    return withFiles(device, status);
 }
 
-std::unique_ptr<Form> formOf(const Settings& settings, const Session& session,
-                             const zor::core::ClassRegistry& classes)
+/// Asks the operator what to show; nothing when he has thought better of it.
+Panels ask(const Memory& memory, const zor::core::ClassRegistry& classes)
 {
-    if (settings.form.empty())
-        return std::make_unique<GeneratedForm>(session.file(), classes);
-    return std::make_unique<UiForm>(QString::fromStdString(settings.form), classes);
+    OpenDialog dialog(memory.recent());
+    Panels panels;
+    while (panels.empty() && dialog.exec() == QDialog::Accepted) {
+        try {
+            panels.push_back(openPanel(dialog.entry(), classes));
+        } catch (const std::exception& error) {
+            QMessageBox box(QMessageBox::Warning, dialog.windowTitle(), QString::fromUtf8(error.what()));
+            box.setTextFormat(Qt::PlainText); // what a file says is no mark-up
+            box.exec();
+        }
+    }
+    return panels;
 }
 
-int monitor(const Settings& settings, ParameterFile file)
+Panels openAll(const Settings& settings, const zor::core::ClassRegistry& classes)
 {
-    Languages languages;
-    languages.use(languageOf(settings));
-    zor::core::ClassRegistry classes;
-    zor::registerControls(classes);
-    auto device = std::make_unique<Device>(entryOf(settings), std::move(file));
-    std::unique_ptr<Form> form = formOf(settings, device->session(), classes);
-    const int tabs = form->tabs() != nullptr ? std::max(1, form->tabs()->count()) : 1;
-    if (settings.tab >= tabs)
-        return fail(kUsage,
-                    "--tab " + std::to_string(settings.tab) + ": the last tab is " + std::to_string(tabs - 1));
-    if (form->tabs() != nullptr)
-        form->tabs()->setCurrentIndex(settings.tab);
-    QSettings sizes("ZorSmartControls", "zor-monitor");
-    Window window(std::make_unique<DevicePanel>(std::move(device), std::move(form)), languages);
-    if (settings.runFor == 0 && settings.screenshot.empty())
-        window.remember(sizes); // what nobody watches leaves no traces and looks the same each time
-    if (settings.units != "form")
-        window.setUnits(kUnitSystems.at(settings.units));
-    for (const std::string& tag : settings.trend) {
-        const auto parameter = window.session().file().indexOf(tag);
-        if (!parameter || !Trend::isPlottable(window.session().file().parameters[*parameter]))
-            return fail(kUsage, "--trend " + tag + ": no parameter that is a number");
+    Panels panels;
+    if (settings.site.empty()) {
+        panels.push_back(openPanel(entryOf(settings), classes));
+        return panels;
+    }
+    for (const DeviceEntry& entry : loadSiteFile(QString::fromStdString(settings.site)).devices)
+        panels.push_back(openPanel(entry, classes));
+    return panels;
+}
+
+void showTab(Form& form, int tab)
+{
+    const int tabs = form.tabs() != nullptr ? std::max(1, form.tabs()->count()) : 1;
+    if (tab >= tabs)
+        throw UsageError("--tab " + std::to_string(tab) + ": the last tab is " + std::to_string(tabs - 1));
+    if (form.tabs() != nullptr)
+        form.tabs()->setCurrentIndex(tab);
+}
+
+void plot(Window& window, const std::vector<std::string>& tags)
+{
+    const Session& session = window.session();
+    for (const std::string& tag : tags) {
+        const auto parameter = session.indexOf(tag);
+        if (!parameter || !Trend::isPlottable(session.file().parameters[*parameter]))
+            throw UsageError("--trend " + tag + ": no parameter that is a number");
         window.trend().add(*parameter);
     }
-    FramesDock::addTo(window);
-    window.show();
-    if (settings.runFor > 0 || !settings.log.empty())
-        window.session().readEverything();
-    window.front().device().start();
+}
+
+void start(Window& window, const Settings& settings)
+{
+    for (const auto& panel : window.panels()) {
+        if (settings.runFor > 0)
+            panel->session().readEverything();
+        panel->device().start();
+    }
     if (settings.runFor > 0) {
         constexpr int kSecond = 1000;
         QTimer::singleShot(settings.runFor * kSecond, &window, [&] { window.closeUnasked(); });
     }
+}
+
+int monitor(const Settings& settings)
+{
+    // What nobody watches leaves no traces and looks the same each time.
+    const bool watched = settings.runFor == 0 && settings.screenshot.empty();
+    QSettings stored("ZorSmartControls", "zor-monitor");
+    const Memory memory(watched ? &stored : nullptr);
+    Languages languages;
+    languages.use(languageOf(settings, memory));
+    zor::core::ClassRegistry classes;
+    zor::registerControls(classes);
+    Panels panels = settings.asks ? ask(memory, classes) : openAll(settings, classes);
+    if (panels.empty())
+        return kWell;
+    if (!settings.site.empty())
+        memory.addRecentSite(QString::fromStdString(settings.site));
+    else if (settings.asks || !settings.device.empty() || !settings.parameters.empty())
+        memory.addRecent(panels.front()->device().entry());
+    showTab(panels.front()->form(), settings.tab);
+    Window window(std::move(panels.front()), languages, classes);
+    for (std::size_t i = 1; i < panels.size(); ++i)
+        window.add(std::move(panels[i]));
+    FramesDock::addTo(window);
+    window.remember(memory);
+    if (settings.units != "form")
+        window.setUnits(kUnitSystems.at(settings.units));
+    plot(window, settings.trend);
+    window.show();
+    start(window, settings);
     QApplication::exec();
-    return withFiles(settings, window.front().device(), finish(window, settings));
+    return finish(window, settings);
 }
 
 int run(int argc, char** argv)
@@ -310,13 +390,16 @@ int run(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     const Languages resources;
-    ParameterFile file = loadParameters(entryOf(settings));
+    const QString screen = QApplication::platformName();
+    settings.asks = argc == 1 && screen != "offscreen" && screen != "minimal";
     if (!settings.scan.empty())
-        return runScan({settings.scan, settings.timeout, settings.frames, isatty(STDERR_FILENO) != 0}, file,
-                       std::cout, std::cerr);
+        return runScan({settings.scan, settings.timeout, settings.frames, isatty(STDERR_FILENO) != 0},
+                       loadParameters(entryOf(settings)), std::cout, std::cerr);
     if (settings.task.isGiven() || (!settings.report.empty() && settings.runFor == 0))
-        return transfer(settings, std::move(file));
-    return settings.serve > 0 ? serve(file, settings.serve) : monitor(settings, std::move(file));
+        return transfer(settings, loadParameters(entryOf(settings)));
+    if (settings.serve > 0)
+        return serve(loadParameters(entryOf(settings)), settings.serve);
+    return monitor(settings);
 }
 
 } // namespace
@@ -330,6 +413,8 @@ int main(int argc, char** argv)
     } catch (const zor::forms::FormError& error) {
         return fail(kUsage, error.what());
     } catch (const AddressError& error) {
+        return fail(kUsage, error.what());
+    } catch (const UsageError& error) {
         return fail(kUsage, error.what());
     } catch (const std::exception& error) {
         return fail(kUnhealthy, error.what());

@@ -1,7 +1,6 @@
+#include <zor/monitor/data/file_content.h>
 #include <zor/monitor/device/device.h>
 #include <zor/monitor/link/device_address.h>
-
-#include <QFile>
 
 #include <utility>
 
@@ -10,13 +9,7 @@ namespace zor::monitor {
 ParameterFile loadParameters(const DeviceEntry& entry)
 {
     const QString name = entry.parameters.isEmpty() ? QString(":/monitor/demo.json") : entry.parameters;
-    QFile file(name);
-    if (!file.open(QIODevice::ReadOnly))
-        throw FileError(name.toStdString(), 0, file.errorString().toStdString());
-    constexpr qint64 kLargest = 16 << 20;
-    if (file.size() > kLargest)
-        throw FileError(name.toStdString(), 0, "larger than 16 MB");
-    return readParameterFile(file.readAll().toStdString(), name.toStdString());
+    return readParameterFile(contentOf(name.toStdString()), name.toStdString());
 }
 
 Device::Device(DeviceEntry entry, ParameterFile file)
@@ -37,9 +30,16 @@ void Device::connectTo(const QString& address)
     m_entry.address = address;
 }
 
+void Device::start()
+{
+    if (m_log)
+        m_session.readEverything();
+    m_session.start(m_entry.period, m_entry.timeout);
+}
+
 QString Device::addressFor(const ParameterFile& file)
 {
-    if (!m_entry.address.isEmpty())
+    if (!m_entry.isSimulated())
         return m_entry.address;
     m_simulated = file;
     m_simulator = std::make_unique<Simulator>(m_simulated);

@@ -12,15 +12,21 @@
 
 namespace zor::monitor {
 
+/// The address of a device that the program simulates.
+inline constexpr const char* kSimulated = "simulated";
+
 /// What it takes to monitor a device, as a command line or an operator says it.
 struct DeviceEntry {
-    QString address{};    ///< as openLink() reads it; empty: a simulated device
+    QString name{};       ///< for people; empty: the title of the parameter file
+    QString address{};    ///< as openLink() reads it; empty or kSimulated: a simulated device
     QString parameters{}; ///< parameter file; empty: the demonstration device's
     QString form{};       ///< file of Qt Designer; empty: a form is made from the parameter file
     QString record{};     ///< file of the record; empty: none
     QString frames{};     ///< file for every request and reply; empty: none
     int period = 500;     ///< milliseconds from poll to poll
     int timeout = 0;      ///< milliseconds for a whole reply; 0: the period
+
+    [[nodiscard]] bool isSimulated() const { return address.isEmpty() || address == kSimulated; }
 };
 
 /// The parameter file of the entry. Raises FileError.
@@ -33,7 +39,8 @@ public:
     /// device.
     Device(DeviceEntry entry, ParameterFile file);
 
-    void start() { m_session.start(m_entry.period, m_entry.timeout); }
+    /// A record holds every parameter, in sight or not.
+    void start();
 
     /// Goes on with the device at another address. Raises AddressError.
     void connectTo(const QString& address);

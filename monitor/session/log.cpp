@@ -2,6 +2,7 @@
 #include <zor/monitor/session/log.h>
 
 #include <QDateTime>
+#include <QFileInfo>
 
 namespace zor::monitor {
 
@@ -15,7 +16,20 @@ std::string csvField(std::string_view text)
     return field + '"';
 }
 
-Log::Log(const QString& file) : m_file(file)
+namespace {
+
+/// Whether a file ends in the midst of a line: a power cut, a disk that was full.
+bool endsTorn(const QString& name)
+{
+    QFile file(name);
+    // Reading from a pipe would wait, or take what is another's.
+    return QFileInfo(name).isFile() && file.open(QIODevice::ReadOnly) && file.size() > 0 &&
+           file.seek(file.size() - 1) && file.read(1) != "\n";
+}
+
+} // namespace
+
+Log::Log(const QString& file) : m_file(file), m_torn(endsTorn(file))
 {
     // Without a buffer: what could not be written must not be held back and come out of turn later.
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))

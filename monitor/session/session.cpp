@@ -63,6 +63,8 @@ std::vector<std::size_t> Session::wanted()
             binding.await();
         m_views[i].visible = visible;
     }
+    if (parameters.empty() && m_keepsAlive)
+        parameters.push_back(0);
     return parameters;
 }
 

@@ -67,6 +67,8 @@ public:
     [[nodiscard]] bool readsEverything() const { return m_readsAll; }
     /// Reads these parameters whether they are in sight or not.
     void follow(std::vector<std::size_t> parameters) { m_followed = std::move(parameters); }
+    /// Reads one parameter when nobody wants any, so that it is known whether the device answers.
+    void keepAlive(bool on) { m_keepsAlive = on; }
 
     /// Goes on with the device at another address. Edits stay, and carry the warning sign.
     void connectTo(Endpoint endpoint);
@@ -213,6 +215,7 @@ private:
     unsigned m_device = 0; ///< counts the devices
     int m_failedRounds = 0;
     bool m_readsAll = false;
+    bool m_keepsAlive = false;
     bool m_healthy = false;
     bool m_isWriting = false;
     bool m_isKnown = false; ///< what the device is

@@ -1,3 +1,4 @@
+#include <zor/monitor/data/file_content.h>
 #include <zor/monitor/data/json_fields.h>
 #include <zor/monitor/session/value_texts.h>
 #include <zor/monitor/settings/settings_file.h>
@@ -6,7 +7,6 @@
 #include <zor/units/unit_catalogue.h>
 
 #include <QDateTime>
-#include <QFile>
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
@@ -19,7 +19,6 @@ namespace {
 constexpr std::string_view kFormat = "zor-settings";
 constexpr int kVersion = 1;
 constexpr int kHighestRegister = 0xFFFF;
-constexpr qint64 kLargestFile = 16 << 20;
 
 const units::UnitRow* unitRow(MEAS_TYPE unit)
 {
@@ -138,17 +137,7 @@ SettingsFile readSettingsFile(std::string_view text, const std::string& name)
     return file;
 }
 
-SettingsFile loadSettingsFile(const std::string& name)
-{
-    QFile file(QString::fromStdString(name));
-    if (!file.open(QIODevice::ReadOnly))
-        throw FileError(name, 0, file.errorString().toStdString());
-    // A device or a pipe has no size, and may never end.
-    const QByteArray text = file.read(kLargestFile + 1);
-    if (text.size() > kLargestFile)
-        throw FileError(name, 0, "larger than 16 MB");
-    return readSettingsFile(text.toStdString(), name);
-}
+SettingsFile loadSettingsFile(const std::string& name) { return readSettingsFile(contentOf(name), name); }
 
 QByteArray textOf(const SettingsFile& file)
 {

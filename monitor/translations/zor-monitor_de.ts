@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>DeviceList</name>
+    <message>
+        <source>Devices</source>
+        <translation>Geräte</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Formular</translation>
+    </message>
+    <message>
+        <source>simulated</source>
+        <translation>simuliert</translation>
+    </message>
+    <message>
+        <source>of the demonstration</source>
+        <translation>der Demonstration</translation>
+    </message>
+    <message>
+        <source>generated</source>
+        <translation>erzeugt</translation>
+    </message>
+    <message>
+        <source>not read yet</source>
+        <translation>noch nicht gelesen</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <translation>antwortet</translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation>keine Antwort</translation>
+    </message>
+    <message>
+        <source>%1, edited</source>
+        <translation>%1, geändert</translation>
+    </message>
+</context>
+<context>
     <name>DevicePanel</name>
     <message>
         <source>The device does not have this parameter</source>
@@ -33,6 +88,18 @@
     <message>
         <source>Holds edits that have not been written</source>
         <translation>Enthält Änderungen, die nicht geschrieben sind</translation>
+    </message>
+    <message>
+        <source>Copy &amp;value</source>
+        <translation>&amp;Wert kopieren</translation>
+    </message>
+    <message>
+        <source>Set to &amp;file value (%1)</source>
+        <translation>Auf Wert der &amp;Datei setzen (%1)</translation>
+    </message>
+    <message>
+        <source>Set to file value...</source>
+        <translation>Auf Wert einer Datei setzen...</translation>
     </message>
 </context>
 <context>
@@ -451,6 +518,69 @@
     </message>
 </context>
 <context>
+    <name>OpenDialog</name>
+    <message>
+        <source>A &amp;simulated device</source>
+        <translation>Ein &amp;simuliertes Gerät</translation>
+    </message>
+    <message>
+        <source>The device at this &amp;address:</source>
+        <translation>Das Gerät an dieser &amp;Adresse:</translation>
+    </message>
+    <message>
+        <source>Open device</source>
+        <translation>Gerät öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Opened before:</source>
+        <translation>&amp;Zuletzt geöffnet:</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>&amp;Parameter file:</source>
+        <translation>&amp;Parameterdatei:</translation>
+    </message>
+    <message>
+        <source>of the demonstration device</source>
+        <translation>des Demonstrationsgeräts</translation>
+    </message>
+    <message>
+        <source>Parameter files (*.json)</source>
+        <translation>Parameterdateien (*.json)</translation>
+    </message>
+    <message>
+        <source>&amp;Form:</source>
+        <translation>&amp;Formular:</translation>
+    </message>
+    <message>
+        <source>made from the parameter file</source>
+        <translation>aus der Parameterdatei erzeugt</translation>
+    </message>
+    <message>
+        <source>Forms (*.ui)</source>
+        <translation>Formulare (*.ui)</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Look for &amp;devices...</source>
+        <translation>&amp;Geräte suchen...</translation>
+    </message>
+    <message>
+        <source>simulated</source>
+        <translation>simuliert</translation>
+    </message>
+</context>
+<context>
     <name>ReviewDialog</name>
     <message>
         <source>The device has changed while this list was open. I have seen what is marked.</source>
@@ -634,10 +764,6 @@
         <translation>Kennung</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Datei</translation>
-    </message>
-    <message>
         <source>Remark</source>
         <translation>Bemerkung</translation>
     </message>
@@ -664,6 +790,14 @@
 </context>
 <context>
     <name>SettingsTransfer</name>
+    <message>
+        <source>Compare two devices</source>
+        <translation>Zwei Geräte vergleichen</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
     <message>
         <source>Settings file</source>
         <translation>Einstellungsdatei</translation>
@@ -742,6 +876,18 @@
     <message>
         <source>Not every value could be entered in its field: %1</source>
         <translation>Nicht jeder Wert ließ sich in sein Feld eintragen: %1</translation>
+    </message>
+    <message>
+        <source>The file has no value for %1</source>
+        <translation>Die Datei hat keinen Wert für %1</translation>
+    </message>
+    <message>
+        <source>The device holds this value already</source>
+        <translation>Das Gerät hat diesen Wert bereits</translation>
+    </message>
+    <message>
+        <source>Set to file value</source>
+        <translation>Auf Wert einer Datei setzen</translation>
     </message>
 </context>
 <context>
@@ -936,6 +1082,106 @@
         <translation>Be&amp;richt...</translation>
     </message>
     <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open device...</source>
+        <translation>Gerät ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent devices</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Open s&amp;ite...</source>
+        <translation>A&amp;nlage öffnen...</translation>
+    </message>
+    <message>
+        <source>Open site</source>
+        <translation>Anlage öffnen</translation>
+    </message>
+    <message>
+        <source>Site files (*.json)</source>
+        <translation>Anlagendateien (*.json)</translation>
+    </message>
+    <message>
+        <source>Save site &amp;as...</source>
+        <translation>Anlage speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Save site</source>
+        <translation>Anlage speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Close device</source>
+        <translation>Gerät &amp;schließen</translation>
+    </message>
+    <message>
+        <source>Compare with &amp;file...</source>
+        <translation>Mit &amp;Datei vergleichen...</translation>
+    </message>
+    <message>
+        <source>Compare two &amp;devices...</source>
+        <translation>Zwei &amp;Geräte vergleichen...</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>Ü&amp;ber</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>Über &amp;Qt</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;ZorSmartControls Monitor %1&lt;/h3&gt;&lt;p&gt;Shows and edits the parameters of Modbus devices.&lt;/p&gt;&lt;p&gt;Qt %2, built with Qt %3&lt;br&gt;%4&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;ZorSmartControls Monitor %1&lt;/h3&gt;&lt;p&gt;Zeigt und bearbeitet die Parameter von Modbus-Geräten.&lt;/p&gt;&lt;p&gt;Qt %2, erstellt mit Qt %3&lt;br&gt;%4&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Next device</source>
+        <translation>&amp;Nächstes Gerät</translation>
+    </message>
+    <message>
+        <source>&amp;Previous device</source>
+        <translation>&amp;Voriges Gerät</translation>
+    </message>
+    <message>
+        <source>Open device</source>
+        <translation>Gerät öffnen</translation>
+    </message>
+    <message>
+        <source>This device cannot be opened:</source>
+        <translation>Dieses Gerät lässt sich nicht öffnen:</translation>
+    </message>
+    <message>
+        <source>Compare two devices</source>
+        <translation>Zwei Geräte vergleichen</translation>
+    </message>
+    <message>
+        <source>Compare %1 with:</source>
+        <translation>%1 vergleichen mit:</translation>
+    </message>
+    <message>
+        <source>There are edits that have not been written. Close the device all the same?</source>
+        <translation>Es gibt Änderungen, die nicht geschrieben sind. Das Gerät trotzdem schließen?</translation>
+    </message>
+    <message>
+        <source>%1[*] - Monitor</source>
+        <translation>%1[*] - Monitor</translation>
+    </message>
+    <message>
+        <source>ZorSmartControls Monitor[*]</source>
+        <translation>ZorSmartControls-Monitor[*]</translation>
+    </message>
+    <message>
         <source>&amp;Find parameter</source>
         <translation>Parameter &amp;suchen</translation>
     </message>
@@ -970,14 +1216,6 @@
     <message>
         <source>As in the &amp;device</source>
         <translation>Wie im &amp;Gerät</translation>
-    </message>
-    <message>
-        <source>ZorSmartControls Monitor</source>
-        <translation>ZorSmartControls Monitor</translation>
-    </message>
-    <message>
-        <source>%1 - Monitor</source>
-        <translation>%1 - Monitor</translation>
     </message>
     <message>
         <source>&amp;Device</source>
@@ -1036,16 +1274,16 @@
         <translation>Einstellungen &amp;laden...</translation>
     </message>
     <message>
-        <source>&amp;Compare with file...</source>
-        <translation>Mit Datei &amp;vergleichen...</translation>
-    </message>
-    <message>
         <source>Compare &amp;two files...</source>
         <translation>&amp;Zwei Dateien vergleichen...</translation>
     </message>
     <message>
         <source>Look &amp;for devices...</source>
         <translation>Geräte s&amp;uchen ...</translation>
+    </message>
+    <message>
+        <source>This could not be opened:</source>
+        <translation>Nicht zu öffnen:</translation>
     </message>
 </context>
 <context>

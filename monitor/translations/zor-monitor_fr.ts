@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr">
 <context>
+    <name>DeviceList</name>
+    <message>
+        <source>Devices</source>
+        <translation>Appareils</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Appareil</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Formulaire</translation>
+    </message>
+    <message>
+        <source>simulated</source>
+        <translation>simulé</translation>
+    </message>
+    <message>
+        <source>of the demonstration</source>
+        <translation>de la démonstration</translation>
+    </message>
+    <message>
+        <source>generated</source>
+        <translation>généré</translation>
+    </message>
+    <message>
+        <source>not read yet</source>
+        <translation>pas encore lu</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <translation>répond</translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation>pas de réponse</translation>
+    </message>
+    <message>
+        <source>%1, edited</source>
+        <translation>%1, modifié</translation>
+    </message>
+</context>
+<context>
     <name>DevicePanel</name>
     <message>
         <source>The device does not have this parameter</source>
@@ -33,6 +88,18 @@
     <message>
         <source>Holds edits that have not been written</source>
         <translation>Contient des modifications non écrites</translation>
+    </message>
+    <message>
+        <source>Copy &amp;value</source>
+        <translation>Copier la &amp;valeur</translation>
+    </message>
+    <message>
+        <source>Set to &amp;file value (%1)</source>
+        <translation>Mettre la valeur du &amp;fichier (%1)</translation>
+    </message>
+    <message>
+        <source>Set to file value...</source>
+        <translation>Mettre la valeur d'un fichier...</translation>
     </message>
 </context>
 <context>
@@ -451,6 +518,69 @@
     </message>
 </context>
 <context>
+    <name>OpenDialog</name>
+    <message>
+        <source>A &amp;simulated device</source>
+        <translation>Un appareil &amp;simulé</translation>
+    </message>
+    <message>
+        <source>The device at this &amp;address:</source>
+        <translation>L'appareil à cette &amp;adresse :</translation>
+    </message>
+    <message>
+        <source>Open device</source>
+        <translation>Ouvrir un appareil</translation>
+    </message>
+    <message>
+        <source>&amp;Opened before:</source>
+        <translation>&amp;Ouverts récemment :</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>&amp;Parameter file:</source>
+        <translation>Fichier de &amp;paramètres :</translation>
+    </message>
+    <message>
+        <source>of the demonstration device</source>
+        <translation>de l'appareil de démonstration</translation>
+    </message>
+    <message>
+        <source>Parameter files (*.json)</source>
+        <translation>Fichiers de paramètres (*.json)</translation>
+    </message>
+    <message>
+        <source>&amp;Form:</source>
+        <translation>&amp;Formulaire :</translation>
+    </message>
+    <message>
+        <source>made from the parameter file</source>
+        <translation>généré d'après le fichier de paramètres</translation>
+    </message>
+    <message>
+        <source>Forms (*.ui)</source>
+        <translation>Formulaires (*.ui)</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Parcourir...</translation>
+    </message>
+    <message>
+        <source>Look for &amp;devices...</source>
+        <translation>Chercher des a&amp;ppareils...</translation>
+    </message>
+    <message>
+        <source>simulated</source>
+        <translation>simulé</translation>
+    </message>
+</context>
+<context>
     <name>ReviewDialog</name>
     <message>
         <source>The device has changed while this list was open. I have seen what is marked.</source>
@@ -634,10 +764,6 @@
         <translation>Repère</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Fichier</translation>
-    </message>
-    <message>
         <source>Remark</source>
         <translation>Remarque</translation>
     </message>
@@ -664,6 +790,14 @@
 </context>
 <context>
     <name>SettingsTransfer</name>
+    <message>
+        <source>Compare two devices</source>
+        <translation>Comparer deux appareils</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
     <message>
         <source>Settings file</source>
         <translation>Fichier de réglages</translation>
@@ -742,6 +876,18 @@
     <message>
         <source>Not every value could be entered in its field: %1</source>
         <translation>Certaines valeurs n&apos;ont pas pu être saisies dans leur champ : %1</translation>
+    </message>
+    <message>
+        <source>The file has no value for %1</source>
+        <translation>Le fichier n'a pas de valeur pour %1</translation>
+    </message>
+    <message>
+        <source>The device holds this value already</source>
+        <translation>L'appareil a déjà cette valeur</translation>
+    </message>
+    <message>
+        <source>Set to file value</source>
+        <translation>Mettre la valeur d'un fichier</translation>
     </message>
 </context>
 <context>
@@ -936,6 +1082,106 @@
         <translation>&amp;Rapport...</translation>
     </message>
     <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Open device...</source>
+        <translation>&amp;Ouvrir un appareil...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent devices</source>
+        <translation>Appareils &amp;récents</translation>
+    </message>
+    <message>
+        <source>Open s&amp;ite...</source>
+        <translation>Ouvrir un s&amp;ite...</translation>
+    </message>
+    <message>
+        <source>Open site</source>
+        <translation>Ouvrir un site</translation>
+    </message>
+    <message>
+        <source>Site files (*.json)</source>
+        <translation>Fichiers de site (*.json)</translation>
+    </message>
+    <message>
+        <source>Save site &amp;as...</source>
+        <translation>Enregistrer le site &amp;sous...</translation>
+    </message>
+    <message>
+        <source>Save site</source>
+        <translation>Enregistrer le site</translation>
+    </message>
+    <message>
+        <source>&amp;Close device</source>
+        <translation>&amp;Fermer l'appareil</translation>
+    </message>
+    <message>
+        <source>Compare with &amp;file...</source>
+        <translation>Comparer avec un &amp;fichier...</translation>
+    </message>
+    <message>
+        <source>Compare two &amp;devices...</source>
+        <translation>Comparer deux a&amp;ppareils...</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;ide</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>À &amp;propos</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>À propos de &amp;Qt</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;ZorSmartControls Monitor %1&lt;/h3&gt;&lt;p&gt;Shows and edits the parameters of Modbus devices.&lt;/p&gt;&lt;p&gt;Qt %2, built with Qt %3&lt;br&gt;%4&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;ZorSmartControls Monitor %1&lt;/h3&gt;&lt;p&gt;Affiche et modifie les paramètres d'appareils Modbus.&lt;/p&gt;&lt;p&gt;Qt %2, compilé avec Qt %3&lt;br&gt;%4&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Next device</source>
+        <translation>Appareil &amp;suivant</translation>
+    </message>
+    <message>
+        <source>&amp;Previous device</source>
+        <translation>Appareil &amp;précédent</translation>
+    </message>
+    <message>
+        <source>Open device</source>
+        <translation>Ouvrir un appareil</translation>
+    </message>
+    <message>
+        <source>This device cannot be opened:</source>
+        <translation>Impossible d'ouvrir cet appareil :</translation>
+    </message>
+    <message>
+        <source>Compare two devices</source>
+        <translation>Comparer deux appareils</translation>
+    </message>
+    <message>
+        <source>Compare %1 with:</source>
+        <translation>Comparer %1 avec :</translation>
+    </message>
+    <message>
+        <source>There are edits that have not been written. Close the device all the same?</source>
+        <translation>Des modifications n'ont pas été écrites. Fermer tout de même l'appareil ?</translation>
+    </message>
+    <message>
+        <source>%1[*] - Monitor</source>
+        <translation>%1[*] - Moniteur</translation>
+    </message>
+    <message>
+        <source>ZorSmartControls Monitor[*]</source>
+        <translation>Moniteur ZorSmartControls[*]</translation>
+    </message>
+    <message>
         <source>&amp;Find parameter</source>
         <translation>&amp;Chercher un paramètre</translation>
     </message>
@@ -970,14 +1216,6 @@
     <message>
         <source>As in the &amp;device</source>
         <translation>Comme dans l&apos;&amp;appareil</translation>
-    </message>
-    <message>
-        <source>ZorSmartControls Monitor</source>
-        <translation>ZorSmartControls Monitor</translation>
-    </message>
-    <message>
-        <source>%1 - Monitor</source>
-        <translation>%1 - Moniteur</translation>
     </message>
     <message>
         <source>&amp;Device</source>
@@ -1036,16 +1274,16 @@
         <translation>&amp;Charger des réglages...</translation>
     </message>
     <message>
-        <source>&amp;Compare with file...</source>
-        <translation>Co&amp;mparer avec un fichier...</translation>
-    </message>
-    <message>
         <source>Compare &amp;two files...</source>
         <translation>Comparer &amp;deux fichiers...</translation>
     </message>
     <message>
         <source>Look &amp;for devices...</source>
         <translation>C&amp;hercher des appareils...</translation>
+    </message>
+    <message>
+        <source>This could not be opened:</source>
+        <translation>Impossible à ouvrir :</translation>
     </message>
 </context>
 <context>

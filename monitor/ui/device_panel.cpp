@@ -1,7 +1,10 @@
+#include <zor/monitor/session/value_texts.h>
 #include <zor/monitor/ui/device_panel.h>
 #include <zor/monitor/ui/words.h>
 
 #include <QApplication>
+#include <QClipboard>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -88,7 +91,13 @@ DevicePanel::~DevicePanel()
     m_form.reset();
 }
 
-QString DevicePanel::title() const { return QString::fromStdString(session().file().title.in(m_language)); }
+QString DevicePanel::name() const
+{
+    if (const QString& own = m_device->entry().name; !own.isEmpty())
+        return own;
+    const QString title = QString::fromStdString(session().file().title.in(m_language));
+    return title.isEmpty() ? m_device->entry().address : title;
+}
 
 void DevicePanel::setLanguage(const std::string& language)
 {
@@ -129,6 +138,26 @@ void DevicePanel::reveal(std::size_t parameter)
     m_form->reveal(binding->control());
 }
 
+void DevicePanel::addTo(QMenu& menu, const Binding& binding)
+{
+    if (binding.parameter() == nullptr)
+        return;
+    const Parameter& parameter = *binding.parameter();
+    const auto index = static_cast<std::size_t>(&parameter - session().file().parameters.data());
+    if (const Registers& held = session().held(index); !held.empty()) {
+        const ShownValue value = describe(parameter, held, binding.shownUnit(), m_language);
+        menu.addAction(tr("Copy &value"), this, [text = QString::fromStdString(value.text)] {
+            QGuiApplication::clipboard()->setText(text);
+        });
+    }
+    if (!session().editable().contains(index))
+        return;
+    if (const QString value = m_transfer->fileValue(index); !value.isEmpty())
+        menu.addAction(tr("Set to &file value (%1)").arg(QString(value).replace('&', "&&")), this,
+                       [this, index] { m_transfer->setToFile(index); });
+    menu.addAction(tr("Set to file value..."), this, [this, index] { m_transfer->setToOtherFile(index); });
+}
+
 // --- Editing
 
 void DevicePanel::commitEntry()
@@ -153,6 +182,11 @@ void DevicePanel::review()
     connect(dialog, &QDialog::accepted, this, [this, dialog] { session().write(dialog->changes()); });
     m_review = dialog;
     dialog->open();
+}
+
+void DevicePanel::compareWith(DevicePanel& other)
+{
+    m_transfer->compareWith(*other.m_transfer, {name(), other.name()});
 }
 
 void DevicePanel::undoAll()
@@ -216,6 +250,17 @@ void DevicePanel::showResults(const std::vector<Written>& results)
     box->setTextFormat(Qt::PlainText);
     box->setText(tr("These edits are kept:") + "\n\n" + failures.join('\n'));
     box->open();
+}
+
+std::unique_ptr<DevicePanel> openPanel(const DeviceEntry& entry, const core::ClassRegistry& classes)
+{
+    auto device = std::make_unique<Device>(entry, loadParameters(entry));
+    std::unique_ptr<Form> form;
+    if (entry.form.isEmpty())
+        form = std::make_unique<GeneratedForm>(device->session().file(), classes);
+    else
+        form = std::make_unique<UiForm>(entry.form, classes);
+    return std::make_unique<DevicePanel>(std::move(device), std::move(form));
 }
 
 } // namespace zor::monitor

@@ -14,6 +14,8 @@
 #include <QTimer>
 #include <QWidget>
 
+class QMenu;
+
 namespace zor::monitor {
 
 class DevicePanel final : public QWidget {
@@ -24,13 +26,14 @@ public:
     ~DevicePanel() override;
 
     [[nodiscard]] Device& device() { return *m_device; }
+    [[nodiscard]] const Device& device() const { return *m_device; }
     [[nodiscard]] Session& session() { return m_device->session(); }
     [[nodiscard]] const Session& session() const { return m_device->session(); }
     [[nodiscard]] Form& form() { return *m_form; }
     [[nodiscard]] SettingsTransfer& transfer() { return *m_transfer; }
     [[nodiscard]] Trend& trend() { return *m_trend; }
-    /// The title of the parameter file in the language in force; may be empty.
-    [[nodiscard]] QString title() const;
+    /// As its entry calls it, else the title of the parameter file in the language in force, else its address.
+    [[nodiscard]] QString name() const;
     /// Whether the device answered in the last round.
     [[nodiscard]] bool isAnswered() const { return m_answered; }
 
@@ -49,6 +52,8 @@ public:
     void remember(const Memory& memory) { m_memory = memory; }
     /// @}
 
+    /// What can be done with one control: copying its value, setting it to that of a settings file.
+    void addTo(QMenu& menu, const Binding& binding);
     /// Brings a parameter into sight, with the focus in its control.
     void reveal(std::size_t parameter);
 
@@ -59,6 +64,8 @@ public:
     /// Takes the entry under way over and opens the list of changes for review.
     void review();
     void undoAll();
+    /// Reads both devices and shows where their settings differ.
+    void compareWith(DevicePanel& other);
     /// The review that is open; nullptr for none.
     [[nodiscard]] QDialog* openReview() const { return m_review; }
     /// @}
@@ -81,5 +88,8 @@ private:
     std::string m_language = "en";
     bool m_answered = false;
 };
+
+/// The panel of a device that has not been started yet. Raises what Device and the forms raise.
+[[nodiscard]] std::unique_ptr<DevicePanel> openPanel(const DeviceEntry& entry, const core::ClassRegistry& classes);
 
 } // namespace zor::monitor

@@ -48,8 +48,8 @@ ScanDialog& ScanDialog::openFor(DevicePanel& panel)
     auto* dialog = new ScanDialog(panel.session().file(), panel.window());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->m_panel = &panel;
-    if (const QString& address = panel.device().entry().address; !address.isEmpty())
-        dialog->setAddresses(address);
+    if (const DeviceEntry& entry = panel.device().entry(); !entry.isSimulated())
+        dialog->setAddresses(entry.address);
     dialog->onConnect = [dialog](const QString& address) {
         if (dialog->m_panel != nullptr)
             dialog->m_panel->device().connectTo(address);

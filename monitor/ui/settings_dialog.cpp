@@ -78,7 +78,7 @@ void SettingsDialog::addHead(QVBoxLayout& column)
 
 void SettingsDialog::addTable()
 {
-    const QStringList headings{tr("Parameter"), tr("Tag"), tr("File"), m_use.other, tr("Remark")};
+    const QStringList headings{tr("Parameter"), tr("Tag"), m_use.one, m_use.other, tr("Remark")};
     m_table = new QTableWidget(0, static_cast<int>(headings.size()), this);
     m_table->setHorizontalHeaderLabels(headings);
     m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);

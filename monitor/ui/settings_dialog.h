@@ -24,9 +24,10 @@ namespace zor::monitor {
 class SettingsDialog final : public QDialog {
     Q_DECLARE_TR_FUNCTIONS(SettingsDialog)
 public:
-    /// How the dialog is used; `other` heads the column of what the file is compared with.
+    /// How the dialog is used; `one` and `other` head the columns of what is compared.
     struct Use {
         QString title;
+        QString one;
         QString other;
         bool loads = false;
         std::set<std::size_t> loadable{}; ///< parameters that may have a tick

@@ -3,10 +3,12 @@
 
 #include <QDate>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <utility>
 
 namespace zor::monitor {
@@ -30,7 +32,8 @@ std::optional<SettingsFile> SettingsTransfer::open(const QString& title, const Q
     if (name.isEmpty())
         return std::nullopt;
     try {
-        return loadSettingsFile(name.toStdString());
+        m_lastFile = loadSettingsFile(name.toStdString());
+        return m_lastFile;
     } catch (const FileError& error) {
         fail(tr("This is no settings file that can be used:") + "\n\n" + QString::fromUtf8(error.what()));
         return std::nullopt;
@@ -128,10 +131,31 @@ void SettingsTransfer::compareFiles(const QString& file, const QString& other)
     const auto two = one ? open(tr("Compare two files: the second"), other) : std::nullopt;
     if (!two)
         return;
-    const ParameterFile& parameters = m_session.file();
-    auto* dialog =
-        new SettingsDialog(monitor::compare(parameters, *one, heldBy(parameters, *two), m_language), parameters,
-                           {tr("Compare two files"), tr("Second file")}, m_language, &m_window);
+    show(*one, heldBy(m_session.file(), *two), {tr("Compare two files"), tr("File"), tr("Second file")});
+}
+
+void SettingsTransfer::compareWith(SettingsTransfer& other, const std::array<QString, 2>& names)
+{
+    // One after the other: each says itself when its device does not answer. Either may be closed meanwhile.
+    read(concerned(m_session.file(), {}), [this, &other, there = QPointer(&other.m_window), names] {
+        if (there == nullptr)
+            return;
+        const SettingsFile mine = settingsOf(m_session);
+        other.read(concerned(other.m_session.file(), mine),
+                   [this, here = QPointer(&m_window), &other, names, mine] {
+                       if (here == nullptr)
+                           return;
+                       show(mine, heldBy(m_session.file(), settingsOf(other.m_session)),
+                            {tr("Compare two devices"), names[0], names[1]});
+                   });
+    });
+}
+
+void SettingsTransfer::show(const SettingsFile& file, const Held& held, const std::array<QString, 3>& titles)
+{
+    SettingsDialog::Use use{titles[0], titles[1], titles[2]};
+    auto* dialog = new SettingsDialog(monitor::compare(m_session.file(), file, held, m_language), m_session.file(),
+                                      std::move(use), m_language, &m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
     m_dialog = dialog;
@@ -139,7 +163,7 @@ void SettingsTransfer::compareFiles(const QString& file, const QString& other)
 
 void SettingsTransfer::show(const SettingsFile& file, bool loads)
 {
-    SettingsDialog::Use use{loads ? tr("Load settings") : tr("Compare with file"), tr("Device"), loads,
+    SettingsDialog::Use use{loads ? tr("Load settings") : tr("Compare with file"), tr("File"), tr("Device"), loads,
                             m_session.editable()};
     auto* dialog = new SettingsDialog(monitor::compare(m_session.file(), file, heldBy(m_session), m_language),
                                       m_session.file(), std::move(use), m_language, &m_window);
@@ -148,6 +172,52 @@ void SettingsTransfer::show(const SettingsFile& file, bool loads)
                      [this, dialog] { propose(dialog->comparison(), dialog->ticked()); });
     dialog->open();
     m_dialog = dialog;
+}
+
+// --- A single value
+
+std::optional<Compared> SettingsTransfer::rowOf(std::size_t parameter) const
+{
+    const ParameterFile& parameters = m_session.file();
+    if (!m_lastFile)
+        return std::nullopt;
+    SettingsFile one = *m_lastFile;
+    std::erase_if(one.settings, [tag = std::string_view(parameters.parameters[parameter].tag)](const Setting& s) {
+        return s.tag != tag;
+    });
+    const Comparison all = monitor::compare(parameters, one, heldBy(m_session), m_language);
+    const auto row = std::ranges::find_if(all.rows, [&](const Compared& compared) {
+        return compared.parameter == parameter && compared.verdict != Verdict::MissingThere;
+    });
+    return row != all.rows.end() ? std::optional(*row) : std::nullopt;
+}
+
+QString SettingsTransfer::fileValue(std::size_t parameter) const
+{
+    const auto row = rowOf(parameter);
+    const QString file = m_lastFile ? QFileInfo(QString::fromStdString(m_lastFile->name)).fileName() : QString();
+    return row ? file + ": " + Words::value(row->fileText, row->unit) : QString();
+}
+
+void SettingsTransfer::setToFile(std::size_t parameter)
+{
+    const QString tag = QString::fromStdString(m_session.file().parameters[parameter].tag);
+    const auto row = rowOf(parameter);
+    if (!row)
+        return fail(tr("The file has no value for %1").arg(tag));
+    if (row->verdict == Verdict::Same)
+        return say(tr("The device holds this value already"));
+    if (row->verdict != Verdict::Different)
+        return fail(tag + ": " +
+                    (row->problem != Problem::None ? Words::problem(row->problem) : Words::verdict(row->verdict)));
+    if (!m_session.propose(parameter, row->there))
+        fail(tr("Not every value could be entered in its field: %1").arg(tag));
+}
+
+void SettingsTransfer::setToOtherFile(std::size_t parameter, const QString& file)
+{
+    if (open(tr("Set to file value"), file))
+        setToFile(parameter);
 }
 
 void SettingsTransfer::propose(const Comparison& comparison, const std::set<std::size_t>& ticked)

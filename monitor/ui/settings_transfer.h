@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <array>
 #include <functional>
 #include <memory>
 
@@ -39,6 +40,18 @@ public:
     void load(const QString& file = {});
     void compareFiles(const QString& file = {}, const QString& other = {});
     /// @}
+    /// Reads this device and another, and shows what differs; `names` of both.
+    void compareWith(SettingsTransfer& other, const std::array<QString, 2>& names);
+
+    /// @name A single value out of the settings file that was last opened here, as an edit
+    /// @{
+    /// What a menu says of it: the file and its value; empty when there is no file, or it does not have one.
+    [[nodiscard]] QString fileValue(std::size_t parameter) const;
+    /// Makes it an edit, to be reviewed as any other; says why where it cannot. Another file, where one is named
+    /// or asked for, takes the place of the last.
+    void setToFile(std::size_t parameter);
+    void setToOtherFile(std::size_t parameter, const QString& file = {});
+    /// @}
 
     /// Reads these parameters with the same progress, then goes on; says so when the device did not answer.
     void read(std::vector<std::size_t> parameters, std::function<void()> then);
@@ -50,9 +63,11 @@ public:
     void hearRound(bool answered);
 
 private:
+    void show(const SettingsFile& file, const Held& held, const std::array<QString, 3>& titles);
     void end();
     void keep(const QString& file);
     void show(const SettingsFile& file, bool loads);
+    [[nodiscard]] std::optional<Compared> rowOf(std::size_t parameter) const;
     void propose(const Comparison& comparison, const std::set<std::size_t>& ticked);
     [[nodiscard]] std::optional<SettingsFile> open(const QString& title, const QString& file);
     void fail(const QString& text);
@@ -60,6 +75,7 @@ private:
     QWidget& m_window;
     Session& m_session;
     std::string m_language = "en";
+    std::optional<SettingsFile> m_lastFile;
     std::unique_ptr<Survey> m_survey;
     std::function<void()> m_then;
     QPointer<QProgressDialog> m_progress;

@@ -14,14 +14,17 @@
 
 namespace zor::monitor {
 
-Window::Window(std::unique_ptr<DevicePanel> first, Languages& languages)
-    : m_stack(new QStackedWidget), m_languages(languages), m_bar(addToolBar(QString())), m_status(*statusBar()),
-      m_trend(new TrendDock(languages, this)), m_controlMenu(*this), m_report(*this, *m_trend, languages)
+Window::Window(std::unique_ptr<DevicePanel> first, Languages& languages, const core::ClassRegistry& classes)
+    : m_stack(new QStackedWidget), m_languages(languages), m_classes(classes), m_bar(addToolBar(QString())),
+      m_status(*statusBar()), m_trend(new TrendDock(languages, this)), m_controlMenu(*this),
+      m_report(*this, *m_trend, languages)
 {
     setCentralWidget(m_stack);
     m_bar->setObjectName("toolBar");
     m_bar->setMovable(false);
     addSearch();
+    addList();
+    setAcceptDrops(true);
     bringToFront(add(std::move(first)));
     buildTrend();
     keepFrozenReadable();
@@ -41,6 +44,7 @@ void Window::buildTrend()
     m_trend->say = [this](const QString& text) { m_status.say(text); };
     whenFront([this](DevicePanel& panel) { m_trend->follow(&panel.trend()); });
     m_controlMenu.bindings = [this] { return session().bindings(); };
+    m_controlMenu.add([this](QMenu& menu, const Binding& binding) { m_front->addTo(menu, binding); });
     m_controlMenu.add([this](QMenu& menu, const Binding& binding) { m_trend->addTo(menu, binding); });
 }
 
@@ -54,12 +58,23 @@ QSize Window::usualSize() const
     return (m_front->form().wholeSize() + bars).boundedTo(room).expandedTo({kUsualWidth, 0});
 }
 
-void Window::remember(QSettings& settings)
+void Window::remember(const Memory& memory)
 {
-    m_memory = Memory(&settings);
+    m_memory = memory;
     m_memory.restore(*this, "window");
+    m_list->setVisible(m_panels.size() > 1); // what was right for other devices says nothing about these
     for (const auto& panel : m_panels)
         panel->remember(m_memory);
+    buildMenus();
+}
+
+void Window::addList()
+{
+    m_list = new DeviceList;
+    addDockWidget(Qt::LeftDockWidgetArea, m_list);
+    m_list->hide();
+    m_docks.push_back(m_list);
+    m_list->onChosen = [this](std::size_t index) { bringToFront(*m_panels[index]); };
 }
 
 void Window::addSearch()
@@ -78,55 +93,16 @@ void Window::addSearch()
     };
 }
 
-// --- Devices
-
-DevicePanel& Window::add(std::unique_ptr<DevicePanel> panel)
-{
-    DevicePanel& added = *m_panels.emplace_back(std::move(panel));
-    added.remember(m_memory);
-    added.say = [this, &added](const QString& text) {
-        if (&added == m_front)
-            m_status.say(text);
-    };
-    added.onRound = [this, &added] {
-        if (&added == m_front)
-            m_status.showRound(added.isAnswered());
-    };
-    added.setLanguage(m_languages.current().toStdString());
-    if (m_units != UnitSystem::Form)
-        added.setUnits(m_units);
-    m_stack->addWidget(&added);
-    return added;
-}
-
-void Window::bringToFront(DevicePanel& panel)
-{
-    if (&panel == m_front)
-        return;
-    commitEntry();
-    m_front = &panel;
-    m_stack->setCurrentWidget(&panel);
-    showFront();
-    for (const auto& hear : m_whenFront)
-        hear(panel);
-    panel.session().poller().pollNow();
-}
-
-void Window::whenFront(std::function<void(DevicePanel& panel)> hear)
-{
-    hear(*m_front);
-    m_whenFront.push_back(std::move(hear));
-}
+// --- What is in front
 
 void Window::showFront()
 {
     m_status.follow(m_front->session());
-    m_search->clear();
     m_search->translate();
-    const QString title = m_front->title();
-    setWindowTitle(title.isEmpty() ? tr("ZorSmartControls Monitor") : tr("%1 - Monitor").arg(title));
+    const QString title = m_front->name();
+    setWindowTitle(title.isEmpty() ? tr("ZorSmartControls Monitor[*]") : tr("%1[*] - Monitor").arg(title));
     buildMenus();
-    m_status.showRound(m_front->isAnswered());
+    showState(*m_front);
 }
 
 void Window::addDock(QDockWidget& dock, Qt::DockWidgetArea area)
@@ -143,8 +119,10 @@ void Window::setLanguage(const QString& code)
 {
     commitEntry();
     m_languages.use(code);
+    m_memory.keepLanguage(m_languages.current());
     for (const auto& panel : m_panels)
         panel->setLanguage(m_languages.current().toStdString());
+    listDevices();
     showFront();
 }
 
@@ -197,12 +175,14 @@ void Window::closeEvent(QCloseEvent* event)
     commitEntry();
     m_memory.keep(*this, "window");
     const auto hasEdits = [](const auto& panel) { return panel->session().hasEdits(); };
-    if (m_unasked || std::ranges::none_of(m_panels, hasEdits))
-        return event->accept();
-    const auto answer = QMessageBox::question(
-        this, windowTitle(), tr("There are edits that have not been written. Close all the same?"),
-        QMessageBox::Close | QMessageBox::Cancel, QMessageBox::Cancel);
-    event->setAccepted(answer == QMessageBox::Close);
+    event->setAccepted(m_unasked || std::ranges::none_of(m_panels, hasEdits) ||
+                       mayLoseEdits(tr("There are edits that have not been written. Close all the same?")));
+}
+
+bool Window::mayLoseEdits(const QString& question)
+{
+    return QMessageBox::question(this, m_front->name(), question, QMessageBox::Close | QMessageBox::Cancel,
+                                 QMessageBox::Cancel) == QMessageBox::Close;
 }
 
 // --- Looks
@@ -210,8 +190,10 @@ void Window::closeEvent(QCloseEvent* event)
 void Window::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && centralWidget() != nullptr)
-        keepFrozenReadable();
+    if (event->type() != QEvent::PaletteChange || m_front == nullptr)
+        return;
+    keepFrozenReadable();
+    buildMenus(); // with icons in the new colours
 }
 
 void Window::keepFrozenReadable()

@@ -5,6 +5,7 @@
 #include <zor/monitor/report/report_maker.h>
 #include <zor/monitor/trend/trend_dock.h>
 #include <zor/monitor/ui/control_menu.h>
+#include <zor/monitor/ui/device_list.h>
 #include <zor/monitor/ui/device_panel.h>
 #include <zor/monitor/ui/languages.h>
 #include <zor/monitor/ui/search_field.h>
@@ -22,8 +23,8 @@ namespace zor::monitor {
 class Window final : public QMainWindow {
     Q_DECLARE_TR_FUNCTIONS(Window)
 public:
-    /// There is always at least one device. `languages` must outlive the window.
-    Window(std::unique_ptr<DevicePanel> first, Languages& languages);
+    /// There is always at least one device. `languages` and `classes` must outlive the window.
+    Window(std::unique_ptr<DevicePanel> first, Languages& languages, const core::ClassRegistry& classes);
     ~Window() override;
 
     /// @name Devices
@@ -31,6 +32,17 @@ public:
     /// Another device; the one in front stays there.
     DevicePanel& add(std::unique_ptr<DevicePanel> panel);
     void bringToFront(DevicePanel& panel);
+    /// Ends it, edits or not; the last one stays.
+    void remove(DevicePanel& panel);
+    /// Opens a device, starts it and brings it to the front. False, when the operator has been told why, where it
+    /// cannot be opened.
+    bool open(const DeviceEntry& entry);
+    /// Opens the devices of a site file, too.
+    bool openSite(const QString& file);
+    void saveSite(const QString& file);
+    /// Does with a file what can be done with it: a parameter file or a form is offered for opening, a settings
+    /// file for loading, a site is opened.
+    void take(const QString& file);
     [[nodiscard]] DevicePanel& front() { return *m_front; }
     [[nodiscard]] std::span<const std::unique_ptr<DevicePanel>> panels() const { return m_panels; }
     [[nodiscard]] Session& session() { return m_front->session(); }
@@ -46,9 +58,9 @@ public:
     void setLanguage(const QString& code);
     void setUnits(UnitSystem system);
 
-    /// Takes the sizes that windows had when they were last closed, and leaves theirs there. The settings must
-    /// outlive the window.
-    void remember(QSettings& settings);
+    /// Takes the sizes and the docks that windows had when they were last closed, and leaves theirs there, and the
+    /// language and the devices that the operator chooses. Its settings must outlive the window.
+    void remember(const Memory& memory);
 
     [[nodiscard]] TrendDock& trend() { return *m_trend; }
     [[nodiscard]] ReportMaker& report() { return m_report; }
@@ -60,6 +72,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     [[nodiscard]] QSize usualSize() const;
@@ -76,11 +90,32 @@ private:
     void showFront();
     void buildTrend();
     void addSearch();
+    void addList();
+    void bringNext(int step);
+    void closeFront();
+    void listDevices();
+    void showState(const DevicePanel& panel);
+    /// Opens and starts it behind the others; why it could not, or nothing.
+    [[nodiscard]] QString tryOpen(const DeviceEntry& entry);
+    void warn(const QString& title, const QString& text);
+    void askAndOpen(const DeviceEntry& first = {});
+    void compareWithOther();
+    void addFileMenu();
+    void addRecent(QMenu& menu);
+    void addSiteActions(QMenu& menu);
+    void addDeviceMenu();
+    /// Into the tool bar, with a tooltip that names its key; with its name beside the icon.
+    void toToolBar(QAction& action, std::string_view icon, bool named = false);
+    void addHelpMenu();
+    [[nodiscard]] bool mayLoseEdits(const QString& question);
+    [[nodiscard]] std::size_t indexOf(const DevicePanel& panel) const;
 
     std::vector<std::unique_ptr<DevicePanel>> m_panels;
     DevicePanel* m_front = nullptr;
     QStackedWidget* m_stack;
+    DeviceList* m_list = nullptr;
     Languages& m_languages;
+    const core::ClassRegistry& m_classes;
     QToolBar* m_bar;
     SearchField* m_search = nullptr;
     std::array<QAction*, 2> m_atTheRight{}; ///< of the tool bar: space, and the search

@@ -1,14 +1,22 @@
 // The window's menus. They are made anew with every language.
 
+#include <zor/monitor/ui/open_dialog.h>
 #include <zor/monitor/ui/scan_dialog.h>
+#include <zor/monitor/ui/tool_icons.h>
 #include <zor/monitor/ui/window.h>
 #include <zor/monitor/ui/words.h>
+#include <zor/platform/version.h>
 #include <zor/units/unit_catalogue.h>
 
 #include <QActionGroup>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QSysInfo>
 #include <QToolBar>
+#include <QToolButton>
 
 #include <array>
 
@@ -42,35 +50,119 @@ void Window::buildMenus()
         menu->deleteLater();
     menuBar()->clear();
     m_bar->clear();
-    QMenu* device = menuBar()->addMenu(tr("&Device"));
-    QAction* write =
-        device->addAction(tr("&Write..."), QKeySequence("Ctrl+Return"), this, [this] { m_front->review(); });
-    QAction* undo =
-        device->addAction(tr("&Undo all"), QKeySequence("Ctrl+Shift+Z"), this, [this] { m_front->undoAll(); });
-    device->addSeparator();
-    addSettingsActions(*device);
-    device->addSeparator();
-    addDeviceActions(*device);
-    device->addSeparator();
-    device->addAction(tr("&Quit"), QKeySequence::Quit, this, [this] { close(); });
-    m_bar->setWindowTitle(tr("Device"));
-    m_bar->addAction(write);
-    m_bar->addAction(undo);
-    for (QAction* action : m_atTheRight)
-        m_bar->addAction(action);
+    addFileMenu();
+    addDeviceMenu();
     buildViewMenu();
     buildUnitMenu();
     buildLanguageMenu();
+    addHelpMenu();
+    for (QAction* action : m_atTheRight)
+        m_bar->addAction(action);
+}
+
+void Window::toToolBar(QAction& action, std::string_view icon, bool named)
+{
+    action.setIcon(toolIcon(icon, palette(), devicePixelRatioF()));
+    const QString name = action.text().remove('&').remove("...");
+    const QString key = action.shortcut().toString(QKeySequence::NativeText);
+    action.setToolTip(key.isEmpty() ? name : name + " (" + key + ')');
+    m_bar->addAction(&action);
+    if (auto* button = qobject_cast<QToolButton*>(m_bar->widgetForAction(&action)); button != nullptr && named)
+        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+}
+
+void Window::addFileMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&File"));
+    QAction* open =
+        menu->addAction(tr("&Open device..."), QKeySequence("Ctrl+Shift+O"), this, [this] { askAndOpen(); });
+    toToolBar(*open, "open");
+    addRecent(*menu->addMenu(tr("&Recent devices")));
+    addSiteActions(*menu);
+    QAction* close = menu->addAction(tr("&Close device"), QKeySequence::Close, this, [this] { closeFront(); });
+    close->setEnabled(m_panels.size() > 1);
+    menu->addSeparator();
+    addSettingsActions(*menu);
+    menu->addSeparator();
+    menu->addAction(tr("&Quit"), QKeySequence::Quit, this, [this] { this->close(); });
+}
+
+void Window::addRecent(QMenu& menu)
+{
+    for (const DeviceEntry& entry : m_memory.recent()) {
+        // Later: the menu that holds this action is made anew.
+        menu.addAction(
+            inMenu(describe(entry)), this, [this, entry] { this->open(entry); }, Qt::QueuedConnection);
+    }
+    const QStringList sites = m_memory.recentSites();
+    if (!sites.isEmpty())
+        menu.addSeparator();
+    for (const QString& site : sites) {
+        QAction* action = menu.addAction(
+            inMenu(QFileInfo(site).fileName()), this, [this, site] { openSite(site); }, Qt::QueuedConnection);
+        action->setToolTip(site);
+    }
+    menu.setToolTipsVisible(true);
+    menu.setEnabled(!menu.isEmpty());
+}
+
+void Window::addSiteActions(QMenu& menu)
+{
+    menu.addAction(tr("Open s&ite..."), this, [this] {
+        const QString file = QFileDialog::getOpenFileName(this, tr("Open site"), {}, tr("Site files (*.json)"));
+        if (!file.isEmpty())
+            openSite(file);
+    });
+    menu.addAction(tr("Save site &as..."), this, [this] {
+        const QString file =
+            QFileDialog::getSaveFileName(this, tr("Save site"), "site.json", tr("Site files (*.json)"));
+        if (!file.isEmpty())
+            saveSite(file);
+    });
 }
 
 void Window::addSettingsActions(QMenu& menu)
 {
-    menu.addAction(tr("&Save settings..."), QKeySequence::Save, this, [this] { m_front->transfer().save(); });
-    menu.addAction(tr("&Load settings..."), QKeySequence::Open, this, [this] { m_front->transfer().load(); });
-    menu.addAction(tr("&Compare with file..."), QKeySequence("Ctrl+D"), this,
-                   [this] { m_front->transfer().compare(); });
-    menu.addAction(tr("Compare &two files..."), this, [this] { m_front->transfer().compareFiles(); });
+    const auto transfer = [this]() -> SettingsTransfer& { return m_front->transfer(); };
+    QAction* save =
+        menu.addAction(tr("&Save settings..."), QKeySequence::Save, this, [transfer] { transfer().save(); });
+    menu.addAction(tr("&Load settings..."), QKeySequence::Open, this, [transfer] { transfer().load(); });
+    QAction* compare = menu.addAction(tr("Compare with &file..."), QKeySequence("Ctrl+D"), this,
+                                      [transfer] { transfer().compare(); });
+    menu.addAction(tr("Compare &two files..."), this, [transfer] { transfer().compareFiles(); });
+    QAction* two = menu.addAction(tr("Compare two &devices..."), this, [this] { compareWithOther(); });
+    two->setEnabled(m_panels.size() > 1);
     menu.addAction(tr("&Report..."), QKeySequence::Print, this, [this] { m_report.ask(*m_front); });
+    toToolBar(*save, "save");
+    toToolBar(*compare, "compare");
+}
+
+void Window::addDeviceMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Device"));
+    QAction* write =
+        menu->addAction(tr("&Write..."), QKeySequence("Ctrl+Return"), this, [this] { m_front->review(); });
+    QAction* undo =
+        menu->addAction(tr("&Undo all"), QKeySequence("Ctrl+Shift+Z"), this, [this] { m_front->undoAll(); });
+    menu->addSeparator();
+    addDeviceActions(*menu);
+    m_bar->setWindowTitle(tr("Device"));
+    m_bar->addSeparator();
+    toToolBar(*write, "write", true);
+    toToolBar(*undo, "undo", true);
+}
+
+void Window::addHelpMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Help"));
+    menu->addAction(tr("&About"), this, [this] {
+        QMessageBox::about(this, tr("About"),
+                           tr("<h3>ZorSmartControls Monitor %1</h3><p>Shows and edits the parameters of Modbus "
+                              "devices.</p><p>Qt %2, built with Qt %3<br>%4</p>")
+                               .arg(QString::fromStdString(std::string(version())), qVersion(), QT_VERSION_STR,
+                                    QSysInfo::prettyProductName()));
+    });
+    menu->addAction(tr("About &Qt"), this, [this] { QMessageBox::aboutQt(this); });
 }
 
 void Window::addDeviceActions(QMenu& menu)
@@ -106,6 +198,13 @@ void Window::buildViewMenu()
         menu->addAction(dock->toggleViewAction());
     m_bar->toggleViewAction()->setText(tr("&Tool bar"));
     menu->addAction(m_bar->toggleViewAction());
+    menu->addSeparator();
+    for (const int step : {1, -1}) {
+        QAction* go =
+            menu->addAction(step > 0 ? tr("&Next device") : tr("&Previous device"),
+                            QKeySequence(step > 0 ? "F6" : "Shift+F6"), this, [this, step] { bringNext(step); });
+        go->setEnabled(m_panels.size() > 1);
+    }
     menu->addSeparator();
     menu->addAction(tr("&Find parameter"), QKeySequence::Find, this, [this] {
         m_bar->show();

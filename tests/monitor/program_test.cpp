@@ -100,6 +100,10 @@ TEST(Program, SaysWhyItCannotRun)
         {{"--trend", "Name"}, 2, "--trend Name: no parameter that is a number"},
         {{"--trend", "Flow", "--save-trend", "a.txt"}, 2, "a.txt: neither .csv nor .png"},
         {{"--trend", "Flow", "--save-trend", folder.filePath("no/a.csv"), "--run-for", "1"}, 2, "no/a.csv: "},
+        {{"--site", fileOf("no-site.json", "{\n\"format\": \"site\"}")},
+         2,
+         "no-site.json:2: a site file has the format"},
+        {{"--site", absent, "--device", "simulated"}, 2, "excludes --site"},
         {{"--serve", port}, 2, "port " + port + ": "},
     };
     for (const Row& row : rows) {
@@ -112,6 +116,29 @@ TEST(Program, SaysWhyItCannotRun)
     QFile lines(record);
     ASSERT_TRUE(lines.open(QIODevice::ReadOnly));
     EXPECT_EQ(lines.readAll().count('\n'), 25) << "a heading, and once for each parameter that nobody answers";
+}
+
+TEST(Program, KilledLeavesItsRecordWhole)
+{
+    QTemporaryDir folder;
+    QFile record(folder.filePath("log.csv"));
+    QProcess program;
+    program.start(ZOR_MONITOR, {"--log", record.fileName(), "--period", "100"});
+    QByteArray text;
+    constexpr int kParameters = 24;
+    for (int i = 0; i < 100 && text.count('\n') <= kParameters; ++i) {
+        constexpr int kPause = 100;
+        program.waitForFinished(kPause);
+        if (record.open(QIODevice::ReadOnly))
+            text = record.readAll();
+        record.close();
+    }
+    program.kill();
+    program.waitForFinished();
+    ASSERT_EQ(text.count('\n'), 1 + kParameters) << "lines are kept back";
+    EXPECT_TRUE(text.endsWith('\n'));
+    for (const QByteArray& line : text.trimmed().split('\n'))
+        EXPECT_EQ(line.count(',') - line.count(", "), 5) << line.toStdString();
 }
 
 } // namespace

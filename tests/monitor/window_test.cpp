@@ -1,125 +1,23 @@
 // The window against the simulated device, over real TCP: what an operator sees and does.
 
-#include <zor/controls/registration.h>
 #include <zor/monitor/ui/frames_dock.h>
-#include <zor/monitor/ui/group_tree.h>
 #include <zor/monitor/ui/scan_dialog.h>
-#include <zor/monitor/ui/search_field.h>
-#include <zor/monitor/ui/settings_dialog.h>
-#include <zor/monitor/ui/window.h>
+#include <zor/tests/monitor/window_fixture.h>
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFile>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QTableView>
 #include <QTableWidget>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTreeWidget>
-#include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
 
-namespace zor::monitor {
+namespace zor::tests {
 namespace {
-
-constexpr int kPeriod = 200;
-constexpr int kPatience = 5000;
-
-ParameterFile demoFile()
-{
-    QFile file(":/monitor/demo.json");
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return readParameterFile(file.readAll().toStdString(), "demo.json");
-}
-
-struct Demo : testing::Test {
-    /// With the form of a file, or else a generated one.
-    explicit Demo(const char* drawn = nullptr, ParameterFile parameters = demoFile()) : file(std::move(parameters))
-    {
-        registerControls(classes);
-        languages.use("en");
-        DeviceEntry entry;
-        entry.period = kPeriod;
-        auto own = std::make_unique<Device>(entry, file);
-        std::unique_ptr<Form> form;
-        if (drawn != nullptr)
-            form = std::make_unique<UiForm>(drawn, classes);
-        else
-            form = std::make_unique<GeneratedForm>(own->session().file(), classes);
-        window =
-            std::make_unique<Window>(std::make_unique<DevicePanel>(std::move(own), std::move(form)), languages);
-        window->show();
-        window->front().device().start();
-        EXPECT_TRUE(untilLive());
-    }
-    ~Demo() override
-    {
-        window.reset();
-        languages.use("en");
-    }
-
-    Simulator& device() { return *window->front().device().simulator(); }
-    Binding& binding(std::string_view tag)
-    {
-        const auto all = window->session().bindings();
-        return **std::ranges::find_if(all, [&](const auto& bound) { return bound->control().DeviceTag() == tag; });
-    }
-    /// Every control that the operator sees.
-    template <class Condition>
-    bool all(Condition condition)
-    {
-        return std::ranges::all_of(window->session().bindings(), [&](const auto& bound) {
-            return !isInSight(bound->control()) || condition(bound->control());
-        });
-    }
-    bool untilLive()
-    {
-        return QTest::qWaitFor(
-            [&] { return all([](core::Control& c) { return !c.CFail() && !c.WaitingForData(); }); }, kPatience);
-    }
-    void open(int tab)
-    {
-        window->form().tabs()->setCurrentIndex(tab);
-        EXPECT_TRUE(untilLive());
-    }
-    platform::TextField& field(std::string_view tag)
-    {
-        return dynamic_cast<platform::TextField&>(*binding(tag).control().widget(1));
-    }
-    void type(std::string_view tag, const QString& text)
-    {
-        QWidget& edit = platform::qt::widgetOf(field(tag));
-        edit.setFocus();
-        QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClicks(&edit, text);
-    }
-    /// Whether a label that can be seen has the text in it.
-    bool says(const QString& text)
-    {
-        const auto labels = window->findChildren<QLabel*>();
-        return std::ranges::any_of(labels, [&](QLabel* l) { return l->isVisible() && l->text().contains(text); });
-    }
-    QAbstractButton* button(QWidget& dialog, const QString& text)
-    {
-        const auto buttons = dialog.findChildren<QAbstractButton*>();
-        const auto found = std::ranges::find_if(buttons, [&](auto* one) { return one->text() == text; });
-        return found == buttons.end() ? nullptr : *found;
-    }
-
-    core::ClassRegistry classes;
-    Languages languages;
-    const ParameterFile file;
-    std::unique_ptr<Window> window;
-};
 
 TEST_F(Demo, ShowsParametersInTheUnitsAndTheLanguageOfTheOperator)
 {
@@ -319,81 +217,6 @@ TEST_F(Demo, ConnectsToADeviceThatWasLookedFor)
     EXPECT_TRUE(QTest::qWaitFor([&] { return window->session().device() != before; }, kPatience));
 }
 
-/// More groups than fit beside each other as tabs; each begins with a length that is writable.
-struct Large : Demo {
-    static constexpr int kGroups = 12;
-    static constexpr int kRows = 20;
-
-    Large() : Demo(nullptr, parameters()) {}
-    static ParameterFile parameters()
-    {
-        std::string rows;
-        for (int i = 0; i < kGroups * kRows; ++i) {
-            const std::string number = std::to_string(i);
-            rows += R"({"tag": "P)" + number +
-                    R"(", "bank": "holding", "type": "uint16", "access": "write", "address": )" + number +
-                    R"(, "unit": "LgthU_MM", "caption": "Caption )" + number + R"(", "group": "Group )" +
-                    std::to_string(i / kRows) + R"(", "simulation": {"value": )" + std::to_string(1000 + i) +
-                    "}},";
-        }
-        rows.pop_back();
-        return readParameterFile(R"({"parameters": [)" + rows + "]}", "large.json");
-    }
-    /// Types into the search field and takes the first that is found.
-    void find(const QString& text)
-    {
-        auto* search = window->findChild<SearchField*>();
-        search->setFocus();
-        search->selectAll();
-        QTest::keyClicks(search, text);
-        QTest::keyClick(search, Qt::Key_Return);
-    }
-    bool isIn(const char* tag)
-    {
-        const auto made = window->session().bindings(*window->session().indexOf(tag));
-        return !made.empty() &&
-               platform::qt::widgetOf(made.front()->control().surface()).isAncestorOf(window->focusWidget());
-    }
-};
-
-TEST_F(Large, MakesAPageWhenItIsFirstOpenedAndThenAsAllOthersAre)
-{
-    EXPECT_EQ(window->form().controls().size(), kRows);
-    window->setUnits(UnitSystem::Us);
-    window->session().readEverything();
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return window->session().report().find("P239  48.78 in  live") != std::string::npos; }, kPatience))
-        << window->session().report();
-    window->session().readEverything(false);
-    auto* tree = window->findChild<GroupTree*>();
-    ASSERT_NE(tree, nullptr);
-    tree->setFocus();
-    QTest::keyClick(tree, Qt::Key_Down);
-    EXPECT_TRUE(untilLive());
-    EXPECT_EQ(field("P20").text(), "40.2") << "not in the unit that was chosen before";
-    EXPECT_EQ(window->form().controls().size(), 2 * kRows);
-    type("P20", "50");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !tree->topLevelItem(1)->icon(0).isNull(); }, kPatience)) << "no mark";
-    device().stop();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return binding("P21").control().CFail(); }, kPatience));
-    window->form().tabs()->setCurrentIndex(2);
-    EXPECT_TRUE(binding("P40").control().CFail()) << "a page made now looks well";
-    EXPECT_EQ(window->session().pending().size(), 1U);
-}
-
-TEST_F(Large, FindsATagACaptionAndAValueAndGoesThere)
-{
-    find("p150");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return isIn("P150"); }, kPatience));
-    find("tion 33");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return isIn("P33"); }, kPatience));
-    EXPECT_TRUE(untilLive());
-    find("1034");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return isIn("P34"); }, kPatience)) << "not by the value that was read";
-    find("nowhere");
-    EXPECT_TRUE(window->statusBar()->currentMessage().startsWith("No parameter has"));
-}
-
 struct Drawn : Demo {
     Drawn() : Demo(ZOR_TEST_DATA "/../../monitor/device/demo.ui") {}
 };
@@ -439,7 +262,7 @@ TEST(DrawnForm, KeepsTheSizeItWasDrawnInAndScrollsInLessRoom)
     entry.address = "tcp://127.0.0.1:1";
     Window window(std::make_unique<DevicePanel>(std::make_unique<Device>(entry, demoFile()),
                                                 std::make_unique<UiForm>(file.fileName(), classes)),
-                  languages);
+                  languages, classes);
     window.show();
     QWidget& box = platform::qt::widgetOf(window.form().controls().front()->surface());
     EXPECT_GE(window.form().widget().height(), 400);
@@ -481,4 +304,4 @@ TEST_F(Tutorial, CanBeFollowedToItsEnd)
 }
 
 } // namespace
-} // namespace zor::monitor
+} // namespace zor::tests

@@ -1,0 +1,128 @@
+#include <zor/monitor/data/file_content.h>
+#include <zor/monitor/data/json_fields.h>
+#include <zor/monitor/device/site_file.h>
+#include <zor/monitor/link/device_address.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <nlohmann/json.hpp>
+
+#include <array>
+#include <set>
+#include <span>
+
+namespace zor::monitor {
+namespace {
+
+constexpr std::string_view kSiteFormat = "zor-site";
+constexpr int kSiteVersion = 1;
+constexpr int kMostDevices = 200; ///< each has a connection of its own
+constexpr int kLongest = 60000;   ///< milliseconds
+
+/// A member that names a file.
+struct FileRow {
+    const char* name;
+    QString DeviceEntry::*member;
+};
+
+constexpr std::array kFiles{FileRow{"parameters", &DeviceEntry::parameters}, FileRow{"form", &DeviceEntry::form},
+                            FileRow{"log", &DeviceEntry::record}, FileRow{"frames", &DeviceEntry::frames}};
+
+/// Those of them that a device writes: its own.
+constexpr std::span<const FileRow> kWritten = std::span(kFiles).last<2>();
+
+QString textIn(const Value& value)
+{
+    if (value.text().empty())
+        value.fail("an empty text");
+    return QString::fromStdString(value.text());
+}
+
+DeviceEntry readEntry(const Value& value, const QDir& folder)
+{
+    constexpr int kShortestPeriod = 100;
+    constexpr int kShortestTimeout = 10;
+    Fields fields = value.object();
+    DeviceEntry entry;
+    const Value address = fields.need("address");
+    entry.address = textIn(address);
+    try {
+        (void)openLink(entry.address == kSimulated ? "localhost" : entry.address, kLongest);
+    } catch (const AddressError& error) {
+        address.fail(error.what());
+    }
+    if (const auto name = fields.take("name"))
+        entry.name = textIn(*name);
+    for (const FileRow& row : kFiles) {
+        if (const auto file = fields.take(row.name))
+            entry.*row.member = QDir::cleanPath(folder.absoluteFilePath(textIn(*file)));
+    }
+    if (const auto period = fields.take("period"))
+        entry.period = static_cast<int>(period->integer(kShortestPeriod, kLongest));
+    if (const auto timeout = fields.take("timeout"))
+        entry.timeout = static_cast<int>(timeout->integer(kShortestTimeout, kLongest));
+    fields.finish();
+    return entry;
+}
+
+} // namespace
+
+SiteFile readSiteFile(std::string_view text, const QString& name)
+{
+    const std::string file = name.toStdString();
+    const JsonNode root = parseJson(text, file);
+    Fields fields = Value(root, file).object();
+    fields.take("$schema");
+    const Value format = fields.need("format");
+    if (format.text() != kSiteFormat)
+        format.fail("a site file has the format \"" + std::string(kSiteFormat) + '"');
+    (void)fields.need("formatVersion").integer(kSiteVersion, kSiteVersion);
+    SiteFile site;
+    if (const auto title = fields.take("title"))
+        site.title = QString::fromStdString(title->text());
+    const Value devices = fields.need("devices");
+    std::set<QString> written;
+    for (const Value& value : devices.array()) {
+        site.devices.push_back(readEntry(value, QFileInfo(name).absoluteDir()));
+        for (const FileRow& row : kWritten) {
+            const QString& file = site.devices.back().*row.member;
+            if (!file.isEmpty() && !written.insert(file).second)
+                value.fail("\"" + std::string(row.name) + "\" is written by another device already");
+        }
+    }
+    fields.finish();
+    if (site.devices.empty() || site.devices.size() > kMostDevices)
+        devices.fail("a site has 1 to " + std::to_string(kMostDevices) + " devices");
+    return site;
+}
+
+SiteFile loadSiteFile(const QString& name) { return readSiteFile(contentOf(name.toStdString()), name); }
+
+QByteArray textOf(const SiteFile& site, const QString& folder)
+{
+    const DeviceEntry usual;
+    nlohmann::ordered_json devices = nlohmann::ordered_json::array();
+    for (const DeviceEntry& entry : site.devices) {
+        nlohmann::ordered_json device;
+        if (!entry.name.isEmpty())
+            device["name"] = entry.name.toStdString();
+        device["address"] = (entry.address.isEmpty() ? QString(kSimulated) : entry.address).toStdString();
+        for (const FileRow& row : kFiles) {
+            const QString near = QDir(folder).relativeFilePath(entry.*row.member);
+            if (!(entry.*row.member).isEmpty())
+                device[row.name] = (near.startsWith("..") ? entry.*row.member : near).toStdString();
+        }
+        if (entry.period != usual.period)
+            device["period"] = entry.period;
+        if (entry.timeout != usual.timeout)
+            device["timeout"] = entry.timeout;
+        devices.push_back(std::move(device));
+    }
+    nlohmann::ordered_json root{{"format", kSiteFormat}, {"formatVersion", kSiteVersion}};
+    if (!site.title.isEmpty())
+        root["title"] = site.title.toStdString();
+    root["devices"] = std::move(devices);
+    return QByteArray::fromStdString(root.dump(2) + '\n');
+}
+
+} // namespace zor::monitor

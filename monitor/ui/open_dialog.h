@@ -1,0 +1,49 @@
+#pragma once
+
+/// Where the operator says which device to open.
+
+#include <zor/monitor/device/device.h>
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QList>
+
+class QFormLayout;
+class QLineEdit;
+class QListWidget;
+class QRadioButton;
+
+namespace zor::monitor {
+
+/// A simulated device or one at an address, its parameter file and form, the devices opened before, and looking
+/// for others. Also what the program begins with when nobody has told it what to show. Opens nothing itself.
+class OpenDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(OpenDialog)
+public:
+    explicit OpenDialog(const QList<DeviceEntry>& recent, QWidget* parent = nullptr);
+
+    /// What the fields say.
+    [[nodiscard]] DeviceEntry entry() const;
+    void setEntry(const DeviceEntry& entry);
+
+private:
+    void addRecent(const QList<DeviceEntry>& recent);
+    [[nodiscard]] QLineEdit* addFile(QFormLayout& form, const QString& caption, const QString& none,
+                                     const QString& filter);
+    void scan();
+    void checkAddress();
+
+    DeviceEntry m_entry; ///< as it was given
+    QRadioButton* m_simulated;
+    QRadioButton* m_real;
+    QLineEdit* m_address;
+    QLineEdit* m_parameters;
+    QLineEdit* m_form;
+    QListWidget* m_recent = nullptr;
+    QWidget* m_open = nullptr;
+};
+
+/// A device in a line, for a menu or a list.
+[[nodiscard]] QString describe(const DeviceEntry& entry);
+
+} // namespace zor::monitor
