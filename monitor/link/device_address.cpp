@@ -13,11 +13,6 @@ namespace {
 constexpr int kUsualPort = 502;
 constexpr int kLastUnit = 255;
 
-[[noreturn]] void refuse(const QString& address, const QString& reason)
-{
-    throw AddressError((address + ": " + reason).toStdString());
-}
-
 /// The options after the question mark; each is taken once, and none may be left.
 class Options {
 public:
@@ -25,7 +20,7 @@ public:
     {
         for (const auto& [name, value] : QUrlQuery(query).queryItems()) {
             if (m_options.contains(name))
-                refuse(address, '"' + name + "\" stands twice");
+                refuseAddress(address, '"' + name + "\" stands twice");
             m_options.insert(name, value);
         }
     }
@@ -37,7 +32,7 @@ public:
         bool isNumber = false;
         const int value = m_options.take(name).toInt(&isNumber);
         if (!isNumber || value < lowest || value > highest)
-            refuse(m_address, QString("%1 is a number from %2 to %3").arg(name).arg(lowest).arg(highest));
+            refuseAddress(m_address, QString("%1 is a number from %2 to %3").arg(name).arg(lowest).arg(highest));
         return value;
     }
 
@@ -45,14 +40,14 @@ public:
     {
         const QString value = m_options.contains(name) ? m_options.take(name) : usual;
         if (!choices.contains(value))
-            refuse(m_address, name + " is one of " + choices.keys().join(", "));
+            refuseAddress(m_address, name + " is one of " + choices.keys().join(", "));
         return choices.value(value);
     }
 
     void finish() const
     {
         if (!m_options.isEmpty())
-            refuse(m_address, '"' + m_options.firstKey() + "\" is not known here");
+            refuseAddress(m_address, '"' + m_options.firstKey() + "\" is not known here");
     }
 
 private:
@@ -67,7 +62,7 @@ Endpoint serialEndpoint(const QString& address)
     SerialSettings settings;
     settings.device = rest.section('?', 0, 0);
     if (settings.device.isEmpty())
-        refuse(address, "a serial device is missing, as in rtu:/dev/ttyUSB0");
+        refuseAddress(address, "a serial device is missing, as in rtu:/dev/ttyUSB0");
     constexpr int kFastest = 4000000;
     settings.baud = options.number("baud", settings.baud, 50, kFastest);
     settings.parity = options.choice("parity", {{"none", 0}, {"even", 2}, {"odd", 3}}, "even");
@@ -82,7 +77,7 @@ Endpoint tcpEndpoint(const QString& address)
     const QUrl url(address.contains("://") ? address : "tcp://" + address, QUrl::StrictMode);
     if (!url.isValid() || url.scheme() != "tcp" || url.host().isEmpty() || !url.userInfo().isEmpty() ||
         (!url.path().isEmpty() && url.path() != "/") || url.hasFragment() || url.port(kUsualPort) == 0)
-        refuse(address, "not a device; write tcp://HOST:PORT or rtu:DEVICE");
+        refuseAddress(address, "not a device; write tcp://HOST:PORT or rtu:DEVICE");
     Options options(address, url.query());
     const int unit = options.number("unit", 1, 0, kLastUnit);
     options.finish();
@@ -91,6 +86,11 @@ Endpoint tcpEndpoint(const QString& address)
 }
 
 } // namespace
+
+void refuseAddress(const QString& address, const QString& reason)
+{
+    throw AddressError((address + ": " + reason).toStdString());
+}
 
 Endpoint endpointOf(const QString& address)
 {

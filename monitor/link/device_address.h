@@ -15,6 +15,9 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// Raises it, with the address in front of the reason.
+[[noreturn]] void refuseAddress(const QString& address, const QString& reason);
+
 /// Where a device is.
 struct Endpoint {
     std::unique_ptr<Transport> transport;

@@ -9,11 +9,6 @@ namespace {
 
 constexpr int kLastSerialUnit = 247;
 
-[[noreturn]] void refuse(const QString& address, const QString& reason)
-{
-    throw AddressError((address + ": " + reason).toStdString());
-}
-
 std::vector<std::uint8_t> unitsOf(const QString& address, const QString& list)
 {
     std::vector<std::uint8_t> units;
@@ -23,7 +18,7 @@ std::vector<std::uint8_t> unitsOf(const QString& address, const QString& list)
         const int first = part.section('-', 0, 0).toInt(&isFirst);
         const int last = part.contains('-') ? part.section('-', 1).toInt(&isLast) : first;
         if (!isFirst || (part.contains('-') && !isLast) || first < 0 || first > last || last > UINT8_MAX)
-            refuse(address, "unit is a list of numbers from 0 to 255 and ranges, as in 1-10,17");
+            refuseAddress(address, "unit is a list of numbers from 0 to 255 and ranges, as in 1-10,17");
         for (int unit = first; unit <= last; ++unit) {
             if (std::ranges::find(units, unit) == units.end())
                 units.push_back(static_cast<std::uint8_t>(unit));

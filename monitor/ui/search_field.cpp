@@ -6,7 +6,7 @@
 namespace zor::monitor {
 namespace {
 
-enum Role : int { kText = Qt::UserRole, kParameter };
+enum Role : int { kTyped = Qt::UserRole, kGoesTo };
 
 } // namespace
 
@@ -18,13 +18,13 @@ SearchField::SearchField() : m_found(new QStandardItemModel(this))
     setClearButtonEnabled(true);
     auto* list = new QCompleter(m_found, this);
     list->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
-    list->setCompletionRole(kText);
+    list->setCompletionRole(kTyped);
     list->setMaxVisibleItems(kLines);
     setCompleter(list);
     connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { this->list(text); });
     connect(this, &QLineEdit::returnPressed, this, [this] { choose(); });
     connect(list, qOverload<const QModelIndex&>(&QCompleter::activated), this,
-            [this](const QModelIndex& index) { onChosen(index.data(kParameter).toULongLong()); });
+            [this](const QModelIndex& index) { onChosen(index.data(kGoesTo).toULongLong()); });
     translate();
 }
 
@@ -41,8 +41,8 @@ void SearchField::list(const QString& text)
     m_found->clear();
     for (const Hit& hit : find(text)) {
         auto* item = new QStandardItem(hit.value.isEmpty() ? hit.caption : hit.caption + "   " + hit.value);
-        item->setData(text, kText); // what has been typed stays
-        item->setData(static_cast<qulonglong>(hit.parameter), kParameter);
+        item->setData(text, kTyped); // what has been typed stays
+        item->setData(static_cast<qulonglong>(hit.parameter), kGoesTo);
         m_found->appendRow(item);
     }
 }
@@ -56,7 +56,7 @@ void SearchField::choose()
     completer()->popup()->hide();
     if (m_found->rowCount() == 0)
         return onNothing(text());
-    onChosen(m_found->index(0, 0).data(kParameter).toULongLong());
+    onChosen(m_found->index(0, 0).data(kGoesTo).toULongLong());
 }
 
 } // namespace zor::monitor
