@@ -48,7 +48,7 @@ public:
     template <std::same_as<std::string> Text>
     Variant& operator=(Text&& value)
     {
-        m_value = std::move(value);
+        m_value = std::forward<Text>(value);
         return *this;
     }
     /// No other pointer is a value.

@@ -37,7 +37,7 @@ public:
     [[nodiscard]] virtual std::vector<core::Control*> controls() = 0;
     /// Calls with the controls that there are, and with others when they are made; from now on the page in front
     /// has its controls.
-    virtual void whenMade(std::function<void(std::span<core::Control* const>)> hear) { hear(controls()); }
+    virtual void whenMade(const std::function<void(std::span<core::Control* const>)>& hear) { hear(controls()); }
     /// The class of the control that a parameter will have when its page is made; nullptr when it has one by now,
     /// or never will.
     [[nodiscard]] virtual const core::ClassInfo* foreseen(const Parameter& /*parameter*/) const { return nullptr; }
@@ -71,7 +71,7 @@ public:
 
     [[nodiscard]] QWidget& widget() override { return *m_whole; }
     [[nodiscard]] std::vector<core::Control*> controls() override;
-    void whenMade(std::function<void(std::span<core::Control* const>)> hear) override;
+    void whenMade(const std::function<void(std::span<core::Control* const>)>& hear) override;
     [[nodiscard]] const core::ClassInfo* foreseen(const Parameter& parameter) const override;
     void make(const Parameter& parameter) override;
     void translate(const std::string& language) override;

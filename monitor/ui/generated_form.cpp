@@ -95,9 +95,9 @@ void GeneratedForm::addTree()
     m_whole = both;
 }
 
-void GeneratedForm::whenMade(std::function<void(std::span<core::Control* const>)> hear)
+void GeneratedForm::whenMade(const std::function<void(std::span<core::Control* const>)>& hear)
 {
-    m_hear = std::move(hear);
+    m_hear = hear;
     m_hear(controls());
     makePage(static_cast<std::size_t>(m_tabs->currentIndex()));
 }
