@@ -53,18 +53,21 @@ void clickEntry(EntryWidget& list, std::int32_t index)
         list.setCurrent(index);
 }
 
-/// A press and release: what it does to the widget follows.
-void pressAndRelease(Widget& widget, Spot spot)
+/// A press and release; whether the mouse was still over the widget then. What it does to the widget follows.
+bool pressAndRelease(Widget& widget, Spot spot)
 {
+    constexpr Twips kLeast = 15; // what is narrower can still be clicked
     if (auto* field = dynamic_cast<TextField*>(&widget))
         field->select(characterCount(field->text()), 0);
     reportMouse(widget, Notice::MouseDown, kLeftButton, spot);
+    const Rect area = widget.geometry();
     reportMouse(widget, Notice::MouseUp, kLeftButton, spot);
+    return spot.x < std::max(area.width, kLeast) && spot.y < std::max(area.height, kLeast);
 }
 
-void click(Widget& widget)
+void click(Widget& widget, Spot spot)
 {
-    pressAndRelease(widget, spotOfClick(widget));
+    const bool isOver = pressAndRelease(widget, spot);
     if (!widget.isEnabled())
         return;
     if (auto* button = dynamic_cast<ToggleButton*>(&widget)) {
@@ -73,7 +76,7 @@ void click(Widget& widget)
         // On the text of the current entry; an empty list has nothing to click on.
         if (list->count() > 0)
             clickEntry(*list, std::max(list->current(), 0));
-    } else {
+    } else if (isOver) {
         base(widget).report(Notice::Click);
     }
 }
@@ -184,18 +187,19 @@ void HeadlessOperator::dropFocus(Widget& widget)
 
 void HeadlessOperator::point(Widget& widget, Pointer action)
 {
+    // The hand stays where it is, whatever a handler makes of the widget under it.
+    const Spot spot = spotOfClick(widget);
     if (action == Pointer::RightClick) {
-        const Spot spot = spotOfClick(widget);
         reportMouse(widget, Notice::MouseDown, kRightButton, spot);
         reportMouse(widget, Notice::MouseUp, kRightButton, spot);
         return;
     }
-    click(widget);
+    click(widget, spot);
     if (action == Pointer::DoubleClick && widget.isEnabled()) {
         if (auto* field = dynamic_cast<TextField*>(&widget))
             selectLastWord(*field);
         base(widget).report(Notice::DblClick);
-        reportMouse(widget, Notice::MouseUp, kLeftButton, spotOfClick(widget));
+        reportMouse(widget, Notice::MouseUp, kLeftButton, spot);
         // The second press is one more for a button, and no click of its own for anything else.
         if (auto* button = dynamic_cast<ToggleButton*>(&widget))
             pushToggle(*button);

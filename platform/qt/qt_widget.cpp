@@ -82,9 +82,11 @@ void EventReports::after()
     case QEvent::MouseButtonRelease: {
         const auto& release = static_cast<QMouseEvent&>(m_event);
         const bool second = release.button() == Qt::LeftButton && std::exchange(m_widget.doubleClicked, false);
+        // Before a handler of MouseUp makes the widget narrower than where it was clicked.
+        const bool isClick = m_widget.isClick(release, second);
         if (!m_widget.changesOnRelease())
             mouse(Notice::MouseUp);
-        if (m_widget.qwidget().isEnabled() && m_widget.isClick(release, second))
+        if (m_widget.qwidget().isEnabled() && isClick)
             m_widget.report(Notice::Click);
         break;
     }

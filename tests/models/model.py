@@ -1,0 +1,310 @@
+"""What all nine controls have in common, written from the rules: properties, states, handlers, the operator's mouse."""
+
+from steps import Steps
+from values import BEGIN, DEFAULTS, DESIGNED, EFFECTS, KEYS, SILENT, Colour, TooDeep, type_index, version_fails, written
+
+
+class Model(Steps):
+    """A control. `self[...]` is a property by its name or a widget's aspect as `widget.aspect`."""
+
+    STORED = RUNTIME = EVENTS = ""
+    FRESH, OWN_EFFECTS, MESSAGES, OTHER_MESSAGE = {}, {}, (), "ERROR_RETURNED"
+    DERIVED = ()         # refused at run time, ignored at design time
+    PREFIX = {}          # a widget's events begin so
+    AT = {}              # where the operator points in a widget
+    FACE = ""            # the widget that bears the tooltip
+    WIDGETS = {}         # aspects that are compared
+    MENU_OVER = ("Surface",)
+
+    def __init__(self, form):
+        self.form, self.handlers, self.out, self.kept, self.depth = form, {}, [], None, 0
+        self.stored = self.STORED.split()
+        self.raised = set(self.EVENTS.split())
+        self.aspects = [f"{widget}.{aspect}" for widget, listed in self.WIDGETS.items() for aspect in listed.split()]
+        self.properties = self.stored + self.RUNTIME.split()
+        # A colour looks like a comment beside other words.
+        colours = [name for name in self.aspects if name.endswith("Color")]
+        plain = [name for name in self.aspects if name not in colours]
+        self.groups = [self.properties, plain, *([name] for name in colours)]
+        self.forget()
+        self.create()
+        self.initialise()
+        self.forget()
+
+    def __getitem__(self, name):
+        return self.s[name]
+
+    def __setitem__(self, name, value):
+        self.s[name] = value
+
+    # --- Life
+
+    def create(self):
+        self.s = {**{name: self.DEFAULTS.get(name, DEFAULTS.get(name)) for name in self.stored}, "MessageHeader": "Zor",
+                  **{name: BEGIN[name.split(".")[1]] for name in self.aspects if name.split(".")[1] in BEGIN},
+                  **self.form.designed(self.CLASS, [name for name in self.aspects if name.split(".")[1] in DESIGNED])}
+        self.index, self.dead, self.custom, self.modified_output = 0, False, None, None
+        self["img_State.Visible"], self["img_State.Picture"] = False, 0
+        self.created()
+
+    DEFAULTS = {}
+
+    def created(self):
+        pass
+
+    def initialise(self):
+        mode, self.form.usermode = self.form.usermode, False
+        for name in self.stored:
+            self.put(name, self.FRESH.get(name, self[name]))
+        self.form.usermode = mode
+
+    def forget(self):
+        self.events, self.notices, self.out, self.form.boxes = [], [], [], []
+
+    def bag(self):
+        default = {**DEFAULTS, **self.DEFAULTS}
+        return [f"{KEYS.get(name, name)}={written(self.look(name))}" for name in self.stored
+                if self.look(name) != default[name] or name in self.ALWAYS]
+
+    ALWAYS = ()
+
+    def load(self, values):
+        self.create()
+        for name, value in values.items():
+            self[name] = value
+        self.loaded()
+
+    def look(self, name):
+        return self.s[name]
+
+    # --- What the host does
+
+    def put(self, name, value):
+        if name in self.DERIVED:
+            return self.out.append("error 383") if self.form.usermode else None
+        self[name] = value
+        if name not in SILENT and name not in self.OWN_SILENT:
+            self.notices.append(name)
+        getattr(self, "put_" + name, lambda: None)()
+        for effect in self.OWN_EFFECTS.get(name, EFFECTS.get(name, "")).split():
+            getattr(self, effect)()
+
+    OWN_SILENT = ()
+
+    def call(self, method, *arguments):
+        answer = getattr(self, method)(*arguments)
+        if answer is not None:
+            self.out.append(written(answer))
+
+    def fi_GetMaxMessage(self):
+        return len(self.MESSAGES)
+
+    def fc_GetMessageID(self, number):
+        known = 0 < number <= len(self.MESSAGES)
+        return "MSG_" + self.MESSAGES[number - 1][3:].upper() if known else self.OTHER_MESSAGE
+
+    def fb_SetMessage(self, number, text):
+        if not 0 < number <= len(self.MESSAGES):
+            return False
+        self[self.MESSAGES[number - 1]] = text
+        return True
+
+    def s_ChangeBackColor(self, colour):
+        shown = colour if isinstance(colour, Colour) else Colour(f"#{colour:06X}")
+        for widget in self.COLOURED:
+            self[widget + ".BackColor"] = shown
+        return self.coloured(shown)
+
+    COLOURED = ("Surface",)
+
+    def coloured(self, shown):
+        pass
+
+    # --- Events
+
+    def emit(self, event, **arguments):
+        """Tells the host; answers the arguments as its handlers leave them."""
+        if event not in self.raised or self.dead:
+            return arguments
+        self.events.append(event + (f"({','.join(written(v) for v in arguments.values())})" if arguments else ""))
+        for command in list(self.handlers.get(event, ())):
+            if command[0] == "set":
+                arguments[command[1]] = command[2]
+                continue
+            if self.depth > 3:
+                raise TooDeep
+            self.depth += 1
+            self.perform(command)
+            self.depth -= 1
+        return arguments
+
+    def perform(self, step):
+        kind, *rest = step
+        if self.dead:
+            return self.out.append("error 424")
+        return getattr(self, "do_" + kind, None)(*rest) if kind in ("do", "host", "destroy") else getattr(self, kind)(*rest)
+
+    def do_host(self, event, kind, *rest):
+        if kind == "off":
+            self.handlers.pop(event, None)
+        else:
+            self.handlers.setdefault(event, []).append(rest[0] if kind == "run" else ("set", *rest))
+
+    def do_destroy(self):
+        self.dead = True
+        self.form.menu = "none"
+
+    def size(self, width, height):
+        self["Surface.Width"], self["Surface.Height"] = width, height
+        self.layout()
+
+    # --- States
+
+    def check_type(self):
+        self.index = type_index(self["DeviceTypeSupported"], self["DeviceType"])
+        self["DeviceTypeNotSupported"] = self.index < 0
+        self.support()
+
+    def check_version(self):
+        if self.index >= 0:
+            self["DeviceVerNotSupported"] = bool(version_fails(
+                self["DeviceMinVersionSupported"], self["DeviceMaxVersionSupported"], self["DeviceVersion"], self.index))
+        self.support()
+
+    def supported(self):
+        return not (self["DeviceTypeNotSupported"] or self["DeviceVerNotSupported"])
+
+    def support(self):
+        if not self.supported():
+            self["img_State.Visible"] = False
+        for widget in self.SHOWN:
+            self[widget + ".Visible"] = self.supported() and self.wanted(widget)
+
+    def wanted(self, widget):
+        return True
+
+    def enabled(self):
+        frozen = self["WaitingForData"]
+        for widget in self.SHOWN:
+            self[widget + ".Enabled"] = not (frozen or self["DeviceTagNotFound"] or not self["EnableControl"])
+        if frozen or not (self["DeviceTagNotFound"] or not self["EnableControl"]):
+            self["img_State.Enabled"] = not frozen
+
+    def states(self):
+        """Rows of flag, whether it shows, tooltip, picture, text of the box, its icon."""
+        yield "CFail", self["CFail"], self["MsgCfail"], 1, self["MsgCfail"] + "\r\n", "critical"
+        text = self["MsgDeviceTagNotFound"]
+        yield "", self["DeviceTagNotFound"], text, 3, f"{text} : \r\n{self['DeviceTag']}", "information"
+        text = self["MsgDataNotAvailable"]
+        yield "", self["DataNotAvailable"], text, 2, text + "\r\n", "exclamation"
+        if "DataChanged" in self.s:
+            tooltip, text = self.changed_texts()
+            yield "DataChanged", self["DataChanged"], tooltip, 2, text, "exclamation"
+        yield from self.invalid_rows()
+
+    def changed_texts(self):
+        return (f"{self['MsgDataChanged']} : {self.other()} , {self.reference_text()}",) * 2
+
+    def invalid_rows(self):
+        return ()
+
+    def state(self):
+        return next((row for row in self.states() if row[1]), None)
+
+    def status(self):
+        if not self.supported():
+            return
+        row = self.state()
+        self[self.FACE + ".ToolTipText"] = row[2] if row else self["MsgDefault"]
+        if row is None:
+            self["img_State.Visible"] = False
+        else:
+            self["img_State.Picture"] = row[3]
+            self["img_State.Visible"] |= self["IconEnable"]
+
+    def box(self, icon, text, title=None):
+        self.form.boxes.append(f"{icon} {written(title or self['MessageHeader'])} {written(text)}")
+
+    def explain(self):
+        """A click on the state icon."""
+        row = self.state()
+        if row:
+            self.box(row[5], row[4])
+            if row[0] == "DataChanged":
+                self["DataChanged"] = False
+                self.status()
+        self.emit("imgClick")
+
+    def read_only(self):
+        return self["ReadOnly"] or self["RegisterType"] == 1
+
+    def locked(self):
+        return self["CFail"] or self.read_only()
+
+    # --- What the operator does
+
+    def able(self, widget):
+        if widget == "Surface":
+            return True
+        return self[widget + ".Visible"] and self[widget + ".Enabled"] and not self.dead
+
+    def do_do(self, widget, action, *arguments):
+        if widget == "mnu_Edit":
+            return self.choose_undo()
+        self.form.menu = "none"
+        if widget != "Surface" and not self.able(widget):
+            return self.out.append("refused " + ("disabled" if self[widget + ".Visible"] else "hidden"))
+        self.point = self.at(widget)
+        own = getattr(self, f"{action}_{widget[:3]}", None)
+        return own(widget, *arguments) if own else getattr(self, action)(widget, *arguments)
+
+    def at(self, widget):
+        width, height = self[widget + ".Width"], self[widget + ".Height"]
+        if widget in self.AT:
+            return min(self.AT[widget][0], width / 2), min(self.AT[widget][1], height / 2)
+        return width / 2, height / 2
+
+    def button(self, widget, which, end):
+        x, y = self.point
+        self.emit(self.PREFIX.get(widget, "") + end, Button=which, Shift=0, X=x, Y=y)
+        return self.hears(widget)
+
+    def hears(self, widget):
+        """A click may hide what it acknowledges, and is one all the same; what a handler freezes hears nothing more."""
+        return not self.dead and self.s.get(widget + ".Enabled", True)
+
+    def press(self, widget):
+        if not self.button(widget, 1, "MouseDown"):
+            return False
+        # A handler may make the widget narrower than where it is pressed.
+        over = widget not in self.AT or self.point[0] < max(15, self[widget + ".Width"])
+        return self.button(widget, 1, "MouseUp") and over
+
+    def click(self, widget):
+        if self.press(widget):
+            self.clicked(widget)
+
+    def clicked(self, widget):
+        self.emit(self.PREFIX.get(widget, "") + "Click")
+
+    def click_img(self, widget):
+        if self.press(widget):
+            self.explain()
+
+    def dblclick(self, widget):
+        getattr(self, f"click_{widget[:3]}", self.click)(widget)
+        if self.hears(widget):
+            self.emit(self.PREFIX.get(widget, "") + "DblClick")
+            if self.hears(widget):
+                self.button(widget, 1, "MouseUp")
+
+    def rightclick(self, widget):
+        if self.button(widget, 2, "MouseDown") and self.button(widget, 2, "MouseUp") and widget in self.MENU_OVER:
+            if self["EnableControl"] and not self.locked() and not self.dead:
+                self.form.menu = "mnu_Edit"
+
+    def choose_undo(self):
+        if self.form.menu == "none":
+            return self.out.append("refused closed")
+        self.form.menu = "none"
+        return self.undo()

@@ -1,0 +1,87 @@
+"""Values, defaults and their notation, and the check of versions."""
+
+NOT_FOUND_TEXT = "Identifier Look Up Failed"
+
+
+def names(text, value):
+    return dict.fromkeys(text.split(), value)
+
+
+# A stored property's default in the bag, by name; a class says where its own differs.
+DEFAULTS = {
+    **names("CFail InvalidEntry InvalidValue DataModified WaitingForData DataChanged DataNotAvailable DeviceTagNotFound"
+            " DeviceVerNotSupported DeviceTypeNotSupported ReadOnly UseAuxIcon LabelFontItalic", False),
+    **names("InvalidEntryEnable UnitEnable IconEnable EnableControl EnableValues", True),
+    **names("MinValue MaxValue MinParamValue MaxParamValue UnitType DeviceValue OutputValue DeviceUnit OutputUnit"
+            " DefaultUnit RegisterType BitFieldEntryIndex EnumEntryValue", 0),
+    **names("DeviceTypeSupported DeviceMinVersionSupported DeviceMaxVersionSupported DeviceTag DeviceType DeviceVersion"
+            " MsgDefault UnitLabelCaption MinPrefix MaxPrefix", ""),
+    "MsgCfail": "Communication Failure !", "MsgDataChanged": "Data Changed by other user ",
+    "MsgDataNotAvailable": "Data Not Available", "MsgDeviceTagNotFound": NOT_FOUND_TEXT,
+    "MsgInvalidValue": "Invalid Entry",
+}
+KEYS = {"DeviceMinVersionSupported": "DeviceMinVerSupported", "DeviceMaxVersionSupported": "DeviceMaxVerSupported",
+        "NumberOfDigits": "NumberofDigits"}
+# What a write runs, by name.
+EFFECTS = {
+    "CFail": "status colors enabled", "DataNotAvailable": "status", "DataChanged": "status",
+    "DeviceTagNotFound": "status enabled", "WaitingForData": "enabled", "EnableControl": "enabled",
+    "ReadOnly": "colors", "RegisterType": "colors", "DataModified": "colors", "DeviceType": "check_type",
+    "DeviceVersion": "check_version", "DeviceTypeNotSupported": "support", "DeviceVerNotSupported": "support",
+    **names("MsgCfail MsgDataNotAvailable MsgDataChanged MsgDeviceTagNotFound MsgDefault MsgInvalidValue", "status"),
+}
+SILENT = set("MessageHeader DataModified ModifiedValue OtherUserValue".split())
+
+DESIGNED = "Left Top Width Height BackColor ForeColor".split()
+BEGIN = {**names("Visible Enabled", True), **names("FontBold FontItalic Locked", False), **names("Caption Text ToolTipText", ""),
+         **names("SelStart SelLength Picture Value", 0)}
+
+
+class Colour(str):
+    """Printed as it stands."""
+
+
+YELLOW, RED, BLACK = Colour("#FFFF00"), Colour("#FF0000"), Colour("ButtonText")
+FACE, WINDOW = Colour("ButtonFace"), Colour("WindowBackground")
+
+
+class TooDeep(Exception):
+    """Handlers that call each other: the history ends before."""
+
+
+def written(value):
+    """A value as the console writes it."""
+    if isinstance(value, Colour):
+        return value
+    if isinstance(value, str):
+        for plain, escaped in ("\\", "\\\\"), ('"', '\\"'), ("\r", "\\r"), ("\n", "\\n"), ("\t", "\\t"):
+            value = value.replace(plain, escaped)
+        return f'"{value}"'
+    if isinstance(value, list):
+        return "[" + ", ".join(map(written, value)) + "]"
+    return f"{value:.15g}" if isinstance(value, float) else str(value)
+
+
+def padded(version):
+    at = next((i for i, c in enumerate(version) if c not in "0123456789"), None)
+    if at is None:
+        return version
+    return version[:at].rjust(max(2, at), "0")[-max(2, at):] + version[at] + version[at + 1:].rjust(2, "0")
+
+
+def type_index(supported, device):
+    if not supported.strip(" "):
+        return 0
+    entries = [entry.strip(" ").upper() for entry in supported.split(",")]
+    return entries.index(device.strip(" ").upper()) if device.strip(" ").upper() in entries else -1
+
+
+def version_fails(minimum, maximum, version, index):
+    def limit(entries):
+        if not entries.strip(" "):
+            return ""
+        entries = entries.split(",")
+        return padded(entries[index].strip(" ").upper()) if index < len(entries) else None
+
+    version, low, high = padded(version.strip(" ").upper()), limit(minimum), limit(maximum)
+    return low is None or high is None or (low and version < low) or bool(high and high < version)
