@@ -238,7 +238,7 @@ void HeadlessOperator::open(ComboBox& box) { base(box).report(Notice::DropDown);
 
 void HeadlessOperator::pick(ComboBox& box, std::int32_t index)
 {
-    if (base(box).host().focused() == &box && isReachable(box))
+    if (base(box).host().focused() == &box && isReachable(box) && !box.isLocked())
         clickEntry(box, index);
 }
 

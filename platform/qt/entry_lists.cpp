@@ -243,11 +243,11 @@ void CheckList::focusInEvent(QFocusEvent* event)
 {
     // Qt makes the first entry the current one of a list that has none. Nobody has chosen it.
     const bool hadCurrent = currentIndex().isValid();
-    const bool wasAtWork = std::exchange(m_isMouseAtWork, true);
+    m_isComing = true;
     QListView::focusInEvent(event);
     if (!hadCurrent)
         makeCurrent({}, false);
-    m_isMouseAtWork = wasAtWork;
+    m_isComing = false;
 }
 
 // --- List box
@@ -267,6 +267,8 @@ QtListBox::QtListBox(const Context& context, int number) : QtEntryBase(context, 
     };
     QObject::connect(widget().selectionModel(), &QItemSelectionModel::currentChanged, &widget(),
                      [this](const QModelIndex& /*current*/, const QModelIndex& previous) {
+                         if (widget().isComing())
+                             return;
                          if (!isQuiet() && !m_isChangePending)
                              m_before = previous;
                          changed();

@@ -55,6 +55,8 @@ public:
     /// not for each that it passes.
     void makeCurrent(const QModelIndex& index, bool scroll);
     [[nodiscard]] bool isMouseAtWork() const noexcept { return m_isMouseAtWork; }
+    /// While it gets the focus: what Qt makes of its current entry then is nobody's doing.
+    [[nodiscard]] bool isComing() const noexcept { return m_isComing; }
     /// Points of the viewport to click on; the entry is scrolled to.
     [[nodiscard]] QPoint markOf(const QModelIndex& index);
     [[nodiscard]] QPoint textOf(const QModelIndex& index);
@@ -73,6 +75,7 @@ private:
     void withMouse(Handle&& handle);
 
     bool m_isMouseAtWork = false;
+    bool m_isComing = false;
 };
 
 /// The entries of either: both keep them in an EntryModel and report what changes as clicks, but for what

@@ -1,12 +1,11 @@
 """The label and the status image."""
 
 from model import Model
-from values import BLACK, RED, names
+from values import BLACK, PLACE, RED, names
 
 SHARED = ("CFail WaitingForData DeviceValue DataNotAvailable DeviceTypeSupported DeviceMinVersionSupported"
           " DeviceMaxVersionSupported DeviceTag DeviceTagNotFound DeviceVerNotSupported DeviceTypeNotSupported MsgCfail"
           " MsgDataNotAvailable MsgDeviceTagNotFound MsgDefault")
-PLACE = "Left Top Width Height Visible Enabled"
 
 
 class Label(Model):

@@ -10,10 +10,12 @@ import sys
 import tempfile
 import time
 
+import choice
 import display
+import toggles
 from values import Colour, TooDeep, written
 
-MODELS = {**display.CONTROLS}
+MODELS = {**display.CONTROLS, **choice.CONTROLS, **toggles.CONTROLS}
 LENGTH, BATCH = 60, 100
 
 
@@ -48,6 +50,10 @@ class Form:
     def width(self, text, bold=False, italic=False):
         return float(self.ask("new ctx_ZorLabel m", f"put m LabelFontItalic={italic} LabelFontBold={bold}",
                               f"put m.LabelCaption {written(text)}", "get m.lbl_Label.Width"))
+
+    def caption(self, text, bold):
+        return float(self.ask("new ctx_ZorCheckBox m", f"put m DataModified={bold} CheckBoxCaption={written(text)}",
+                              "get m.chk_CheckBox.Width")) - 330
 
 
 def reading(word):

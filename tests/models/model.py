@@ -10,6 +10,7 @@ class Model(Steps):
     STORED = RUNTIME = EVENTS = ""
     FRESH, OWN_EFFECTS, MESSAGES, OTHER_MESSAGE = {}, {}, (), "ERROR_RETURNED"
     DERIVED = ()         # refused at run time, ignored at design time
+    READ = ()            # refused always
     PREFIX = {}          # a widget's events begin so
     AT = {}              # where the operator points in a widget
     FACE = ""            # the widget that bears the tooltip
@@ -43,7 +44,7 @@ class Model(Steps):
         self.s = {**{name: self.DEFAULTS.get(name, DEFAULTS.get(name)) for name in self.stored}, "MessageHeader": "Zor",
                   **{name: BEGIN[name.split(".")[1]] for name in self.aspects if name.split(".")[1] in BEGIN},
                   **self.form.designed(self.CLASS, [name for name in self.aspects if name.split(".")[1] in DESIGNED])}
-        self.index, self.dead, self.custom, self.modified_output = 0, False, None, None
+        self.index, self.dead, self.focused = 0, False, None
         self["img_State.Visible"], self["img_State.Picture"] = False, 0
         self.created()
 
@@ -80,8 +81,8 @@ class Model(Steps):
     # --- What the host does
 
     def put(self, name, value):
-        if name in self.DERIVED:
-            return self.out.append("error 383") if self.form.usermode else None
+        if name in self.DERIVED or name in self.READ:
+            return self.out.append("error 383") if self.form.usermode or name in self.READ else None
         self[name] = value
         if name not in SILENT and name not in self.OWN_SILENT:
             self.notices.append(name)
@@ -248,15 +249,59 @@ class Model(Steps):
             return True
         return self[widget + ".Visible"] and self[widget + ".Enabled"] and not self.dead
 
+    FOCUSABLE = ("txt", "cbo", "lst", "chk", "opt", "sld")
+    WRITES = ()
+
     def do_do(self, widget, action, *arguments):
         if widget == "mnu_Edit":
             return self.choose_undo()
         self.form.menu = "none"
-        if widget != "Surface" and not self.able(widget):
+        if action == "blur":
+            return self.focused == widget and self.leave()
+        if not self.able(widget):
             return self.out.append("refused " + ("disabled" if self[widget + ".Visible"] else "hidden"))
+        if action in self.WRITES and self.s.get(widget + ".Locked"):
+            return self.out.append("refused locked")
+        if widget[:3] in self.FOCUSABLE and not self.enter(widget):
+            return None
         self.point = self.at(widget)
-        own = getattr(self, f"{action}_{widget[:3]}", None)
-        return own(widget, *arguments) if own else getattr(self, action)(widget, *arguments)
+        own = getattr(self, f"{action}_{widget[:3]}", None) or getattr(self, action)
+        return own(widget, *arguments)
+
+    def focus(self, widget):
+        pass
+
+    def enter(self, widget):
+        if self.focused != widget:
+            if self.focused and not self.leave():
+                return False
+            self.focused = widget
+            self.got_focus(widget)
+        return self.focused == widget and self.able(widget)
+
+    def got_focus(self, widget):
+        self.emit(self.PREFIX[widget] + "GotFocus")
+
+    def leave(self):
+        widget = self.focused
+        if self.emit(self.PREFIX[widget] + "Validate", Cancel=False)["Cancel"]:
+            return False
+        self.focused = None
+        self.lost_focus(widget)
+        return True
+
+    def lost_focus(self, widget):
+        self.emit(self.PREFIX[widget] + "LostFocus")
+
+    def key(self, widget, code):
+        prefix, character = self.PREFIX[widget], code if code in (8, 13, 27, 32, 65) else 0
+        down = self.emit(prefix + "KeyDown", KeyCode=code, Shift=0)["KeyCode"]
+        if down and self.able(widget):
+            press = self.emit(prefix + "KeyPress", KeyAscii=character)["KeyAscii"] if character else 0
+            if (press or not character) and self.able(widget):
+                self.struck(widget, code)
+        if self.able(widget):
+            self.emit(prefix + "KeyUp", KeyCode=code, Shift=0)
 
     def at(self, widget):
         width, height = self[widget + ".Width"], self[widget + ".Height"]

@@ -4,6 +4,9 @@ import itertools
 
 from values import FACE, Colour, names, written
 
+# What a handler may make of an event's argument.
+CHANGES = {"KeyDown": ("KeyCode", 0), "KeyPress": ("KeyAscii", 0), "Validate": ("Cancel", True)}
+
 
 class Steps:
     # --- A step of a history, as the console is told and as it answers
@@ -68,6 +71,7 @@ class Steps:
                 " DeviceVerNotSupported", (False, False, True)),
         **names("EnableControl IconEnable", (True, True, False)),
     }
+    UNHANDLED = ()
     HANDLED = ("put", "put", "put", "call", "destroy")
 
     def value(self, random, name):
@@ -96,8 +100,11 @@ class Steps:
 
     def random_do(self, random):
         widget = random.choice(list(self.ACTIONS))
-        action, *arguments = random.choice(self.ACTIONS[widget].split())
-        return ("do", widget, action + "".join(arguments))
+        action = random.choice(self.ACTIONS[widget].split())
+        return ("do", widget, action, *self.arguments(random, widget, action))
+
+    def arguments(self, random, widget, action):
+        return (random.choice(self.KEYS),) if action == "key" else ()
 
     def random_size(self, random):
         return ("size", random.choice((0, 500, 690, 700, 1000, 3000, 4635)), random.choice((0, 200, 315, 318, 400, 515, 900)))
@@ -117,8 +124,10 @@ class Steps:
             return [("store",)]
         if chance < 0.92:
             return [("form", "usermode", random.choice(("on", "off"))), self.random_put(random), ("form", "usermode", "on")]
-        event = random.choice(sorted(self.raised))
+        event = random.choice(sorted(self.raised.difference(self.UNHANDLED)))
+        changed = next((change for end, change in CHANGES.items() if event.endswith(end)), None)
         kind = random.choice(self.HANDLED)
         inner = ("destroy",) if kind == "destroy" else getattr(self, "random_" + kind)(random)
-        return [("host", event, "run", inner), *itertools.chain.from_iterable(
+        first = ("set", *changed) if changed and random.random() < 0.5 else ("run", inner)
+        return [("host", event, *first), *itertools.chain.from_iterable(
             self.random_steps(random)[:1] for _ in range(3)), ("host", event, "off")]

@@ -32,6 +32,7 @@ EFFECTS = {
 }
 SILENT = set("MessageHeader DataModified ModifiedValue OtherUserValue".split())
 
+PLACE = "Left Top Width Height Visible Enabled"
 DESIGNED = "Left Top Width Height BackColor ForeColor".split()
 BEGIN = {**names("Visible Enabled", True), **names("FontBold FontItalic Locked", False), **names("Caption Text ToolTipText", ""),
          **names("SelStart SelLength Picture Value", 0)}

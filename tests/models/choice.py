@@ -1,0 +1,441 @@
+"""The controls for a choice, and of these combo box and list box."""
+
+from model import Model
+from values import BLACK, FACE, PLACE, RED, WINDOW, YELLOW, names
+
+HEAD = "DataModified WaitingForData DeviceValue OutputValue DataChanged DataNotAvailable DeviceTypeSupported" \
+       " DeviceMinVersionSupported DeviceMaxVersionSupported DeviceTag DeviceTagNotFound DeviceVerNotSupported" \
+       " DeviceTypeNotSupported MsgCfail MsgDataChanged MsgDataNotAvailable"
+TAIL = " MsgDeviceTagNotFound MsgDefault IconEnable ReadOnly DeviceType DeviceVersion RegisterType EnableControl"
+RAISED = "OutputValueChange DataModifiedSetTrue imgClick imgDblClick "
+FIVE = ("MsgCfail", "MsgDataNotAvailable", "MsgDataChanged", "MsgDefault", "MsgDeviceTagNotFound")
+LOOKS = PLACE + " BackColor ForeColor FontBold ToolTipText"
+
+
+def mask(bit):
+    return 1 << bit if 0 <= bit <= 30 else 0
+
+
+class Choice(Model):
+    DERIVED = ("OutputValue", "InvalidValue")
+    OWN_EFFECTS = {"CFail": "status colors"}
+    VALUES = {**names("DeviceValue ModifiedValue EnumValue EnumEntryValue", (0, 1, 2, 2, 5, -6)),
+              "OtherUserValue": (0, 7, -3), "ReadOnly": (False, False, False, True)}
+    OFTEN = ("DeviceValue", "DeviceValue", "ModifiedValue", "ModifiedValue", "ReadOnly", "DataModified", "DataChanged")
+
+    def created(self):
+        self.reference, self.s["OtherUserValue"], self.turn = 0, 0, 0
+
+    def look(self, name):
+        return self.s["OutputValue"] if name == "ModifiedValue" else self.s[name]
+
+    def other(self):
+        return self["OtherUserValue"]
+
+    def reference_text(self):
+        return self.reference
+
+    def put_OtherUserValue(self):
+        self.status()
+
+    def colors(self):
+        face, modified = self.FACE, self["DataModified"]
+        self[face + ".ForeColor"] = RED if self["CFail"] else BLACK
+        self[face + ".FontBold"] = self["CFail"] or modified
+        self.paint(FACE if self.read_only() else YELLOW if modified else WINDOW)
+
+    def paint(self, colour):
+        self[self.FACE + ".BackColor"] = colour
+
+    def newer(self):
+        """A value sets out; the one under way before it does nothing more."""
+        self.turn += 1
+        turn = self.turn
+        return lambda: self.dead or self.turn != turn
+
+    def loaded(self):
+        self.reference = self["DeviceValue"]
+        self.colors()
+        self.enabled()
+        self.layout()
+
+    def layout(self):
+        face, width, height = self.FACE, self["Surface.Width"], self["Surface.Height"]
+        self[face + ".Width"] = width - 415 if width >= 700 else 285
+        self["img_State.Left"] = self[face + ".Left"] + self[face + ".Width"] + 100
+        self.layout_height(height)
+
+
+class ComboBox(Choice):
+    CLASS, FACE, SHOWN = "ctx_ZorComboBox", "cbo_ComboBox", ("cbo_ComboBox",)
+    STORED = "CFail InvalidValue " + HEAD + " MsgInvalidValue" + TAIL
+    RUNTIME = "MessageHeader ModifiedValue OtherUserValue SelectedText"
+    READ = ("SelectedText",)
+    DEFAULTS = {"MsgInvalidValue": "Invalid Value from Device"}
+    FRESH = {"MsgInvalidValue": "Invalid Entry"}
+    EVENTS = RAISED + "InvalidValueSetTrue ComboClick ComboDropDown ComboGotFocus ComboKeyDown ComboKeyPress ComboKeyUp" \
+                      " ComboLostFocus ComboValidate"
+    MESSAGES = (*FIVE[:4], "MsgInvalidValue", FIVE[4])
+    PREFIX = {"cbo_ComboBox": "Combo", "img_State": "img"}
+    WIDGETS = {"cbo_ComboBox": LOOKS + " Text Locked ListCount ListIndex", "img_State": PLACE + " Picture",
+               "Surface": "Width Height BackColor"}
+    ACTIONS = {"cbo_ComboBox": "choose choose focus blur dropdown key key", "img_State": "click dblclick",
+               "Surface": "click rightclick rightclick", "mnu_Edit": "choose choose"}
+    KEYS = (40, 38, 36, 35, 32, 112)
+
+    def created(self):
+        super().created()
+        self.entries, self.current = [], -1
+
+    def look(self, name):
+        if name in ("SelectedText", "cbo_ComboBox.Text"):
+            return self.entries[self.current][0] if self.current >= 0 else ""
+        return {"cbo_ComboBox.ListCount": len(self.entries), "cbo_ComboBox.ListIndex": self.current}.get(name) \
+            if name[13:17] == "List" else super().look(name)
+
+    def paint(self, colour):
+        super().paint(colour)
+        self["cbo_ComboBox.Locked"] = self.locked()
+
+    def layout_height(self, height):
+        self["Surface.Height"] = 315
+
+    def invalid_rows(self):
+        text = self["MsgInvalidValue"]
+        yield "", self["InvalidValue"], text, 2, text + "\r\n", "exclamation"
+
+    # --- Entries
+
+    def find(self, value):
+        return next((i for i, (_, own) in enumerate(self.entries) if own == value), None)
+
+    def AddEnumEntry(self, text, value):
+        self.entries.append((text, value))
+        self.current = len(self.entries) - 1
+        self["OutputValue"] = value
+
+    def ClearEnumList(self):
+        self.entries, self.current = [], -1
+
+    def RemoveEnumEntry(self, value):
+        at = self.find(value)
+        if at is not None:
+            del self.entries[at]
+            self.current = -1 if at == self.current else self.current - (at < self.current)
+
+    def GetEnumEntryText(self, value):
+        at = self.find(value)
+        return "ERROR" if at is None else self.entries[at][0]
+
+    def GetEnumEntryValue(self, text):
+        return next((value for own, value in self.entries if own == text), "ERROR")
+
+    def GetEnumEntries(self):
+        return [text for text, _ in self.entries] or ["ERROR"]
+
+    def GetEnumEntryValueArray(self):
+        return [value for _, value in self.entries] or ["ERROR"]
+
+    def GetEnumEntryCount(self):
+        return len(self.entries)
+
+    def calls(self, random):
+        value, text = random.choice(self.VALUES["DeviceValue"]), random.choice(self.TEXTS)
+        add = ("AddEnumEntry", text, value)
+        return (add, add, add, ("RemoveEnumEntry", value), random.choice((
+            ("ClearEnumList",), ("GetEnumEntryText", value), ("GetEnumEntryValue", text), ("GetEnumEntries",),
+            ("GetEnumEntryValueArray",), ("GetEnumEntryCount",))))
+
+    # --- Values
+
+    def show(self, value, overtaken):
+        """Selects the first entry that carries a value, if there are entries."""
+        if not self.entries:
+            return
+        at = self.find(value)
+        self["InvalidValue"] = at is None
+        if at is None:
+            self.emit("InvalidValueSetTrue")
+        else:
+            self.select(at, overtaken)
+
+    def select(self, at, overtaken=None):
+        if self.current != at:
+            self.current = at
+            self.chosen(overtaken)
+
+    def chosen(self, overtaken=None):
+        overtaken = overtaken or self.step_of_operator()
+        value = self.entries[self.current][1]
+        self["DataModified"] = value != self.reference
+        if self["DataModified"]:
+            self.emit("DataModifiedSetTrue")
+        if not overtaken():
+            self["OutputValue"] = self.entries[self.current][1] if self.current >= 0 else value
+            self.emit("OutputValueChange")
+        self.colors()
+        self.emit("ComboClick")
+
+    def step_of_operator(self):
+        turn = self.turn
+        return lambda: self.dead or self.turn != turn
+
+    def put_DeviceValue(self):
+        overtaken = self.newer()
+        self.reference = self["DeviceValue"]
+        self.show(self.reference, overtaken)
+        if overtaken():
+            return
+        self["OutputValue"] = self.reference
+        self.emit("OutputValueChange")
+        if overtaken():
+            return
+        self["DataModified"] = False
+        self.colors()
+        self.status()
+
+    def put_ModifiedValue(self):
+        overtaken, value = self.newer(), self["ModifiedValue"]
+        self.show(value, overtaken)
+        if overtaken():
+            return
+        self["OutputValue"] = value
+        self.emit("OutputValueChange")
+        if overtaken():
+            return
+        self.colors()
+        self.status()
+
+    def undo(self):
+        if not self["DataModified"]:
+            return
+        overtaken, at = self.newer(), self.find(self.reference)
+        if at == self.current and at is not None:
+            self["InvalidValue"] = False
+            self.chosen(overtaken)
+        else:
+            self.show(self.reference, overtaken)
+        if not overtaken():
+            self["OutputValue"] = self.reference
+            self.emit("OutputValueChange")
+        if not overtaken():
+            self.status()
+
+    # --- The operator
+
+    def do_do(self, widget, action, *arguments):
+        if action == "choose" and widget != "mnu_Edit" and not 0 <= arguments[0] < len(self.entries):
+            return self.out.append("error 9")
+        return super().do_do(widget, action, *arguments)
+
+    WRITES = ("choose", "dropdown")
+
+    def choose(self, widget, index):
+        self.emit("ComboDropDown")
+        if self.able(widget) and not self.locked() and index < len(self.entries):
+            self.pick(index)
+
+    def pick(self, index):
+        self.current = index
+        self.chosen()
+
+    def dropdown(self, widget):
+        self.emit("ComboDropDown")
+
+    def struck(self, widget, code):
+        if code == 32 and not self.locked():
+            return self.dropdown(widget)
+        last = len(self.entries) - 1
+        to = {40: min(self.current + 1, last), 38: max(self.current - 1, 0), 36: 0, 35: last}.get(code, self.current)
+        if not self.locked() and last >= 0 and to != self.current:
+            self.pick(to)
+        return None
+
+    def arguments(self, random, widget, action):
+        if action == "choose" and widget == "cbo_ComboBox":
+            return (random.randrange(len(self.entries)) if self.entries else 0,)
+        return super().arguments(random, widget, action)
+
+
+class ListBox(Choice):
+    CLASS, FACE, SHOWN = "ctx_ZorListBox", "lst_ListBox", ("lst_ListBox",)
+    STORED = ComboBox.STORED
+    RUNTIME = "MessageHeader ModifiedValue OtherUserValue SelCount"
+    READ = ("SelCount",)
+    DEFAULTS, FRESH, MESSAGES = ComboBox.DEFAULTS, ComboBox.FRESH, ComboBox.MESSAGES
+    EVENTS = RAISED + "ListClick ListDblClick ListGotFocus ListKeyDown ListKeyPress ListKeyUp ListLostFocus ListMouseDown" \
+                      " ListMouseUp ListValidate"
+    PREFIX = {"lst_ListBox": "List", "img_State": "img"}
+    WIDGETS = {"lst_ListBox": LOOKS + " ListCount ListIndex", "img_State": PLACE + " Picture",
+               "Surface": "Width Height BackColor"}
+    ACTIONS = {"lst_ListBox": "toggle toggle toggle focus blur key key click dblclick rightclick",
+               "img_State": "click dblclick", "Surface": "click rightclick rightclick", "mnu_Edit": "choose choose"}
+    KEYS = (40, 38, 36, 35, 32, 32, 112)
+    UNHANDLED = ("ListMouseDown", "ListMouseUp")  # which entry is current between the two is the platform's
+    VALUES = {**Choice.VALUES, **names("DeviceValue ModifiedValue", (0, 1, 9, 0x40000008, -1, 6))}
+
+    def created(self):
+        super().created()
+        self.entries, self.current, self.marks = [], -1, []
+
+    def look(self, name):
+        own = {"SelCount": sum(self.marks), "lst_ListBox.ListCount": len(self.entries), "lst_ListBox.ListIndex": self.current}
+        return own[name] if name in own else super().look(name)
+
+    invalid_rows = ComboBox.invalid_rows
+
+    def layout_height(self, height):
+        self["lst_ListBox.Height"] = 285 if height < 315 else height
+        self["img_State.Top"] = 25 if height < 315 else round((height - 315) / 2) + 25
+
+    # --- Entries
+
+    find = ComboBox.find
+    GetBitFieldEntryText, GetBitFieldEntryValue = ComboBox.GetEnumEntryText, ComboBox.GetEnumEntryValue
+    GetBitFieldEntries, GetBitFieldEntryValueArray = ComboBox.GetEnumEntries, ComboBox.GetEnumEntryValueArray
+    GetBitFieldEntryCount = ComboBox.GetEnumEntryCount
+
+    def AddBitFieldEntry(self, text, bit):
+        self.entries.append((text, bit))
+        self.marks.append(False)
+
+    def ClearBitFieldList(self):
+        self.entries, self.current, self.marks = [], -1, []
+
+    def RemoveBitFieldEntry(self, bit):
+        at = self.find(bit)
+        if at is not None:
+            del self.entries[at], self.marks[at]
+            self.current = -1 if at == self.current else self.current - (at < self.current)
+
+    def calls(self, random):
+        bit, text = random.choice((0, 0, 3, 3, 30, -1, 31)), random.choice(self.TEXTS)
+        if len(self.entries) > 3:
+            return ("ClearBitFieldList",), ("RemoveBitFieldEntry", bit)
+        add = ("AddBitFieldEntry", text, bit)
+        return (add, add, add, ("RemoveBitFieldEntry", bit), random.choice((
+            ("ClearBitFieldList",), ("GetBitFieldEntryText", bit), ("GetBitFieldEntryValue", text), ("GetBitFieldEntries",),
+            ("GetBitFieldEntryValueArray",), ("GetBitFieldEntryCount",))))
+
+    # --- Values
+
+    def mark(self, value, overtaken=None):
+        """Marks the list as a value says; each mark that changes is a click, and the way back to the first entry."""
+        for i in range(len(self.entries)):
+            if i < len(self.marks) and self.marks[i] != bool(value & mask(self.entries[i][1])):
+                self.marks[i] = not self.marks[i]
+                self.current = i
+                if not self.locked():
+                    self.clicked_entry(overtaken)
+                    if overtaken():
+                        return
+        if self.entries and self.current != 0:
+            self.current = 0
+            if not self.locked():
+                self.clicked_entry(overtaken)
+
+    def clicked_entry(self, overtaken=None):
+        turn = self.turn
+        overtaken = overtaken or (lambda: self.dead or self.turn != turn)
+        if self.current < 0:
+            return
+        bit = mask(self.entries[self.current][1])
+        marked = self.marks[self.current]
+        self["OutputValue"] = self["OutputValue"] | bit if marked else self["OutputValue"] & ~bit
+        self.emit("OutputValueChange")
+        if not overtaken():
+            self["DataModified"] = self["OutputValue"] != self.reference
+            if self["DataModified"]:
+                self.emit("DataModifiedSetTrue")
+        self.colors()
+        self.emit("ListClick")
+
+    def assign(self, value, overtaken):
+        self["OutputValue"] = value
+        self.emit("OutputValueChange")
+        return not overtaken()
+
+    def put_DeviceValue(self):
+        overtaken = self.newer()
+        self.reference = self["OutputValue"] = self["DeviceValue"]
+        self.mark(self.reference, overtaken)
+        if not overtaken() and self.assign(self.reference, overtaken):
+            self["DataModified"] = False
+            self.colors()
+            self.status()
+
+    def put_ModifiedValue(self):
+        overtaken, value = self.newer(), self["ModifiedValue"]
+        self.mark(value, overtaken)
+        if not overtaken() and self.assign(value, overtaken):
+            self["DataModified"] = self["OutputValue"] != self.reference
+            self.colors()
+            self.status()
+
+    def undo(self):
+        if self["DataModified"]:
+            overtaken = self.newer()
+            self.mark(self.reference, overtaken)
+            if not overtaken() and self.assign(self.reference, overtaken):
+                self["DataModified"] = False
+                self.colors()
+
+    # --- The operator
+
+    def at(self, widget):
+        if widget != "lst_ListBox":
+            return super().at(widget)
+        return (450, 120 + 270 * max(self.current, 0)) if self.entries else (0, 0)
+
+    def do_do(self, widget, action, *arguments):
+        if action == "toggle" and not 0 <= arguments[0] < len(self.entries):
+            return self.out.append("error 9")
+        return super().do_do(widget, action, *arguments)
+
+    def toggle(self, widget, index):
+        self.point = 135, 120 + 270 * index
+        if self.press(widget) and index < len(self.entries):
+            self.switch(index)
+
+    def switch(self, index):
+        if not self.locked():
+            self.marks[index] = not self.marks[index]
+            self.current = index
+            self.clicked_entry()
+        else:
+            self.mark(self["OutputValue"])
+
+    def clicked(self, widget):
+        if widget != "lst_ListBox":
+            super().clicked(widget)
+        elif self.entries:
+            self.go(max(self.current, 0))
+
+    def go(self, index):
+        self.current = index
+        if self.locked():
+            self.mark(self["OutputValue"])
+        else:
+            self.clicked_entry()
+
+    def struck(self, widget, code):
+        last = len(self.entries) - 1
+        to = {40: min(self.current + 1, last), 38: max(self.current - 1, 0), 36: 0, 35: last}.get(code, self.current)
+        if code == 32 and self.current >= 0:
+            self.switch(self.current)
+        elif last >= 0 and to != self.current:
+            self.go(to)
+
+    def random_do(self, random):
+        step = super().random_do(random)
+        # A list that has to scroll is clicked elsewhere on every platform.
+        scrolls = self["lst_ListBox.Height"] < 120 + 270 * len(self.entries) or self["lst_ListBox.Width"] < 700
+        return ("do", "lst_ListBox", "key", 32) if scrolls and step[1] == "lst_ListBox" and step[2] != "blur" else step
+
+    def arguments(self, random, widget, action):
+        if action == "toggle":
+            return (random.randrange(len(self.entries)) if self.entries else 0,)
+        return super().arguments(random, widget, action)
+
+
+CONTROLS = {"combo_box": ComboBox, "list_box": ListBox}

@@ -1,0 +1,252 @@
+"""Check box and option button."""
+
+from choice import FIVE, HEAD, LOOKS, PLACE, RAISED, TAIL, Choice, mask
+from values import names
+
+
+class Toggle(Choice):
+    """What check box and option button have in common."""
+
+    KEYS, MESSAGES = (32, 32, 112), FIVE
+    LINE, ICON = 330, 25
+
+    def paint(self, colour):
+        self.layout()
+
+    def look(self, name):
+        return self.s[self.FACE + ".Caption"] if name == self.CAPTION else super().look(name)
+
+    def put_caption(self):
+        self[self.FACE + ".Caption"] = self[self.CAPTION]
+        self.layout()
+
+    def loaded(self):
+        self[self.FACE + ".Caption"] = self[self.CAPTION]
+        super().loaded()
+
+    def layout(self):
+        face, height = self.FACE, self["Surface.Height"]
+        self[face + ".Width"] = self.form.caption(self[face + ".Caption"], self[face + ".FontBold"]) + 330
+        self["img_State.Left"] = self[face + ".Left"] + self[face + ".Width"] + 100
+        self[face + ".Top"] = round((height - self.LINE) / 2) if height >= self.LINE else 0
+        self["img_State.Top"] = self[face + ".Top"] + self.ICON if height >= self.LINE else 25
+
+    def click(self, widget):
+        if widget != self.FACE:
+            super().click(widget)
+        elif self.press(widget):
+            self.push()
+
+    def dblclick(self, widget):
+        super().dblclick(widget)
+        if widget == self.FACE and self.hears(widget):
+            self.push()
+
+    def toggle(self, widget):
+        self.click(widget)
+
+    choose = toggle
+
+    def struck(self, widget, code):
+        if code == 32:
+            self.push()
+
+
+class CheckBox(Toggle):
+    CLASS, FACE, SHOWN, CAPTION = "ctx_ZorCheckBox", "chk_CheckBox", ("chk_CheckBox",), "CheckBoxCaption"
+    STORED = "CFail " + HEAD + TAIL + " CheckBoxCaption BitFieldEntryIndex"
+    RUNTIME = "MessageHeader ModifiedValue OtherUserValue CheckBoxValue"
+    DERIVED = ("OutputValue", "CheckBoxValue")
+    DEFAULTS, FRESH = {"CheckBoxCaption": "check"}, {"CheckBoxCaption": "Check1"}
+    EVENTS = RAISED + "DataModifiedReset CheckClick CheckDblClick CheckGotFocus CheckKeyDown CheckKeyPress CheckKeyUp" \
+                      " CheckLostFocus CheckMouseDown CheckMouseUp"
+    PREFIX = {"chk_CheckBox": "Check", "img_State": "img"}
+    AT = {"chk_CheckBox": (120, 165)}
+    COLOURED, MENU_OVER = ("Surface", "chk_CheckBox"), ("Surface", "chk_CheckBox")
+    WIDGETS = {"chk_CheckBox": LOOKS + " Caption Value", "img_State": PLACE + " Picture", "Surface": "Width Height BackColor"}
+    ACTIONS = {"chk_CheckBox": "toggle toggle toggle focus blur key key click dblclick rightclick",
+               "img_State": "click dblclick", "Surface": "click rightclick rightclick", "mnu_Edit": "choose choose"}
+    VALUES = {**Choice.VALUES, **names("DeviceValue ModifiedValue", (0, 1, 8, 9, -1, 6)), "OtherUserValue": (True, False),
+              "BitFieldEntryIndex": (0, 0, 3, 30, -1, 31)}
+    put_CheckBoxCaption = Toggle.put_caption
+
+    def created(self):
+        super().created()
+        self.was, self["OtherUserValue"] = False, False
+
+    def look(self, name):
+        return bool(self["chk_CheckBox.Value"]) if name == "CheckBoxValue" else super().look(name)
+
+    def reference_text(self):
+        return self.was
+
+    def mask(self):
+        return mask(self["BitFieldEntryIndex"])
+
+    def show(self, on, overtaken):
+        if self["chk_CheckBox.Value"] != int(on):
+            self["chk_CheckBox.Value"] = int(on)
+            self.changed(overtaken)
+
+    def changed(self, overtaken=None):
+        turn = self.turn
+        overtaken = overtaken or (lambda: self.dead or self.turn != turn)
+        on = bool(self["chk_CheckBox.Value"])
+        self["DataModified"] = on != self.was
+        if self.locked():
+            return
+        self.emit("DataModifiedSetTrue" if on != self.was else "DataModifiedReset")
+        if not overtaken():
+            self["OutputValue"] = self["OutputValue"] | self.mask() if on else self["OutputValue"] & ~self.mask()
+            self.emit("OutputValueChange")
+        self.colors()
+        self.emit("CheckClick")
+
+    def push(self):
+        self["chk_CheckBox.Value"] = int(self.was) if self.locked() else 1 - self["chk_CheckBox.Value"]
+        if not self.locked():
+            self.changed()
+
+    def put_DeviceValue(self):
+        overtaken = self.newer()
+        self.was = bool(self["DeviceValue"] & self.mask())
+        self.show(self.was, overtaken)
+        if overtaken():
+            return
+        self["OutputValue"] = self["DeviceValue"]
+        self.emit("OutputValueChange")
+        if not overtaken():
+            self["DataModified"] = False
+            self.colors()
+            self.status()
+
+    def put_ModifiedValue(self):
+        overtaken, value = self.newer(), self["ModifiedValue"]
+        self.show(bool(value & self.mask()), overtaken)
+        if self.locked():
+            self["DataModified"] = bool(self["chk_CheckBox.Value"]) != self.was
+        if not overtaken():
+            self["OutputValue"] = value
+            self.emit("OutputValueChange")
+            self.colors()
+            self.status()
+
+    def undo(self):
+        if self["DataModified"]:
+            overtaken = self.newer()
+            if self["chk_CheckBox.Value"] == int(self.was):
+                self.changed(overtaken)
+            else:
+                self.show(self.was, overtaken)
+            if not overtaken():
+                self["OutputValue"] = self["DeviceValue"]
+                self.emit("OutputValueChange")
+                self.colors()
+
+
+class OptionButton(Toggle):
+    CLASS, FACE, SHOWN, CAPTION = "ctx_ZorOptionButton", "opt_OptionButton", ("opt_OptionButton",), "OptionButtonCaption"
+    STORED = "CFail " + HEAD + TAIL + " OptionButtonCaption EnumEntryValue"
+    RUNTIME = "MessageHeader ModifiedValue OtherUserValue EnumValue OptionButtonValue"
+    DERIVED, ALWAYS = ("OutputValue",), ("EnumEntryValue",)
+    DEFAULTS = {"OptionButtonCaption": "option"}
+    OWN_SILENT = ("OptionButtonValue",)
+    EVENTS = RAISED + "OptionClick OptionDblClick OptionGotFocus OptionKeyDown OptionKeyPress OptionKeyUp OptionLostFocus" \
+                      " OptionMouseDown OptionMouseUp OptionValidate"
+    PREFIX = {"opt_OptionButton": "Option", "img_State": "img"}
+    AT = {"opt_OptionButton": (120, 157.5)}
+    COLOURED, MENU_OVER = ("Surface", "opt_OptionButton"), ("Surface", "opt_OptionButton")
+    WIDGETS = {"opt_OptionButton": LOOKS + " Caption Value", "img_State": PLACE + " Picture",
+               "Surface": "Width Height BackColor"}
+    ACTIONS = {"opt_OptionButton": "choose choose choose focus blur key key click dblclick rightclick",
+               "img_State": "click dblclick", "Surface": "click rightclick rightclick", "mnu_Edit": "choose choose"}
+    OFTEN = (*Choice.OFTEN, "EnumValue", "EnumEntryValue")
+    LINE, ICON = 315, 20
+    put_OptionButtonCaption = Toggle.put_caption
+
+    def created(self):
+        super().created()
+        self["opt_OptionButton.Value"], self["EnumValue"], self.stood_for = False, 0, 0
+        self.armed = False
+
+    def look(self, name):
+        return self["opt_OptionButton.Value"] if name == "OptionButtonValue" else super().look(name)
+
+    def show(self, value, overtaken):
+        """A value comes: selected or not, and a click where the button becomes selected, or stands for something else."""
+        on = value == self["EnumEntryValue"]
+        fresh = on and (not self["opt_OptionButton.Value"] or self.stood_for != self["EnumEntryValue"])
+        self["opt_OptionButton.Value"], self.stood_for = on, self["EnumEntryValue"]
+        return fresh
+
+    def put_EnumEntryValue(self):
+        pass
+
+    def clicked_button(self, overtaken=None):
+        turn = self.turn
+        overtaken = overtaken or (lambda: self.dead or self.turn != turn)
+        self["OutputValue"] = self["EnumEntryValue"] if self["opt_OptionButton.Value"] else self["EnumValue"]
+        self["DataModified"] = self["OutputValue"] != self.reference
+        if self["DataModified"]:
+            self.emit("DataModifiedSetTrue")
+        self.colors()
+        self.emit("OptionClick")
+        if not overtaken() and self["opt_OptionButton.Value"]:
+            self.emit("OutputValueChange")
+
+    def apply(self):
+        overtaken, self.armed = self.newer(), True
+        self.reference = self["DeviceValue"]
+        was, kept = self["opt_OptionButton.Value"], self["DataModified"]
+        fresh = self.show(self["EnumValue"], overtaken)
+        self["DataModified"], self["OutputValue"] = False, self["EnumValue"]
+        if was and self["opt_OptionButton.Value"] and not fresh:
+            self["DataModified"] = kept and self["OutputValue"] != self.reference
+        self.status()
+        self.colors()
+        if fresh and self.may_click():
+            self.clicked_button(overtaken)
+
+    def may_click(self):
+        """A button that was read back has its first click swallowed, and arms itself by it."""
+        was, self.armed = self.armed, True
+        return was and (not self.locked() or self["EnumEntryValue"] == self["DeviceValue"])
+
+    def put_DeviceValue(self):
+        self["EnumValue"] = self["DeviceValue"]
+        self.apply()
+
+    def put_EnumValue(self):
+        self.apply()
+
+    def put_ModifiedValue(self):
+        overtaken, value, self.armed = self.newer(), self["ModifiedValue"], True
+        fresh = self.show(value, overtaken)
+        if not self["opt_OptionButton.Value"]:
+            self["DataModified"] = False
+        self["OutputValue"] = value
+        self.status()
+        self.colors()
+        if fresh and self.may_click():
+            self.clicked_button(overtaken)
+
+    def undo(self):
+        overtaken = self.newer()
+        on = self.reference == self["EnumEntryValue"]
+        fresh, self["opt_OptionButton.Value"] = on and not self["opt_OptionButton.Value"], on
+        self["OutputValue"], self["DataModified"] = self["DeviceValue"], False
+        self.colors()
+        if fresh and self.may_click():
+            self.clicked_button(overtaken)
+
+    def push(self):
+        if self["opt_OptionButton.Value"]:
+            return
+        self["opt_OptionButton.Value"], armed = True, self.armed
+        if self.may_click():
+            self.clicked_button()
+        elif armed:
+            self["opt_OptionButton.Value"] = self["OutputValue"] == self["EnumEntryValue"]
+
+
+CONTROLS = {"check_box": CheckBox, "option_button": OptionButton}
