@@ -61,8 +61,6 @@ NoValueVeil::NoValueVeil(QWidget& face) : QWidget(&face)
     setObjectName(kVeilName);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAccessibleName(tr("no value"));
-    // Of the program: those of a control tell its state.
-    setPalette(QApplication::palette());
     setFont(QApplication::font());
     face.installEventFilter(this);
     setGeometry(face.rect());
@@ -79,7 +77,9 @@ bool NoValueVeil::eventFilter(QObject* face, QEvent* event)
 void NoValueVeil::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    QColor line = palette().color(QPalette::WindowText);
+    // The colours of the program: those of a control tell its state.
+    const QPalette colours = QApplication::palette();
+    QColor line = colours.color(QPalette::WindowText);
     line.setAlpha(kStrength);
     painter.fillRect(rect(), QBrush(line, Qt::BDiagPattern));
     const QString words = tr("no value");
@@ -87,7 +87,8 @@ void NoValueVeil::paintEvent(QPaintEvent* /*event*/)
     place.moveCenter(rect().center());
     if (qobject_cast<QAbstractButton*>(parent()) != nullptr || !rect().contains(place))
         return;
-    painter.fillRect(place, palette().window());
+    painter.fillRect(place, colours.window());
+    painter.setPen(colours.color(QPalette::WindowText));
     painter.drawText(place, Qt::AlignCenter, words);
 }
 

@@ -118,7 +118,7 @@ void QtComboBox::paintColours()
 {
     QtEntryBase::paintColours();
     // Some styles paint a list without typed text like a button.
-    QPalette palette = widget().palette();
+    QPalette palette = paletteOf(backColour(), foreColour());
     const QColor back = toQColor(backColour());
     palette.setColor(QPalette::Button, back);
     // A button has shades of its colour, much lighter ones where that is dark: the text must be read on each.
@@ -130,7 +130,7 @@ void QtComboBox::paintColours()
         for (const auto group : {QPalette::Active, QPalette::Inactive})
             palette.setColor(group, role, fore);
     }
-    widget().setPalette(palette);
+    setColours(palette);
 }
 
 // --- List of check marks
@@ -279,10 +279,10 @@ QtListBox::QtListBox(const Context& context, int number) : QtEntryBase(context, 
 void QtListBox::paintColours()
 {
     QtEntryBase::paintColours();
-    QPalette palette = widget().palette();
+    QPalette palette = paletteOf(backColour(), foreColour());
     const QColor back = toQColor(backColour());
     palette.setColor(QPalette::Window, frameSource(readableOn(ButtonText, back), back));
-    widget().setPalette(palette);
+    setColours(palette);
     // The field has the colours, its scroll bars are the theme's.
     for (QScrollBar* bar : {widget().verticalScrollBar(), widget().horizontalScrollBar()})
         bar->setPalette(themePalette());

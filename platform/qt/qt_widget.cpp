@@ -91,8 +91,12 @@ void EventReports::after()
         break;
     }
     case QEvent::FontChange: m_widget.fontChanged(); break;
-    case QEvent::StyleChange:
-    case QEvent::ApplicationPaletteChange: m_widget.themeChanged(); break;
+    case QEvent::StyleChange: m_widget.themeChanged(); break;
+    // Of a change of theme windows alone are told; what they hold hears of it by the colours that it inherits.
+    case QEvent::PaletteChange:
+        if (!m_widget.isColouring)
+            m_widget.themeChanged();
+        break;
     default: break;
     }
 }

@@ -89,6 +89,8 @@ public:
     bool keepsFocus = false;
     /// True while the listener is asked whether the focus may go.
     bool validating = false;
+    /// True while the control gives the widget colours: that the palette changes by this is no change of theme.
+    bool isColouring = false;
 
 private:
     Context m_context;
@@ -192,7 +194,7 @@ private:
         case QEvent::MouseMove:
         case QEvent::FontChange:
         case QEvent::StyleChange:
-        case QEvent::ApplicationPaletteChange: return true;
+        case QEvent::PaletteChange: return true;
         default: return false;
         }
     }
@@ -300,8 +302,15 @@ protected:
     {
         QPalette palette;
         palette.setColor(QPalette::Window, toQColor(m_backColour));
-        m_widget->setPalette(palette);
+        setColours(palette);
         m_widget->setAutoFillBackground((m_backColour & kSystemColourBit) == 0);
+    }
+
+    void setColours(const QPalette& palette)
+    {
+        const bool before = std::exchange(isColouring, true);
+        m_widget->setPalette(palette);
+        isColouring = before;
     }
 
     /// Gives a widget that is made later what its kind is given at the beginning.
@@ -378,7 +387,7 @@ protected:
     }
     void paintColours() override
     {
-        this->widget().setPalette(paletteOf(this->backColour(), m_foreColour));
+        this->setColours(paletteOf(this->backColour(), m_foreColour));
         this->widget().setAutoFillBackground((this->backColour() & kSystemColourBit) == 0);
         holdAgainstStyleSheet(this->widget(), this->backColour(), m_foreColour);
     }

@@ -267,7 +267,7 @@ private:
     void paintColours() override
     {
         QtFontBase<Interface, Button>::paintColours();
-        QPalette palette = this->widget().palette();
+        QPalette palette = paletteOf(this->backColour(), this->foreColour());
         const QColor field = toQColor(WindowBackground);
         const QColor mark = readableOn(this->foreColour(), field);
         palette.setColor(QPalette::Base, field);
@@ -275,7 +275,7 @@ private:
             palette.setColor(group, QPalette::Text, mark);
         if ((this->backColour() & kSystemColourBit) != 0)
             palette.setColor(QPalette::Window, frameSource(readableOn(ButtonText, field), field));
-        this->widget().setPalette(palette);
+        this->setColours(palette);
     }
 
     std::string m_caption;

@@ -3,6 +3,7 @@
 
 #include <zor/controls/choice/combo_box/ctx_ZorComboBox.h>
 #include <zor/controls/choice/list_box/ctx_ZorListBox.h>
+#include <zor/controls/registration.h>
 #include <zor/platform/qt/looks.h>
 #include <zor/tests/qt/screen_fixture.h>
 
@@ -70,6 +71,52 @@ TEST_F(ChoiceTest, AFailureIsReadInEveryThemeAndState)
                 worst = std::min(worst, platform::qt::contrast(list.palette().color(QPalette::ButtonText), shade));
             }
             EXPECT_GE(worst, 4.5) << base.name().toStdString() << isModified;
+        }
+    }
+    QApplication::setPalette(before);
+}
+
+TEST_F(ChoiceTest, AThemeThatChangesWhileTheProgramRunsIsFollowed)
+{
+    core::ClassRegistry classes;
+    registerControls(classes);
+    const QPalette before = QApplication::palette();
+    QPalette dark(QColor(35, 38, 41), QColor(35, 38, 41));
+    dark.setColor(QPalette::Base, QColor(20, 22, 24));
+    const std::array entry{Variant("entry"), Variant(1)};
+    std::vector<core::ControlPtr<>> controls;
+    const auto picture = [&](std::size_t i) {
+        QWidget& surface = platform::qt::widgetOf(controls[i]->surface());
+        surface.move(static_cast<int>(i) * 5, 0);
+        return surface.grab().toImage();
+    };
+    const auto make = [&](const core::ClassInfo& info, bool fails) {
+        core::Control& control = *controls.emplace_back(info.create(container));
+        control.initialiseProperties();
+        control.CFail(fails);
+        for (const char* name : {"AddEnumEntry", "AddBitFieldEntry"}) {
+            if (const auto* add = info.method(name); add != nullptr && add->argumentCount == entry.size())
+                (void)control.call(name, entry);
+        }
+    };
+    for (const bool fails : {false, true}) {
+        for (const core::ClassInfo* info : classes.classes()) {
+            QApplication::setPalette(before);
+            make(*info, fails);
+            QApplication::processEvents();
+            (void)picture(controls.size() - 1);
+            QApplication::setPalette(dark);
+            QApplication::processEvents();
+            make(*info, fails);
+            QApplication::processEvents();
+            const QImage old = picture(controls.size() - 2);
+            const QImage fresh = picture(controls.size() - 1);
+            int worst = 0;
+            for (int at = 0; at < old.width() * old.height(); ++at) {
+                const QPoint pixel(at % old.width(), at / old.width());
+                worst = std::max(worst, std::abs(qGray(old.pixel(pixel)) - qGray(fresh.pixel(pixel))));
+            }
+            EXPECT_LE(worst, 3) << info->name << fails; // a style blends edges a little differently
         }
     }
     QApplication::setPalette(before);
