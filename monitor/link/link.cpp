@@ -36,7 +36,7 @@ void Link::connectTo(std::unique_ptr<Transport> transport, std::uint8_t unit)
 {
     m_transport->onFailure = [](Fault, const QString&) {};
     m_transport->close();
-    for (UnderWay& one : std::exchange(m_underWay, {}))
+    for (UnderWay& one : takeUnderWay())
         end(std::move(one), failed(Fault::ConnectionLost));
     for (Waiting& waiting : std::exchange(m_queue, {}))
         end({std::move(waiting)}, failed(Fault::ConnectionLost));
@@ -65,14 +65,13 @@ bool Link::mayStart() const
 {
     if (m_queue.empty())
         return false;
-    const std::size_t busy = m_underWay.size() + m_outcomes.size();
-    if (busy == 0)
+    if (busy() == 0)
         return true;
     const bool writes =
         isWrite(m_queue.front().request) ||
         std::ranges::any_of(m_underWay, [](const UnderWay& one) { return isWrite(one.waiting.request); });
-    return !writes && m_transport->isOpen() && m_transport->framing().numbered &&
-           busy < static_cast<std::size_t>(m_manners.underWay);
+    return !writes && m_answered.empty() && m_transport->isOpen() && m_transport->framing().numbered &&
+           busy() < static_cast<std::size_t>(m_manners.underWay);
 }
 
 int Link::quietFor() const
@@ -201,7 +200,7 @@ bool Link::takeFrame()
     frame.kind = Frame::Kind::Reply;
     frame.framing = &framing;
     frame.bytes.assign(m_received.begin(), end);
-    frame.milliseconds = static_cast<double>(one.clock.nsecsElapsed()) / 1e6;
+    frame.milliseconds = one.milliseconds = static_cast<double>(one.clock.nsecsElapsed()) / 1e6;
     frame.request = one.frame;
     frame.isFailure = reply.outcome != Outcome::Answered;
     m_frames.add(std::move(frame));
@@ -212,12 +211,23 @@ bool Link::takeFrame()
 
 // --- Outcomes
 
+std::deque<Link::UnderWay> Link::takeUnderWay()
+{
+    std::deque<UnderWay> all = std::exchange(m_underWay, {});
+    for (Answered& answered : std::exchange(m_answered, {}))
+        all.push_back(std::move(answered.one));
+    return all;
+}
+
 void Link::finish(std::size_t index, Reply reply)
 {
-    UnderWay one = std::move(m_underWay[index]);
+    m_answered.push_back({std::move(m_underWay[index]), std::move(reply)});
     m_underWay.erase(m_underWay.begin() + static_cast<std::ptrdiff_t>(index));
     watch();
-    end(std::move(one), std::move(reply));
+    if (!m_underWay.empty())
+        return;
+    for (Answered& answered : std::exchange(m_answered, {}))
+        end(std::move(answered.one), std::move(answered.reply));
 }
 
 void Link::fail(std::size_t index, Fault fault, const QString& words)
@@ -225,7 +235,7 @@ void Link::fail(std::size_t index, Fault fault, const QString& words)
     if (m_underWay.empty())
         return note(failed(fault, words.toStdString()), nullptr);
     const Framing& framing = m_transport->framing();
-    std::deque<UnderWay> all = std::exchange(m_underWay, {});
+    std::deque<UnderWay> all = takeUnderWay();
     watch();
     if (!framing.numbered && all[index].frame != nullptr) {
         m_suspicion = QDeadlineTimer(m_deadlineMilliseconds, Qt::PreciseTimer);
@@ -263,7 +273,8 @@ void Link::note(const Reply& reply, const FramePointer& request)
 void Link::end(UnderWay one, Reply reply)
 {
     const bool wasSent = one.frame != nullptr;
-    const double milliseconds = wasSent ? static_cast<double>(one.clock.nsecsElapsed()) / 1e6 : 0;
+    const double elapsed = wasSent ? static_cast<double>(one.clock.nsecsElapsed()) / 1e6 : 0;
+    const double milliseconds = one.milliseconds > 0 ? one.milliseconds : elapsed;
     reply.milliseconds = static_cast<int>(milliseconds);
     if (reply.outcome == Outcome::NoAnswer)
         reply.outcome = wasSent ? Outcome::NoAnswer : Outcome::NotSent;

@@ -35,13 +35,15 @@ struct Traffic {
 struct Manners {
     int pause = 0;    ///< milliseconds from the end of one frame to the next request
     int retries = 0;  ///< of a read without an answer
-    int underWay = 1; ///< reads at a time, where frames are numbered
+    int underWay = 1; ///< reads at a time, where frames are numbered; the next ones when all of these are answered
 };
 
 /// Never blocks, and never sends a write a second time: one without an answer stays unconfirmed until somebody
-/// reads back. Nothing else is under way while a write is. After a failure the connection is given up, so that
-/// nothing that comes late is ever taken for an answer to something else; the next request connects anew. Where
-/// frames have no numbers, the line is left alone for another deadline before the same unit is asked again.
+/// reads back. Nothing else is under way while a write is. Of several reads under way none is believed before the
+/// last has its reply and no byte is left: a reply that was cut short takes its end from the one behind it, and
+/// then they do not come out even. After a failure the connection is given up, so that nothing that comes late is
+/// ever taken for an answer to something else; the next request connects anew. Where frames have no numbers, the
+/// line is left alone for another deadline before the same unit is asked again.
 class Link : public QObject {
 public:
     using Done = std::function<void(const Reply&)>;
@@ -59,7 +61,7 @@ public:
         return m_transport->isOpen() ? std::optional(m_connection) : std::nullopt;
     }
     /// Requests that wait or are under way.
-    [[nodiscard]] std::size_t pending() const { return m_queue.size() + m_underWay.size() + m_outcomes.size(); }
+    [[nodiscard]] std::size_t pending() const { return m_queue.size() + busy(); }
     [[nodiscard]] int deadline() const { return m_deadlineMilliseconds; }
     void setDeadline(int milliseconds) { m_deadlineMilliseconds = milliseconds; }
     [[nodiscard]] const Manners& manners() const { return m_manners; }
@@ -89,13 +91,19 @@ private:
         std::uint16_t transaction = 0;
         QDeadlineTimer deadline{};
         QElapsedTimer clock{};
-        FramePointer frame{}; ///< none before it has left for the device
+        FramePointer frame{};    ///< none before it has left for the device
+        double milliseconds = 0; ///< until its reply came
+    };
+    struct Answered {
+        UnderWay one;
+        Reply reply;
     };
     struct Ended {
         Done done;
         Reply reply;
     };
 
+    [[nodiscard]] std::size_t busy() const { return m_underWay.size() + m_answered.size() + m_outcomes.size(); }
     void next();
     [[nodiscard]] bool mayStart() const;
     [[nodiscard]] int quietFor() const;
@@ -106,6 +114,7 @@ private:
     void receive();
     [[nodiscard]] bool takeFrame();
     void watch();
+    [[nodiscard]] std::deque<UnderWay> takeUnderWay();
     void finish(std::size_t index, Reply reply);
     void fail(std::size_t index, Fault fault, const QString& words = {});
     void end(UnderWay one, Reply reply);
@@ -117,6 +126,7 @@ private:
     Frames m_frames;
     std::deque<Waiting> m_queue;
     std::deque<UnderWay> m_underWay; ///< the earliest deadline first
+    std::deque<Answered> m_answered; ///< and not believed yet
     std::deque<Ended> m_outcomes;
     Bytes m_received;
     std::array<Traffic, 2> m_traffic;

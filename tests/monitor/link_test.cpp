@@ -97,6 +97,27 @@ TEST(TcpLink, SeveralReadsUnderWaySufferNoMoreFromAFaultThanOne)
     }
 }
 
+// A reply of one register has 11 bytes: one of six that lacks as many takes the whole next one for its end.
+TEST(TcpLink, ACutReplyIsNotTakenForAWholeOneWhateverComesBehindIt)
+{
+    tests::Peer peer;
+    TcpLink link("127.0.0.1", peer.serverPort(), 1, kDeadline);
+    link.setManners({0, 0, 2});
+    for (const int cut : {1, 10, 11}) {
+        (void)ask(link, kRead);
+        bool isFirst = true;
+        peer.answer = [&](QTcpSocket& socket, const QByteArray& reply) {
+            socket.write(reply.chopped(std::exchange(isFirst, false) ? cut : 0));
+        };
+        Reply cutOne;
+        link.send({Function::ReadHolding, 20, 6}, [&](const Reply& reply) { cutOne = reply; });
+        const Reply next = ask(link, {Function::ReadHolding, 10, 1});
+        EXPECT_TRUE(QTest::qWaitFor([&] { return link.pending() == 0; }, kPatience));
+        EXPECT_TRUE(cutOne.registers.empty() || cutOne.registers == (Registers{20, 21, 22, 23, 24, 25})) << cut;
+        EXPECT_TRUE(next.registers.empty() || next.registers == Registers{10}) << cut;
+    }
+}
+
 TEST(TcpLink, TakesRepliesInAnyOrderAndWritesAlone)
 {
     tests::Peer peer;
