@@ -1,5 +1,6 @@
 #include <zor/monitor/data/file_content.h>
 #include <zor/monitor/data/json_document.h>
+#include <zor/monitor/data/message.h>
 
 #include <QFile>
 
@@ -14,7 +15,7 @@ std::string contentOf(const std::string& name)
     // A device or a pipe has no size, and may never end.
     const QByteArray text = file.read(kLargest + 1);
     if (text.size() > kLargest)
-        throw FileError(name, 0, "larger than 16 MB");
+        throw FileError(name, 0, message(QT_TRANSLATE_NOOP("texts", "larger than 16 MB")));
     return text.toStdString();
 }
 

@@ -1,5 +1,7 @@
 #include <zor/monitor/data/json_document.h>
+#include <zor/monitor/data/message.h>
 
+#include <QtGlobal>
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
@@ -72,13 +74,13 @@ public:
     {
         auto& object = std::get<JsonNode::Object>(m_open.back()->value);
         if (std::ranges::find(object, name, &JsonMember::name) != object.end())
-            throw FileError(m_file, m_count.line, '"' + name + "\" stands twice");
+            fail(QT_TRANSLATE_NOOP("texts", "\"%1\" stands twice"), {name});
         m_key = std::move(name);
         return true;
     }
     bool parse_error(std::size_t /*position*/, const std::string& last, const nlohmann::json::exception& /*error*/)
     {
-        throw FileError(m_file, m_count.line, "this is not JSON, at \"" + last.substr(0, kShown) + '"');
+        fail(QT_TRANSLATE_NOOP("texts", "this is not JSON, at \"%1\""), {last.substr(0, kShown)});
     }
 
     JsonNode take() { return std::move(m_root); }
@@ -87,6 +89,10 @@ private:
     static constexpr std::size_t kShown = 40;
     using Value = decltype(JsonNode::value);
 
+    [[noreturn]] void fail(const char* english, std::initializer_list<std::string> parts = {}) const
+    {
+        throw FileError(m_file, m_count.line, message(english, parts));
+    }
     bool add(Value value)
     {
         place(std::move(value));
@@ -95,7 +101,7 @@ private:
     bool open(Value value)
     {
         if (m_open.size() >= kDeepest)
-            throw FileError(m_file, m_count.line, "nested too deeply");
+            fail(QT_TRANSLATE_NOOP("texts", "nested too deeply"));
         // A list grows only while its newest element is closed, so the pointers stay good.
         m_open.push_back(&place(std::move(value)));
         return true;

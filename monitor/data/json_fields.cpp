@@ -1,4 +1,5 @@
 #include <zor/monitor/data/json_fields.h>
+#include <zor/monitor/data/message.h>
 
 #include <algorithm>
 #include <cmath>
@@ -13,7 +14,10 @@ std::string joined(std::span<const std::string_view> names)
     return all;
 }
 
-void Value::fail(const std::string& reason) const { throw FileError(*m_file, m_node->line, reason); }
+void Value::fail(const char* english, std::initializer_list<std::string> parts) const
+{
+    throw FileError(*m_file, m_node->line, message(english, parts));
+}
 
 bool Value::isText() const { return std::holds_alternative<std::string>(m_node->value); }
 
@@ -21,21 +25,21 @@ const std::string& Value::text() const
 {
     if (const auto* text = std::get_if<std::string>(&m_node->value))
         return *text;
-    fail("a text is expected here");
+    fail(QT_TRANSLATE_NOOP("texts", "a text is expected here"));
 }
 
 bool Value::boolean() const
 {
     if (const auto* value = std::get_if<bool>(&m_node->value))
         return *value;
-    fail("true or false is expected here");
+    fail(QT_TRANSLATE_NOOP("texts", "true or false is expected here"));
 }
 
 double Value::number() const
 {
     const auto* value = std::get_if<double>(&m_node->value);
     if (value == nullptr || !std::isfinite(*value))
-        fail("a number is expected here");
+        fail(QT_TRANSLATE_NOOP("texts", "a number is expected here"));
     return *value;
 }
 
@@ -43,8 +47,8 @@ long long Value::integer(long long lowest, long long highest) const
 {
     const double value = number();
     if (value != std::floor(value) || value < static_cast<double>(lowest) || value > static_cast<double>(highest))
-        fail("a whole number from " + std::to_string(lowest) + " to " + std::to_string(highest) +
-             " is expected here");
+        fail(QT_TRANSLATE_NOOP("texts", "a whole number from %1 to %2 is expected here"),
+             {std::to_string(lowest), std::to_string(highest)});
     return static_cast<long long>(value);
 }
 
@@ -52,7 +56,7 @@ std::vector<Value> Value::array() const
 {
     const auto* array = std::get_if<JsonNode::Array>(&m_node->value);
     if (array == nullptr)
-        fail("a list is expected here");
+        fail(QT_TRANSLATE_NOOP("texts", "a list is expected here"));
     std::vector<Value> values;
     for (const JsonNode& node : *array)
         values.emplace_back(node, *m_file);
@@ -63,7 +67,7 @@ Fields Value::object() const
 {
     const auto* object = std::get_if<JsonNode::Object>(&m_node->value);
     if (object == nullptr)
-        fail("an object is expected here");
+        fail(QT_TRANSLATE_NOOP("texts", "an object is expected here"));
     return {*this, *object, *m_file};
 }
 
@@ -71,7 +75,7 @@ Value Fields::need(std::string_view name)
 {
     if (auto value = take(name))
         return *value;
-    m_owner.fail('"' + std::string(name) + "\" is missing");
+    m_owner.fail(QT_TRANSLATE_NOOP("texts", "\"%1\" is missing"), {std::string(name)});
 }
 
 std::optional<Value> Fields::take(std::string_view name)
@@ -85,7 +89,7 @@ void Fields::finish() const
 {
     for (const auto& [name, node] : *m_members) {
         if (!m_taken.contains(name))
-            Value(node, *m_file).fail('"' + name + "\" is not known here");
+            Value(node, *m_file).fail(QT_TRANSLATE_NOOP("texts", "\"%1\" is not known here"), {name});
     }
 }
 

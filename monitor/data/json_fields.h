@@ -4,6 +4,9 @@
 
 #include <zor/monitor/data/json_document.h>
 
+#include <QtGlobal>
+
+#include <initializer_list>
 #include <optional>
 #include <set>
 #include <span>
@@ -24,7 +27,8 @@ public:
     Value(const JsonNode& node, const std::string& file) : m_node(&node), m_file(&file) {}
 
     [[nodiscard]] int line() const { return m_node->line; }
-    [[noreturn]] void fail(const std::string& reason) const;
+    /// As message() does; the error names the line.
+    [[noreturn]] void fail(const char* english, std::initializer_list<std::string> parts = {}) const;
 
     [[nodiscard]] bool isText() const;
     [[nodiscard]] const std::string& text() const;

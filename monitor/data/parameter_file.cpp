@@ -27,7 +27,7 @@ LocalText readText(const Value& value)
     }
     fields.finish();
     if (texts.empty())
-        value.fail("a text has at least one language");
+        value.fail(QT_TRANSLATE_NOOP("texts", "a text has at least one language"));
     return LocalText(std::move(texts));
 }
 
@@ -36,7 +36,7 @@ Enum readName(const Value& value, std::span<const std::string_view> names)
 {
     const auto at = std::ranges::find(names, value.text());
     if (at == names.end())
-        value.fail('"' + value.text() + "\" is none of " + joined(names));
+        value.fail(QT_TRANSLATE_NOOP("texts", "\"%1\" is none of %2"), {value.text(), joined(names)});
     return static_cast<Enum>(at - names.begin());
 }
 
@@ -50,7 +50,7 @@ MEAS_TYPE readUnit(const Value& value)
     const auto* const row =
         std::ranges::find(units::kUnits, std::string_view(value.text()), &units::UnitRow::name);
     if (row == units::kUnits.end())
-        value.fail('"' + value.text() + "\" is no unit");
+        value.fail(QT_TRANSLATE_NOOP("texts", "\"%1\" is no unit"), {value.text()});
     return row->unit;
 }
 
@@ -74,19 +74,19 @@ Location readLocation(Fields& fields, std::optional<ValueType> fixed)
     const auto type = fixed ? fields.take("type") : std::optional(fields.need("type"));
     location.type = type ? readName<ValueType>(*type, valueTypeNames()) : *fixed;
     if (holdsBits(location.bank) && location.type != ValueType::Bit)
-        type.value_or(address).fail("a coil or a discrete input is of the type bit");
+        type.value_or(address).fail(QT_TRANSLATE_NOOP("texts", "a coil or a discrete input is of the type bit"));
     location.registers = registersOf(location.type);
     if (location.type == ValueType::Text) {
         location.registers = static_cast<std::uint16_t>(fields.need("registers").integer(1, kMostWriteRegisters));
     } else if (const auto count = fields.take("registers")) {
         if (!fixed)
-            count->fail("only a text has a number of registers");
+            count->fail(QT_TRANSLATE_NOOP("texts", "only a text has a number of registers"));
         location.registers = static_cast<std::uint16_t>(count->integer(1, 4));
     }
     if (const auto order = fields.take("order"))
         location.order = readName<Order>(*order, orderNames());
     if (location.address + location.registers > kLastAddress + 1)
-        address.fail("the parameter reaches beyond address 65535");
+        address.fail(QT_TRANSLATE_NOOP("texts", "the parameter reaches beyond address 65535"));
     return location;
 }
 
@@ -99,12 +99,13 @@ std::vector<Entry> readEntries(const Value& list, std::string_view key, int lowe
         const Value number = fields.need(key);
         const auto integer = static_cast<std::int32_t>(number.integer(lowest, highest));
         if (!seen.insert(integer).second)
-            number.fail(std::string(key) + ' ' + std::to_string(integer) + " stands twice");
+            number.fail(QT_TRANSLATE_NOOP("texts", "%1 stands twice"),
+                        {std::string(key) + ' ' + std::to_string(integer)});
         entries.push_back({integer, readText(fields.need("text"))});
         fields.finish();
     }
     if (entries.empty())
-        list.fail("an empty list");
+        list.fail(QT_TRANSLATE_NOOP("texts", "an empty list"));
     return entries;
 }
 
@@ -137,7 +138,7 @@ Simulation readSimulation(const Value& value, ValueType type)
     if (const auto period = fields.take("period")) {
         simulation.period = period->number();
         if (!(simulation.period > 0))
-            period->fail("a period is longer than 0 seconds");
+            period->fail(QT_TRANSLATE_NOOP("texts", "a period is longer than 0 seconds"));
     }
     fields.finish();
     return simulation;
@@ -156,7 +157,7 @@ void readAppearance(Fields& fields, Parameter& parameter)
     if (const auto unit = fields.take("displayUnit")) {
         appearance.unit = readUnit(*unit);
         if (typeOf(appearance.unit) != parameter.unitType)
-            unit->fail("the unit shown is not of the type of the parameter's unit");
+            unit->fail(QT_TRANSLATE_NOOP("texts", "the unit shown is not of the type of the parameter's unit"));
     }
     if (const auto digits = fields.take("digits"))
         appearance.digits = static_cast<std::int16_t>(digits->integer(0, 15));
@@ -165,7 +166,7 @@ void readAppearance(Fields& fields, Parameter& parameter)
     if (const auto maximum = fields.take("maximum")) {
         appearance.maximum = maximum->number();
         if (appearance.minimum && *appearance.minimum > *appearance.maximum)
-            maximum->fail("the maximum is less than the minimum");
+            maximum->fail(QT_TRANSLATE_NOOP("texts", "the maximum is less than the minimum"));
     }
     if (const auto supported = fields.take("supported"))
         readSupported(*supported, appearance.supported);
@@ -179,7 +180,7 @@ Parameter readParameter(const Value& value)
     const Value tag = fields.need("tag");
     parameter.tag = tag.text();
     if (parameter.tag.empty())
-        tag.fail("a tag is not empty");
+        tag.fail(QT_TRANSLATE_NOOP("texts", "a tag is not empty"));
     Location& location = parameter.location = readLocation(fields, std::nullopt);
     const bool integer = isInteger(location.type);
     const bool number = integer || location.type == ValueType::Float32 || location.type == ValueType::Float64;
@@ -188,26 +189,29 @@ Parameter readParameter(const Value& value)
     if (const auto scale = fields.take("scale")) {
         parameter.scale = scale->number();
         if (!number || parameter.scale == 0)
-            scale->fail(number ? "a scale is not 0" : "only a number has a scale");
+            scale->fail(number ? QT_TRANSLATE_NOOP("texts", "a scale is not 0")
+                               : QT_TRANSLATE_NOOP("texts", "only a number has a scale"));
     }
     if (const auto unit = fields.take("unit")) {
         parameter.unit = readUnit(*unit);
         if (!number)
-            unit->fail("only a number has a unit");
+            unit->fail(QT_TRANSLATE_NOOP("texts", "only a number has a unit"));
     }
     parameter.unitType = typeOf(parameter.unit);
     if (const auto access = fields.take("access")) {
         parameter.writable = access->text() == "write";
         if (std::ranges::find(kAccesses, access->text()) == kAccesses.end())
-            access->fail('"' + access->text() + "\" is none of " + joined(kAccesses));
+            access->fail(QT_TRANSLATE_NOOP("texts", "\"%1\" is none of %2"), {access->text(), joined(kAccesses)});
         if (parameter.writable && isReadOnly(location.bank))
-            access->fail(holdsBits(location.bank) ? "a discrete input cannot be written"
-                                                  : "an input register cannot be written");
+            access->fail(holdsBits(location.bank)
+                             ? QT_TRANSLATE_NOOP("texts", "a discrete input cannot be written")
+                             : QT_TRANSLATE_NOOP("texts", "an input register cannot be written"));
     }
     const auto named = [&](std::string_view list, bool allowed) {
         auto taken = fields.take(list);
         if (taken && (!allowed || parameter.scale != 1 || parameter.unit != NoneU))
-            taken->fail("only an integer without scale and unit has " + std::string(list));
+            taken->fail(QT_TRANSLATE_NOOP("texts", "only an integer without scale and unit has %1"),
+                        {std::string(list)});
         return taken;
     };
     if (const auto entries = named("entries", integer || location.type == ValueType::Bit))
@@ -233,7 +237,7 @@ std::optional<Location> readIdentityPart(Fields& fields, std::string_view name, 
     const ValueType usual = name == "type" ? ValueType::Text : ValueType::UInt16;
     const Location location = readLocation(inner, usual);
     if (location.type != ValueType::Text && location.type != usual)
-        part->fail("what the device is comes as a text, its version also as uint16");
+        part->fail(QT_TRANSLATE_NOOP("texts", "what the device is comes as a text, its version also as uint16"));
     if (const auto simulated = inner.take("simulation"))
         simulation.text = simulated->text();
     inner.finish();
@@ -331,13 +335,13 @@ ParameterFile readParameterFile(std::string_view text, const std::string& name)
     for (const Value& value : fields.need("parameters").array()) {
         file.parameters.push_back(readParameter(value));
         if (!tags.insert(file.parameters.back().tag).second)
-            value.fail("the tag \"" + file.parameters.back().tag + "\" stands twice");
+            value.fail(QT_TRANSLATE_NOOP("texts", "the tag \"%1\" stands twice"), {file.parameters.back().tag});
         if (file.parameters.back().location.registers > file.requests.registers)
-            value.fail("the parameter is longer than a request may be");
+            value.fail(QT_TRANSLATE_NOOP("texts", "the parameter is longer than a request may be"));
     }
     fields.finish();
     if (file.parameters.empty())
-        whole.fail("no parameters");
+        whole.fail(QT_TRANSLATE_NOOP("texts", "no parameters"));
     return file;
 }
 

@@ -1,4 +1,5 @@
 #include <zor/monitor/data/codec.h>
+#include <zor/monitor/data/message.h>
 #include <zor/monitor/data/parameter_rules.h>
 
 #include <algorithm>
@@ -20,20 +21,21 @@ enum Kind : unsigned {
 
 struct ControlRow {
     std::string_view name;
-    unsigned kinds;         ///< those that it can show
-    std::string_view wants; ///< for the message
-    bool counts = false;    ///< in whole steps from limit to limit
+    unsigned kinds;      ///< those that it can show
+    const char* wants;   ///< for the message
+    bool counts = false; ///< in whole steps from limit to limit
 };
 
 constexpr std::array kControls{
-    ControlRow{"ctx_ZorTextBox", kNumber | kText | kChoice, "a number or a text"},
-    ControlRow{"ctx_ZorUpDown", kNumber, "a number", true},
-    ControlRow{"ctx_ZorSlider", kNumber, "a number", true},
-    ControlRow{"ctx_ZorComboBox", kChoice, "entries"},
-    ControlRow{"ctx_ZorOptionButton", kChoice, "entries"},
-    ControlRow{"ctx_ZorListBox", kBitField, "bits"},
-    ControlRow{"ctx_ZorCheckBox", kSingleBit, "a bit"},
-    ControlRow{"ctx_ZorImage", kBitField | kWord, "bits or an integer without scale and unit"},
+    ControlRow{"ctx_ZorTextBox", kNumber | kText | kChoice, QT_TRANSLATE_NOOP("texts", "a number or a text")},
+    ControlRow{"ctx_ZorUpDown", kNumber, QT_TRANSLATE_NOOP("texts", "a number"), true},
+    ControlRow{"ctx_ZorSlider", kNumber, QT_TRANSLATE_NOOP("texts", "a number"), true},
+    ControlRow{"ctx_ZorComboBox", kChoice, QT_TRANSLATE_NOOP("texts", "entries")},
+    ControlRow{"ctx_ZorOptionButton", kChoice, QT_TRANSLATE_NOOP("texts", "entries")},
+    ControlRow{"ctx_ZorListBox", kBitField, QT_TRANSLATE_NOOP("texts", "bits")},
+    ControlRow{"ctx_ZorCheckBox", kSingleBit, QT_TRANSLATE_NOOP("texts", "a bit")},
+    ControlRow{"ctx_ZorImage", kBitField | kWord,
+               QT_TRANSLATE_NOOP("texts", "bits or an integer without scale and unit")},
     ControlRow{"ctx_ZorLabel", kNumber | kText | kSingleBit | kChoice | kBitField, ""},
 };
 
@@ -59,14 +61,16 @@ void checkCounting(const Parameter& parameter, const Value& control)
     const Appearance& appearance = parameter.appearance;
     const std::string& name = appearance.control;
     if (!appearance.minimum || !appearance.maximum)
-        control.fail("a " + name + " needs a minimum and a maximum");
+        control.fail(QT_TRANSLATE_NOOP("texts", "a %1 needs a minimum and a maximum"), {name});
     const bool whole = isInteger(parameter.location.type) && isWhole(parameter.scale) &&
                        appearance.unit == parameter.unit && isWhole(*appearance.minimum) &&
                        isWhole(*appearance.maximum);
     if (!whole)
-        control.fail("a " + name + " shows whole numbers only, without another unit than the device's");
+        control.fail(
+            QT_TRANSLATE_NOOP("texts", "a %1 shows whole numbers only, without another unit than the device's"),
+            {name});
     if (*appearance.minimum < INT32_MIN || *appearance.maximum > INT32_MAX)
-        control.fail("a " + name + " reaches from -2147483648 to 2147483647");
+        control.fail(QT_TRANSLATE_NOOP("texts", "a %1 reaches from -2147483648 to 2147483647"), {name});
 }
 
 void checkControl(const Parameter& parameter, const Value& control)
@@ -75,10 +79,11 @@ void checkControl(const Parameter& parameter, const Value& control)
     if (row == kControls.end()) {
         std::array<std::string_view, kControls.size()> names;
         std::ranges::transform(kControls, names.begin(), &ControlRow::name);
-        control.fail('"' + parameter.appearance.control + "\" is none of " + joined(names));
+        control.fail(QT_TRANSLATE_NOOP("texts", "\"%1\" is none of %2"),
+                     {parameter.appearance.control, joined(names)});
     }
     if ((row->kinds & kindsOf(parameter)) == 0)
-        control.fail("a " + std::string(row->name) + " needs " + std::string(row->wants));
+        control.fail(QT_TRANSLATE_NOOP("texts", "a %1 needs %2"), {std::string(row->name), message(row->wants)});
     if (row->counts)
         checkCounting(parameter, control);
 }
@@ -88,15 +93,16 @@ void checkNumbers(const Parameter& parameter, Fields& fields)
     const bool number = (kindsOf(parameter) & kNumber) != 0;
     const auto digits = fields.take("digits");
     if (digits && (!number || parameter.unit != NoneU))
-        digits->fail("only a number without a unit has digits; a unit brings its own");
+        digits->fail(QT_TRANSLATE_NOOP("texts", "only a number without a unit has digits; a unit brings its own"));
     for (const std::string_view name : {"minimum", "maximum"}) {
         const auto limit = fields.take(name);
         if (!limit)
             continue;
         if (!number)
-            limit->fail("only a number has limits");
+            limit->fail(QT_TRANSLATE_NOOP("texts", "only a number has limits"));
         if (encode(parameter, limit->number()).unfit != Unfit::No)
-            limit->fail("the parameter's type cannot hold its " + std::string(name));
+            limit->fail(QT_TRANSLATE_NOOP("texts", "the parameter's type cannot hold its %1"),
+                        {std::string(name)});
     }
 }
 
@@ -108,7 +114,8 @@ void checkEntries(const Parameter& parameter, const Value& list)
         const bool fits = parameter.location.type == ValueType::Bit ? value == 0 || value == 1
                                                                     : encode(parameter, value).unfit == Unfit::No;
         if (!fits)
-            values[i].fail("the parameter's type cannot hold the value " + std::to_string(value));
+            values[i].fail(QT_TRANSLATE_NOOP("texts", "the parameter's type cannot hold the value %1"),
+                           {std::to_string(value)});
     }
 }
 
@@ -117,7 +124,8 @@ void checkSupported(const Supported& supported, const Value& value)
     const auto commas = [](const std::string& list) { return std::ranges::count(list, ','); };
     for (const std::string* versions : {&supported.minVersions, &supported.maxVersions}) {
         if (!versions->empty() && commas(*versions) != commas(supported.types))
-            value.fail("the lists are of different length: each version belongs to the type at its place");
+            value.fail(QT_TRANSLATE_NOOP(
+                "texts", "the lists are of different length: each version belongs to the type at its place"));
     }
 }
 
@@ -136,7 +144,7 @@ void checkParameter(const Parameter& parameter, Fields& fields)
 {
     const auto bits = fields.take("bits");
     if (bits && !parameter.entries.empty())
-        bits->fail("a parameter has entries or bits, not both");
+        bits->fail(QT_TRANSLATE_NOOP("texts", "a parameter has entries or bits, not both"));
     if (const auto entries = fields.take("entries"))
         checkEntries(parameter, *entries);
     checkNumbers(parameter, fields);

@@ -1,4 +1,5 @@
 #include <zor/monitor/data/file_content.h>
+#include <zor/monitor/data/message.h>
 #include <zor/monitor/device/device.h>
 #include <zor/monitor/link/device_address.h>
 
@@ -44,7 +45,8 @@ QString Device::addressFor(const ParameterFile& file)
     m_simulated = file;
     m_simulator = std::make_unique<Simulator>(m_simulated);
     if (!m_simulator->start())
-        throw std::runtime_error("the simulated device: " + m_simulator->error().toStdString());
+        throw std::runtime_error(
+            message(QT_TRANSLATE_NOOP("texts", "the simulated device: %1"), {m_simulator->error().toStdString()}));
     return QString("tcp://127.0.0.1:%1").arg(m_simulator->port());
 }
 

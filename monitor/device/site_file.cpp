@@ -34,7 +34,7 @@ constexpr std::span<const FileRow> kWritten = std::span(kFiles).last<2>();
 QString textIn(const Value& value)
 {
     if (value.text().empty())
-        value.fail("an empty text");
+        value.fail(QT_TRANSLATE_NOOP("texts", "an empty text"));
     return QString::fromStdString(value.text());
 }
 
@@ -49,7 +49,7 @@ DeviceEntry readEntry(const Value& value, const QDir& folder)
     try {
         (void)openLink(entry.address == kSimulated ? "localhost" : entry.address, kLongest);
     } catch (const AddressError& error) {
-        address.fail(error.what());
+        address.fail("%1", {error.what()});
     }
     if (const auto name = fields.take("name"))
         entry.name = textIn(*name);
@@ -75,7 +75,7 @@ SiteFile readSiteFile(std::string_view text, const QString& name)
     fields.take("$schema");
     const Value format = fields.need("format");
     if (format.text() != kSiteFormat)
-        format.fail("a site file has the format \"" + std::string(kSiteFormat) + '"');
+        format.fail(QT_TRANSLATE_NOOP("texts", "a site file has the format \"%1\""), {std::string(kSiteFormat)});
     (void)fields.need("formatVersion").integer(kSiteVersion, kSiteVersion);
     SiteFile site;
     if (const auto title = fields.take("title"))
@@ -87,12 +87,12 @@ SiteFile readSiteFile(std::string_view text, const QString& name)
         for (const FileRow& row : kWritten) {
             const QString& file = site.devices.back().*row.member;
             if (!file.isEmpty() && !written.insert(file).second)
-                value.fail("\"" + std::string(row.name) + "\" is written by another device already");
+                value.fail(QT_TRANSLATE_NOOP("texts", "\"%1\" is written by another device already"), {row.name});
         }
     }
     fields.finish();
     if (site.devices.empty() || site.devices.size() > kMostDevices)
-        devices.fail("a site has 1 to " + std::to_string(kMostDevices) + " devices");
+        devices.fail(QT_TRANSLATE_NOOP("texts", "a site has 1 to %1 devices"), {std::to_string(kMostDevices)});
     return site;
 }
 

@@ -1,3 +1,4 @@
+#include <zor/monitor/data/message.h>
 #include <zor/monitor/link/device_address.h>
 #include <zor/monitor/link/rtu_link.h>
 #include <zor/monitor/link/tcp_link.h>
@@ -20,7 +21,7 @@ public:
     {
         for (const auto& [name, value] : QUrlQuery(query).queryItems()) {
             if (m_options.contains(name))
-                refuseAddress(address, '"' + name + "\" stands twice");
+                refuseAddress(address, QT_TRANSLATE_NOOP("texts", "\"%1\" stands twice"), {name.toStdString()});
             m_options.insert(name, value);
         }
     }
@@ -32,7 +33,8 @@ public:
         bool isNumber = false;
         const int value = m_options.take(name).toInt(&isNumber);
         if (!isNumber || value < lowest || value > highest)
-            refuseAddress(m_address, QString("%1 is a number from %2 to %3").arg(name).arg(lowest).arg(highest));
+            refuseAddress(m_address, QT_TRANSLATE_NOOP("texts", "%1 is a number from %2 to %3"),
+                          {name.toStdString(), std::to_string(lowest), std::to_string(highest)});
         return value;
     }
 
@@ -40,14 +42,16 @@ public:
     {
         const QString value = m_options.contains(name) ? m_options.take(name) : usual;
         if (!choices.contains(value))
-            refuseAddress(m_address, name + " is one of " + choices.keys().join(", "));
+            refuseAddress(m_address, QT_TRANSLATE_NOOP("texts", "%1 is one of %2"),
+                          {name.toStdString(), choices.keys().join(", ").toStdString()});
         return choices.value(value);
     }
 
     void finish() const
     {
         if (!m_options.isEmpty())
-            refuseAddress(m_address, '"' + m_options.firstKey() + "\" is not known here");
+            refuseAddress(m_address, QT_TRANSLATE_NOOP("texts", "\"%1\" is not known here"),
+                          {m_options.firstKey().toStdString()});
     }
 
 private:
@@ -62,7 +66,7 @@ Endpoint serialEndpoint(const QString& address)
     SerialSettings settings;
     settings.device = rest.section('?', 0, 0);
     if (settings.device.isEmpty())
-        refuseAddress(address, "a serial device is missing, as in rtu:/dev/ttyUSB0");
+        refuseAddress(address, QT_TRANSLATE_NOOP("texts", "a serial device is missing, as in rtu:/dev/ttyUSB0"));
     constexpr int kFastest = 4000000;
     settings.baud = options.number("baud", settings.baud, 50, kFastest);
     settings.parity = options.choice("parity", {{"none", 0}, {"even", 2}, {"odd", 3}}, "even");
@@ -77,7 +81,7 @@ Endpoint tcpEndpoint(const QString& address)
     const QUrl url(address.contains("://") ? address : "tcp://" + address, QUrl::StrictMode);
     if (!url.isValid() || url.scheme() != "tcp" || url.host().isEmpty() || !url.userInfo().isEmpty() ||
         (!url.path().isEmpty() && url.path() != "/") || url.hasFragment() || url.port(kUsualPort) == 0)
-        refuseAddress(address, "not a device; write tcp://HOST:PORT or rtu:DEVICE");
+        refuseAddress(address, QT_TRANSLATE_NOOP("texts", "not a device; write tcp://HOST:PORT or rtu:DEVICE"));
     Options options(address, url.query());
     const int unit = options.number("unit", 1, 0, kLastUnit);
     options.finish();
@@ -87,9 +91,9 @@ Endpoint tcpEndpoint(const QString& address)
 
 } // namespace
 
-void refuseAddress(const QString& address, const QString& reason)
+void refuseAddress(const QString& address, const char* english, std::initializer_list<std::string> parts)
 {
-    throw AddressError((address + ": " + reason).toStdString());
+    throw AddressError(address.toStdString() + ": " + message(english, parts));
 }
 
 Endpoint endpointOf(const QString& address)

@@ -4,6 +4,7 @@
 
 #include <zor/monitor/link/link.h>
 
+#include <initializer_list>
 #include <memory>
 #include <stdexcept>
 
@@ -15,8 +16,9 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Raises it, with the address in front of the reason.
-[[noreturn]] void refuseAddress(const QString& address, const QString& reason);
+/// Raises it, with the address in front of the reason, which is put together as message() does.
+[[noreturn]] void refuseAddress(const QString& address, const char* english,
+                                std::initializer_list<std::string> parts = {});
 
 /// Where a device is.
 struct Endpoint {

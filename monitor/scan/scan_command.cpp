@@ -1,5 +1,7 @@
+#include <zor/monitor/data/message.h>
 #include <zor/monitor/scan/scan_command.h>
 #include <zor/monitor/session/frame_file.h>
+#include <zor/monitor/ui/words.h>
 
 #include <QEventLoop>
 
@@ -54,19 +56,23 @@ int runScan(const ScanTask& task, const ParameterFile& file, std::ostream& out, 
         out << "  (" << hit.milliseconds << " ms)" << std::endl;
     };
     scanner.onTrouble = [&](const QString& address, const Reply& reply) {
-        errors << room << "zor-monitor: " << address.toStdString() << ": " << reply.reason << '\n'
-               << adviceOn(reply.fault, reply.exception) << std::endl;
+        errors << room << "zor-monitor: " << address.toStdString() << ": " << Words::reason(reply).toStdString()
+               << '\n'
+               << Words::advice(reply).toStdString() << std::endl;
     };
     scanner.onProgress = [&](int done, int total) {
         if (task.progress)
-            errors << room << done << " of " << total << std::flush;
+            errors << room
+                   << message(QT_TRANSLATE_NOOP("texts", "%1 of %2"),
+                              {std::to_string(done), std::to_string(total)})
+                   << std::flush;
     };
     scanner.onDone = [&] { loop.quit(); };
     scanner.start();
     loop.exec();
     errors << room;
     if (hits == 0)
-        errors << "zor-monitor: nothing answers" << std::endl;
+        errors << "zor-monitor: " << message(QT_TRANSLATE_NOOP("texts", "nothing answers")) << std::endl;
     if (frames && !frames->error().isEmpty()) {
         errors << "zor-monitor: " << task.frames << ": " << frames->error().toStdString() << std::endl;
         return 2;

@@ -18,7 +18,9 @@ std::vector<std::uint8_t> unitsOf(const QString& address, const QString& list)
         const int first = part.section('-', 0, 0).toInt(&isFirst);
         const int last = part.contains('-') ? part.section('-', 1).toInt(&isLast) : first;
         if (!isFirst || (part.contains('-') && !isLast) || first < 0 || first > last || last > UINT8_MAX)
-            refuseAddress(address, "unit is a list of numbers from 0 to 255 and ranges, as in 1-10,17");
+            refuseAddress(
+                address,
+                QT_TRANSLATE_NOOP("texts", "unit is a list of numbers from 0 to 255 and ranges, as in 1-10,17"));
         for (int unit = first; unit <= last; ++unit) {
             if (std::ranges::find(units, unit) == units.end())
                 units.push_back(static_cast<std::uint8_t>(unit));

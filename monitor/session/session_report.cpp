@@ -1,5 +1,6 @@
 // What a session tells people: the record, and the report at its end.
 
+#include <zor/monitor/data/message.h>
 #include <zor/monitor/session/session.h>
 #include <zor/monitor/session/value_texts.h>
 #include <zor/units/mod_Common.h>
@@ -11,11 +12,16 @@ namespace zor::monitor {
 namespace {
 
 // In the order of ReadOutcome.
-constexpr std::array<std::string_view, 6> kReadWords{"live",    "not available", "busy", "communication failure",
-                                                     "waiting", "no value"};
+constexpr std::array<std::string_view, 6> kReadWords{
+    QT_TRANSLATE_NOOP("texts", "live"),    QT_TRANSLATE_NOOP("texts", "not available"),
+    QT_TRANSLATE_NOOP("texts", "busy"),    QT_TRANSLATE_NOOP("texts", "communication failure"),
+    QT_TRANSLATE_NOOP("texts", "waiting"), QT_TRANSLATE_NOOP("texts", "no value")};
 // In the order of WriteOutcome.
-constexpr std::array<std::string_view, 7> kWriteWords{"written", "refused",       "not sent", "unconfirmed",
-                                                      "differs", "not read back", "overtaken"};
+constexpr std::array<std::string_view, 7> kWriteWords{
+    QT_TRANSLATE_NOOP("texts", "written"),  QT_TRANSLATE_NOOP("texts", "refused"),
+    QT_TRANSLATE_NOOP("texts", "not sent"), QT_TRANSLATE_NOOP("texts", "unconfirmed"),
+    QT_TRANSLATE_NOOP("texts", "differs"),  QT_TRANSLATE_NOOP("texts", "not read back"),
+    QT_TRANSLATE_NOOP("texts", "overtaken")};
 
 std::string withReason(std::string_view word, const std::string& reason)
 {
@@ -64,7 +70,9 @@ std::string Session::report() const
         lines.append(row.tag).append("  ").append(value.text);
         lines.append(label.empty() ? "" : " ").append(label).append("  ");
         const bool read = m_states[i].readAt >= 0 || m_states[i].outcome == ReadOutcome::NoAnswer;
-        lines.append(read ? kReadWords[static_cast<std::size_t>(m_states[i].outcome)] : "not read").append("\n");
+        const std::string_view state = read ? kReadWords[static_cast<std::size_t>(m_states[i].outcome)]
+                                            : QT_TRANSLATE_NOOP("texts", "not read");
+        lines.append(message(state.data())).append("\n");
     }
     return lines;
 }

@@ -12,19 +12,22 @@ namespace zor::monitor {
 namespace {
 
 // In the order of Verdict.
-constexpr std::array<std::string_view, 6> kVerdicts{"same",          "different",    "missing here",
-                                                    "missing there", "not writable", "unfit"};
+constexpr std::array<std::string_view, 6> kVerdicts{
+    QT_TRANSLATE_NOOP("texts", "same"),         QT_TRANSLATE_NOOP("texts", "different"),
+    QT_TRANSLATE_NOOP("texts", "missing here"), QT_TRANSLATE_NOOP("texts", "missing there"),
+    QT_TRANSLATE_NOOP("texts", "not writable"), QT_TRANSLATE_NOOP("texts", "unfit")};
 // In the order of Problem.
-constexpr std::array<std::string_view, 10> kUnfitReasons{"",
-                                                         "not a value of this parameter",
-                                                         "not a number in a unit of this parameter",
-                                                         "beyond what the device can hold",
-                                                         "outside the limits",
-                                                         "too long",
-                                                         "characters that the device does not have",
-                                                         "can only be read",
-                                                         "not read",
-                                                         "two different values"};
+constexpr std::array<std::string_view, 10> kUnfitReasons{
+    "",
+    QT_TRANSLATE_NOOP("texts", "not a value of this parameter"),
+    QT_TRANSLATE_NOOP("texts", "not a number in a unit of this parameter"),
+    QT_TRANSLATE_NOOP("texts", "beyond what the device can hold"),
+    QT_TRANSLATE_NOOP("texts", "outside the limits"),
+    QT_TRANSLATE_NOOP("texts", "too long"),
+    QT_TRANSLATE_NOOP("texts", "characters that the device does not have"),
+    QT_TRANSLATE_NOOP("texts", "can only be read"),
+    QT_TRANSLATE_NOOP("texts", "not read"),
+    QT_TRANSLATE_NOOP("texts", "two different values")};
 
 /// What decides whether two values are the same: of a single bit only that bit, of all others all of it.
 bool holdSame(const Parameter& parameter, const Registers& one, const Registers& other)

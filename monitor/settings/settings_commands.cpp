@@ -1,6 +1,8 @@
+#include <zor/monitor/data/message.h>
 #include <zor/monitor/settings/comparison.h>
 #include <zor/monitor/settings/settings_commands.h>
 #include <zor/monitor/settings/survey.h>
+#include <zor/monitor/ui/words.h>
 #include <zor/units/mod_Common.h>
 
 #include <QCoreApplication>
@@ -15,7 +17,6 @@ namespace zor::monitor {
 namespace {
 
 constexpr int kSilent = 3; ///< exit status of a comparison without a device
-constexpr const char* kLanguage = "en";
 
 /// A text of a device or a file must not steer a terminal.
 std::string printable(std::string_view text)
@@ -35,35 +36,35 @@ std::string printable(std::string_view text)
 
 std::string withUnit(const std::string& text, MEAS_TYPE unit)
 {
-    const std::string_view label = fc_GetUnitLabel(unit);
-    if (text.empty())
-        return "-";
-    return printable(text) + (label.empty() || text == "?" ? "" : ' ' + std::string(label));
+    return text.empty() ? "-" : printable(Words::value(text, unit).toStdString());
 }
 
 void warn(const Comparison& comparison, const SettingsFile& file, const Held& held, std::ostream& out)
 {
     if (comparison.otherType)
-        out << "warning: saved from a device of type " << printable(file.deviceType) << ", compared with "
-            << printable(held.deviceType) << '\n';
+        out << message(QT_TRANSLATE_NOOP("texts", "warning: saved from a device of type %1, compared with %2"),
+                       {printable(file.deviceType), printable(held.deviceType)})
+            << '\n';
     if (comparison.otherVersion)
-        out << "warning: saved from version " << printable(file.deviceVersion) << ", compared with "
-            << printable(held.deviceVersion) << '\n';
+        out << message(QT_TRANSLATE_NOOP("texts", "warning: saved from version %1, compared with %2"),
+                       {printable(file.deviceVersion), printable(held.deviceVersion)})
+            << '\n';
 }
 
 void printCounts(const Comparison& comparison, std::ostream& out)
 {
     const auto names = verdictNames();
     for (std::size_t i = 0; i < names.size(); ++i)
-        out << (i == 0 ? "" : ", ") << comparison.count(static_cast<Verdict>(i)) << ' ' << names[i];
+        out << (i == 0 ? "" : ", ") << comparison.count(static_cast<Verdict>(i)) << ' '
+            << message(names[i].data());
     out << '\n';
 }
 
 std::string remark(const Compared& row)
 {
     const std::string_view reason = reasonOf(row.problem);
-    const std::string name(verdictNames()[static_cast<std::size_t>(row.verdict)]);
-    return reason.empty() || row.verdict == Verdict::NotWritable ? name : name + ": " + std::string(reason);
+    const std::string name = message(verdictNames()[static_cast<std::size_t>(row.verdict)].data());
+    return reason.empty() || row.verdict == Verdict::NotWritable ? name : name + ": " + message(reason.data());
 }
 
 void printText(const Comparison& comparison, std::ostream& out)
@@ -115,10 +116,11 @@ int tell(const Comparison& comparison, const SettingsFile& file, const Held& hel
 int noAnswer(Session& session, std::ostream& errors, int status)
 {
     const Reply& failure = session.poller().failure();
-    errors << "zor-monitor: the device did not answer" << (failure.reason.empty() ? "" : ": ") << failure.reason
-           << '\n';
-    if (const std::string_view advice = adviceOn(failure.fault, failure.exception); !advice.empty())
-        errors << advice << '\n';
+    const QString reason = Words::reason(failure);
+    const QString advice = Words::advice(failure);
+    errors << "zor-monitor: " << message(QT_TRANSLATE_NOOP("texts", "the device did not answer"))
+           << (reason.isEmpty() ? "" : ": ") << reason.toStdString() << '\n'
+           << advice.toStdString() << (advice.isEmpty() ? "" : "\n");
     return status;
 }
 
@@ -132,13 +134,16 @@ int save(Session& session, const SettingsTask& task, std::ostream& out, std::ost
         return noAnswer(session, errors, 1);
     const SettingsFile file = settingsOf(session);
     if (file.settings.empty()) {
-        errors << "zor-monitor: the device has none of the parameters that can be written\n";
+        errors << "zor-monitor: "
+               << message(QT_TRANSLATE_NOOP("texts", "the device has none of the parameters that can be written"))
+               << '\n';
         return 1;
     }
     target.write(textOf(file));
     if (!target.commit())
         throw FileError(task.save, 0, target.errorString().toStdString());
-    out << file.settings.size() << " settings saved\n";
+    out << message(QT_TRANSLATE_NOOP("texts", "%1 settings saved"), {std::to_string(file.settings.size())})
+        << '\n';
     return 0;
 }
 
@@ -148,7 +153,9 @@ void printReview(const std::vector<Change>& changes, std::ostream& out)
         out << printable(change.tag) << "  " << withUnit(change.oldText, change.unit) << " -> "
             << withUnit(change.newText, change.unit);
         if (change.problem != Problem::None)
-            out << "  cannot be written: " << reasonOf(change.problem);
+            out << "  "
+                << message(QT_TRANSLATE_NOOP("texts", "cannot be written: %1"),
+                           {message(reasonOf(change.problem).data())});
         out << '\n';
     }
 }
@@ -158,8 +165,9 @@ void write(Session& session, const std::vector<Change>& changes, std::ostream& o
     QEventLoop loop;
     session.onWritten = [&](const std::vector<Written>& results) {
         for (const Written& one : results)
-            out << printable(one.change.tag) << "  " << nameOf(one.result.outcome)
-                << (one.result.reason.empty() ? "" : ": ") << one.result.reason << '\n';
+            out << printable(one.change.tag) << "  " << message(nameOf(one.result.outcome).data())
+                << (one.result.reason.empty() ? "" : ": ") << Words::reason(one.result.reason).toStdString()
+                << '\n';
         loop.quit();
     };
     // Where nothing can be written it ends at once, and the loop must not miss that.
@@ -175,19 +183,20 @@ int load(Session& session, const SettingsTask& task, const SettingsFile& file, s
     if (!surveyAtOnce(session, parameters))
         return noAnswer(session, errors, 1);
     const Held held = heldBy(session);
-    const Comparison before = compare(session.file(), file, held, kLanguage);
+    const Comparison before = compare(session.file(), file, held, task.language);
     warn(before, file, held, errors);
-    const std::vector<Change> changes = changesOf(session.file(), before, kLanguage);
+    const std::vector<Change> changes = changesOf(session.file(), before, task.language);
     printReview(changes, out);
     if (!task.yes) {
-        errors << "zor-monitor: nothing has been written; with --yes it is\n";
+        errors << "zor-monitor: "
+               << message(QT_TRANSLATE_NOOP("texts", "nothing has been written; with --yes it is")) << '\n';
         return 2;
     }
     write(session, changes, out);
     // What was not confirmed may have been carried out all the same, and what was may have moved another value.
     if (!surveyAtOnce(session, parameters))
         return noAnswer(session, errors, 1);
-    const Comparison after = compare(session.file(), file, heldBy(session), kLanguage);
+    const Comparison after = compare(session.file(), file, heldBy(session), task.language);
     printText(after, out);
     return after.count(Verdict::Same) + after.count(Verdict::MissingThere) == after.rows.size() ? 0 : 1;
 }
@@ -198,7 +207,7 @@ int compareFiles(const ParameterFile& parameters, const SettingsTask& task, std:
 {
     const SettingsFile file = loadSettingsFile(task.compare);
     const Held other = heldBy(parameters, loadSettingsFile(task.against));
-    return tell(compare(parameters, file, other, kLanguage), file, other, task, out);
+    return tell(compare(parameters, file, other, task.language), file, other, task, out);
 }
 
 int runSettings(Session& session, const SettingsTask& task, std::ostream& out, std::ostream& errors)
@@ -211,7 +220,7 @@ int runSettings(Session& session, const SettingsTask& task, std::ostream& out, s
     if (!surveyAtOnce(session, concerned(session.file(), file)))
         return noAnswer(session, errors, kSilent);
     const Held held = heldBy(session);
-    return tell(compare(session.file(), file, held, kLanguage), file, held, task, out);
+    return tell(compare(session.file(), file, held, task.language), file, held, task, out);
 }
 
 } // namespace zor::monitor

@@ -10,12 +10,13 @@
 namespace zor::monitor {
 
 struct SettingsTask {
-    std::string save;    ///< a file, or empty
-    std::string load;    ///< a file, or empty
-    std::string compare; ///< a file, or empty
-    std::string against; ///< a file instead of the device
-    bool yes = false;    ///< loading writes
-    bool json = false;   ///< comparing prints JSON
+    std::string save;            ///< a file, or empty
+    std::string load;            ///< a file, or empty
+    std::string compare;         ///< a file, or empty
+    std::string against;         ///< a file instead of the device
+    bool yes = false;            ///< loading writes
+    bool json = false;           ///< comparing prints JSON, for which English must be in force
+    std::string language = "en"; ///< the one in force
 
     [[nodiscard]] bool isGiven() const { return !(save.empty() && load.empty() && compare.empty()); }
     [[nodiscard]] bool needsDevice() const { return against.empty(); }

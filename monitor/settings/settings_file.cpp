@@ -32,7 +32,8 @@ Registers readRegisters(const Value& list)
     for (const Value& one : list.array())
         registers.push_back(static_cast<std::uint16_t>(one.integer(0, kHighestRegister)));
     if (registers.empty() || registers.size() > kMostWriteRegisters)
-        list.fail("a parameter has 1 to " + std::to_string(kMostWriteRegisters) + " registers");
+        list.fail(QT_TRANSLATE_NOOP("texts", "a parameter has 1 to %1 registers"),
+                  {std::to_string(kMostWriteRegisters)});
     return registers;
 }
 
@@ -44,16 +45,16 @@ Setting readSetting(const Value& value)
     const Value tag = fields.need("tag");
     setting.tag = tag.text();
     if (setting.tag.empty())
-        tag.fail("a tag is not empty");
+        tag.fail(QT_TRANSLATE_NOOP("texts", "a tag is not empty"));
     const Value held = fields.need("value");
     setting.value = held.isText() ? Variant(held.text()) : Variant(held.number());
     if (const auto unit = fields.take("unit")) {
         const auto* const row =
             std::ranges::find(units::kUnits, std::string_view(unit->text()), &units::UnitRow::name);
         if (row == units::kUnits.end())
-            unit->fail('"' + unit->text() + "\" is no unit");
+            unit->fail(QT_TRANSLATE_NOOP("texts", "\"%1\" is no unit"), {unit->text()});
         if (held.isText())
-            unit->fail("only a number has a unit");
+            unit->fail(QT_TRANSLATE_NOOP("texts", "only a number has a unit"));
         setting.unit = row->unit;
     }
     if (const auto registers = fields.take("registers"))
@@ -77,7 +78,7 @@ void readHead(Fields& fields, SettingsFile& file)
     fields.take("$schema");
     const Value format = fields.need("format");
     if (format.text() != kFormat)
-        format.fail("a settings file has the format \"" + std::string(kFormat) + '"');
+        format.fail(QT_TRANSLATE_NOOP("texts", "a settings file has the format \"%1\""), {std::string(kFormat)});
     (void)fields.need("formatVersion").integer(kVersion, kVersion);
     if (const auto device = fields.take("device"))
         readDevice(*device, file);
@@ -86,7 +87,7 @@ void readHead(Fields& fields, SettingsFile& file)
     if (const auto date = fields.take("date")) {
         file.date = date->text();
         if (!QDateTime::fromString(QString::fromStdString(file.date), "yyyy-MM-dd'T'HH:mm:ss'Z'").isValid())
-            date->fail('"' + file.date + "\" is no date like 2026-11-25T08:30:00Z");
+            date->fail(QT_TRANSLATE_NOOP("texts", "\"%1\" is no date like 2026-11-25T08:30:00Z"), {file.date});
     }
 }
 
@@ -131,7 +132,7 @@ SettingsFile readSettingsFile(std::string_view text, const std::string& name)
     for (const Value& value : fields.need("parameters").array()) {
         file.settings.push_back(readSetting(value));
         if (!tags.insert(file.settings.back().tag).second)
-            value.fail("the tag \"" + file.settings.back().tag + "\" stands twice");
+            value.fail(QT_TRANSLATE_NOOP("texts", "the tag \"%1\" stands twice"), {file.settings.back().tag});
     }
     fields.finish();
     return file;

@@ -47,3 +47,31 @@ const char* const kUnits[] = {
     QT_TRANSLATE_NOOP("units", "UNIT_PRES_MBAR"),         QT_TRANSLATE_NOOP("units", "UNIT_VOLFLOW_BBL/HR"),
     QT_TRANSLATE_NOOP("units", "UNIT_OTHER_DEBYE"),       QT_TRANSLATE_NOOP("units", "UNIT_OTHER_OHM"),
 };
+
+// What the library's reader says of forms.
+const char* const kOfForms[] = {
+    QT_TRANSLATE_NOOP("texts", "the form is too large"),
+    QT_TRANSLATE_NOOP("texts", "a character that XML does not have"),
+    QT_TRANSLATE_NOOP("texts", "%1 is not closed"),
+    QT_TRANSLATE_NOOP("texts", "there is no form in it"),
+    QT_TRANSLATE_NOOP("texts", "a name is missing"),
+    QT_TRANSLATE_NOOP("texts", "text outside the form"),
+    QT_TRANSLATE_NOOP("texts", "document type definitions are not read"),
+    QT_TRANSLATE_NOOP("texts", "only UTF-8 is read"),
+    QT_TRANSLATE_NOOP("texts", "a second root element"),
+    QT_TRANSLATE_NOOP("texts", "the form has too many elements"),
+    QT_TRANSLATE_NOOP("texts", "%1 is not a whole tag"),
+    QT_TRANSLATE_NOOP("texts", "a tag that does not end"),
+    QT_TRANSLATE_NOOP("texts", "elements are nested too deeply"),
+    QT_TRANSLATE_NOOP("texts", "an attribute without a value"),
+    QT_TRANSLATE_NOOP("texts", "an attribute's value without quotes"),
+    QT_TRANSLATE_NOOP("texts", "an attribute's value that does not end"),
+    QT_TRANSLATE_NOOP("texts", "%1 closes nothing"),
+    QT_TRANSLATE_NOOP("texts", "%1 closes %2"),
+    QT_TRANSLATE_NOOP("texts", "an entity that XML does not know"),
+    QT_TRANSLATE_NOOP("texts", "the form is not in UTF-8"),
+    QT_TRANSLATE_NOOP("texts", "is no form of Qt Designer"),
+    QT_TRANSLATE_NOOP("texts", "a comment that does not end"),
+    QT_TRANSLATE_NOOP("texts", "a CDATA section that does not end"),
+    QT_TRANSLATE_NOOP("texts", "an instruction that does not end"),
+};

@@ -239,10 +239,96 @@
     </message>
 </context>
 <context>
+    <name>GroupTree</name>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppen</translation>
+    </message>
+</context>
+<context>
     <name>NoValueVeil</name>
     <message>
         <source>no value</source>
         <translation>kein Wert</translation>
+    </message>
+</context>
+<context>
+    <name>OpenDialog</name>
+    <message>
+        <source>A &amp;simulated device</source>
+        <translation>Ein &amp;simuliertes Gerät</translation>
+    </message>
+    <message>
+        <source>The device at this &amp;address:</source>
+        <translation>Das Gerät an dieser &amp;Adresse:</translation>
+    </message>
+    <message>
+        <source>Open device</source>
+        <translation>Gerät öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Opened before:</source>
+        <translation>&amp;Zuletzt geöffnet:</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>&amp;Parameter file:</source>
+        <translation>&amp;Parameterdatei:</translation>
+    </message>
+    <message>
+        <source>of the demonstration device</source>
+        <translation>des Demonstrationsgeräts</translation>
+    </message>
+    <message>
+        <source>Parameter files (*.json)</source>
+        <translation>Parameterdateien (*.json)</translation>
+    </message>
+    <message>
+        <source>&amp;Form:</source>
+        <translation>&amp;Formular:</translation>
+    </message>
+    <message>
+        <source>made from the parameter file</source>
+        <translation>aus der Parameterdatei erzeugt</translation>
+    </message>
+    <message>
+        <source>Forms (*.ui)</source>
+        <translation>Formulare (*.ui)</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Look for &amp;devices...</source>
+        <translation>&amp;Geräte suchen...</translation>
+    </message>
+    <message>
+        <source>simulated</source>
+        <translation>simuliert</translation>
+    </message>
+    <message>
+        <source>Open s&amp;ite...</source>
+        <translation>&amp;Anlage öffnen...</translation>
+    </message>
+    <message>
+        <source>Site: %1</source>
+        <translation>Anlage: %1</translation>
+    </message>
+    <message>
+        <source>Open site</source>
+        <translation>Anlage öffnen</translation>
+    </message>
+    <message>
+        <source>Site files (*.json)</source>
+        <translation>Anlagendateien (*.json)</translation>
     </message>
 </context>
 <context>
@@ -447,6 +533,14 @@
         <source>Curves of the session</source>
         <translation>Kurven der Sitzung</translation>
     </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
 </context>
 <context>
     <name>ReportDialog</name>
@@ -508,76 +602,6 @@
     <message>
         <source>Report saved: %1</source>
         <translation>Bericht gespeichert: %1</translation>
-    </message>
-</context>
-<context>
-    <name>GroupTree</name>
-    <message>
-        <source>Groups</source>
-        <translation>Gruppen</translation>
-    </message>
-</context>
-<context>
-    <name>OpenDialog</name>
-    <message>
-        <source>A &amp;simulated device</source>
-        <translation>Ein &amp;simuliertes Gerät</translation>
-    </message>
-    <message>
-        <source>The device at this &amp;address:</source>
-        <translation>Das Gerät an dieser &amp;Adresse:</translation>
-    </message>
-    <message>
-        <source>Open device</source>
-        <translation>Gerät öffnen</translation>
-    </message>
-    <message>
-        <source>&amp;Opened before:</source>
-        <translation>&amp;Zuletzt geöffnet:</translation>
-    </message>
-    <message>
-        <source>Address</source>
-        <translation>Adresse</translation>
-    </message>
-    <message>
-        <source>&amp;Parameter file:</source>
-        <translation>&amp;Parameterdatei:</translation>
-    </message>
-    <message>
-        <source>of the demonstration device</source>
-        <translation>des Demonstrationsgeräts</translation>
-    </message>
-    <message>
-        <source>Parameter files (*.json)</source>
-        <translation>Parameterdateien (*.json)</translation>
-    </message>
-    <message>
-        <source>&amp;Form:</source>
-        <translation>&amp;Formular:</translation>
-    </message>
-    <message>
-        <source>made from the parameter file</source>
-        <translation>aus der Parameterdatei erzeugt</translation>
-    </message>
-    <message>
-        <source>Forms (*.ui)</source>
-        <translation>Formulare (*.ui)</translation>
-    </message>
-    <message>
-        <source>&amp;Open</source>
-        <translation>Ö&amp;ffnen</translation>
-    </message>
-    <message>
-        <source>Browse...</source>
-        <translation>Durchsuchen...</translation>
-    </message>
-    <message>
-        <source>Look for &amp;devices...</source>
-        <translation>&amp;Geräte suchen...</translation>
-    </message>
-    <message>
-        <source>simulated</source>
-        <translation>simuliert</translation>
     </message>
 </context>
 <context>
@@ -1412,7 +1436,7 @@
         <translation>Die Schreibweise des Namens prüfen oder die Adresse in Zahlen angeben.</translation>
     </message>
     <message>
-        <source>Check cable and link lamp, the address and mask of this computer, and the way (gateway) to the device's network.</source>
+        <source>Check cable and link lamp, the address and mask of this computer, and the way (gateway) to the device&apos;s network.</source>
         <translation>Kabel und Verbindungslampe prüfen, Adresse und Maske dieses Rechners und den Weg (Gateway) ins Netz des Geräts.</translation>
     </message>
     <message>
@@ -1424,7 +1448,7 @@
         <translation>Prüfen, dass der Adapter steckt, und den Namen der Schnittstelle.</translation>
     </message>
     <message>
-        <source>End the program that has the port open; on Linux the user must be in the port's group, usually dialout.</source>
+        <source>End the program that has the port open; on Linux the user must be in the port&apos;s group, usually dialout.</source>
         <translation>Das Programm beenden, das die Schnittstelle offen hat; unter Linux muss der Benutzer in ihrer Gruppe sein, üblich dialout.</translation>
     </message>
     <message>
@@ -1460,7 +1484,7 @@
         <translation>In der Parameterdatei Bank und Adresse prüfen: Handbücher zählen oft ab 1, 40001 oder 30001. Vielleicht nimmt das Gerät auch weniger Register je Anfrage oder keine Lücken dazwischen.</translation>
     </message>
     <message>
-        <source>Check the limits of the parameter in the device's manual.</source>
+        <source>Check the limits of the parameter in the device&apos;s manual.</source>
         <translation>Die Grenzen des Parameters im Handbuch des Geräts prüfen.</translation>
     </message>
     <message>
@@ -1468,11 +1492,11 @@
         <translation>Das Gerät muss repariert werden.</translation>
     </message>
     <message>
-        <source>Check the unit number and the gateway's table of units and lines.</source>
+        <source>Check the unit number and the gateway&apos;s table of units and lines.</source>
         <translation>Die Gerätenummer (unit) prüfen und die Tabelle der Geräte und Leitungen im Gateway.</translation>
     </message>
     <message>
-        <source>The gateway is there, the device is not. Check the unit number, that the device is switched on, and the wiring, baud rate and parity of the gateway's line.</source>
+        <source>The gateway is there, the device is not. Check the unit number, that the device is switched on, and the wiring, baud rate and parity of the gateway&apos;s line.</source>
         <translation>Das Gateway ist da, das Gerät nicht. Gerätenummer (unit) prüfen, dass das Gerät eingeschaltet ist, und Verdrahtung, Baudrate und Parität der Leitung des Gateways.</translation>
     </message>
 </context>
@@ -1829,6 +1853,537 @@
     <message>
         <source>bytes that nobody asked for</source>
         <translation>Bytes, um die niemand gebeten hat</translation>
+    </message>
+</context>
+<context>
+    <name>texts</name>
+    <message>
+        <source>larger than 16 MB</source>
+        <translation>größer als 16 MB</translation>
+    </message>
+    <message>
+        <source>no controls of the library are on this form</source>
+        <translation>auf diesem Formular sind keine Bedienelemente der Bibliothek</translation>
+    </message>
+    <message>
+        <source>the form is too large</source>
+        <translation>das Formular ist zu groß</translation>
+    </message>
+    <message>
+        <source>a character that XML does not have</source>
+        <translation>ein Zeichen, das XML nicht hat</translation>
+    </message>
+    <message>
+        <source>%1 is not closed</source>
+        <translation>%1 ist nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>there is no form in it</source>
+        <translation>es ist kein Formular darin</translation>
+    </message>
+    <message>
+        <source>a name is missing</source>
+        <translation>ein Name fehlt</translation>
+    </message>
+    <message>
+        <source>text outside the form</source>
+        <translation>Text außerhalb des Formulars</translation>
+    </message>
+    <message>
+        <source>document type definitions are not read</source>
+        <translation>Dokumenttypdefinitionen werden nicht gelesen</translation>
+    </message>
+    <message>
+        <source>only UTF-8 is read</source>
+        <translation>nur UTF-8 wird gelesen</translation>
+    </message>
+    <message>
+        <source>a second root element</source>
+        <translation>ein zweites Wurzelelement</translation>
+    </message>
+    <message>
+        <source>the form has too many elements</source>
+        <translation>das Formular hat zu viele Elemente</translation>
+    </message>
+    <message>
+        <source>%1 is not a whole tag</source>
+        <translation>%1 ist kein vollständiges Tag</translation>
+    </message>
+    <message>
+        <source>a tag that does not end</source>
+        <translation>ein Tag, das nicht endet</translation>
+    </message>
+    <message>
+        <source>elements are nested too deeply</source>
+        <translation>die Elemente sind zu tief geschachtelt</translation>
+    </message>
+    <message>
+        <source>an attribute without a value</source>
+        <translation>ein Attribut ohne Wert</translation>
+    </message>
+    <message>
+        <source>an attribute&apos;s value without quotes</source>
+        <translation>ein Attributwert ohne Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>an attribute&apos;s value that does not end</source>
+        <translation>ein Attributwert, der nicht endet</translation>
+    </message>
+    <message>
+        <source>%1 closes nothing</source>
+        <translation>%1 schließt nichts</translation>
+    </message>
+    <message>
+        <source>%1 closes %2</source>
+        <translation>%1 schließt %2</translation>
+    </message>
+    <message>
+        <source>an entity that XML does not know</source>
+        <translation>eine Entität, die XML nicht kennt</translation>
+    </message>
+    <message>
+        <source>the form is not in UTF-8</source>
+        <translation>das Formular ist nicht in UTF-8</translation>
+    </message>
+    <message>
+        <source>is no form of Qt Designer</source>
+        <translation>ist kein Formular von Qt Designer</translation>
+    </message>
+    <message>
+        <source>a comment that does not end</source>
+        <translation>ein Kommentar, der nicht endet</translation>
+    </message>
+    <message>
+        <source>a CDATA section that does not end</source>
+        <translation>ein CDATA-Abschnitt, der nicht endet</translation>
+    </message>
+    <message>
+        <source>an instruction that does not end</source>
+        <translation>eine Anweisung, die nicht endet</translation>
+    </message>
+    <message>
+        <source>the device did not answer for all parameters</source>
+        <translation>das Gerät hat nicht für alle Parameter geantwortet</translation>
+    </message>
+    <message>
+        <source>port %1</source>
+        <translation>Port %1</translation>
+    </message>
+    <message>
+        <source>the last tab is %1</source>
+        <translation>die letzte Seite ist %1</translation>
+    </message>
+    <message>
+        <source>no parameter that is a number</source>
+        <translation>kein Parameter, der eine Zahl ist</translation>
+    </message>
+    <message>
+        <source>the device did not answer in %1 of %2 rounds</source>
+        <translation>das Gerät hat in %1 von %2 Runden nicht geantwortet</translation>
+    </message>
+    <message>
+        <source>the device has none of the parameters</source>
+        <translation>das Gerät hat keinen der Parameter</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>warning: saved from a device of type %1, compared with %2</source>
+        <translation>Warnung: von einem Gerät des Typs %1 gespeichert, verglichen mit %2</translation>
+    </message>
+    <message>
+        <source>warning: saved from version %1, compared with %2</source>
+        <translation>Warnung: von Version %1 gespeichert, verglichen mit %2</translation>
+    </message>
+    <message>
+        <source>the device did not answer</source>
+        <translation>das Gerät hat nicht geantwortet</translation>
+    </message>
+    <message>
+        <source>the device has none of the parameters that can be written</source>
+        <translation>das Gerät hat keinen der Parameter, die geschrieben werden können</translation>
+    </message>
+    <message>
+        <source>%1 settings saved</source>
+        <translation>%1 Einstellungen gespeichert</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>kann nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>nothing has been written; with --yes it is</source>
+        <translation>es ist nichts geschrieben worden; mit --yes geschieht es</translation>
+    </message>
+    <message>
+        <source>a parameter has 1 to %1 registers</source>
+        <translation>ein Parameter hat 1 bis %1 Register</translation>
+    </message>
+    <message>
+        <source>a tag is not empty</source>
+        <translation>eine Kennung ist nicht leer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no unit</source>
+        <translation>&quot;%1&quot; ist keine Einheit</translation>
+    </message>
+    <message>
+        <source>only a number has a unit</source>
+        <translation>nur eine Zahl hat eine Einheit</translation>
+    </message>
+    <message>
+        <source>a settings file has the format &quot;%1&quot;</source>
+        <translation>eine Einstellungsdatei hat das Format &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no date like 2026-11-25T08:30:00Z</source>
+        <translation>&quot;%1&quot; ist kein Datum wie 2026-11-25T08:30:00Z</translation>
+    </message>
+    <message>
+        <source>the tag &quot;%1&quot; stands twice</source>
+        <translation>die Kennung &quot;%1&quot; steht zweimal da</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>gleich</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>verschieden</translation>
+    </message>
+    <message>
+        <source>missing here</source>
+        <translation>fehlt hier</translation>
+    </message>
+    <message>
+        <source>missing there</source>
+        <translation>fehlt dort</translation>
+    </message>
+    <message>
+        <source>not writable</source>
+        <translation>nicht schreibbar</translation>
+    </message>
+    <message>
+        <source>unfit</source>
+        <translation>unpassend</translation>
+    </message>
+    <message>
+        <source>not a value of this parameter</source>
+        <translation>kein Wert dieses Parameters</translation>
+    </message>
+    <message>
+        <source>not a number in a unit of this parameter</source>
+        <translation>keine Zahl in einer Einheit dieses Parameters</translation>
+    </message>
+    <message>
+        <source>beyond what the device can hold</source>
+        <translation>mehr, als das Gerät halten kann</translation>
+    </message>
+    <message>
+        <source>outside the limits</source>
+        <translation>außerhalb der Grenzen</translation>
+    </message>
+    <message>
+        <source>too long</source>
+        <translation>zu lang</translation>
+    </message>
+    <message>
+        <source>characters that the device does not have</source>
+        <translation>Zeichen, die das Gerät nicht hat</translation>
+    </message>
+    <message>
+        <source>can only be read</source>
+        <translation>nur lesbar</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>nicht gelesen</translation>
+    </message>
+    <message>
+        <source>two different values</source>
+        <translation>zwei verschiedene Werte</translation>
+    </message>
+    <message>
+        <source>live</source>
+        <translation>gelesen</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>beschäftigt</translation>
+    </message>
+    <message>
+        <source>communication failure</source>
+        <translation>Kommunikation gestört</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>wartet</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>kein Wert</translation>
+    </message>
+    <message>
+        <source>written</source>
+        <translation>geschrieben</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>abgelehnt</translation>
+    </message>
+    <message>
+        <source>not sent</source>
+        <translation>nicht gesendet</translation>
+    </message>
+    <message>
+        <source>unconfirmed</source>
+        <translation>nicht bestätigt</translation>
+    </message>
+    <message>
+        <source>differs</source>
+        <translation>weicht ab</translation>
+    </message>
+    <message>
+        <source>not read back</source>
+        <translation>nicht zurückgelesen</translation>
+    </message>
+    <message>
+        <source>overtaken</source>
+        <translation>überholt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands twice</source>
+        <translation>&quot;%1&quot; steht zweimal da</translation>
+    </message>
+    <message>
+        <source>%1 is a number from %2 to %3</source>
+        <translation>%1 ist eine Zahl von %2 bis %3</translation>
+    </message>
+    <message>
+        <source>%1 is one of %2</source>
+        <translation>%1 ist eines von %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not known here</source>
+        <translation>&quot;%1&quot; ist hier nicht bekannt</translation>
+    </message>
+    <message>
+        <source>a serial device is missing, as in rtu:/dev/ttyUSB0</source>
+        <translation>es fehlt eine serielle Schnittstelle, wie in rtu:/dev/ttyUSB0</translation>
+    </message>
+    <message>
+        <source>not a device; write tcp://HOST:PORT or rtu:DEVICE</source>
+        <translation>kein Gerät; schreiben Sie tcp://RECHNER:PORT oder rtu:SCHNITTSTELLE</translation>
+    </message>
+    <message>
+        <source>a number or a text</source>
+        <translation>eine Zahl oder einen Text</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>entries</source>
+        <translation>Einträge</translation>
+    </message>
+    <message>
+        <source>bits</source>
+        <translation>Bits</translation>
+    </message>
+    <message>
+        <source>a bit</source>
+        <translation>ein Bit</translation>
+    </message>
+    <message>
+        <source>bits or an integer without scale and unit</source>
+        <translation>Bits oder eine ganze Zahl ohne Faktor und Einheit</translation>
+    </message>
+    <message>
+        <source>a %1 needs a minimum and a maximum</source>
+        <translation>ein %1 braucht ein Minimum und ein Maximum</translation>
+    </message>
+    <message>
+        <source>a %1 shows whole numbers only, without another unit than the device&apos;s</source>
+        <translation>ein %1 zeigt nur ganze Zahlen, ohne eine andere Einheit als die des Geräts</translation>
+    </message>
+    <message>
+        <source>a %1 reaches from -2147483648 to 2147483647</source>
+        <translation>ein %1 reicht von -2147483648 bis 2147483647</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of %2</source>
+        <translation>&quot;%1&quot; ist keines von %2</translation>
+    </message>
+    <message>
+        <source>a %1 needs %2</source>
+        <translation>ein %1 braucht %2</translation>
+    </message>
+    <message>
+        <source>only a number without a unit has digits; a unit brings its own</source>
+        <translation>nur eine Zahl ohne Einheit hat Nachkommastellen; eine Einheit bringt ihre eigenen mit</translation>
+    </message>
+    <message>
+        <source>only a number has limits</source>
+        <translation>nur eine Zahl hat Grenzen</translation>
+    </message>
+    <message>
+        <source>the parameter&apos;s type cannot hold its %1</source>
+        <translation>der Typ des Parameters kann diese Grenze nicht halten: %1</translation>
+    </message>
+    <message>
+        <source>the parameter&apos;s type cannot hold the value %1</source>
+        <translation>der Typ des Parameters kann den Wert %1 nicht halten</translation>
+    </message>
+    <message>
+        <source>the lists are of different length: each version belongs to the type at its place</source>
+        <translation>die Listen sind verschieden lang: jede Version gehört zum Typ an ihrer Stelle</translation>
+    </message>
+    <message>
+        <source>a parameter has entries or bits, not both</source>
+        <translation>ein Parameter hat Einträge oder Bits, nicht beides</translation>
+    </message>
+    <message>
+        <source>this is not JSON, at &quot;%1&quot;</source>
+        <translation>das ist kein JSON, bei &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>nested too deeply</source>
+        <translation>zu tief geschachtelt</translation>
+    </message>
+    <message>
+        <source>a text has at least one language</source>
+        <translation>ein Text hat mindestens eine Sprache</translation>
+    </message>
+    <message>
+        <source>a coil or a discrete input is of the type bit</source>
+        <translation>ein Coil oder Binäreingang ist vom Typ bit</translation>
+    </message>
+    <message>
+        <source>only a text has a number of registers</source>
+        <translation>nur ein Text hat eine Anzahl von Registern</translation>
+    </message>
+    <message>
+        <source>the parameter reaches beyond address 65535</source>
+        <translation>der Parameter reicht über die Adresse 65535 hinaus</translation>
+    </message>
+    <message>
+        <source>%1 stands twice</source>
+        <translation>%1 steht zweimal da</translation>
+    </message>
+    <message>
+        <source>an empty list</source>
+        <translation>eine leere Liste</translation>
+    </message>
+    <message>
+        <source>a period is longer than 0 seconds</source>
+        <translation>eine Periode ist länger als 0 Sekunden</translation>
+    </message>
+    <message>
+        <source>the unit shown is not of the type of the parameter&apos;s unit</source>
+        <translation>die angezeigte Einheit ist nicht von der Art der Einheit des Parameters</translation>
+    </message>
+    <message>
+        <source>the maximum is less than the minimum</source>
+        <translation>das Maximum ist kleiner als das Minimum</translation>
+    </message>
+    <message>
+        <source>a scale is not 0</source>
+        <translation>ein Faktor ist nicht 0</translation>
+    </message>
+    <message>
+        <source>only a number has a scale</source>
+        <translation>nur eine Zahl hat einen Faktor</translation>
+    </message>
+    <message>
+        <source>a discrete input cannot be written</source>
+        <translation>ein Binäreingang kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>an input register cannot be written</source>
+        <translation>ein Eingangsregister kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>only an integer without scale and unit has %1</source>
+        <translation>das hat nur eine ganze Zahl ohne Faktor und Einheit: %1</translation>
+    </message>
+    <message>
+        <source>what the device is comes as a text, its version also as uint16</source>
+        <translation>was das Gerät ist, kommt als Text, seine Version auch als uint16</translation>
+    </message>
+    <message>
+        <source>the parameter is longer than a request may be</source>
+        <translation>der Parameter ist länger, als eine Anfrage sein darf</translation>
+    </message>
+    <message>
+        <source>no parameters</source>
+        <translation>keine Parameter</translation>
+    </message>
+    <message>
+        <source>a text is expected here</source>
+        <translation>hier wird ein Text erwartet</translation>
+    </message>
+    <message>
+        <source>true or false is expected here</source>
+        <translation>hier wird true oder false erwartet</translation>
+    </message>
+    <message>
+        <source>a number is expected here</source>
+        <translation>hier wird eine Zahl erwartet</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2 is expected here</source>
+        <translation>hier wird eine ganze Zahl von %1 bis %2 erwartet</translation>
+    </message>
+    <message>
+        <source>a list is expected here</source>
+        <translation>hier wird eine Liste erwartet</translation>
+    </message>
+    <message>
+        <source>an object is expected here</source>
+        <translation>hier wird ein Objekt erwartet</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>&quot;%1&quot; fehlt</translation>
+    </message>
+    <message>
+        <source>unit is a list of numbers from 0 to 255 and ranges, as in 1-10,17</source>
+        <translation>unit ist eine Liste von Zahlen von 0 bis 255 und Bereichen, wie in 1-10,17</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>nothing answers</source>
+        <translation>nichts antwortet</translation>
+    </message>
+    <message>
+        <source>an empty text</source>
+        <translation>ein leerer Text</translation>
+    </message>
+    <message>
+        <source>a site file has the format &quot;%1&quot;</source>
+        <translation>eine Anlagendatei hat das Format &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is written by another device already</source>
+        <translation>&quot;%1&quot; wird schon von einem anderen Gerät geschrieben</translation>
+    </message>
+    <message>
+        <source>a site has 1 to %1 devices</source>
+        <translation>eine Anlage hat 1 bis %1 Geräte</translation>
+    </message>
+    <message>
+        <source>the simulated device: %1</source>
+        <translation>das simulierte Gerät: %1</translation>
     </message>
 </context>
 <context>

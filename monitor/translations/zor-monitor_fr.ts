@@ -60,7 +60,7 @@
     <name>DevicePanel</name>
     <message>
         <source>The device does not have this parameter</source>
-        <translation>L'appareil n'a pas ce paramètre</translation>
+        <translation>L&apos;appareil n&apos;a pas ce paramètre</translation>
     </message>
     <message>
         <source>Nothing to write</source>
@@ -99,7 +99,7 @@
     </message>
     <message>
         <source>Set to file value...</source>
-        <translation>Mettre la valeur d'un fichier...</translation>
+        <translation>Mettre la valeur d&apos;un fichier...</translation>
     </message>
 </context>
 <context>
@@ -162,7 +162,7 @@
     </message>
     <message>
         <source>No failure so far.</source>
-        <translation>Aucun échec jusqu'ici.</translation>
+        <translation>Aucun échec jusqu&apos;ici.</translation>
     </message>
     <message>
         <source>Last failure: %1. %2</source>
@@ -239,10 +239,96 @@
     </message>
 </context>
 <context>
+    <name>GroupTree</name>
+    <message>
+        <source>Groups</source>
+        <translation>Groupes</translation>
+    </message>
+</context>
+<context>
     <name>NoValueVeil</name>
     <message>
         <source>no value</source>
         <translation>aucune valeur</translation>
+    </message>
+</context>
+<context>
+    <name>OpenDialog</name>
+    <message>
+        <source>A &amp;simulated device</source>
+        <translation>Un appareil &amp;simulé</translation>
+    </message>
+    <message>
+        <source>The device at this &amp;address:</source>
+        <translation>L&apos;appareil à cette &amp;adresse :</translation>
+    </message>
+    <message>
+        <source>Open device</source>
+        <translation>Ouvrir un appareil</translation>
+    </message>
+    <message>
+        <source>&amp;Opened before:</source>
+        <translation>&amp;Ouverts récemment :</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>&amp;Parameter file:</source>
+        <translation>Fichier de &amp;paramètres :</translation>
+    </message>
+    <message>
+        <source>of the demonstration device</source>
+        <translation>de l&apos;appareil de démonstration</translation>
+    </message>
+    <message>
+        <source>Parameter files (*.json)</source>
+        <translation>Fichiers de paramètres (*.json)</translation>
+    </message>
+    <message>
+        <source>&amp;Form:</source>
+        <translation>&amp;Formulaire :</translation>
+    </message>
+    <message>
+        <source>made from the parameter file</source>
+        <translation>généré d&apos;après le fichier de paramètres</translation>
+    </message>
+    <message>
+        <source>Forms (*.ui)</source>
+        <translation>Formulaires (*.ui)</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Parcourir...</translation>
+    </message>
+    <message>
+        <source>Look for &amp;devices...</source>
+        <translation>Chercher des a&amp;ppareils...</translation>
+    </message>
+    <message>
+        <source>simulated</source>
+        <translation>simulé</translation>
+    </message>
+    <message>
+        <source>Open s&amp;ite...</source>
+        <translation>Ouvrir un s&amp;ite...</translation>
+    </message>
+    <message>
+        <source>Site: %1</source>
+        <translation>Site : %1</translation>
+    </message>
+    <message>
+        <source>Open site</source>
+        <translation>Ouvrir un site</translation>
+    </message>
+    <message>
+        <source>Site files (*.json)</source>
+        <translation>Fichiers de site (*.json)</translation>
     </message>
 </context>
 <context>
@@ -447,6 +533,14 @@
         <source>Curves of the session</source>
         <translation>Courbes de la session</translation>
     </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
 </context>
 <context>
     <name>ReportDialog</name>
@@ -511,80 +605,10 @@
     </message>
 </context>
 <context>
-    <name>GroupTree</name>
-    <message>
-        <source>Groups</source>
-        <translation>Groupes</translation>
-    </message>
-</context>
-<context>
-    <name>OpenDialog</name>
-    <message>
-        <source>A &amp;simulated device</source>
-        <translation>Un appareil &amp;simulé</translation>
-    </message>
-    <message>
-        <source>The device at this &amp;address:</source>
-        <translation>L'appareil à cette &amp;adresse :</translation>
-    </message>
-    <message>
-        <source>Open device</source>
-        <translation>Ouvrir un appareil</translation>
-    </message>
-    <message>
-        <source>&amp;Opened before:</source>
-        <translation>&amp;Ouverts récemment :</translation>
-    </message>
-    <message>
-        <source>Address</source>
-        <translation>Adresse</translation>
-    </message>
-    <message>
-        <source>&amp;Parameter file:</source>
-        <translation>Fichier de &amp;paramètres :</translation>
-    </message>
-    <message>
-        <source>of the demonstration device</source>
-        <translation>de l'appareil de démonstration</translation>
-    </message>
-    <message>
-        <source>Parameter files (*.json)</source>
-        <translation>Fichiers de paramètres (*.json)</translation>
-    </message>
-    <message>
-        <source>&amp;Form:</source>
-        <translation>&amp;Formulaire :</translation>
-    </message>
-    <message>
-        <source>made from the parameter file</source>
-        <translation>généré d'après le fichier de paramètres</translation>
-    </message>
-    <message>
-        <source>Forms (*.ui)</source>
-        <translation>Formulaires (*.ui)</translation>
-    </message>
-    <message>
-        <source>&amp;Open</source>
-        <translation>&amp;Ouvrir</translation>
-    </message>
-    <message>
-        <source>Browse...</source>
-        <translation>Parcourir...</translation>
-    </message>
-    <message>
-        <source>Look for &amp;devices...</source>
-        <translation>Chercher des a&amp;ppareils...</translation>
-    </message>
-    <message>
-        <source>simulated</source>
-        <translation>simulé</translation>
-    </message>
-</context>
-<context>
     <name>ReviewDialog</name>
     <message>
         <source>The device has changed while this list was open. I have seen what is marked.</source>
-        <translation>L'appareil a changé pendant que cette liste était ouverte. J'ai vu ce qui est marqué.</translation>
+        <translation>L&apos;appareil a changé pendant que cette liste était ouverte. J&apos;ai vu ce qui est marqué.</translation>
     </message>
     <message>
         <source>Write to the device</source>
@@ -635,7 +659,7 @@
     </message>
     <message>
         <source>&amp;Addresses, one to the line. Only these are asked. Unit, baud rate and parity may be lists: unit=1-10,17 baud=9600,19200 parity=even,none</source>
-        <translation>&amp;Adresses, une par ligne. Seules celles-ci sont interrogées. Numéro d'esclave (unit), vitesse et parité peuvent être des listes : unit=1-10,17 baud=9600,19200 parity=even,none</translation>
+        <translation>&amp;Adresses, une par ligne. Seules celles-ci sont interrogées. Numéro d&apos;esclave (unit), vitesse et parité peuvent être des listes : unit=1-10,17 baud=9600,19200 parity=even,none</translation>
     </message>
     <message>
         <source>Insert an example...</source>
@@ -691,11 +715,11 @@
     </message>
     <message>
         <source>This is no address that can be asked:</source>
-        <translation>Ce n'est pas une adresse qui puisse être interrogée :</translation>
+        <translation>Ce n&apos;est pas une adresse qui puisse être interrogée :</translation>
     </message>
     <message>
         <source>No address is given.</source>
-        <translation>Aucune adresse n'est donnée.</translation>
+        <translation>Aucune adresse n&apos;est donnée.</translation>
     </message>
     <message>
         <source>answers after %1 ms</source>
@@ -879,15 +903,15 @@
     </message>
     <message>
         <source>The file has no value for %1</source>
-        <translation>Le fichier n'a pas de valeur pour %1</translation>
+        <translation>Le fichier n&apos;a pas de valeur pour %1</translation>
     </message>
     <message>
         <source>The device holds this value already</source>
-        <translation>L'appareil a déjà cette valeur</translation>
+        <translation>L&apos;appareil a déjà cette valeur</translation>
     </message>
     <message>
         <source>Set to file value</source>
-        <translation>Mettre la valeur d'un fichier</translation>
+        <translation>Mettre la valeur d&apos;un fichier</translation>
     </message>
 </context>
 <context>
@@ -1115,7 +1139,7 @@
     </message>
     <message>
         <source>&amp;Close device</source>
-        <translation>&amp;Fermer l'appareil</translation>
+        <translation>&amp;Fermer l&apos;appareil</translation>
     </message>
     <message>
         <source>Compare with &amp;file...</source>
@@ -1143,7 +1167,7 @@
     </message>
     <message>
         <source>&lt;h3&gt;ZorSmartControls Monitor %1&lt;/h3&gt;&lt;p&gt;Shows and edits the parameters of Modbus devices.&lt;/p&gt;&lt;p&gt;Qt %2, built with Qt %3&lt;br&gt;%4&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;ZorSmartControls Monitor %1&lt;/h3&gt;&lt;p&gt;Affiche et modifie les paramètres d'appareils Modbus.&lt;/p&gt;&lt;p&gt;Qt %2, compilé avec Qt %3&lt;br&gt;%4&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;ZorSmartControls Monitor %1&lt;/h3&gt;&lt;p&gt;Affiche et modifie les paramètres d&apos;appareils Modbus.&lt;/p&gt;&lt;p&gt;Qt %2, compilé avec Qt %3&lt;br&gt;%4&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&amp;Next device</source>
@@ -1159,7 +1183,7 @@
     </message>
     <message>
         <source>This device cannot be opened:</source>
-        <translation>Impossible d'ouvrir cet appareil :</translation>
+        <translation>Impossible d&apos;ouvrir cet appareil :</translation>
     </message>
     <message>
         <source>Compare two devices</source>
@@ -1171,7 +1195,7 @@
     </message>
     <message>
         <source>There are edits that have not been written. Close the device all the same?</source>
-        <translation>Des modifications n'ont pas été écrites. Fermer tout de même l'appareil ?</translation>
+        <translation>Des modifications n&apos;ont pas été écrites. Fermer tout de même l&apos;appareil ?</translation>
     </message>
     <message>
         <source>%1[*] - Monitor</source>
@@ -1187,7 +1211,7 @@
     </message>
     <message>
         <source>No parameter has &quot;%1&quot; in its tag, caption or last value</source>
-        <translation>Aucun paramètre n'a « %1 » dans son repère, son nom ou sa dernière valeur</translation>
+        <translation>Aucun paramètre n&apos;a « %1 » dans son repère, son nom ou sa dernière valeur</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -1195,7 +1219,7 @@
     </message>
     <message>
         <source>&amp;Tool bar</source>
-        <translation>&amp;Barre d'outils</translation>
+        <translation>&amp;Barre d&apos;outils</translation>
     </message>
     <message>
         <source>Not taken: this field cannot be edited now</source>
@@ -1290,11 +1314,11 @@
     <name>Words</name>
     <message>
         <source>not written: the device has changed since the review</source>
-        <translation>non écrit : l'appareil a changé depuis la vérification</translation>
+        <translation>non écrit : l&apos;appareil a changé depuis la vérification</translation>
     </message>
     <message>
         <source>carried out, the device says, but it could not be read back; it is settled by the next read</source>
-        <translation>exécuté, selon l'appareil, mais la relecture a échoué ; la prochaine lecture en décidera</translation>
+        <translation>exécuté, selon l&apos;appareil, mais la relecture a échoué ; la prochaine lecture en décidera</translation>
     </message>
     <message>
         <source>written and read back</source>
@@ -1389,55 +1413,55 @@
     </message>
     <message>
         <source>Check baud rate, parity and stop bits, the termination of the line, and that nobody else is sending on it.</source>
-        <translation>Vérifier la vitesse, la parité et les bits d'arrêt, la terminaison de la ligne, et que personne d'autre n'y émet.</translation>
+        <translation>Vérifier la vitesse, la parité et les bits d&apos;arrêt, la terminaison de la ligne, et que personne d&apos;autre n&apos;y émet.</translation>
     </message>
     <message>
         <source>Wait a little; if it stays so, restart the device.</source>
-        <translation>Attendre un peu ; si cela persiste, redémarrer l'appareil.</translation>
+        <translation>Attendre un peu ; si cela persiste, redémarrer l&apos;appareil.</translation>
     </message>
     <message>
         <source>The operating system says why; check cable, adapter and address.</source>
-        <translation>Le système d'exploitation dit pourquoi ; vérifier câble, adaptateur et adresse.</translation>
+        <translation>Le système d&apos;exploitation dit pourquoi ; vérifier câble, adaptateur et adresse.</translation>
     </message>
     <message>
         <source>The host is there, but nothing listens on this port. Check the port (usually 502), that Modbus TCP is switched on in the device, and that it has a connection to spare.</source>
-        <translation>L'hôte est là, mais rien n'écoute sur ce port. Vérifier le port (502 d'habitude), que Modbus TCP est activé dans l'appareil et qu'il a encore une connexion libre.</translation>
+        <translation>L&apos;hôte est là, mais rien n&apos;écoute sur ce port. Vérifier le port (502 d&apos;habitude), que Modbus TCP est activé dans l&apos;appareil et qu&apos;il a encore une connexion libre.</translation>
     </message>
     <message>
         <source>The device may allow too few connections at a time, or only certain addresses. End other programs that are connected to it.</source>
-        <translation>L'appareil admet peut-être trop peu de connexions à la fois, ou seulement certaines adresses. Fermer les autres programmes qui y sont connectés.</translation>
+        <translation>L&apos;appareil admet peut-être trop peu de connexions à la fois, ou seulement certaines adresses. Fermer les autres programmes qui y sont connectés.</translation>
     </message>
     <message>
         <source>Check the spelling of the name, or write the address in numbers.</source>
-        <translation>Vérifier l'orthographe du nom, ou donner l'adresse en chiffres.</translation>
+        <translation>Vérifier l&apos;orthographe du nom, ou donner l&apos;adresse en chiffres.</translation>
     </message>
     <message>
-        <source>Check cable and link lamp, the address and mask of this computer, and the way (gateway) to the device's network.</source>
-        <translation>Vérifier le câble et le voyant de liaison, l'adresse et le masque de cet ordinateur, et le chemin (passerelle) vers le réseau de l'appareil.</translation>
+        <source>Check cable and link lamp, the address and mask of this computer, and the way (gateway) to the device&apos;s network.</source>
+        <translation>Vérifier le câble et le voyant de liaison, l&apos;adresse et le masque de cet ordinateur, et le chemin (passerelle) vers le réseau de l&apos;appareil.</translation>
     </message>
     <message>
         <source>Check that the device is switched on, its address and cable, and that no firewall stands between. A slow network needs a longer timeout.</source>
-        <translation>Vérifier que l'appareil est sous tension, son adresse et son câble, et qu'aucun pare-feu ne s'interpose. Un réseau lent demande un délai plus long.</translation>
+        <translation>Vérifier que l&apos;appareil est sous tension, son adresse et son câble, et qu&apos;aucun pare-feu ne s&apos;interpose. Un réseau lent demande un délai plus long.</translation>
     </message>
     <message>
         <source>Check that the adapter is plugged in, and the name of the port.</source>
-        <translation>Vérifier que l'adaptateur est branché, et le nom du port.</translation>
+        <translation>Vérifier que l&apos;adaptateur est branché, et le nom du port.</translation>
     </message>
     <message>
-        <source>End the program that has the port open; on Linux the user must be in the port's group, usually dialout.</source>
-        <translation>Fermer le programme qui tient le port ouvert ; sous Linux l'utilisateur doit être dans le groupe du port, dialout d'habitude.</translation>
+        <source>End the program that has the port open; on Linux the user must be in the port&apos;s group, usually dialout.</source>
+        <translation>Fermer le programme qui tient le port ouvert ; sous Linux l&apos;utilisateur doit être dans le groupe du port, dialout d&apos;habitude.</translation>
     </message>
     <message>
         <source>Check that the adapter is plugged in.</source>
-        <translation>Vérifier que l'adaptateur est branché.</translation>
+        <translation>Vérifier que l&apos;adaptateur est branché.</translation>
     </message>
     <message>
         <source>Connected, but nothing came back. Check the unit number; behind a gateway also the wiring, baud rate and parity of its line. A slow device needs a longer timeout.</source>
-        <translation>Connecté, mais rien n'est revenu. Vérifier le numéro d'esclave (unit) ; derrière une passerelle aussi le câblage, la vitesse et la parité de sa ligne. Un appareil lent demande un délai plus long.</translation>
+        <translation>Connecté, mais rien n&apos;est revenu. Vérifier le numéro d&apos;esclave (unit) ; derrière une passerelle aussi le câblage, la vitesse et la parité de sa ligne. Un appareil lent demande un délai plus long.</translation>
     </message>
     <message>
         <source>Check the unit number, baud rate, parity and stop bits, the wiring (A and B may be exchanged) and that the device is switched on. A slow device needs a longer timeout.</source>
-        <translation>Vérifier le numéro d'esclave (unit), la vitesse, la parité et les bits d'arrêt, le câblage (A et B peut-être inversés) et que l'appareil est sous tension. Un appareil lent demande un délai plus long.</translation>
+        <translation>Vérifier le numéro d&apos;esclave (unit), la vitesse, la parité et les bits d&apos;arrêt, le câblage (A et B peut-être inversés) et que l&apos;appareil est sous tension. Un appareil lent demande un délai plus long.</translation>
     </message>
     <message>
         <source>It is connected anew with the next request.</source>
@@ -1445,35 +1469,35 @@
     </message>
     <message>
         <source>What listens on this port is not Modbus TCP; check the port.</source>
-        <translation>Ce qui écoute sur ce port n'est pas Modbus TCP ; vérifier le port.</translation>
+        <translation>Ce qui écoute sur ce port n&apos;est pas Modbus TCP ; vérifier le port.</translation>
     </message>
     <message>
         <source>Check the unit number; on a serial line also baud rate and parity, and that no two devices have the same number.</source>
-        <translation>Vérifier le numéro d'esclave (unit) ; sur une ligne série aussi la vitesse et la parité, et que deux appareils n'ont pas le même numéro.</translation>
+        <translation>Vérifier le numéro d&apos;esclave (unit) ; sur une ligne série aussi la vitesse et la parité, et que deux appareils n&apos;ont pas le même numéro.</translation>
     </message>
     <message>
         <source>Check the bank in the parameter file, and whether the device writes single registers or several.</source>
-        <translation>Vérifier la banque dans le fichier de paramètres, et si l'appareil écrit les registres un par un ou plusieurs à la fois.</translation>
+        <translation>Vérifier la banque dans le fichier de paramètres, et si l&apos;appareil écrit les registres un par un ou plusieurs à la fois.</translation>
     </message>
     <message>
         <source>Check bank and address in the parameter file: manuals often count from 1, 40001 or 30001. The device may also take fewer registers in a request, or no gaps between them.</source>
-        <translation>Vérifier banque et adresse dans le fichier de paramètres : les manuels comptent souvent à partir de 1, 40001 ou 30001. L'appareil accepte peut-être aussi moins de registres par requête, ou pas de trous entre eux.</translation>
+        <translation>Vérifier banque et adresse dans le fichier de paramètres : les manuels comptent souvent à partir de 1, 40001 ou 30001. L&apos;appareil accepte peut-être aussi moins de registres par requête, ou pas de trous entre eux.</translation>
     </message>
     <message>
-        <source>Check the limits of the parameter in the device's manual.</source>
-        <translation>Vérifier les limites du paramètre dans le manuel de l'appareil.</translation>
+        <source>Check the limits of the parameter in the device&apos;s manual.</source>
+        <translation>Vérifier les limites du paramètre dans le manuel de l&apos;appareil.</translation>
     </message>
     <message>
         <source>The device needs repair.</source>
-        <translation>L'appareil doit être réparé.</translation>
+        <translation>L&apos;appareil doit être réparé.</translation>
     </message>
     <message>
-        <source>Check the unit number and the gateway's table of units and lines.</source>
-        <translation>Vérifier le numéro d'esclave (unit) et la table des esclaves et des lignes de la passerelle.</translation>
+        <source>Check the unit number and the gateway&apos;s table of units and lines.</source>
+        <translation>Vérifier le numéro d&apos;esclave (unit) et la table des esclaves et des lignes de la passerelle.</translation>
     </message>
     <message>
-        <source>The gateway is there, the device is not. Check the unit number, that the device is switched on, and the wiring, baud rate and parity of the gateway's line.</source>
-        <translation>La passerelle est là, pas l'appareil. Vérifier le numéro d'esclave (unit), que l'appareil est sous tension, et le câblage, la vitesse et la parité de la ligne de la passerelle.</translation>
+        <source>The gateway is there, the device is not. Check the unit number, that the device is switched on, and the wiring, baud rate and parity of the gateway&apos;s line.</source>
+        <translation>La passerelle est là, pas l&apos;appareil. Vérifier le numéro d&apos;esclave (unit), que l&apos;appareil est sous tension, et le câblage, la vitesse et la parité de la ligne de la passerelle.</translation>
     </message>
 </context>
 <context>
@@ -1500,7 +1524,7 @@
     </message>
     <message>
         <source>byte count</source>
-        <translation>nombre d'octets</translation>
+        <translation>nombre d&apos;octets</translation>
     </message>
     <message>
         <source>coil</source>
@@ -1544,7 +1568,7 @@
     </message>
     <message>
         <source>read input registers</source>
-        <translation>lire des registres d'entrée</translation>
+        <translation>lire des registres d&apos;entrée</translation>
     </message>
     <message>
         <source>write a coil</source>
@@ -1568,7 +1592,7 @@
     </message>
     <message>
         <source>device identification</source>
-        <translation>identification de l'appareil</translation>
+        <translation>identification de l&apos;appareil</translation>
     </message>
     <message>
         <source>unknown</source>
@@ -1639,11 +1663,11 @@
     </message>
     <message>
         <source>MSG_DEVICEBUSY</source>
-        <translation>L'appareil est occupé. Il sera interrogé à nouveau.</translation>
+        <translation>L&apos;appareil est occupé. Il sera interrogé à nouveau.</translation>
     </message>
     <message>
         <source>MSG_NOENTRY</source>
-        <translation>est dans l'appareil ; aucune entrée n'a cette valeur.</translation>
+        <translation>est dans l&apos;appareil ; aucune entrée n&apos;a cette valeur.</translation>
     </message>
     <message>
         <source>MSG_DATACHANGED</source>
@@ -1804,11 +1828,11 @@
     </message>
     <message>
         <source>the host does not answer</source>
-        <translation>l'hôte ne répond pas</translation>
+        <translation>l&apos;hôte ne répond pas</translation>
     </message>
     <message>
         <source>there is no such serial port</source>
-        <translation>ce port série n'existe pas</translation>
+        <translation>ce port série n&apos;existe pas</translation>
     </message>
     <message>
         <source>the serial port cannot be opened</source>
@@ -1828,7 +1852,538 @@
     </message>
     <message>
         <source>bytes that nobody asked for</source>
-        <translation>des octets que personne n'a demandés</translation>
+        <translation>des octets que personne n&apos;a demandés</translation>
+    </message>
+</context>
+<context>
+    <name>texts</name>
+    <message>
+        <source>larger than 16 MB</source>
+        <translation>plus grand que 16 Mo</translation>
+    </message>
+    <message>
+        <source>no controls of the library are on this form</source>
+        <translation>aucun contrôle de la bibliothèque n&apos;est sur ce formulaire</translation>
+    </message>
+    <message>
+        <source>the form is too large</source>
+        <translation>le formulaire est trop grand</translation>
+    </message>
+    <message>
+        <source>a character that XML does not have</source>
+        <translation>un caractère que XML n&apos;a pas</translation>
+    </message>
+    <message>
+        <source>%1 is not closed</source>
+        <translation>%1 n&apos;est pas fermé</translation>
+    </message>
+    <message>
+        <source>there is no form in it</source>
+        <translation>il n&apos;y a pas de formulaire dedans</translation>
+    </message>
+    <message>
+        <source>a name is missing</source>
+        <translation>un nom manque</translation>
+    </message>
+    <message>
+        <source>text outside the form</source>
+        <translation>du texte hors du formulaire</translation>
+    </message>
+    <message>
+        <source>document type definitions are not read</source>
+        <translation>les définitions de type de document ne sont pas lues</translation>
+    </message>
+    <message>
+        <source>only UTF-8 is read</source>
+        <translation>seul UTF-8 est lu</translation>
+    </message>
+    <message>
+        <source>a second root element</source>
+        <translation>un second élément racine</translation>
+    </message>
+    <message>
+        <source>the form has too many elements</source>
+        <translation>le formulaire a trop d&apos;éléments</translation>
+    </message>
+    <message>
+        <source>%1 is not a whole tag</source>
+        <translation>%1 n&apos;est pas une balise entière</translation>
+    </message>
+    <message>
+        <source>a tag that does not end</source>
+        <translation>une balise qui ne finit pas</translation>
+    </message>
+    <message>
+        <source>elements are nested too deeply</source>
+        <translation>les éléments sont imbriqués trop profondément</translation>
+    </message>
+    <message>
+        <source>an attribute without a value</source>
+        <translation>un attribut sans valeur</translation>
+    </message>
+    <message>
+        <source>an attribute&apos;s value without quotes</source>
+        <translation>une valeur d&apos;attribut sans guillemets</translation>
+    </message>
+    <message>
+        <source>an attribute&apos;s value that does not end</source>
+        <translation>une valeur d&apos;attribut qui ne finit pas</translation>
+    </message>
+    <message>
+        <source>%1 closes nothing</source>
+        <translation>%1 ne ferme rien</translation>
+    </message>
+    <message>
+        <source>%1 closes %2</source>
+        <translation>%1 ferme %2</translation>
+    </message>
+    <message>
+        <source>an entity that XML does not know</source>
+        <translation>une entité que XML ne connaît pas</translation>
+    </message>
+    <message>
+        <source>the form is not in UTF-8</source>
+        <translation>le formulaire n&apos;est pas en UTF-8</translation>
+    </message>
+    <message>
+        <source>is no form of Qt Designer</source>
+        <translation>n&apos;est pas un formulaire de Qt Designer</translation>
+    </message>
+    <message>
+        <source>a comment that does not end</source>
+        <translation>un commentaire qui ne finit pas</translation>
+    </message>
+    <message>
+        <source>a CDATA section that does not end</source>
+        <translation>une section CDATA qui ne finit pas</translation>
+    </message>
+    <message>
+        <source>an instruction that does not end</source>
+        <translation>une instruction qui ne finit pas</translation>
+    </message>
+    <message>
+        <source>the device did not answer for all parameters</source>
+        <translation>l&apos;appareil n&apos;a pas répondu pour tous les paramètres</translation>
+    </message>
+    <message>
+        <source>port %1</source>
+        <translation>port %1</translation>
+    </message>
+    <message>
+        <source>the last tab is %1</source>
+        <translation>le dernier onglet est %1</translation>
+    </message>
+    <message>
+        <source>no parameter that is a number</source>
+        <translation>aucun paramètre qui soit un nombre</translation>
+    </message>
+    <message>
+        <source>the device did not answer in %1 of %2 rounds</source>
+        <translation>l&apos;appareil n&apos;a pas répondu dans %1 tours sur %2</translation>
+    </message>
+    <message>
+        <source>the device has none of the parameters</source>
+        <translation>l&apos;appareil n&apos;a aucun des paramètres</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>warning: saved from a device of type %1, compared with %2</source>
+        <translation>attention : enregistré depuis un appareil de type %1, comparé avec %2</translation>
+    </message>
+    <message>
+        <source>warning: saved from version %1, compared with %2</source>
+        <translation>attention : enregistré depuis la version %1, comparé avec %2</translation>
+    </message>
+    <message>
+        <source>the device did not answer</source>
+        <translation>l&apos;appareil n&apos;a pas répondu</translation>
+    </message>
+    <message>
+        <source>the device has none of the parameters that can be written</source>
+        <translation>l&apos;appareil n&apos;a aucun des paramètres qui peuvent être écrits</translation>
+    </message>
+    <message>
+        <source>%1 settings saved</source>
+        <translation>%1 réglages enregistrés</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>ne peut pas être écrit : %1</translation>
+    </message>
+    <message>
+        <source>nothing has been written; with --yes it is</source>
+        <translation>rien n&apos;a été écrit ; avec --yes, ce le sera</translation>
+    </message>
+    <message>
+        <source>a parameter has 1 to %1 registers</source>
+        <translation>un paramètre a de 1 à %1 registres</translation>
+    </message>
+    <message>
+        <source>a tag is not empty</source>
+        <translation>un identifiant n&apos;est pas vide</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no unit</source>
+        <translation>&quot;%1&quot; n&apos;est pas une unité</translation>
+    </message>
+    <message>
+        <source>only a number has a unit</source>
+        <translation>seul un nombre a une unité</translation>
+    </message>
+    <message>
+        <source>a settings file has the format &quot;%1&quot;</source>
+        <translation>un fichier de réglages a le format &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no date like 2026-11-25T08:30:00Z</source>
+        <translation>&quot;%1&quot; n&apos;est pas une date comme 2026-11-25T08:30:00Z</translation>
+    </message>
+    <message>
+        <source>the tag &quot;%1&quot; stands twice</source>
+        <translation>l&apos;identifiant &quot;%1&quot; s&apos;y trouve deux fois</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>identiques</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>différent</translation>
+    </message>
+    <message>
+        <source>missing here</source>
+        <translation>manque ici</translation>
+    </message>
+    <message>
+        <source>missing there</source>
+        <translation>manque là-bas</translation>
+    </message>
+    <message>
+        <source>not writable</source>
+        <translation>non inscriptible</translation>
+    </message>
+    <message>
+        <source>unfit</source>
+        <translation>impropre</translation>
+    </message>
+    <message>
+        <source>not a value of this parameter</source>
+        <translation>pas une valeur de ce paramètre</translation>
+    </message>
+    <message>
+        <source>not a number in a unit of this parameter</source>
+        <translation>pas un nombre dans une unité de ce paramètre</translation>
+    </message>
+    <message>
+        <source>beyond what the device can hold</source>
+        <translation>au-delà de ce que l&apos;appareil peut contenir</translation>
+    </message>
+    <message>
+        <source>outside the limits</source>
+        <translation>hors des limites</translation>
+    </message>
+    <message>
+        <source>too long</source>
+        <translation>trop long</translation>
+    </message>
+    <message>
+        <source>characters that the device does not have</source>
+        <translation>des caractères que l&apos;appareil n&apos;a pas</translation>
+    </message>
+    <message>
+        <source>can only be read</source>
+        <translation>lecture seule</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>non lu</translation>
+    </message>
+    <message>
+        <source>two different values</source>
+        <translation>deux valeurs différentes</translation>
+    </message>
+    <message>
+        <source>live</source>
+        <translation>lu</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>non disponible</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>occupé</translation>
+    </message>
+    <message>
+        <source>communication failure</source>
+        <translation>échec de communication</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>en attente</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>pas de valeur</translation>
+    </message>
+    <message>
+        <source>written</source>
+        <translation>écrit</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>refusé</translation>
+    </message>
+    <message>
+        <source>not sent</source>
+        <translation>non envoyé</translation>
+    </message>
+    <message>
+        <source>unconfirmed</source>
+        <translation>non confirmé</translation>
+    </message>
+    <message>
+        <source>differs</source>
+        <translation>diffère</translation>
+    </message>
+    <message>
+        <source>not read back</source>
+        <translation>non relu</translation>
+    </message>
+    <message>
+        <source>overtaken</source>
+        <translation>dépassé</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands twice</source>
+        <translation>&quot;%1&quot; s&apos;y trouve deux fois</translation>
+    </message>
+    <message>
+        <source>%1 is a number from %2 to %3</source>
+        <translation>%1 est un nombre de %2 à %3</translation>
+    </message>
+    <message>
+        <source>%1 is one of %2</source>
+        <translation>%1 est l&apos;un de %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not known here</source>
+        <translation>&quot;%1&quot; n&apos;est pas connu ici</translation>
+    </message>
+    <message>
+        <source>a serial device is missing, as in rtu:/dev/ttyUSB0</source>
+        <translation>il manque un port série, comme dans rtu:/dev/ttyUSB0</translation>
+    </message>
+    <message>
+        <source>not a device; write tcp://HOST:PORT or rtu:DEVICE</source>
+        <translation>pas un appareil ; écrivez tcp://HÔTE:PORT ou rtu:PORT</translation>
+    </message>
+    <message>
+        <source>a number or a text</source>
+        <translation>un nombre ou un texte</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>un nombre</translation>
+    </message>
+    <message>
+        <source>entries</source>
+        <translation>des entrées</translation>
+    </message>
+    <message>
+        <source>bits</source>
+        <translation>des bits</translation>
+    </message>
+    <message>
+        <source>a bit</source>
+        <translation>un bit</translation>
+    </message>
+    <message>
+        <source>bits or an integer without scale and unit</source>
+        <translation>des bits ou un entier sans facteur ni unité</translation>
+    </message>
+    <message>
+        <source>a %1 needs a minimum and a maximum</source>
+        <translation>un %1 a besoin d&apos;un minimum et d&apos;un maximum</translation>
+    </message>
+    <message>
+        <source>a %1 shows whole numbers only, without another unit than the device&apos;s</source>
+        <translation>un %1 ne montre que des nombres entiers, sans autre unité que celle de l&apos;appareil</translation>
+    </message>
+    <message>
+        <source>a %1 reaches from -2147483648 to 2147483647</source>
+        <translation>un %1 va de -2147483648 à 2147483647</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of %2</source>
+        <translation>&quot;%1&quot; n&apos;est aucun de %2</translation>
+    </message>
+    <message>
+        <source>a %1 needs %2</source>
+        <translation>un %1 a besoin de ce qui suit : %2</translation>
+    </message>
+    <message>
+        <source>only a number without a unit has digits; a unit brings its own</source>
+        <translation>seul un nombre sans unité a des décimales ; une unité apporte les siennes</translation>
+    </message>
+    <message>
+        <source>only a number has limits</source>
+        <translation>seul un nombre a des limites</translation>
+    </message>
+    <message>
+        <source>the parameter&apos;s type cannot hold its %1</source>
+        <translation>le type du paramètre ne peut pas contenir cette limite : %1</translation>
+    </message>
+    <message>
+        <source>the parameter&apos;s type cannot hold the value %1</source>
+        <translation>le type du paramètre ne peut pas contenir la valeur %1</translation>
+    </message>
+    <message>
+        <source>the lists are of different length: each version belongs to the type at its place</source>
+        <translation>les listes n&apos;ont pas la même longueur : chaque version appartient au type à sa place</translation>
+    </message>
+    <message>
+        <source>a parameter has entries or bits, not both</source>
+        <translation>un paramètre a des entrées ou des bits, pas les deux</translation>
+    </message>
+    <message>
+        <source>this is not JSON, at &quot;%1&quot;</source>
+        <translation>ce n&apos;est pas du JSON, à &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>nested too deeply</source>
+        <translation>imbriqué trop profondément</translation>
+    </message>
+    <message>
+        <source>a text has at least one language</source>
+        <translation>un texte a au moins une langue</translation>
+    </message>
+    <message>
+        <source>a coil or a discrete input is of the type bit</source>
+        <translation>une bobine (coil) ou une entrée discrète est du type bit</translation>
+    </message>
+    <message>
+        <source>only a text has a number of registers</source>
+        <translation>seul un texte a un nombre de registres</translation>
+    </message>
+    <message>
+        <source>the parameter reaches beyond address 65535</source>
+        <translation>le paramètre dépasse l&apos;adresse 65535</translation>
+    </message>
+    <message>
+        <source>%1 stands twice</source>
+        <translation>%1 s&apos;y trouve deux fois</translation>
+    </message>
+    <message>
+        <source>an empty list</source>
+        <translation>une liste vide</translation>
+    </message>
+    <message>
+        <source>a period is longer than 0 seconds</source>
+        <translation>une période est plus longue que 0 seconde</translation>
+    </message>
+    <message>
+        <source>the unit shown is not of the type of the parameter&apos;s unit</source>
+        <translation>l&apos;unité montrée n&apos;est pas du genre de l&apos;unité du paramètre</translation>
+    </message>
+    <message>
+        <source>the maximum is less than the minimum</source>
+        <translation>le maximum est inférieur au minimum</translation>
+    </message>
+    <message>
+        <source>a scale is not 0</source>
+        <translation>un facteur n&apos;est pas 0</translation>
+    </message>
+    <message>
+        <source>only a number has a scale</source>
+        <translation>seul un nombre a un facteur</translation>
+    </message>
+    <message>
+        <source>a discrete input cannot be written</source>
+        <translation>une entrée discrète ne peut pas être écrite</translation>
+    </message>
+    <message>
+        <source>an input register cannot be written</source>
+        <translation>un registre d&apos;entrée ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>only an integer without scale and unit has %1</source>
+        <translation>seul un entier sans facteur ni unité a ceci : %1</translation>
+    </message>
+    <message>
+        <source>what the device is comes as a text, its version also as uint16</source>
+        <translation>ce qu&apos;est l&apos;appareil vient comme texte, sa version aussi comme uint16</translation>
+    </message>
+    <message>
+        <source>the parameter is longer than a request may be</source>
+        <translation>le paramètre est plus long qu&apos;une requête ne peut l&apos;être</translation>
+    </message>
+    <message>
+        <source>no parameters</source>
+        <translation>pas de paramètres</translation>
+    </message>
+    <message>
+        <source>a text is expected here</source>
+        <translation>un texte est attendu ici</translation>
+    </message>
+    <message>
+        <source>true or false is expected here</source>
+        <translation>true ou false est attendu ici</translation>
+    </message>
+    <message>
+        <source>a number is expected here</source>
+        <translation>un nombre est attendu ici</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2 is expected here</source>
+        <translation>un nombre entier de %1 à %2 est attendu ici</translation>
+    </message>
+    <message>
+        <source>a list is expected here</source>
+        <translation>une liste est attendue ici</translation>
+    </message>
+    <message>
+        <source>an object is expected here</source>
+        <translation>un objet est attendu ici</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>&quot;%1&quot; manque</translation>
+    </message>
+    <message>
+        <source>unit is a list of numbers from 0 to 255 and ranges, as in 1-10,17</source>
+        <translation>unit est une liste de nombres de 0 à 255 et de plages, comme dans 1-10,17</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>nothing answers</source>
+        <translation>rien ne répond</translation>
+    </message>
+    <message>
+        <source>an empty text</source>
+        <translation>un texte vide</translation>
+    </message>
+    <message>
+        <source>a site file has the format &quot;%1&quot;</source>
+        <translation>un fichier de site a le format &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is written by another device already</source>
+        <translation>&quot;%1&quot; est déjà écrit par un autre appareil</translation>
+    </message>
+    <message>
+        <source>a site has 1 to %1 devices</source>
+        <translation>un site a de 1 à %1 appareils</translation>
+    </message>
+    <message>
+        <source>the simulated device: %1</source>
+        <translation>l&apos;appareil simulé : %1</translation>
     </message>
 </context>
 <context>

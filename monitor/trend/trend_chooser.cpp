@@ -1,5 +1,6 @@
 #include <zor/monitor/trend/trend_chooser.h>
 #include <zor/monitor/ui/words.h>
+#include <zor/platform/qt/looks.h>
 
 #include <QDialogButtonBox>
 #include <QLineEdit>
@@ -24,7 +25,7 @@ TrendChooser::TrendChooser(const Trend& trend, const std::string& language, QWid
         const QString unit = Words::unit(trend.session().shownUnit(i));
         const QString caption = QString::fromStdString(parameters[i].appearance.caption.in(language));
         auto* item = new QListWidgetItem(caption + (unit.isEmpty() ? QString() : " [" + unit + ']'), m_list);
-        item->setToolTip(QString::fromStdString(parameters[i].tag));
+        item->setToolTip(platform::qt::plainToolTip(parameters[i].tag));
         item->setData(Qt::UserRole, static_cast<int>(i));
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(trend.has(i) ? Qt::Checked : Qt::Unchecked);

@@ -2,6 +2,7 @@
 #include <zor/monitor/trend/trend_dock.h>
 #include <zor/monitor/trend/trend_export.h>
 #include <zor/monitor/ui/words.h>
+#include <zor/platform/qt/looks.h>
 
 #include <QAction>
 #include <QDate>
@@ -265,7 +266,7 @@ void TrendDock::fill()
         const Parameter& parameter = m_trend->parameterOf(curve);
         auto* name = new QTableWidgetItem(lineIcon(curveColor(curve.color, palette())),
                                           QString::fromStdString(parameter.appearance.caption.in(language())));
-        name->setToolTip(QString::fromStdString(parameter.tag));
+        name->setToolTip(platform::qt::plainToolTip(parameter.tag));
         name->setFlags(name->flags() | Qt::ItemIsUserCheckable);
         name->setCheckState(curve.shown ? Qt::Checked : Qt::Unchecked);
         name->setData(Qt::UserRole, static_cast<int>(curve.parameter));

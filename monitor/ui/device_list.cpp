@@ -10,7 +10,7 @@
 namespace zor::monitor {
 namespace {
 
-enum ListColumn : int { kDevice, kState, kWhere, kParameters, kForm, kListColumns };
+enum ListColumn { kDevice, kState, kWhere, kParameters, kForm, kListColumns };
 
 /// The state of a connection: what the lamp looks like, and what it means.
 struct StateRow {

@@ -121,8 +121,7 @@ private:
 /// A form drawn in Qt Designer. Its own texts stay as they were drawn.
 class UiForm final : public Form {
 public:
-    /// Raises FileError, or the form reader's FormError, for a file that is no form or has no control of the
-    /// library on it.
+    /// Raises FileError for a file that is no form or has no control of the library on it.
     UiForm(const QString& file, const core::ClassRegistry& classes);
     ~UiForm() override;
 

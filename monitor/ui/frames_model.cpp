@@ -1,4 +1,5 @@
 #include <zor/monitor/ui/frames_model.h>
+#include <zor/platform/qt/looks.h>
 
 #include <QDateTime>
 #include <QFont>
@@ -131,8 +132,10 @@ QVariant FramesModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || index.row() >= rowCount())
         return {};
-    if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
+    if (role == Qt::DisplayRole)
         return cell(*frame(index.row()), index.column());
+    if (role == Qt::ToolTipRole)
+        return platform::qt::plainToolTip(cell(*frame(index.row()), index.column()).toStdString());
     if (role == Qt::FontRole && frame(index.row())->isFailure) {
         QFont font;
         font.setBold(true);

@@ -1,4 +1,5 @@
 #include <zor/monitor/ui/group_tree.h>
+#include <zor/platform/qt/looks.h>
 
 #include <QTabBar>
 
@@ -60,7 +61,7 @@ void GroupTree::open(QTreeWidgetItem& group)
         const std::string& caption = parameter->appearance.caption.in(m_language);
         auto* item =
             new QTreeWidgetItem(&group, {QString::fromStdString(caption.empty() ? parameter->tag : caption)});
-        item->setToolTip(0, QString::fromStdString(parameter->tag));
+        item->setToolTip(0, platform::qt::plainToolTip(parameter->tag));
     }
 }
 

@@ -27,13 +27,14 @@ QString describe(const DeviceEntry& entry)
     return parts.join(", ");
 }
 
-OpenDialog::OpenDialog(const QList<DeviceEntry>& recent, QWidget* parent)
+OpenDialog::OpenDialog(const Memory& memory, QWidget* parent)
     : QDialog(parent), m_simulated(new QRadioButton(tr("A &simulated device"), this)),
       m_real(new QRadioButton(tr("The device at this &address:"), this)), m_address(new QLineEdit(this))
 {
     setWindowTitle(tr("Open device"));
     auto* column = new QVBoxLayout(this);
-    addRecent(recent);
+    const QList<DeviceEntry> recent = memory.recent();
+    addRecent(recent, memory.recentSites());
     if (m_recent != nullptr) {
         auto* heading = new QLabel(tr("&Opened before:"), this);
         heading->setBuddy(m_recent);
@@ -58,10 +59,17 @@ OpenDialog::OpenDialog(const QList<DeviceEntry>& recent, QWidget* parent)
     column->addLayout(fields);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     m_open = buttons->addButton(tr("&Open"), QDialogButtonBox::AcceptRole);
+    auto* site = buttons->addButton(tr("Open s&ite..."), QDialogButtonBox::ActionRole);
+    site->setAutoDefault(false);
+    connect(site, &QPushButton::clicked, this, [this] { browseSite(); });
     column->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_address, &QLineEdit::textEdited, this, [this] { m_real->setChecked(true); });
+    for (QLineEdit* field : {m_address, m_parameters, m_form})
+        connect(field, &QLineEdit::textEdited, this, [this] { leaveSite(); });
+    for (QRadioButton* button : {m_simulated, m_real})
+        connect(button, &QRadioButton::clicked, this, [this] { leaveSite(); });
     connect(m_address, &QLineEdit::textChanged, this, [this] { checkAddress(); });
     connect(m_simulated, &QRadioButton::toggled, this, [this] { checkAddress(); });
     constexpr int kWidth = 560;
@@ -69,16 +77,22 @@ OpenDialog::OpenDialog(const QList<DeviceEntry>& recent, QWidget* parent)
     setEntry(recent.isEmpty() ? DeviceEntry() : recent.front());
 }
 
-void OpenDialog::addRecent(const QList<DeviceEntry>& recent)
+void OpenDialog::addRecent(const QList<DeviceEntry>& devices, const QStringList& sites)
 {
-    if (recent.isEmpty())
+    if (devices.isEmpty() && sites.isEmpty())
         return;
     m_recent = new QListWidget(this);
-    for (const DeviceEntry& entry : recent)
+    for (const DeviceEntry& entry : devices)
         m_recent->addItem(describe(entry));
-    connect(m_recent, &QListWidget::currentRowChanged, this, [this, recent](int row) {
-        if (row >= 0)
-            setEntry(recent[row]);
+    for (const QString& file : sites) {
+        m_recent->addItem(tr("Site: %1").arg(QFileInfo(file).fileName()));
+        m_recent->item(m_recent->count() - 1)->setToolTip(file);
+    }
+    connect(m_recent, &QListWidget::currentRowChanged, this, [this, devices, sites](int row) {
+        if (row >= devices.size())
+            setSite(sites[row - devices.size()]);
+        else if (row >= 0)
+            setEntry(devices[row]);
     });
     connect(m_recent, &QListWidget::itemActivated, this, &QDialog::accept);
     constexpr int kLines = 6;
@@ -108,6 +122,40 @@ QLineEdit* OpenDialog::addFile(QFormLayout& form, const QString& caption, const 
     return file;
 }
 
+void OpenDialog::setSite(const QString& file)
+{
+    // The fields are those of one device: none of them says anything now.
+    m_site = file;
+    for (QRadioButton* button : {m_simulated, m_real}) {
+        button->setAutoExclusive(false);
+        button->setChecked(false);
+        button->setAutoExclusive(true);
+    }
+    for (QLineEdit* field : {m_address, m_parameters, m_form})
+        field->clear();
+    checkAddress();
+}
+
+void OpenDialog::leaveSite()
+{
+    if (m_site.isEmpty())
+        return;
+    m_site.clear();
+    m_recent->setCurrentRow(-1);
+    if (!m_real->isChecked())
+        m_simulated->setChecked(true);
+    checkAddress();
+}
+
+void OpenDialog::browseSite()
+{
+    const QString file = QFileDialog::getOpenFileName(this, tr("Open site"), {}, tr("Site files (*.json)"));
+    if (file.isEmpty())
+        return;
+    m_site = file;
+    accept();
+}
+
 void OpenDialog::scan()
 {
     // What devices say of themselves lies where their parameter file says it does.
@@ -122,13 +170,14 @@ void OpenDialog::scan()
     dialog.onConnect = [this](const QString& found) {
         m_address->setText(found);
         m_real->setChecked(true);
+        leaveSite();
     };
     dialog.exec();
 }
 
 void OpenDialog::checkAddress()
 {
-    m_open->setEnabled(m_simulated->isChecked() || !m_address->text().trimmed().isEmpty());
+    m_open->setEnabled(!m_site.isEmpty() || m_simulated->isChecked() || !m_address->text().trimmed().isEmpty());
 }
 
 DeviceEntry OpenDialog::entry() const
@@ -145,6 +194,7 @@ DeviceEntry OpenDialog::entry() const
 void OpenDialog::setEntry(const DeviceEntry& entry)
 {
     m_entry = entry;
+    m_site.clear();
     (entry.isSimulated() ? m_simulated : m_real)->setChecked(true);
     m_address->setText(entry.isSimulated() ? QString() : entry.address);
     m_parameters->setText(entry.parameters);

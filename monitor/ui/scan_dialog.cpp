@@ -1,6 +1,7 @@
 #include <zor/monitor/scan/scan_command.h>
 #include <zor/monitor/ui/scan_dialog.h>
 #include <zor/monitor/ui/words.h>
+#include <zor/platform/qt/looks.h>
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -187,7 +188,7 @@ void ScanDialog::addRow(const QStringList& cells, bool answers)
     m_table->insertRow(row);
     for (int column = 0; column < cells.size(); ++column) {
         auto* item = new QTableWidgetItem(cells[column]);
-        item->setToolTip(cells[column]);
+        item->setToolTip(platform::qt::plainToolTip(cells[column].toStdString()));
         m_table->setItem(row, column, item);
     }
     m_table->item(row, kAddress)->setData(Qt::UserRole, answers);

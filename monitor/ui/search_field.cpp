@@ -6,7 +6,7 @@
 namespace zor::monitor {
 namespace {
 
-enum Role : int { kTyped = Qt::UserRole, kGoesTo };
+enum Role { kTyped = Qt::UserRole, kGoesTo };
 
 } // namespace
 

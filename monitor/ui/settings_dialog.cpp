@@ -39,6 +39,8 @@ SettingsDialog::SettingsDialog(Comparison comparison, const ParameterFile& param
     fill();
     filter();
     allowLoading();
+    // Only now: filling changes every item.
+    connect(m_table, &QTableWidget::itemChanged, this, [this] { allowLoading(); });
     m_table->setFocus();
 }
 
@@ -87,7 +89,8 @@ void SettingsDialog::addTable()
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setTabKeyNavigation(false);
-    connect(m_table, &QTableWidget::itemChanged, this, [this] { allowLoading(); });
+    m_table->setWordWrap(false);
+    m_table->setAccessibleName(m_use.title);
 }
 
 void SettingsDialog::addButtons(QVBoxLayout& column)
@@ -155,7 +158,6 @@ void SettingsDialog::fill()
     }
     constexpr int kWidest = 240;
     m_table->resizeColumnsToContents();
-    m_table->resizeRowsToContents();
     for (int column = 0; column < m_table->columnCount() - 1; ++column)
         m_table->setColumnWidth(column, std::min(m_table->columnWidth(column), kWidest));
     // As the file has them, until a heading is clicked.
@@ -177,11 +179,13 @@ void SettingsDialog::filter()
 
 void SettingsDialog::tickAll(bool ticked)
 {
+    const QSignalBlocker once(m_table);
     for (int row = 0; row < m_table->rowCount(); ++row) {
         QTableWidgetItem* item = m_table->item(row, 0);
         if (!m_table->isRowHidden(row) && (item->flags() & Qt::ItemIsUserCheckable) != 0)
             item->setCheckState(ticked ? Qt::Checked : Qt::Unchecked);
     }
+    allowLoading();
 }
 
 std::set<std::size_t> SettingsDialog::ticked() const

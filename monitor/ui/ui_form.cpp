@@ -1,4 +1,6 @@
 #include <zor/forms/form.h>
+#include <zor/forms/form_error.h>
+#include <zor/monitor/data/message.h>
 #include <zor/monitor/ui/form.h>
 #include <zor/monitor/ui/no_value_veil.h>
 #include <zor/widgets/form_loader.h>
@@ -6,6 +8,7 @@
 
 #include <QFile>
 #include <QMainWindow>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollArea>
 
@@ -35,6 +38,34 @@ private:
     QSize m_drawn;
 };
 
+/// What the library's reader says of a form, in the operator's language; the tags in it are the file's.
+FileError translated(const std::string& said, const std::string& file)
+{
+    static const QRegularExpression tag("<[^> ]*>?");
+    const std::size_t place = said.find(": ", file.size());
+    QString english = QString::fromStdString(said.substr(place + 2));
+    std::array<std::string, 2> tags;
+    for (std::size_t i = 0; i < tags.size(); ++i) {
+        const QRegularExpressionMatch match = tag.match(english);
+        if (!match.hasMatch())
+            break;
+        tags[i] = match.captured().toStdString();
+        english.replace(match.capturedStart(), match.capturedLength(), '%' + QString::number(i + 1));
+    }
+    return {said.substr(0, place), 0, message(english.toUtf8().constData(), {tags[0], tags[1]})};
+}
+
+/// Whether there is a control of the library on it. What is wrong is said by the library's own reader, with the
+/// line.
+bool hasControls(const core::ClassRegistry& classes, const QByteArray& text, const std::string& file)
+{
+    try {
+        return !forms::Form::parse(classes, text.toStdString(), file).items().empty();
+    } catch (const forms::FormError& error) {
+        throw translated(error.what(), file);
+    }
+}
+
 } // namespace
 
 UiForm::UiForm(const QString& file, const core::ClassRegistry& classes)
@@ -45,11 +76,10 @@ UiForm::UiForm(const QString& file, const core::ClassRegistry& classes)
         throw FileError(name, 0, source.errorString().toStdString());
     constexpr qint64 kLargest = 16 << 20;
     if (source.size() > kLargest)
-        throw FileError(name, 0, "larger than 16 MB");
-    // Read first by the library's own reader: it says what is wrong, and in which line.
-    const QByteArray text = source.readAll();
-    if (forms::Form::parse(classes, text.toStdString(), name).items().empty())
-        throw FileError(name, 0, "no controls of the library are on this form");
+        throw FileError(name, 0, message(QT_TRANSLATE_NOOP("texts", "larger than 16 MB")));
+    if (!hasControls(classes, source.readAll(), name))
+        throw FileError(name, 0,
+                        message(QT_TRANSLATE_NOOP("texts", "no controls of the library are on this form")));
     source.seek(0);
     ZorUiLoader loader;
     QWidget* loaded = loader.load(&source);

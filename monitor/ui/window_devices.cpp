@@ -141,10 +141,10 @@ void Window::warn(const QString& title, const QString& text)
 
 void Window::askAndOpen(const DeviceEntry& first)
 {
-    OpenDialog dialog(m_memory.recent(), this);
+    OpenDialog dialog(m_memory, this);
     dialog.setEntry(first);
     while (dialog.exec() == QDialog::Accepted) {
-        if (open(dialog.entry()))
+        if (dialog.site().isEmpty() ? open(dialog.entry()) : openSite(dialog.site()))
             return;
     }
 }

@@ -68,15 +68,16 @@ QString Words::outcome(const WriteResult& result)
 
 QString Words::reason(const Reply& reply)
 {
-    // The link's own words are translated by themselves; what the operating system says stays as it is.
-    const auto translated = [](std::string_view text) {
-        return QCoreApplication::translate("reasons", std::string(text).c_str());
-    };
     if (reply.exception == 0)
-        return translated(reply.reason);
+        return reason(reply.reason);
     const QString text = tr("exception %1").arg(reply.exception);
     const std::string_view meaning = exceptionMeaning(reply.exception);
-    return meaning.empty() ? text : text + ": " + translated(meaning);
+    return meaning.empty() ? text : text + ": " + reason(std::string(meaning));
+}
+
+QString Words::reason(const std::string& english)
+{
+    return QCoreApplication::translate("reasons", english.c_str());
 }
 
 QString Words::advice(const Reply& reply)

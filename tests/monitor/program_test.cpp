@@ -35,8 +35,8 @@ TEST(Program, RunsUnattendedAndLeavesAReportAPictureAndARecord)
     const Ended good = run({"--run-for", "2", "--screenshot", picture, "--log", log, "--language", "de", "--trend",
                             "Distance", "--report", report});
     EXPECT_EQ(good.status, 0) << good.error.toStdString();
-    EXPECT_TRUE(good.out.contains("Density  ?  not available\n")) << good.out.toStdString();
-    EXPECT_TRUE(good.out.contains(" m3  live\n")) << good.out.toStdString();
+    EXPECT_TRUE(good.out.contains("Density  ?  nicht vorhanden\n")) << good.out.toStdString();
+    EXPECT_TRUE(good.out.contains(" m3  gelesen\n")) << good.out.toStdString();
     EXPECT_FALSE(QImage(picture).isNull());
     QFile written(report);
     ASSERT_TRUE(written.open(QIODevice::ReadOnly));
@@ -48,7 +48,7 @@ TEST(Program, RunsUnattendedAndLeavesAReportAPictureAndARecord)
     ASSERT_TRUE(record.open(QIODevice::ReadOnly));
     const QString lines = record.readAll();
     EXPECT_TRUE(lines.contains(",read,TankHeight,?,125000,live\n")) << "of a tab that nobody has opened";
-    EXPECT_FALSE(good.out.contains("not read")) << good.out.toStdString();
+    EXPECT_FALSE(good.out.contains("nicht gelesen")) << good.out.toStdString();
 }
 
 TEST(Program, SaysWhyItCannotRun)
@@ -91,7 +91,7 @@ TEST(Program, SaysWhyItCannotRun)
         {{"--log", folder.filePath("no/log.csv")}, 2, "no/log.csv: "},
         {{"--frames", "/dev/full", "--run-for", "1"}, 2, "/dev/full: No space left on device"},
         {{"--log", "/dev/full", "--run-for", "1"}, 2, "/dev/full: No space left on device"},
-        {{"--screenshot", folder.filePath("no/a.png"), "--run-for", "1"}, 2, "cannot write"},
+        {{"--screenshot", folder.filePath("no/a.png"), "--run-for", "1"}, 2, "no/a.png: cannot be written"},
         {{"--report", "a.txt"}, 2, "a.txt: neither .pdf nor .html"},
         {{"--report", folder.filePath("no/a.pdf")}, 2, "no/a.pdf: "},
         {{"--device", "127.0.0.1:1", "--report", folder.filePath("a.pdf")},
@@ -105,6 +105,9 @@ TEST(Program, SaysWhyItCannotRun)
          "no-site.json:2: a site file has the format"},
         {{"--site", absent, "--device", "simulated"}, 2, "excludes --site"},
         {{"--serve", port}, 2, "port " + port + ": "},
+        {{"--parameters", bad, "--language", "de"}, 2, bad + ":3: hier wird ein Text erwartet"},
+        {{"--form", fileOf("cut.ui", "<ui>\n<widget"), "--language", "fr"}, 2, "cut.ui:2: <widget n'est pas"},
+        {{"--device", "tcp://h?unit=x", "--language", "de"}, 2, "unit ist eine Zahl von 0 bis 255"},
     };
     for (const Row& row : rows) {
         const Ended bad = run(row.arguments);

@@ -2,11 +2,14 @@
 
 #include <zor/monitor/device/site_file.h>
 #include <zor/monitor/ui/group_tree.h>
+#include <zor/monitor/ui/open_dialog.h>
 #include <zor/tests/monitor/window_fixture.h>
 #include <zor/units/unit_catalogue.h>
 
 #include <QClipboard>
+#include <QDropEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QProcess>
 #include <QProgressDialog>
 #include <QStatusBar>
@@ -348,6 +351,45 @@ TEST_F(Transfers, TheMenuOfAControlCopiesItsValueAndSetsItToThatOfAFile)
     ASSERT_EQ(window->session().pending().size(), 1U);
     EXPECT_EQ(window->session().pending().front().newText, "85.0");
     EXPECT_EQ(window->session().link().writes().requests, 0U);
+}
+
+TEST_F(Transfers, AFileThatIsDroppedIsOfferedForWhatItIs)
+{
+    const auto drop = [&](const QString& name) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(name)});
+        QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window.get(), &enter);
+        QDropEvent event(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        if (enter.isAccepted())
+            QApplication::sendEvent(window.get(), &event);
+        return enter.isAccepted();
+    };
+    const auto offered = [&](const QString& name) {
+        DeviceEntry entry;
+        QTimer::singleShot(200, [&] {
+            if (auto* dialog = dynamic_cast<OpenDialog*>(QApplication::activeModalWidget())) {
+                entry = dialog->entry();
+                dialog->reject();
+            }
+        });
+        EXPECT_TRUE(drop(name));
+        QTest::qWait(300);
+        return entry.parameters + '|' + entry.form;
+    };
+    EXPECT_FALSE(drop(folder.filePath("a.txt")));
+    EXPECT_EQ(offered("/a/b.ui"), "|/a/b.ui");
+    QFile parameters(folder.filePath("device.json"));
+    ASSERT_TRUE(parameters.open(QIODevice::WriteOnly));
+    EXPECT_EQ(offered(parameters.fileName()), parameters.fileName() + '|');
+    window->front().transfer().save(file);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(file); }, kPatience));
+    EXPECT_TRUE(drop(file));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->front().transfer().openDialog() != nullptr; }, kPatience));
+    const QString site = folder.filePath("site.json");
+    window->saveSite(site);
+    EXPECT_TRUE(drop(site));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->panels().size() == 2; }, kPatience));
 }
 
 TEST_F(Transfers, TwoFilesAreComparedWithoutTheDevice)

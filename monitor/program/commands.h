@@ -1,0 +1,14 @@
+#pragma once
+
+/// What the program does without a window.
+
+#include <zor/monitor/program/options.h>
+
+namespace zor::monitor {
+
+/// Runs the simulated device alone, until the program is ended. The exit status, here and below.
+int serve(const ParameterFile& file, int port);
+/// Settings files and the report, with the device or without.
+int transfer(const Settings& settings, ParameterFile file);
+
+} // namespace zor::monitor

@@ -1,0 +1,32 @@
+#include <zor/monitor/program/outcome.h>
+#include <zor/monitor/ui/words.h>
+
+#include <iostream>
+
+namespace zor::monitor {
+
+int fail(int status, const std::string& text)
+{
+    std::cerr << "zor-monitor: " << text << '\n';
+    return status;
+}
+
+int failUnhealthy(std::string text, const Reply& failure, int status)
+{
+    if (const QString reason = Words::reason(failure); !reason.isEmpty())
+        text += ": " + reason.toStdString();
+    if (const QString advice = Words::advice(failure); !advice.isEmpty())
+        text += '\n' + advice.toStdString();
+    return fail(status, text);
+}
+
+int withFiles(Device& device, int status)
+{
+    if (const QString error = device.session().recordError(); !error.isEmpty())
+        return fail(kUsage, device.entry().record.toStdString() + ": " + error.toStdString());
+    if (const QString error = device.framesError(); !error.isEmpty())
+        return fail(kUsage, device.entry().frames.toStdString() + ": " + error.toStdString());
+    return status;
+}
+
+} // namespace zor::monitor

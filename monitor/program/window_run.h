@@ -1,0 +1,14 @@
+#pragma once
+
+/// The program with its window.
+
+#include <zor/monitor/program/options.h>
+#include <zor/monitor/ui/languages.h>
+
+namespace zor::monitor {
+
+/// Shows devices until the window is closed or the time is over, in the language in force unless another was
+/// chosen last. The exit status.
+int runWindow(Settings settings, Languages& languages);
+
+} // namespace zor::monitor
