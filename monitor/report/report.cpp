@@ -1,24 +1,19 @@
 #include <zor/monitor/report/report.h>
+#include <zor/monitor/report/report_pages.h>
 #include <zor/monitor/report/report_writer.h>
 #include <zor/monitor/session/value_texts.h>
 #include <zor/monitor/settings/comparison.h>
 #include <zor/monitor/ui/words.h>
 #include <zor/platform/version.h>
 
-#include <QAbstractTextDocumentLayout>
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QLocale>
-#include <QPainter>
-#include <QPdfWriter>
 #include <QSaveFile>
 #include <QSysInfo>
-#include <QTextBlock>
-#include <QTextDocument>
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace zor::monitor {
 namespace {
@@ -45,9 +40,11 @@ constexpr std::array kStates{
 class Report {
     Q_DECLARE_TR_FUNCTIONS(Report)
 public:
-    Report(const Session& session, const ReportParts& parts) : m_session(session), m_parts(parts) {}
+    Report(const Session& session, const ReportParts& parts, ReportSink& sink)
+        : m_session(session), m_parts(parts), m_writer(sink)
+    {}
 
-    QString html()
+    void write()
     {
         const QString own = plain(m_session.file().title.in(m_parts.language));
         const QString title = own.isEmpty() ? tr("Report") : tr("%1 - Report").arg(own);
@@ -58,7 +55,7 @@ public:
             addDifferences(*m_parts.compared);
         addWrites();
         addPictures();
-        return m_writer.end(tr("Made by zor-monitor %1.").arg(plain(std::string(version()))));
+        m_writer.end(tr("Made by zor-monitor %1.").arg(plain(std::string(version()))));
     }
 
 private:
@@ -71,6 +68,17 @@ private:
     [[nodiscard]] QString caption(const Parameter& parameter) const
     {
         return plain(parameter.appearance.caption.in(m_parts.language));
+    }
+
+    /// A bit that the file has no words for is on or off.
+    [[nodiscard]] QString valueText(const Parameter& parameter, const std::string& text) const
+    {
+        if (parameter.location.type != ValueType::Bit || (text != "0" && text != "1"))
+            return plain(text);
+        const auto entry = std::ranges::find(parameter.entries, text == "1" ? 1 : 0, &Entry::value);
+        if (entry != parameter.entries.end())
+            return plain(entry->text.in(m_parts.language));
+        return text == "1" ? tr("On") : tr("Off");
     }
 
     void addHead()
@@ -120,7 +128,7 @@ private:
             state = tr("this device does not have it");
         // What was read once is no value of a device that has none now.
         const bool has = !lacking && (outcome == ReadOutcome::Live || outcome == ReadOutcome::NoAnswer);
-        const QString text = has && value.text != "?" ? plain(value.text) : QString();
+        const QString text = has && value.text != "?" ? valueText(parameter, value.text) : QString();
         m_writer.row({caption(parameter), plain(parameter.tag), text,
                       text.isEmpty() ? QString() : Words::unit(value.unit), state});
     }
@@ -136,7 +144,7 @@ private:
                     return QString();
                 const ShownValue value =
                     describer(parameter, registers, m_session.shownUnit(index), m_parts.language, mask);
-                return Words::value(value.text, value.unit);
+                return Words::value(valueText(parameter, value.text).toStdString(), value.unit);
             };
             return std::pair(text(one), text(other));
         };
@@ -187,7 +195,7 @@ private:
             const auto [before, target] = texts(write.parameter, write.before, write.target, write.mask);
             QString result = tr(std::string(write.outcome).c_str());
             if (!write.reason.empty())
-                result += ": " + QCoreApplication::translate("reasons", write.reason.c_str());
+                result += ": " + Words::reason(write.reason);
             m_writer.row({timeText(write.time), operatorName(), caption(parameter), before, target, result});
         }
         m_writer.endTable();
@@ -204,75 +212,8 @@ private:
 
     const Session& m_session;
     const ReportParts& m_parts;
-    ReportWriter m_writer;
+    ReportSink& m_writer;
 };
-
-/// No heading stays at the end of a page alone. Each break lays the whole document out anew, which for a large one
-/// takes longer than a heading is worth.
-void keepHeadings(QTextDocument& document, double line)
-{
-    constexpr int kMostPages = 30;
-    if (document.pageCount() > kMostPages)
-        return;
-    constexpr int kLines = 4; ///< that belong to it, for the first rows of a table
-    const auto place = [&](const QTextBlock& block) {
-        return document.documentLayout()->blockBoundingRect(block);
-    };
-    const auto pageOf = [&](double y) { return std::floor(y / document.pageSize().height()); };
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        QTextBlock content = block;
-        while (content.isValid() && content.blockFormat().headingLevel() > 0)
-            content = content.next();
-        if (content == block || !content.isValid())
-            continue;
-        const double last = std::max(place(content).bottom(), place(content).top() + kLines * line);
-        if (pageOf(last) == pageOf(place(block).top()))
-            continue;
-        QTextBlockFormat format = block.blockFormat();
-        format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-        QTextCursor(block).setBlockFormat(format);
-    }
-}
-
-void writePdf(QIODevice& target, const QString& html)
-{
-    constexpr int kMargin = 15; ///< millimetres
-    constexpr double kPoints = 9;
-    QPdfWriter pdf(&target);
-    pdf.setPageSize(QPageSize(QPageSize::A4));
-    pdf.setPageMargins(QMarginsF(kMargin, kMargin, kMargin, kMargin), QPageLayout::Millimeter);
-    pdf.setCreator("zor-monitor");
-    QTextDocument document;
-    QFont font = document.defaultFont();
-    font.setPointSizeF(kPoints);
-    const double line = QFontMetricsF(font, &pdf).lineSpacing();
-    document.documentLayout()->setPaintDevice(&pdf);
-    document.setDefaultFont(font);
-    document.setDocumentMargin(0);
-    document.setHtml(html);
-    const QRectF page(0, 0, pdf.width(), pdf.height() - 2 * line); // below it stands the number
-    document.setPageSize(page.size());
-    keepHeadings(document, line);
-    pdf.setTitle(document.metaInformation(QTextDocument::DocumentTitle));
-    QPainter painter(&pdf);
-    painter.setFont(font);
-    // Black on white, whatever the colours of the screen.
-    QAbstractTextDocumentLayout::PaintContext context;
-    context.palette.setColor(QPalette::Text, Qt::black);
-    for (int number = 0; number < document.pageCount(); ++number) {
-        if (number > 0)
-            pdf.newPage();
-        const double top = number * page.height();
-        painter.save();
-        painter.translate(0, -top);
-        context.clip = page.translated(0, top);
-        painter.setClipRect(context.clip);
-        document.documentLayout()->draw(&painter, context);
-        painter.restore();
-        painter.drawText(QRectF(0, 0, page.width(), pdf.height()), Qt::AlignRight | Qt::AlignBottom,
-                         QString("%1 / %2").arg(number + 1).arg(document.pageCount()));
-    }
-}
 
 } // namespace
 
@@ -282,18 +223,24 @@ QString operatorName()
     return user.isEmpty() ? QSysInfo::machineHostName() : user + " @ " + QSysInfo::machineHostName();
 }
 
-QString reportHtml(const Session& session, const ReportParts& parts) { return Report(session, parts).html(); }
+QString reportHtml(const Session& session, const ReportParts& parts)
+{
+    ReportWriter writer;
+    Report(session, parts, writer).write();
+    return writer.html();
+}
 
 QString saveReport(const QString& file, const Session& session, const ReportParts& parts)
 {
-    const QString html = reportHtml(session, parts);
     QSaveFile target(file);
     if (!target.open(QIODevice::WriteOnly))
         return target.errorString();
-    if (file.endsWith(".pdf", Qt::CaseInsensitive))
-        writePdf(target, html);
-    else
-        target.write(html.toUtf8());
+    if (file.endsWith(".pdf", Qt::CaseInsensitive)) {
+        ReportPages pages(target);
+        Report(session, parts, pages).write();
+    } else {
+        target.write(reportHtml(session, parts).toUtf8());
+    }
     return target.commit() ? QString() : target.errorString();
 }
 

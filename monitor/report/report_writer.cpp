@@ -5,24 +5,26 @@
 namespace zor::monitor {
 namespace {
 
-/// Control characters have no place in a document, escaped or not.
-QString escaped(QString text)
-{
-    for (QChar& character : text) {
-        if (character.category() == QChar::Other_Control && character != '\n' && character != '\t')
-            character = QChar::ReplacementCharacter;
-    }
-    return text.toHtmlEscaped();
-}
+QString escaped(const QString& text) { return withoutControls(text).toHtmlEscaped(); }
 
 constexpr const char* kStyle =
     "body{font-family:sans-serif;color:#111;background:#fff}h1{font-size:x-large}h2{font-size:large}h1,h2,h3{"
     "margin-bottom:6px}"
     "h3{font-size:medium}table{border-collapse:collapse;width:100%}th,td{border:1px solid #999;padding:2px 6px;"
-    "text-align:left;vertical-align:top}th{background-color:#e8e8e8}tr{page-break-inside:avoid}img{max-width:100%"
+    "text-align:left;vertical-align:top}th{background-color:#e8e8e8}th[scope=row]{width:25%}tr{page-break-inside:"
+    "avoid}img{max-width:100%"
     "}";
 
 } // namespace
+
+QString withoutControls(QString text)
+{
+    for (QChar& character : text) {
+        if (character.category() == QChar::Other_Control && character != '\n' && character != '\t')
+            character = QChar::ReplacementCharacter;
+    }
+    return text;
+}
 
 void ReportWriter::element(const char* name, const QString& text, const char* attributes)
 {
@@ -49,10 +51,10 @@ void ReportWriter::paragraph(const QString& text) { element("p", text); }
 
 void ReportWriter::pairs(const std::vector<std::pair<QString, QString>>& rows)
 {
-    m_html += "<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\">";
+    m_html += "<table>";
     for (const auto& [name, text] : rows) {
         m_html += "\n<tr>";
-        element("th", name, " scope=\"row\" width=\"25%\" align=\"left\"");
+        element("th", name, " scope=\"row\"");
         element("td", text);
         m_html += "</tr>";
     }
@@ -61,9 +63,9 @@ void ReportWriter::pairs(const std::vector<std::pair<QString, QString>>& rows)
 
 void ReportWriter::beginTable(const QStringList& headings)
 {
-    m_html += "<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\"><thead><tr>";
+    m_html += "<table><thead><tr>";
     for (const QString& heading : headings)
-        element("th", heading, " scope=\"col\" align=\"left\"");
+        element("th", heading, " scope=\"col\"");
     m_html += "</tr></thead><tbody>";
 }
 
@@ -89,10 +91,10 @@ void ReportWriter::picture(const QImage& image, const QString& text)
                   .arg(escaped(text), QString::fromLatin1(bytes.toBase64()));
 }
 
-QString ReportWriter::end(const QString& text)
+void ReportWriter::end(const QString& text)
 {
     paragraph(text);
-    return m_html + "</body></html>\n";
+    m_html += "</body></html>\n";
 }
 
 } // namespace zor::monitor

@@ -1,32 +1,28 @@
 #pragma once
 
-/// HTML piece by piece. Every text that goes in is escaped here, and nowhere else.
+/// A report as HTML. Every text that goes in is escaped here, and nowhere else.
 
-#include <QImage>
-#include <QString>
-#include <QStringList>
-
-#include <utility>
-#include <vector>
+#include <zor/monitor/report/report_sink.h>
 
 namespace zor::monitor {
 
-/// Writes what browsers and QTextDocument both understand.
-class ReportWriter {
+/// Writes one document that needs no other file.
+class ReportWriter final : public ReportSink {
 public:
-    void begin(const QString& title, const QString& language);
-    void heading(const QString& text);
-    void subheading(const QString& text);
-    void paragraph(const QString& text);
-    /// A table of names and what they stand for.
-    void pairs(const std::vector<std::pair<QString, QString>>& rows);
-    void beginTable(const QStringList& headings);
-    void row(const QStringList& texts);
-    void endTable();
-    /// In the document itself; `text` is for those who do not see it.
-    void picture(const QImage& image, const QString& text);
-    /// The whole document, with a last line.
-    [[nodiscard]] QString end(const QString& text);
+    void begin(const QString& title, const QString& language) override;
+    void heading(const QString& text) override;
+    void subheading(const QString& text) override;
+    void paragraph(const QString& text) override;
+    void pairs(const std::vector<std::pair<QString, QString>>& rows) override;
+    void beginTable(const QStringList& headings) override;
+    void row(const QStringList& texts) override;
+    void endTable() override;
+    /// In the document itself.
+    void picture(const QImage& image, const QString& text) override;
+    void end(const QString& text) override;
+
+    /// The whole document once the report has ended.
+    [[nodiscard]] const QString& html() const { return m_html; }
 
 private:
     void element(const char* name, const QString& text, const char* attributes = "");
