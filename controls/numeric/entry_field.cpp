@@ -108,9 +108,8 @@ void EntryField::showSupported(bool isSupported, bool unitEnable)
     }
 }
 
-void EntryField::showUnit(std::string_view caption, bool showsUnit)
+void EntryField::followUnit(bool showsUnit)
 {
-    m_units->setCaption(caption);
     if (showsUnit)
         move(*m_icon, m_units->left() + m_units->width() + kGap, m_icon->top());
 }

@@ -55,8 +55,8 @@ public:
     /// Shows the text, and the unit where it is enabled; hides both and the icon for a device that does not
     /// offer the parameter.
     void showSupported(bool isSupported, bool unitEnable);
-    /// Shows a text as the unit; the icon follows the label's width where a unit is shown.
-    void showUnit(std::string_view caption, bool showsUnit);
+    /// Places the icon behind the unit label, which has got another width, where a unit is shown.
+    void followUnit(bool showsUnit);
     /// Places all three. `beside` is the width of what touches the field on its right. Returns where the field
     /// has come to lie.
     platform::Rect layOut(const platform::Rect& area, platform::Twips minHeight, platform::Twips beside,

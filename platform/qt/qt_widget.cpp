@@ -67,6 +67,9 @@ void EventReports::after()
         break;
     case QEvent::FocusOut: focusLost(static_cast<QFocusEvent&>(m_event)); break;
     case QEvent::KeyRelease: {
+        // What the key itself has frozen or hidden hears no more of it.
+        if (!m_widget.isReachable())
+            break;
         auto& key = static_cast<QKeyEvent&>(m_event);
         std::int16_t code = codeOf(key);
         std::int16_t shift = shiftOf(key.modifiers());

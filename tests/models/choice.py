@@ -421,6 +421,8 @@ class ListBox(Choice):
     def struck(self, widget, code):
         last = len(self.entries) - 1
         to = {40: min(self.current + 1, last), 38: max(self.current - 1, 0), 36: 0, 35: last}.get(code, self.current)
+        if self.current < 0 and code in (40, 38, 36, 35):
+            to = min(last, 0)  # the first entry, whichever way
         if code == 32 and self.current >= 0:
             self.switch(self.current)
         elif last >= 0 and to != self.current:

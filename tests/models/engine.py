@@ -12,10 +12,13 @@ import time
 
 import choice
 import display
+import numeric
+import slider
+import text_box
 import toggles
 from values import Colour, TooDeep, written
 
-MODELS = {**display.CONTROLS, **choice.CONTROLS, **toggles.CONTROLS}
+MODELS = {**display.CONTROLS, **numeric.CONTROLS, **slider.CONTROLS, **text_box.CONTROLS, **choice.CONTROLS, **toggles.CONTROLS}
 LENGTH, BATCH = 60, 100
 
 
@@ -24,13 +27,14 @@ class Form:
 
     def __init__(self, zorsh, cache):
         self.zorsh, self.cache = zorsh, cache
-        self.usermode, self.menu, self.boxes, self.decimal = True, "none", [], "."
+        self.usermode, self.menu, self.boxes = True, "none", []
+        self.decimal, self.group = ".", ","
 
     def tell(self, what, *arguments):
         if what == "usermode":
             self.usermode = arguments[0] == "on"
         else:
-            self.decimal = arguments[0].strip('"')
+            self.decimal, self.group = (argument.strip('"') for argument in arguments)
 
     def ask(self, *lines):
         if lines not in self.cache:
@@ -156,9 +160,9 @@ class Player:
             words = re.findall(r'"(?:[^"\\]|\\.)*"|\S+', said[0])
             for name, word in zip(command.split()[1:], words):
                 one = script[:wanted[0]] + [(script[wanted[0]][0], [("get " + name, [word])])]
-                if self.failures([one]):
-                    lines += ["get " + name, "= " + word]
-        return "\n".join(lines) + f"\n# {wanted[2]}"
+                if found := self.failures([one]):
+                    lines += ["get " + name, f"= {word}  # {found[0][2].rpartition('got ')[2]}"]
+        return "\n".join(lines + [] if wanted[1].startswith("get ") else [*lines, "# " + wanted[2]])
 
     def run(self, count, seed):
         """Plays that many steps; answers the first history that diverges, or None."""
@@ -176,7 +180,7 @@ def prove(zorsh):
     """That a divergence is found, and told in as few commands as it takes: a label that never looks at its versions."""
     wrong = type("Wrong", (display.Label,), {"check_version": display.Label.support})
     told = Player(zorsh, "headless", wrong).run(10_000, 1).splitlines()
-    if len(told) != 7 or not told[3].startswith("put c.DeviceVersion") or told[4] != "get c.DeviceVerNotSupported":
+    if len(told) != 6 or not told[3].startswith("put c.DeviceVersion") or told[4] != "get c.DeviceVerNotSupported":
         sys.exit("\n".join(["the wrong model is told like this:", *told]))
 
 

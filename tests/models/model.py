@@ -1,6 +1,7 @@
 """What all nine controls have in common, written from the rules: properties, states, handlers, the operator's mouse."""
 
 from steps import Steps
+from units import Overflow
 from values import BEGIN, DEFAULTS, DESIGNED, EFFECTS, KEYS, SILENT, Colour, TooDeep, type_index, version_fails, written
 
 
@@ -18,7 +19,7 @@ class Model(Steps):
     MENU_OVER = ("Surface",)
 
     def __init__(self, form):
-        self.form, self.handlers, self.out, self.kept, self.depth = form, {}, [], None, 0
+        self.form, self.handlers, self.out, self.depth = form, {}, [], 0
         self.stored = self.STORED.split()
         self.raised = set(self.EVENTS.split())
         self.aspects = [f"{widget}.{aspect}" for widget, listed in self.WIDGETS.items() for aspect in listed.split()]
@@ -55,8 +56,8 @@ class Model(Steps):
 
     def initialise(self):
         mode, self.form.usermode = self.form.usermode, False
-        for name in self.stored:
-            self.put(name, self.FRESH.get(name, self[name]))
+        for name, value in {name: self.FRESH.get(name, self[name]) for name in self.stored}.items():
+            self.put(name, value)
         self.form.usermode = mode
 
     def forget(self):
@@ -64,8 +65,12 @@ class Model(Steps):
 
     def bag(self):
         default = {**DEFAULTS, **self.DEFAULTS}
-        return [f"{KEYS.get(name, name)}={written(self.look(name))}" for name in self.stored
-                if self.look(name) != default[name] or name in self.ALWAYS]
+        return [f"{KEYS.get(name, name)}={written(self.kept(name))}" for name in self.stored
+                if self.kept(name) != default[name] or name in self.ALWAYS]
+
+    def kept(self, name):
+        """What is stored of a property."""
+        return self.look(name)
 
     ALWAYS = ()
 
@@ -143,7 +148,14 @@ class Model(Steps):
         kind, *rest = step
         if self.dead:
             return self.out.append("error 424")
-        return getattr(self, "do_" + kind, None)(*rest) if kind in ("do", "host", "destroy") else getattr(self, kind)(*rest)
+        try:
+            return getattr(self, "do_" + kind if kind in ("do", "host", "destroy") else kind)(*rest)
+        except Overflow:
+            return self.out.append("error 6")
+
+    def both(self, *steps):
+        for step in steps:
+            self.perform(step)
 
     def do_host(self, event, kind, *rest):
         if kind == "off":
@@ -307,7 +319,7 @@ class Model(Steps):
         width, height = self[widget + ".Width"], self[widget + ".Height"]
         if widget in self.AT:
             return min(self.AT[widget][0], width / 2), min(self.AT[widget][1], height / 2)
-        return width / 2, height / 2
+        return width - 30 if widget == "txt_TextBox" else width / 2, height / 2
 
     def button(self, widget, which, end):
         x, y = self.point

@@ -30,7 +30,8 @@ class Steps:
         """The commands of a step with what each prints, and then all that can be seen."""
         if step[0] == "store":
             bag = self.bag()
-            values = {name: self.look(name) for name in self.stored}
+            values = {name: self.kept(name) for name in self.stored}
+            values = {name: float(written(value)) if isinstance(value, float) else value for name, value in values.items()}
             done = [("bag c", bag or []), ("destroy c", []), (" ".join(["restore", self.CLASS, "c", *bag]), [])]
             self.do_destroy()
             self.handlers = {}
@@ -40,9 +41,11 @@ class Steps:
             self.form.tell(*step[1:])
             done = [(" ".join(step[1:]), [])]
         else:
-            command, self.out = self.render(step), []
-            self.perform(step)
-            done = [(command, self.out)]
+            done = []
+            for one in step[1:] if step[0] == "both" else [step]:
+                done.append((self.render(one), []))
+                self.out = done[-1][1]
+                self.perform(one)
         if self.dead:
             done.append((f"new {self.CLASS} c", []))
             boxes, self.handlers = self.form.boxes, {}
@@ -107,7 +110,9 @@ class Steps:
         return (random.choice(self.KEYS),) if action == "key" else ()
 
     def random_size(self, random):
-        return ("size", random.choice((0, 500, 690, 700, 1000, 3000, 4635)), random.choice((0, 200, 315, 318, 400, 515, 900)))
+        return ("size", random.choice((0, 500, 690, 700, 1000, 3000, 4635)), random.choice(self.HEIGHTS))
+
+    HEIGHTS = (0, 200, 315, 318, 400, 515, 900)
 
     def random_steps(self, random):
         """What comes next: mostly one step, or a handler for the length of one."""

@@ -191,17 +191,17 @@ class OptionButton(Toggle):
             self.emit("DataModifiedSetTrue")
         self.colors()
         self.emit("OptionClick")
-        if not overtaken() and self["opt_OptionButton.Value"]:
+        if self["opt_OptionButton.Value"]:
             self.emit("OutputValueChange")
 
     def apply(self):
         overtaken, self.armed = self.newer(), True
         self.reference = self["DeviceValue"]
-        was, kept = self["opt_OptionButton.Value"], self["DataModified"]
+        was = self["opt_OptionButton.Value"]
         fresh = self.show(self["EnumValue"], overtaken)
         self["DataModified"], self["OutputValue"] = False, self["EnumValue"]
         if was and self["opt_OptionButton.Value"] and not fresh:
-            self["DataModified"] = kept and self["OutputValue"] != self.reference
+            self["DataModified"] = not self.locked() and self["OutputValue"] != self.reference
         self.status()
         self.colors()
         if fresh and self.may_click():

@@ -75,11 +75,15 @@ void ctx_ZorSlider::s_ApplyDeviceValue()
 {
     const auto underWay = newValue();
     testValue(m_deviceValue);
+    if (isOvertaken(underWay))
+        return;
     m_reference = m_units.toOutput(m_deviceValue);
     moveTo(m_reference);
     if (isOvertaken(underWay))
         return;
     assignOutput(m_deviceValue);
+    if (isOvertaken(underWay))
+        return;
     m_status.dataModified = false;
     s_UpdateStatusDisplay();
 }
@@ -89,6 +93,8 @@ void ctx_ZorSlider::ModifiedValue(double value)
     carryOut([&] {
         const auto underWay = newValue();
         testValue(value);
+        if (isOvertaken(underWay))
+            return;
         moveTo(m_units.toOutput(value));
         if (isOvertaken(underWay))
             return;

@@ -59,6 +59,8 @@ void ctx_ZorTextBox::s_ApplyDeviceValue()
     // A unit without a display pattern shows nothing: then there is nothing to hand back either.
     if (!number || showsDisplayValue() || m_field.number())
         assignOutput(m_deviceValue);
+    if (isOvertaken(underWay))
+        return;
     m_status.dataModified = false;
     m_invalidEntry = false;
     s_UpdateColors();

@@ -24,7 +24,12 @@ void ctx_ZorTextBox::s_UpdateUnitLabelVisibility()
     m_field.units().setVisible(m_unitEnable && isDeviceSupported());
 }
 
-void ctx_ZorTextBox::s_ShowUnit(std::string_view caption) { m_field.showUnit(caption, showsUnit()); }
+void ctx_ZorTextBox::s_ShowUnit(std::string_view caption)
+{
+    m_field.units().setCaption(caption);
+    // Asked afterwards: who hears of the caption may switch the unit off.
+    m_field.followUnit(showsUnit());
+}
 
 void ctx_ZorTextBox::describe(platform::Spoken& spoken) const
 {
@@ -49,6 +54,8 @@ void ctx_ZorTextBox::s_Layout()
 void ctx_ZorTextBox::s_AfterLoading()
 {
     UnitControl::s_AfterLoading();
+    // The unit of the stored value is the stored one.
+    m_deviceValueUnit = m_units.deviceUnit;
     show(m_field.text().text());
     s_Layout();
 }

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <exception>
 #include <limits>
 #include <string>
@@ -23,6 +24,8 @@ std::int32_t nearestWhole(double number)
     using Limits = std::numeric_limits<std::int32_t>;
     return roundToInt32(std::clamp<double>(number, Limits::min(), Limits::max()));
 }
+
+bool fits(double number) { return std::abs(number - nearestWhole(number)) <= 0.5; }
 
 } // namespace
 
@@ -58,12 +61,18 @@ void ctx_ZorUpDown::s_ApplyDeviceValue()
 {
     const auto underWay = newValue();
     testValue(m_deviceValue);
+    if (isOvertaken(underWay))
+        return;
     m_reference = roundToInt32(m_units.toOutput(m_deviceValue));
     showNumber(m_reference);
+    if (isOvertaken(underWay))
+        return;
     spinTo(m_reference);
     if (isOvertaken(underWay))
         return;
     assignOutput(m_deviceValue);
+    if (isOvertaken(underWay))
+        return;
     m_status.dataModified = false;
     s_UpdateColors();
     s_UpdateStatusDisplay();
@@ -74,7 +83,11 @@ void ctx_ZorUpDown::ModifiedValue(std::int32_t value)
     carryOut([&] {
         const auto underWay = newValue();
         testValue(value);
+        if (isOvertaken(underWay))
+            return;
         showText(platform::doubleToText(m_units.toOutput(value)));
+        if (isOvertaken(underWay))
+            return;
         m_isEntry = false;
         if (const std::optional<double> number = m_field.number()) {
             spinToNumber(*number);
@@ -152,25 +165,38 @@ void ctx_ZorUpDown::s_UpdateSpin()
     if (!number)
         return;
     const std::int32_t value = roundToInt32(*number);
-    const std::int32_t target =
-        std::max(std::min(value, nearestWhole(m_units.maxParam)), nearestWhole(m_units.minParam));
-    // Widen, set, narrow: the button makes one step, and what comes before an end that does not fit stays.
-    spinLimits(std::min(m_spin->minimum(), target), std::max(m_spin->maximum(), target));
+    const std::int32_t lower = nearestWhole(m_units.minParam);
+    const std::int32_t upper = nearestWhole(m_units.maxParam);
+    const std::int32_t target = std::max(std::min(value, upper), lower);
+    const std::int32_t before = m_spin->value();
+    // Ends and value are one step: who hears of it finds both, and may write any value of the new unit. An end
+    // that does not fit stays where it holds nothing back.
+    m_isSpinQuiet = true;
+    spinFrom(std::min(m_spin->minimum(), target));
+    spinUpTo(std::max(m_spin->maximum(), target));
     spinTo(target);
-    spinLimits(roundToInt32(m_units.minParam), m_spin->maximum());
-    spinLimits(m_spin->minimum(), roundToInt32(m_units.maxParam));
+    if (fits(m_units.minParam))
+        spinFrom(lower);
+    if (fits(m_units.maxParam))
+        spinUpTo(upper);
+    m_isSpinQuiet = false;
+    if (m_spin->value() != before)
+        forward(upd_UpDown, Notice::Change, {});
+    // What does not fit is told.
+    static_cast<void>(roundToInt32(m_units.minParam));
+    static_cast<void>(roundToInt32(m_units.maxParam));
 }
 
 void ctx_ZorUpDown::s_UpdateMinParamValue()
 {
     m_units.updateMinParam();
-    spinLimits(roundToInt32(m_units.minParam), m_spin->maximum());
+    spinFrom(roundToInt32(m_units.minParam));
 }
 
 void ctx_ZorUpDown::s_UpdateMaxParamValue()
 {
     m_units.updateMaxParam();
-    spinLimits(m_spin->minimum(), roundToInt32(m_units.maxParam));
+    spinUpTo(roundToInt32(m_units.maxParam));
 }
 
 // --- Spin button
@@ -187,11 +213,23 @@ void ctx_ZorUpDown::spinToNumber(double number)
     spinTo(nearestWhole(number));
 }
 
-void ctx_ZorUpDown::spinLimits(std::int32_t minimum, std::int32_t maximum)
+void ctx_ZorUpDown::spinFrom(std::int32_t minimum)
 {
     m_spin->setMinimum(minimum);
+    keepSpinWithin();
+}
+
+void ctx_ZorUpDown::spinUpTo(std::int32_t maximum)
+{
     m_spin->setMaximum(maximum);
-    settleSpin();
+    keepSpinWithin();
+}
+
+void ctx_ZorUpDown::keepSpinWithin()
+{
+    // Not the button's own value: a step that is under way may still be undone.
+    m_spinValue = std::max(std::min(m_spinValue, m_spin->maximum()), m_spin->minimum());
+    m_stepOvertaken = false;
 }
 
 void ctx_ZorUpDown::settleSpin()
@@ -204,9 +242,9 @@ void ctx_ZorUpDown::onSpin()
 {
     if (isInputLocked() || m_stepOvertaken) {
         // The step is undone without a word: the host has not seen a value change.
-        m_spinningBack = true;
+        m_isSpinQuiet = true;
         spinTo(m_spinValue);
-        m_spinningBack = false;
+        m_isSpinQuiet = false;
         return;
     }
     const auto underWay = valueUnderWay();
@@ -229,7 +267,7 @@ void ctx_ZorUpDown::onNotice(int widget, Notice notice, platform::EventArgs args
         return onTextChanged();
     if (widget == upd_UpDown && notice == Notice::Change) {
         const auto underWay = valueUnderWay();
-        if (!m_spinningBack)
+        if (!m_isSpinQuiet)
             forward(widget, notice, args);
         m_stepOvertaken = isOvertaken(underWay);
         return;
@@ -304,7 +342,8 @@ void ctx_ZorUpDown::undoEdit()
         return;
     const auto underWay = newValue();
     showNumber(m_reference);
-    spinTo(m_reference);
+    if (!isOvertaken(underWay))
+        spinTo(m_reference);
     if (isOvertaken(underWay))
         return;
     // A field that shows the device's value already does not report: the flag came from elsewhere.

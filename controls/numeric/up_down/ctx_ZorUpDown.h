@@ -100,7 +100,9 @@ private:
     // Spin button
     void spinTo(std::int32_t value);
     void spinToNumber(double number);
-    void spinLimits(std::int32_t minimum, std::int32_t maximum);
+    void spinFrom(std::int32_t minimum);
+    void spinUpTo(std::int32_t maximum);
+    void keepSpinWithin();
     void settleSpin();
     /// The button's value and ends anew, from the text and the limits.
     void s_UpdateSpin();
@@ -147,7 +149,8 @@ private:
     bool m_isEntry = false;
     /// The next report of the text is the control's own doing.
     bool m_isShowing = false;
-    bool m_spinningBack = false;
+    /// The button is set without a word.
+    bool m_isSpinQuiet = false;
     /// The host wrote a new value between the step of the button and its click.
     bool m_stepOvertaken = false;
 };

@@ -33,7 +33,12 @@ void ctx_ZorUpDown::s_UpdateUnitLabelVisibility()
     m_field.units().setVisible(m_unitEnable && isDeviceSupported());
 }
 
-void ctx_ZorUpDown::s_ShowUnit(std::string_view caption) { m_field.showUnit(caption, showsUnit()); }
+void ctx_ZorUpDown::s_ShowUnit(std::string_view caption)
+{
+    m_field.units().setCaption(caption);
+    // Asked afterwards: who hears of the caption may switch the unit off.
+    m_field.followUnit(showsUnit());
+}
 
 void ctx_ZorUpDown::s_Layout()
 {

@@ -1,0 +1,368 @@
+"""What the numeric controls share, and the up-down."""
+
+from model import Model
+from units import TYPES, UNITS, Overflow, convert, is_valid, plain, reading, whole
+from values import BLACK, FACE, PLACE, RED, WINDOW, YELLOW, names
+
+BINDING = " DataChanged DataNotAvailable DeviceTypeSupported DeviceMinVersionSupported DeviceMaxVersionSupported DeviceTag" \
+          " DeviceTagNotFound DeviceVerNotSupported DeviceTypeNotSupported MsgCfail MsgDataChanged MsgDataNotAvailable"
+UNIT_ROWS = "UnitType DeviceValue OutputValue DeviceUnit OutputUnit"
+LABEL = PLACE + " Caption"
+
+
+class Numeric(Model):
+    DERIVED = ("OutputValue", "InvalidValue", "InvalidEntry", "MinParamValue", "MaxParamValue")
+    MESSAGES = ("MsgCfail", "MsgDataNotAvailable", "MsgDataChanged", "MsgDefault", "MsgInvalidValue", "MsgDeviceTagNotFound")
+    VALUES = {
+        **names("DeviceValue ModifiedValue", (0, 1, 5, 50, 125, 135, -5, 150)), "UnitType": TYPES,
+        **names("DeviceUnit OutputUnit DefaultUnit", (0, 0, 1, 2, 2, 5, 7, 15, 16, 52, 53)),
+        "MinValue": (0, 0.5, -40), "MaxValue": (9.5, 100, 100, 1000), "OtherUserValue": (0, 7, -3),
+        "UnitEnable": (True, True, False), "ReadOnly": (False, False, False, True), "WidthDifference": (1305, 500, 3000, -200),
+    }
+    OFTEN = ("DeviceValue", "DeviceValue", "ModifiedValue", "OutputUnit", "DeviceUnit", "MaxValue", "MinValue", "UnitType")
+
+    def created(self):
+        self.s["OtherUserValue"], self.turn, self.pending, self.typed, self.unit = 0, 0, False, False, 0
+        self.begin()
+
+    def look(self, name):
+        return self.s["OutputValue"] if name == "ModifiedValue" else self.s[name]
+
+    def newer(self):
+        self.turn += 1
+        return self.under_way()
+
+    def under_way(self):
+        turn = self.turn
+        return lambda: self.dead or self.turn != turn
+
+    def out_of(self, value, low, high):
+        def beyond(one, other):
+            return one > other and abs(one - other) > 1e-9 * max(abs(one), abs(other))
+        return beyond(low, value) or beyond(value, high)
+
+    def judge(self, value):
+        """Whether a device's value is outside the limits, in its own unit and in the operator's."""
+        low, high = self["MinParamValue"], self["MaxParamValue"]
+        self["InvalidValue"] = self.out_of(value, self.back(low), self.back(high)) and self.out_of(self.forth(value), low, high)
+        if self["InvalidValue"]:
+            self.emit("InvalidValueSetTrue")
+
+    def forth(self, value):
+        return convert(value, self["UnitType"], self["DeviceUnit"], self["OutputUnit"])
+
+    def back(self, value):
+        return convert(value, self["UnitType"], self["OutputUnit"], self["DeviceUnit"])
+
+    def limit(self, value):
+        return convert(value, self["UnitType"], self["DefaultUnit"], self["OutputUnit"])
+
+    def assign(self, value):
+        self["OutputValue"] = value
+        self.emit("OutputValueChange")
+
+    def put_OtherUserValue(self):
+        self.status()
+
+    def other(self):
+        return plain(self["OtherUserValue"], self.form.decimal)
+
+    def fc_GetCaptionID(self):
+        return "UNIT_" + UNITS[self["OutputUnit"]][1]
+
+    def calls(self, random):
+        return (("fc_GetCaptionID",),)
+
+    def anew(self, value):
+        """In the new output unit."""
+        return convert(value, self["UnitType"], self.previous, self["OutputUnit"])
+
+    def put_OutputUnit(self):
+        self.previous, self.unit = self.unit, self["OutputUnit"]
+        self.output_unit_changed()
+        self["UnitLabelCaption"] = UNITS[self["OutputUnit"]][0]
+        self.put_UnitLabelCaption()
+
+    def put_DefaultUnit(self):
+        self.put_MinValue()
+        self.put_MaxValue()
+
+    def unit_caption(self, text):
+        self.caption("lbl_Units", text)
+        self.place_icon()
+
+    def put_UnitLabelCaption(self):
+        self.unit_caption(self["UnitLabelCaption"])
+
+    def place_icon(self):
+        if self["UnitEnable"] and self["OutputUnit"] != 52:
+            self["img_State.Left"] = self["lbl_Units.Left"] + self["lbl_Units.Width"] + 100
+
+    def put_UnitEnable(self):
+        self["lbl_Units.Visible"] = self["UnitEnable"] and self.supported()
+        self.layout()
+
+    def wanted(self, widget):
+        return self["UnitEnable"] if widget == "lbl_Units" else True
+
+    def caption(self, label, text):
+        changed = self[label + ".Caption"] != text
+        self[label + ".Caption"] = text
+        self[label + ".Width"] = self.form.width(text, self.s.get(label + ".FontBold", False))
+        if changed:
+            self.emit(self.PREFIX[label] + "Change")
+
+    # --- A text field
+
+    def number(self):
+        """The number of the text, or None."""
+        text = self["txt_TextBox.Text"]
+        valid = is_valid(text, self.form.decimal, self.form.group)
+        return reading(text, self.form.decimal, self.form.group) if valid else None
+
+    def set_text(self, text, typed=False):
+        if self["txt_TextBox.Text"] != text:
+            self["txt_TextBox.Text"] = text
+            self.text_changed()
+        self.typed = typed
+
+    def select(self, widget, start, length):
+        self.selected = self[widget + ".Text"]
+
+    def paste(self, widget, text):
+        if self["txt_TextBox.Text"] or text:
+            self["txt_TextBox.Text"], self.typed = text, True
+            self.text_changed()
+
+    WRITES = ("paste",)
+    ENTRIES = ("0", "12", "12.5", "150", "-3", "abc", "", " 7 ", "1e2", "1,000", "99", "12,5")
+
+    def random_do(self, random):
+        step = super().random_do(random)
+        if step[2] == "paste":
+            return ("both", ("do", "txt_TextBox", "select", 0, 99), ("do", "txt_TextBox", "paste", random.choice(self.ENTRIES)))
+        return step
+
+
+class UpDown(Numeric):
+    CLASS, FACE, SHOWN = "ctx_ZorUpDown", "txt_TextBox", ("txt_TextBox", "upd_UpDown", "lbl_Units")
+    STORED = ("CFail MinValue MaxValue MinParamValue MaxParamValue InvalidValue DataModified WaitingForData " + UNIT_ROWS +
+              BINDING + " MsgInvalidValue MsgDeviceTagNotFound MsgDefault NumberOfDigits IconEnable UnitEnable ReadOnly"
+              " DefaultUnit UnitLabelCaption DeviceType DeviceVersion RegisterType EnableControl WidthDifference")
+    RUNTIME = "MessageHeader ModifiedValue OtherUserValue"
+    DEFAULTS = {"NumberOfDigits": 3, "WidthDifference": 1305}
+    OWN_EFFECTS = {"MsgInvalidValue": "status", "WidthDifference": "layout"}
+    EVENTS = ("InvalidValueSetTrue DataModifiedSetTrue OutputValueChange textChange textClick textDblClick textGotFocus"
+              " textKeyDown textKeyPress textKeyUp textLostFocus textMouseDown textMouseUp textValidate unitsChange unitsClick"
+              " unitsDblClick upDownChange upDownDownClick upDownUpClick imgClick imgDblClick")
+    PREFIX = {"txt_TextBox": "text", "lbl_Units": "units", "img_State": "img"}
+    AT = {"lbl_Units": (60, 60)}
+    COLOURED, MENU_OVER = ("Surface", "lbl_Units"), ("Surface", "lbl_Units")
+    WIDGETS = {"txt_TextBox": PLACE + " BackColor ForeColor FontBold ToolTipText Text Locked",
+               "upd_UpDown": PLACE + " Value Min Max", "lbl_Units": LABEL, "img_State": PLACE + " Picture",
+               "Surface": "Width Height BackColor"}
+    ACTIONS = {"txt_TextBox": "paste paste paste blur blur focus key click rightclick", "upd_UpDown": "up down",
+               "lbl_Units": "click dblclick rightclick", "img_State": "click dblclick", "Surface": "click rightclick",
+               "mnu_Edit": "choose choose"}
+    KEYS = (40, 38, 112)
+    HEIGHTS = (200, 315, 400, 900)
+
+    def begin(self):
+        self.reference = 0
+        self["upd_UpDown.Min"], self["upd_UpDown.Max"], self["upd_UpDown.Value"] = 0, 10, 0
+
+    def other(self):
+        return self["OtherUserValue"]
+
+    def reference_text(self):
+        return self.reference
+
+    # --- Limits and the button
+
+    def clamped(self, value):
+        low, high = self["upd_UpDown.Min"], self["upd_UpDown.Max"]
+        return low if low > high else min(max(value, low), high)
+
+    def set_spin(self, value):
+        value = self.clamped(value)
+        if self["upd_UpDown.Value"] != value:
+            self["upd_UpDown.Value"] = value
+            self.emit("upDownChange")
+
+    def put_MinValue(self):
+        self["MinParamValue"] = self.limit(self["MinValue"])
+        self["upd_UpDown.Min"] = whole(self["MinParamValue"])
+        self.set_spin(self["upd_UpDown.Value"])
+
+    def put_MaxValue(self):
+        self["MaxParamValue"] = self.limit(self["MaxValue"])
+        self["upd_UpDown.Max"] = whole(self["MaxParamValue"])
+        self.set_spin(self["upd_UpDown.Value"])
+
+    # --- Values
+
+    def spin_of(self, number):
+        low, high = self["upd_UpDown.Min"], self["upd_UpDown.Max"]
+        return high if number > high else low if number < low else whole(number)
+
+    def text_changed(self):
+        self.pending = True
+        number = self.number()
+        if number is not None:
+            self["DataModified"] = whole(number) != self.reference
+            if self["DataModified"]:
+                self.emit("DataModifiedSetTrue")
+            self.colors()
+            self.emit("textChange")
+
+    def put_DeviceValue(self):
+        overtaken = self.newer()
+        self.judge(self["DeviceValue"])
+        if overtaken():
+            return
+        self.reference = whole(self.forth(self["DeviceValue"]))
+        self.set_text(str(self.reference))
+        if overtaken():
+            return
+        self.set_spin(self.spin_of(self.reference))
+        if overtaken():
+            return
+        self.assign(self["DeviceValue"])
+        if overtaken():
+            return
+        self["DataModified"] = False
+        self.colors()
+        self.status()
+
+    def put_ModifiedValue(self):
+        overtaken, value = self.newer(), self["ModifiedValue"]
+        self.judge(value)
+        if overtaken():
+            return
+        self.set_text(plain(self.forth(value), self.form.decimal))
+        if overtaken():
+            return
+        number = self.number()
+        self.set_spin(self.spin_of(self.forth(value)))
+        if overtaken():
+            return
+        if number is not None:
+            self.assign(value)
+        self.colors()
+        self.status()
+
+    def put_DeviceUnit(self):
+        number = self.number()
+        if number is not None:
+            self.assign(whole(self.back(number)))
+
+    def output_unit_changed(self):
+        number, anew = self.number(), self.anew
+        if number is None:
+            return
+        self.reference = whole(anew(self.reference))
+        self["OtherUserValue"] = whole(anew(self["OtherUserValue"]))
+        self["MinParamValue"], self["MaxParamValue"] = anew(self["MinParamValue"]), anew(self["MaxParamValue"])
+        self.set_text(plain(anew(number), self.form.decimal), self.typed)
+        self["upd_UpDown.Min"], self["upd_UpDown.Max"] = whole(self["MinParamValue"]), whole(self["MaxParamValue"])
+        self.set_spin(self.spin_of(self.number()))
+
+    def loaded(self):
+        self.unit = self["OutputUnit"]
+        self["lbl_Units.Visible"] = self["UnitEnable"] and self.supported()
+        self["MinParamValue"], self["MaxParamValue"] = self.limit(self["MinValue"]), self.limit(self["MaxValue"])
+        self["upd_UpDown.Min"], self["upd_UpDown.Max"] = whole(self["MinParamValue"]), whole(self["MaxParamValue"])
+        self["upd_UpDown.Value"] = self.clamped(self["upd_UpDown.Value"])
+        self.caption("lbl_Units", UNITS[self["OutputUnit"]][0])
+        self.colors()
+        self.enabled()
+        self.layout()
+
+    # --- The operator
+
+    def up(self, widget):
+        self.step(1, "upDownUpClick")
+
+    def down(self, widget):
+        self.step(-1, "upDownDownClick")
+
+    def struck(self, widget, code):
+        if code in (40, 38):
+            self.step(1 if code == 38 else -1, "upDownUpClick" if code == 38 else "upDownDownClick")
+
+    def step(self, way, event):
+        overtaken, before, locked = self.under_way(), self["upd_UpDown.Value"], self.locked()
+        self.set_spin(before + way)
+        if locked and not overtaken():
+            self["upd_UpDown.Value"] = before
+        elif not overtaken():
+            self.stepped(overtaken)
+        self.emit(event)
+
+    def stepped(self, overtaken):
+        self.set_text(str(self["upd_UpDown.Value"]))
+        if overtaken():
+            return
+        self.assign(whole(self.back(self["upd_UpDown.Value"])))
+        if overtaken():
+            return
+        self["DataModified"] = self["upd_UpDown.Value"] != self.reference
+        if self["DataModified"]:
+            self.emit("DataModifiedSetTrue")
+        self.colors()
+
+    def lost_focus(self, widget):
+        if self.pending and (self.typed or not self.read_only()):
+            self.commit()
+        super().lost_focus(widget)
+
+    def commit(self):
+        overtaken, number = self.under_way(), self.number()
+        if number is None:
+            self.set_text(str(self["upd_UpDown.Value"]))
+        else:
+            low, high = self["upd_UpDown.Min"], self["upd_UpDown.Max"]
+            beyond = high if number > high else low if number < low else None
+            if beyond is not None and self.clamped(beyond) != number:
+                self.set_text(str(self.clamped(beyond)))
+            if overtaken():
+                return
+            self.set_spin(self.spin_of(number))
+            if overtaken():
+                return
+            self.assign(whole(self.back(whole(self.number()))))
+        if not overtaken():
+            self.pending = self.typed = False
+
+    def undo(self):
+        if self["DataModified"]:
+            overtaken = self.newer()
+            self.set_text(str(self.reference))
+            if not overtaken():
+                self.set_spin(self.reference)
+            if not overtaken():
+                self["DataModified"] = False
+                self.colors()
+                self.assign(self["DeviceValue"])
+
+    # --- Looks
+
+    def colors(self):
+        modified, field = self["DataModified"], "txt_TextBox"
+        self[field + ".ForeColor"] = RED if self["CFail"] else BLACK
+        self[field + ".FontBold"] = self["CFail"] or modified
+        self[field + ".Locked"] = self.locked()
+        self[field + ".BackColor"] = FACE if self.read_only() else YELLOW if modified else WINDOW
+
+    def layout(self):
+        field, spin, label, icon = "txt_TextBox", "upd_UpDown", "lbl_Units", "img_State"
+        self[field + ".Width"] = max(self["Surface.Width"] - self["WidthDifference"], 100)
+        self[field + ".Height"] = self[spin + ".Height"] = max(self["Surface.Height"], 30)
+        self[spin + ".Left"] = self[field + ".Left"] + self[field + ".Width"]
+        self[label + ".Left"] = self[icon + ".Left"] = self[spin + ".Left"] + self[spin + ".Width"] + 100
+        self.place_icon()
+        for widget in (spin, label, icon):
+            self[widget + ".Top"] = self[field + ".Top"] + self[field + ".Height"] / 2 - self[widget + ".Height"] / 2
+
+
+CONTROLS = {"up_down": UpDown}

@@ -1,0 +1,245 @@
+"""The slider."""
+
+from numeric import BINDING, LABEL, UNIT_ROWS, Numeric
+from units import UNITS, plain, whole
+from values import PLACE, names
+
+LABELS = tuple(f"lbl_{end}{part}" for end in ("Min", "Max") for part in ("Prefix", "Value", "Unit"))
+
+
+class Slider(Numeric):
+    CLASS, FACE, SHOWN = "ctx_ZorSlider", "sld_Slider", ("sld_Slider", *LABELS)
+    STORED = ("CFail MinValue MaxValue MinParamValue MaxParamValue InvalidValue DataModified WaitingForData " + UNIT_ROWS +
+              BINDING + " MsgInvalidValue MsgDeviceTagNotFound MsgDefault IconEnable UnitEnable ReadOnly DefaultUnit"
+              " UnitLabelCaption DeviceType DeviceVersion RegisterType EnableControl EnableValues MinPrefix MaxPrefix")
+    RUNTIME = "MessageHeader ModifiedValue OtherUserValue ScaleFactor"
+    DEFAULTS, FRESH = {"MaxValue": 10, "MaxParamValue": 10}, {"DeviceUnit": 2}
+    OWN_EFFECTS = {"MsgInvalidValue": "status"}
+    OWN_SILENT = ("ScaleFactor",)
+    EVENTS = ("InvalidValueSetTrue DataModifiedSetTrue OutputValueChange sliderChange sliderGotFocus sliderKeyDown sliderKeyUp"
+              " sliderLostFocus sliderScroll sliderValidate imgClick imgDblClick " +
+              " ".join(f"Label{name[4:]}{end}" for name in LABELS for end in ("Change", "Click", "DblClick")))
+    PREFIX = {"sld_Slider": "slider", "img_State": "img", **{name: "Label" + name[4:] for name in LABELS}}
+    AT = names(" ".join(LABELS), (60, 60))
+    COLOURED, MENU_OVER = ("Surface", *LABELS), ("Surface", *LABELS)
+    WIDGETS = {"sld_Slider": PLACE + " Value Min Max ToolTipText", "img_State": PLACE + " Picture",
+               **names(" ".join(LABELS), LABEL), "Surface": "Width Height BackColor"}
+    ACTIONS = {"sld_Slider": "move move move focus blur key key", "img_State": "click dblclick", "lbl_MinPrefix": "click rightclick",
+               "lbl_MaxUnit": "click dblclick rightclick", "Surface": "rightclick rightclick", "mnu_Edit": "choose choose"}
+    UNHANDLED = ("sliderScroll",)  # whether the track has moved by then is the platform's
+    KEYS = (39, 37, 38, 40, 36, 35, 112)
+    VALUES = {**Numeric.VALUES, "ScaleFactor": (1, 1, 10, 100), **names("DeviceValue ModifiedValue", (0, 5, 5.4, 12, -3, 7.5, 150)),
+              "OtherUserValue": (0, 7.5), "EnableValues": (True, True, False)}
+
+    def begin(self):
+        self.reference, self.output, self.s["ScaleFactor"] = 0, 0, 1
+        self["sld_Slider.Min"], self["sld_Slider.Max"], self["sld_Slider.Value"] = 0, 10, 0
+
+    def look(self, name):
+        if name in ("MinPrefix", "MaxPrefix"):
+            return self.s[f"lbl_{name}.Caption"]
+        return {"OutputValue": self.output / self["ScaleFactor"], "ModifiedValue": self.output}.get(name) \
+            if name in ("OutputValue", "ModifiedValue") else self.s[name]
+
+    def kept(self, name):
+        return self.output if name == "OutputValue" else self.look(name)
+
+    def reference_text(self):
+        return plain(self.reference, self.form.decimal)
+
+    # --- Ends
+
+    def clamped(self, value):
+        low, high = self["sld_Slider.Min"], self["sld_Slider.Max"]
+        return low if low > high else min(max(value, low), high)
+
+    def ends(self, low=None, high=None):
+        """New ends: what they cut of an edit is handed back, a device's value stays."""
+        if low is not None:
+            self["sld_Slider.Min"] = low
+        if high is not None:
+            self["sld_Slider.Max"] = high
+        value = self.clamped(self["sld_Slider.Value"])
+        if value != self["sld_Slider.Value"]:
+            self["sld_Slider.Value"] = value
+            if self["DataModified"] and not self.locked():
+                self.moved()
+
+    def show_limits(self, which):
+        for end in which:
+            self.caption(f"lbl_{end}Value", plain(self[end + "ParamValue"] / self["ScaleFactor"], self.form.decimal))
+        self.layout()
+
+    def put_MinValue(self):
+        self["MinParamValue"] = self.limit(self["MinValue"]) * self["ScaleFactor"]
+        self.show_limits(["Min"])
+        self.ends(low=whole(self["MinParamValue"]))
+
+    def put_MaxValue(self):
+        self["MaxParamValue"] = self.limit(self["MaxValue"]) * self["ScaleFactor"]
+        if self["MaxParamValue"] > self["MinParamValue"]:
+            self.ends(high=whole(self["MaxParamValue"]))
+        self.show_limits(["Max"])
+
+    # --- Values
+
+    def set_output(self, value):
+        self.output = value
+        self.emit("OutputValueChange")
+
+    def moved(self):
+        overtaken, position = self.under_way(), self["sld_Slider.Value"]
+        self["DataModified"] = position != whole(self.reference)
+        if self["DataModified"]:
+            self.emit("DataModifiedSetTrue")
+        if overtaken():
+            return
+        self.set_output(self.back(position))
+        if not overtaken():
+            self.emit("sliderChange")
+
+    def move_to(self, value):
+        value = self.clamped(whole(value))
+        if value != self["sld_Slider.Value"]:
+            self["sld_Slider.Value"] = value
+            if not self.locked():
+                self.moved()
+
+    def put_DeviceValue(self):
+        overtaken = self.newer()
+        self["DeviceValue"] *= self["ScaleFactor"]
+        self.judge(self["DeviceValue"])
+        if overtaken():
+            return
+        self.reference = self.forth(self["DeviceValue"])
+        self.move_to(self.reference)
+        if not overtaken():
+            self.set_output(self["DeviceValue"])
+        if not overtaken():
+            self["DataModified"] = False
+            self.status()
+
+    def put_ModifiedValue(self):
+        overtaken, value = self.newer(), self["ModifiedValue"]
+        self.judge(value)
+        if not overtaken():
+            self.move_to(self.forth(value))
+        if not overtaken():
+            self.set_output(value)
+            self.status()
+
+    def undo(self):
+        if self["DataModified"]:
+            overtaken = self.newer()
+            self.move_to(self.reference)
+            if not overtaken():
+                self["DataModified"] = False
+                self.set_output(self["DeviceValue"])
+
+    def put_DeviceUnit(self):
+        self.set_output(self.back(self["sld_Slider.Value"]))
+
+    def output_unit_changed(self):
+        before = self["sld_Slider.Value"]
+        self.reference, self["OtherUserValue"] = self.anew(self.reference), self.anew(self["OtherUserValue"])
+        position = whole(self.anew(before))
+        self["MinParamValue"], self["MaxParamValue"] = self.anew(self["MinParamValue"]), self.anew(self["MaxParamValue"])
+        self["sld_Slider.Min"] = whole(self["MinParamValue"])
+        if self["MaxParamValue"] > self["MinParamValue"]:
+            self["sld_Slider.Max"] = whole(self["MaxParamValue"])
+        self["sld_Slider.Value"] = self.clamped(position)
+        if self["sld_Slider.Value"] != before and not self.locked():
+            self.moved()
+        self.show_limits(["Min", "Max"])
+
+    def unit_caption(self, text):
+        self.caption("lbl_MinUnit", text)
+        self.caption("lbl_MaxUnit", text)
+        self.layout()
+
+    def put_MinPrefix(self):
+        self.caption("lbl_MinPrefix", self["MinPrefix"])
+        self.layout()
+
+    def put_MaxPrefix(self):
+        self.caption("lbl_MaxPrefix", self["MaxPrefix"])
+        self.layout()
+
+    def wanted(self, widget):
+        return self["UnitEnable"] if widget.endswith("Unit") else self["EnableValues"] if widget.endswith("Value") else True
+
+    def visibility(self):
+        for label in LABELS:
+            if not label.endswith("Prefix"):
+                self[label + ".Visible"] = self.wanted(label) and self.supported()
+
+    put_EnableValues = visibility
+
+    def put_UnitEnable(self):
+        self.visibility()
+        self.layout()
+
+    def loaded(self):
+        self.unit = self["OutputUnit"]
+        self["lbl_MinPrefix.Caption"], self["lbl_MaxPrefix.Caption"] = self["MinPrefix"], self["MaxPrefix"]
+        for label in ("lbl_MinPrefix", "lbl_MaxPrefix"):
+            self[label + ".Width"] = self.form.width(self[label + ".Caption"])
+        self["sld_Slider.Min"] = whole(self["MinParamValue"])
+        if self["MaxParamValue"] > self["MinParamValue"]:
+            self["sld_Slider.Max"] = whole(self["MaxParamValue"])
+        self["sld_Slider.Value"] = self.clamped(self["sld_Slider.Value"])
+        self.visibility()
+        self.output = self.back(self["sld_Slider.Value"])
+        self.show_limits(["Min", "Max"])
+        self.unit_caption(UNITS[self["OutputUnit"]][0])
+        self.enabled()
+
+    def colors(self):
+        pass
+
+    # --- The operator
+
+    def move(self, widget, position):
+        position = self.clamped(position)
+        if position != self["sld_Slider.Value"]:
+            self.emit("sliderScroll")
+            self.drag(position)
+
+    def drag(self, position):
+        self["sld_Slider.Value"] = position
+        if self.locked():
+            self["sld_Slider.Value"] = self.clamped(whole(self.forth(self.output)))
+        else:
+            self.moved()
+
+    def struck(self, widget, code):
+        value = self["sld_Slider.Value"]
+        to = {39: value + 1, 38: value + 1, 37: value - 1, 40: value - 1, 36: self["sld_Slider.Min"], 35: self["sld_Slider.Max"]}
+        if self.clamped(to.get(code, value)) != value:
+            self.drag(self.clamped(to[code]))
+
+    def arguments(self, random, widget, action):
+        return (random.randint(-2, 120),) if action == "move" else super().arguments(random, widget, action)
+
+    def layout(self):
+        width = self["Surface.Width"]
+        self["sld_Slider.Width"] = width - 415 if width >= 700 else 285
+        self["img_State.Left"] = self["sld_Slider.Left"] + self["sld_Slider.Width"] + 100
+        left = 20
+        for label in LABELS[:3]:
+            self[label + ".Left"] = left
+            left += self[label + ".Width"] + 20
+        width_of = [self[label + ".Width"] for label in LABELS[3:]]
+        room, place = self["sld_Slider.Width"] - 150, 0
+        place = room - round(width_of[1] / 2) - width_of[0] - 20
+        fits = left < place and width - width_of[2] - width_of[1] / 2 > room and self["EnableValues"]
+        if not fits:
+            # Pushed left until it ends at the edge, but never into the left group.
+            place = max(min(place, width - sum(width_of) - 40), left)
+        for label, own in zip(LABELS[3:], width_of):
+            self[label + ".Left"] = place
+            place += own + 20
+        self["Surface.Height"] = 770
+
+
+CONTROLS = {"slider": Slider}

@@ -1,0 +1,285 @@
+"""The text box."""
+
+from numeric import BINDING, LABEL, UNIT_ROWS, Numeric
+from units import UNITS, convert, fixed, is_valid, plain, reading
+from values import BLACK, FACE, PLACE, RED, WINDOW, YELLOW, Colour, names
+
+LEFT, RIGHT = Colour("left"), Colour("right")
+
+
+class TextBox(Numeric):
+    CLASS, FACE, SHOWN = "ctx_ZorTextBox", "txt_TextBox", ("txt_TextBox", "lbl_Units")
+    STORED = ("CFail MinParamValue MaxParamValue InvalidEntry InvalidEntryEnable DataModified WaitingForData " + UNIT_ROWS +
+              BINDING + " MsgInvalidEntry MsgInvalidEntryForText MsgInvalidEntryTo MsgInvalidEntryNAN MsgDeviceTagNotFound"
+              " MsgDefault EntryType NumberOfDigits MaxLength UnitEnable IconEnable ReadOnly DefaultUnit MinValue MaxValue"
+              " UnitLabelCaption DeviceType DeviceVersion RegisterType EnableControl NumberOfDecimals WidthDifference")
+    RUNTIME = "MessageHeader ModifiedValue TextFontBold UnitsFontBold"
+    DEFAULTS = {"NumberOfDigits": 3, "WidthDifference": 1305, "MaxLength": 10, "NumberOfDecimals": 3, "EntryType": 1,
+                "MsgInvalidEntry": "Invalid Entry", "MsgInvalidEntryTo": "To", "MsgInvalidEntryNAN": "Invalid Entry",
+                "MsgInvalidEntryForText": "Text is too long. Please enter a shorter text."}
+    FRESH = {"DeviceUnit": 2}
+    OWN_EFFECTS = {"WidthDifference": "layout",
+                   **names("MsgInvalidEntry MsgInvalidEntryForText MsgInvalidEntryNAN", "status")}
+    OWN_SILENT = ("MsgInvalidEntryTo", "UnitsFontBold")
+    MESSAGES = ("MsgCfail", "MsgDataNotAvailable", "MsgDataChanged", "MsgDefault", "MsgInvalidEntry", "MsgDeviceTagNotFound",
+                "MsgInvalidEntryTo", "MsgInvalidEntryNAN")
+    OTHER_MESSAGE = "MSG_INVALIDENTRYTO"
+    EVENTS = ("InvalidEntrySetTrue DataModifiedSetTrue OutputValueChange textChange textClick textDblClick textGotFocus"
+              " textKeyDown textKeyPress textKeyUp textLostFocus textMouseDown textMouseUp textValidate unitsChange unitsClick"
+              " unitsDblClick imgClick imgDblClick")
+    PREFIX = {"txt_TextBox": "text", "lbl_Units": "units", "img_State": "img"}
+    AT = {"lbl_Units": (60, 60)}
+    COLOURED, MENU_OVER = ("Surface", "lbl_Units", "txt_TextBox"), ("Surface", "lbl_Units")
+    WIDGETS = {"txt_TextBox": PLACE + " BackColor ForeColor FontBold ToolTipText Text Locked Alignment",
+               "lbl_Units": LABEL + " FontBold BackColor", "img_State": PLACE + " Picture", "Surface": "Width Height BackColor"}
+    ACTIONS = {"txt_TextBox": "paste paste paste blur blur focus key click rightclick", "img_State": "click dblclick",
+               "lbl_Units": "click dblclick rightclick", "Surface": "click rightclick", "mnu_Edit": "choose choose"}
+    KEYS = (112,)
+    VALUES = {**Numeric.VALUES, **names("DeviceValue ModifiedValue", (0, 1, 50, 1234, 12.5, -5, 150.25, "abc", "12", "", "1,000")),
+              "EntryType": (1, 1, 1, 0), "NumberOfDigits": (0, 2, 3), "NumberOfDecimals": (1, 3), "MaxLength": (10, 2, 0)}
+    HEIGHTS = (0, 315, 400, 900)
+
+    def begin(self):
+        self.display, self.shown, self.source, self.custom, self.undoing = 0, None, "device", None, False
+        self["TextFontBold"], self["txt_TextBox.Alignment"], self.device_unit = False, RIGHT, 0
+
+    def look(self, name):
+        return self.s["lbl_Units.FontBold"] if name == "UnitsFontBold" else super().look(name)
+
+    # --- Texts
+
+    def value_of(self, value):
+        """A value as a number, where it is a valid one."""
+        if isinstance(value, str):
+            valid = is_valid(value, self.form.decimal, self.form.group)
+            return reading(value, self.form.decimal, self.form.group) if valid else None
+        return None if value is None else float(value)
+
+    def formatted(self, number):
+        decimals = UNITS[self["OutputUnit"]][2]
+        if decimals is None:
+            if self["OutputUnit"] != 52:
+                return ""
+            decimals = max(self["NumberOfDigits"], 0)
+        return fixed(number, decimals, self.form.decimal)
+
+    def text_of(self, value):
+        return "" if value is None else value if isinstance(value, str) else plain(value, self.form.decimal)
+
+    def show(self, value):
+        number = self.value_of(value) if self["EntryType"] == 1 else None
+        self["txt_TextBox.Alignment"] = LEFT if number is None else RIGHT
+        self.set_text(self.text_of(value) if number is None else self.formatted(number))
+
+    def equals_display(self):
+        text = self["txt_TextBox.Text"]
+        if self["EntryType"] == 0:
+            return text == self.text_of(self.display) or text == self.shown
+        number = self.number()
+        return number is not None and number in (self.value_of(self.display), self.value_of(self.shown))
+
+    def paste(self, widget, text):
+        if self["txt_TextBox.Text"] or text:
+            self["txt_TextBox.Text"], self.source = text, "edit"
+            self.text_changed()
+
+    def text_changed(self):
+        self.pending = True
+        self["DataModified"] = not self.undoing and not self.equals_display()
+        if self["DataModified"]:
+            self.emit("DataModifiedSetTrue")
+        self.colors()
+        self.emit("textChange")
+
+    # --- Values
+
+    def put_DeviceValue(self):
+        overtaken, value = self.newer(), self["DeviceValue"]
+        number = self.value_of(value) if self["EntryType"] == 1 else None
+        self.display = value if number is None else self.formatted(self.forth(number)) or None
+        self.shown, self.source, self.device_unit = None, "device", self["DeviceUnit"]
+        self.show(self.display)
+        if overtaken():
+            return
+        if number is None or self.number() is not None:
+            self.assign(value)
+        if overtaken():
+            return
+        self["DataModified"] = self["InvalidEntry"] = False
+        self.colors()
+        self.status()
+
+    def put_ModifiedValue(self):
+        overtaken, value = self.newer(), self["ModifiedValue"]
+        number = self.value_of(value)
+        self.source = "output"
+        self.show(value if number is None else self.forth(number))
+        if overtaken():
+            return
+        if number is None or self.number() is not None:
+            self.assign(value)
+        self.colors()
+        self.status()
+
+    def put_DeviceUnit(self):
+        number = self.number()
+        if number is not None:
+            self.assign(self.back(number))
+
+    def output_unit_changed(self):
+        text, display = self.number(), self.value_of(self.display)
+        if text is not None and display is not None:
+            self["MinParamValue"], self["MaxParamValue"] = self.anew(self["MinParamValue"]), self.anew(self["MaxParamValue"])
+            self.display, self.shown = self.anew(display), None
+            modified, overtaken = self["DataModified"], self.under_way()
+            self.show(self.anew(text))
+            if not overtaken():
+                self["DataModified"], self.shown = modified, self.formatted(self.display)
+                self.colors()
+
+    def put_MinValue(self):
+        self["MinParamValue"] = self.limit(self["MinValue"])
+
+    def put_MaxValue(self):
+        self["MaxParamValue"] = self.limit(self["MaxValue"])
+
+    def put_OutputUnit(self):
+        super().put_OutputUnit()
+        self.align(self["EntryType"] == 1 and self.number() is not None)
+
+    def align(self, right):
+        self["txt_TextBox.Alignment"] = RIGHT if right else LEFT
+
+    def put_EntryType(self):
+        self.align(self["EntryType"] == 1)
+
+    def put_NumberOfDecimals(self):
+        self.show(self["txt_TextBox.Text"])
+
+    def put_TextFontBold(self):
+        self["txt_TextBox.FontBold"] = self["TextFontBold"]
+
+    def put_UnitsFontBold(self):
+        self["lbl_Units.FontBold"] = self["UnitsFontBold"]
+        self["lbl_Units.Width"] = self.form.width(self["lbl_Units.Caption"], self["UnitsFontBold"])
+
+    def loaded(self):
+        self.unit, self.device_unit, self.source = self["OutputUnit"], self["DeviceUnit"], "output"
+        self["lbl_Units.Visible"] = self["UnitEnable"] and self.supported()
+        self.caption("lbl_Units", UNITS[self["OutputUnit"]][0])
+        self.colors()
+        self.enabled()
+        self.show(self["txt_TextBox.Text"])
+        self.layout()
+
+    def struck(self, widget, code):
+        pass
+
+    # --- Leaving and undoing
+
+    def lost_focus(self, widget):
+        self.commit(True)
+        super().lost_focus(widget)
+
+    def s_ForceOutputValueUpdate(self):
+        self.commit(False)
+
+    def calls(self, random):
+        return ("fc_GetCaptionID",), ("s_ForceOutputValueUpdate",)
+
+    def invalid(self, beyond):
+        self["InvalidEntry"] = beyond
+        if beyond:
+            self.emit("InvalidEntrySetTrue")
+
+    def commit(self, reformat):
+        number = self.number()
+        if self.pending:
+            self.validate(number if self["EntryType"] == 1 else None, reformat)
+            self.pending = False
+        self.status()
+        if not self["InvalidEntry"]:
+            self.assign(self.entry())
+
+    def validate(self, number, reformat):
+        holding = self["RegisterType"] == 0
+        if self["EntryType"] == 0:
+            return self.invalid(len(self["txt_TextBox.Text"]) > self["MaxLength"] and self["DataModified"])
+        if number is None:
+            return self.invalid(True) if holding else None
+        if not self["InvalidEntryEnable"]:
+            self["InvalidEntry"] = False
+        elif holding:
+            self.invalid(self["DataModified"] and not self["MinParamValue"] <= number <= self["MaxParamValue"])
+        return self.show(self["txt_TextBox.Text"]) if reformat and not self["InvalidEntry"] else None
+
+    def entry(self):
+        number = self.number() if self["EntryType"] == 1 else None
+        if self.source == "output":
+            return self["OutputValue"]
+        if self.source == "device" or self.equals_display():
+            value = self.value_of(self["DeviceValue"]) if self["EntryType"] == 1 else None
+            if value is None or self.device_unit == self["DeviceUnit"]:
+                return self["DeviceValue"]
+            return convert(value, self["UnitType"], self.device_unit, self["DeviceUnit"])
+        return self["txt_TextBox.Text"] if number is None else self.back(number)
+
+    def undo(self):
+        if self["DataModified"]:
+            overtaken, self.source = self.newer(), "device"
+            self.undoing = True
+            self.show(self.display)
+            self.undoing = False
+            if not overtaken():
+                self["DataModified"] = False
+                self.colors()
+                self.assign(self["DeviceValue"])
+
+    # --- Looks
+
+    def display_text(self):
+        return self.text_of(self.display)
+
+    def changed_texts(self):
+        text = self["MsgDataChanged"]
+        return f"{text} :  , {self.display_text()}", f"{text}, :  , {self.display_text()}"
+
+    def invalid_rows(self):
+        def number(value):
+            return plain(value, self.form.decimal)
+        label = UNITS[self["OutputUnit"]][0]
+        text = f"{self['MsgInvalidEntry']}  {number(self['MinParamValue'])} {label} {self['MsgInvalidEntryTo']}" \
+               f" {number(self['MaxParamValue'])} {label}"
+        if not self["InvalidEntryEnable"]:
+            text = self["MsgInvalidEntryNAN"]
+        if self["EntryType"] == 0:
+            text = self["MsgInvalidEntryForText"]
+        yield "", self["InvalidEntry"], text, 2, text, "exclamation"
+
+    def coloured(self, shown):
+        self.custom = shown
+
+    def colors(self):
+        modified, field = self["DataModified"], "txt_TextBox"
+        self[field + ".ForeColor"] = RED if self["CFail"] else BLACK
+        self[field + ".Locked"] = self.locked()
+        self[field + ".FontBold"] = self["CFail"] or modified or self["TextFontBold"]
+        if self["CFail"]:
+            plain_colour = (self.custom or FACE) if self.read_only() else YELLOW if modified else self.custom or WINDOW
+        elif self.read_only():
+            plain_colour = self[field + ".BackColor"] if self.custom else FACE
+        else:
+            plain_colour = YELLOW if modified else self.custom or WINDOW
+        self[field + ".BackColor"] = plain_colour
+
+    def layout(self):
+        field, label, icon = "txt_TextBox", "lbl_Units", "img_State"
+        self[field + ".Width"] = max(self["Surface.Width"] - self["WidthDifference"], 100)
+        self[field + ".Height"] = max(self["Surface.Height"], 280)
+        self[label + ".Left"] = self[icon + ".Left"] = self[field + ".Left"] + self[field + ".Width"] + 100
+        self.place_icon()
+        for widget in (label, icon):
+            self[widget + ".Top"] = self[field + ".Top"] + self[field + ".Height"] / 2 - self[widget + ".Height"] / 2
+
+
+CONTROLS = {"text_box": TextBox}
