@@ -267,7 +267,7 @@
         <translation>Gerät öffnen</translation>
     </message>
     <message>
-        <source>&amp;Opened before:</source>
+        <source>Opened &amp;before:</source>
         <translation>&amp;Zuletzt geöffnet:</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation>Ö&amp;ffnen</translation>
+        <translation>Öff&amp;nen</translation>
     </message>
     <message>
         <source>Browse...</source>
@@ -316,7 +316,7 @@
     </message>
     <message>
         <source>Open s&amp;ite...</source>
-        <translation>&amp;Anlage öffnen...</translation>
+        <translation>An&amp;lage öffnen...</translation>
     </message>
     <message>
         <source>Site: %1</source>
@@ -1102,7 +1102,7 @@
 <context>
     <name>Window</name>
     <message>
-        <source>&amp;Report...</source>
+        <source>Re&amp;port...</source>
         <translation>Be&amp;richt...</translation>
     </message>
     <message>
@@ -1139,7 +1139,7 @@
     </message>
     <message>
         <source>&amp;Close device</source>
-        <translation>Gerät &amp;schließen</translation>
+        <translation>Gerät s&amp;chließen</translation>
     </message>
     <message>
         <source>Compare with &amp;file...</source>
@@ -1299,7 +1299,7 @@
     </message>
     <message>
         <source>Compare &amp;two files...</source>
-        <translation>&amp;Zwei Dateien vergleichen...</translation>
+        <translation>Z&amp;wei Dateien vergleichen...</translation>
     </message>
     <message>
         <source>Look &amp;for devices...</source>

@@ -267,8 +267,8 @@
         <translation>Ouvrir un appareil</translation>
     </message>
     <message>
-        <source>&amp;Opened before:</source>
-        <translation>&amp;Ouverts récemment :</translation>
+        <source>Opened &amp;before:</source>
+        <translation>Ouverts &amp;récemment :</translation>
     </message>
     <message>
         <source>Address</source>
@@ -308,7 +308,7 @@
     </message>
     <message>
         <source>Look for &amp;devices...</source>
-        <translation>Chercher des a&amp;ppareils...</translation>
+        <translation>&amp;Chercher des appareils...</translation>
     </message>
     <message>
         <source>simulated</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>Tick &amp;all shown</source>
-        <translation>&amp;Cocher tout ce qui est affiché</translation>
+        <translation>C&amp;ocher tout ce qui est affiché</translation>
     </message>
     <message>
         <source>Tick &amp;none shown</source>
@@ -1102,8 +1102,8 @@
 <context>
     <name>Window</name>
     <message>
-        <source>&amp;Report...</source>
-        <translation>&amp;Rapport...</translation>
+        <source>Re&amp;port...</source>
+        <translation>R&amp;apport...</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -1143,7 +1143,7 @@
     </message>
     <message>
         <source>Compare with &amp;file...</source>
-        <translation>Comparer avec un &amp;fichier...</translation>
+        <translation>Comparer a&amp;vec un fichier...</translation>
     </message>
     <message>
         <source>Compare two &amp;devices...</source>

@@ -215,6 +215,8 @@ private:
             }
             m_painter.setPen(mixed(m_palette, kFrame));
             m_painter.drawLine(edge, at, edge + (left ? -kTick : kTick), at);
+            if (at - line / 2 < pane.top() - kGap / 2)
+                continue; // there stands the unit
             m_painter.setPen(m_palette.color(QPalette::Text));
             const int start = left ? edge - kTick - kGap - axis.width : edge + kTick + kGap;
             m_painter.drawText(QRect(start, at - line / 2, axis.width, line),

@@ -73,6 +73,7 @@ void FramesDock::build()
     m_text->setClearButtonEnabled(true);
     m_which = new QComboBox(body);
     m_which->addItems({"", "", ""});
+    m_which->setSizeAdjustPolicy(QComboBox::AdjustToContents); // in another language, too
     line->addWidget(m_text, 1);
     line->addWidget(m_which);
     for (QPushButton** button : {&m_pause, &m_clear, &m_copy, &m_save}) {

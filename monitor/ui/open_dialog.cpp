@@ -36,7 +36,7 @@ OpenDialog::OpenDialog(const Memory& memory, QWidget* parent)
     const QList<DeviceEntry> recent = memory.recent();
     addRecent(recent, memory.recentSites());
     if (m_recent != nullptr) {
-        auto* heading = new QLabel(tr("&Opened before:"), this);
+        auto* heading = new QLabel(tr("Opened &before:"), this);
         heading->setBuddy(m_recent);
         column->addWidget(heading);
         column->addWidget(m_recent);

@@ -132,7 +132,7 @@ void Window::addSettingsActions(QMenu& menu)
     menu.addAction(tr("Compare &two files..."), this, [transfer] { transfer().compareFiles(); });
     QAction* two = menu.addAction(tr("Compare two &devices..."), this, [this] { compareWithOther(); });
     two->setEnabled(m_panels.size() > 1);
-    menu.addAction(tr("&Report..."), QKeySequence::Print, this, [this] { m_report.ask(*m_front); });
+    menu.addAction(tr("Re&port..."), QKeySequence::Print, this, [this] { m_report.ask(*m_front); });
     toToolBar(*save, "save");
     toToolBar(*compare, "compare");
 }
@@ -196,6 +196,12 @@ void Window::buildViewMenu()
     QMenu* menu = menuBar()->addMenu(tr("&View"));
     for (const QDockWidget* dock : m_docks)
         menu->addAction(dock->toggleViewAction());
+    // With every title that it is given, a dock takes it for its action as well.
+    connect(menu, &QMenu::aboutToShow, this, [this] {
+        int number = 0;
+        for (const QDockWidget* dock : m_docks)
+            dock->toggleViewAction()->setText(QString("&%1  %2").arg(++number).arg(dock->windowTitle()));
+    });
     m_bar->toggleViewAction()->setText(tr("&Tool bar"));
     menu->addAction(m_bar->toggleViewAction());
     menu->addSeparator();
@@ -247,7 +253,8 @@ void Window::buildLanguageMenu()
     for (const LanguageRow& row : languages()) {
         // Later: the menu that holds this action is made anew.
         QAction* action = menu->addAction(
-            QString::fromUtf8(row.name), this, [this, &row] { setLanguage(row.code); }, Qt::QueuedConnection);
+            '&' + QString::fromUtf8(row.name), this, [this, &row] { setLanguage(row.code); },
+            Qt::QueuedConnection);
         action->setCheckable(true);
         action->setChecked(m_languages.current() == row.code);
         group->addAction(action);
