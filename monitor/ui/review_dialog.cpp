@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace zor::monitor {
 namespace {
@@ -53,6 +54,7 @@ ReviewDialog::ReviewDialog(std::vector<Change> changes, const ParameterFile& fil
     constexpr int kHeight = 360;
     resize(kWidth, kHeight);
     show(std::move(changes));
+    m_write->setFocus();
 }
 
 ReviewDialog::Part ReviewDialog::addPart(const QString& heading, bool writable)
@@ -65,7 +67,8 @@ ReviewDialog::Part ReviewDialog::addPart(const QString& heading, bool writable)
     table->verticalHeader()->hide();
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionMode(QAbstractItemView::NoSelection);
-    table->setFocusPolicy(Qt::NoFocus);
+    table->setTabKeyNavigation(false);
+    table->setAccessibleName(heading);
     return {new QLabel(heading, this), table, writable};
 }
 
@@ -84,18 +87,21 @@ void ReviewDialog::allowWriting()
     m_write->setEnabled(some && (m_news.empty() || m_seen->isChecked()));
 }
 
-bool ReviewDialog::isNews(const Change& change) const
+bool ReviewDialog::isNews(const Change* last, const Change& change) const
 {
-    const auto last = std::ranges::find(m_changes, change.parameter, &Change::parameter);
-    return last == m_changes.end() || last->device != change.device ||
+    return last == nullptr || last->device != change.device ||
            !isAsReviewed(*last, m_file.parameters[change.parameter].location, change.before);
 }
 
 void ReviewDialog::follow(std::vector<Change> changes)
 {
     bool news = changes.size() != m_changes.size();
+    std::unordered_map<std::size_t, const Change*> shown;
+    for (const Change& change : m_changes)
+        shown.emplace(change.parameter, &change);
     for (const Change& change : changes) {
-        if (isNews(change)) {
+        const auto last = shown.find(change.parameter);
+        if (isNews(last == shown.end() ? nullptr : last->second, change)) {
             m_news.insert(change.parameter);
             news = true;
         }
@@ -129,7 +135,9 @@ void ReviewDialog::fill(const Part& part)
     part.table->resizeColumnsToContents();
     for (int column = 0; column < part.table->columnCount() - 1; ++column)
         part.table->setColumnWidth(column, std::min(part.table->columnWidth(column), kWidest));
-    part.table->resizeRowsToContents();
+    constexpr int kMostRows = 500; ///< beyond which measuring them takes longer than it is worth
+    if (part.table->rowCount() <= kMostRows)
+        part.table->resizeRowsToContents();
 }
 
 QStringList ReviewDialog::textsOf(const Change& change) const

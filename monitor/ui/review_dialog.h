@@ -38,7 +38,7 @@ private:
 
     void show(std::vector<Change> changes);
     void allowWriting();
-    [[nodiscard]] bool isNews(const Change& change) const;
+    [[nodiscard]] bool isNews(const Change* last, const Change& change) const;
     [[nodiscard]] Part addPart(const QString& heading, bool writable);
     void fill(const Part& part);
     [[nodiscard]] QStringList textsOf(const Change& change) const;
