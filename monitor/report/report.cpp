@@ -230,18 +230,27 @@ QString reportHtml(const Session& session, const ReportParts& parts)
     return writer.html();
 }
 
+std::function<QString()> reportJob(const QString& file, const Session& session, const ReportParts& parts)
+{
+    const auto saved = [](const QString& name, const auto& write) {
+        QSaveFile target(name);
+        if (!target.open(QIODevice::WriteOnly))
+            return target.errorString();
+        write(target);
+        return target.commit() ? QString() : target.errorString();
+    };
+    if (!file.endsWith(".pdf", Qt::CaseInsensitive))
+        return [=, html = reportHtml(session, parts).toUtf8()] {
+            return saved(file, [&](QSaveFile& target) { target.write(html); });
+        };
+    auto pages = std::make_shared<ReportPages>();
+    Report(session, parts, *pages).write();
+    return [=] { return saved(file, [&](QSaveFile& target) { pages->print(target); }); };
+}
+
 QString saveReport(const QString& file, const Session& session, const ReportParts& parts)
 {
-    QSaveFile target(file);
-    if (!target.open(QIODevice::WriteOnly))
-        return target.errorString();
-    if (file.endsWith(".pdf", Qt::CaseInsensitive)) {
-        ReportPages pages(target);
-        Report(session, parts, pages).write();
-    } else {
-        target.write(reportHtml(session, parts).toUtf8());
-    }
-    return target.commit() ? QString() : target.errorString();
+    return reportJob(file, session, parts)();
 }
 
 } // namespace zor::monitor

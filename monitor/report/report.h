@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -26,8 +27,12 @@ struct ReportParts {
 /// pictures. Texts of the device and of files stand in it as texts, whatever characters they have.
 [[nodiscard]] QString reportHtml(const Session& session, const ReportParts& parts);
 
-/// Saves it as the ending of the file's name says: .pdf, or else HTML. What stood in the file stays until the new
-/// one is whole. The reason why it could not be saved, or nothing.
+/// Takes down what the report is to hold, and returns what saves it, in whatever thread, as the ending of the
+/// file's name says: .pdf, or else HTML. What stood in the file stays until the new one is whole. It gives the
+/// reason why it could not be saved, or nothing.
+[[nodiscard]] std::function<QString()> reportJob(const QString& file, const Session& session,
+                                                 const ReportParts& parts);
+/// The same at once.
 [[nodiscard]] QString saveReport(const QString& file, const Session& session, const ReportParts& parts);
 
 /// Who sits at this machine, as the operating system names him.

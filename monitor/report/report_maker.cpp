@@ -46,10 +46,7 @@ void ReportMaker::make(DevicePanel& panel, const QString& file, const QString& c
         return fail(tr("This is no settings file that can be used:") + "\n\n" + QString::fromUtf8(error.what()));
     }
     const auto finish = [this, &panel, file, settings, picture] {
-        const QString error = save(panel, file, settings, picture);
-        if (!error.isEmpty())
-            return fail(file + ": " + error);
-        panel.say(tr("Report saved: %1").arg(file));
+        run(reportJob(file, panel.session(), partsOf(panel, settings, picture)), panel, file);
     };
     if (!panel.isAnswered())
         return finish();
@@ -58,8 +55,30 @@ void ReportMaker::make(DevicePanel& panel, const QString& file, const QString& c
     panel.transfer().read(std::move(all), finish);
 }
 
-QString ReportMaker::save(DevicePanel& panel, const QString& file, std::optional<SettingsFile> compared,
-                          bool picture) const
+void ReportMaker::run(std::function<QString()> job, DevicePanel& panel, const QString& file)
+{
+    auto error = std::make_shared<QString>();
+    QThread* thread = QThread::create([job = std::move(job), error] { *error = job(); });
+    m_saving.emplace_back(thread);
+    QObject::connect(thread, &QThread::finished, &m_window,
+                     [this, thread, error, file, device = QPointer<DevicePanel>(&panel)] {
+                         if (!error->isEmpty())
+                             fail(file + ": " + *error);
+                         else if (device != nullptr)
+                             device->say(tr("Report saved: %1").arg(file));
+                         thread->wait(); // it says so shortly before it ends
+                         std::erase_if(m_saving, [thread](const auto& one) { return one.get() == thread; });
+                     });
+    thread->start();
+}
+
+ReportMaker::~ReportMaker()
+{
+    for (const auto& thread : m_saving)
+        thread->wait();
+}
+
+ReportParts ReportMaker::partsOf(DevicePanel& panel, std::optional<SettingsFile> compared, bool picture) const
 {
     constexpr QSize kSize(660, 380); ///< what fits a page
     constexpr double kRatio = 3;     ///< as fine as a printer
@@ -67,7 +86,13 @@ QString ReportMaker::save(DevicePanel& panel, const QString& file, std::optional
     if (picture && !panel.trend().curves().empty())
         parts.pictures.push_back(
             plotPicture(panel.trend(), m_trend.plot().lastingView(), kSize, kRatio, parts.language));
-    return saveReport(file, panel.session(), parts);
+    return parts;
+}
+
+QString ReportMaker::save(DevicePanel& panel, const QString& file, std::optional<SettingsFile> compared,
+                          bool picture) const
+{
+    return saveReport(file, panel.session(), partsOf(panel, std::move(compared), picture));
 }
 
 } // namespace zor::monitor

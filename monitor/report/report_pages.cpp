@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QPdfWriter>
 
 #include <algorithm>
 #include <map>
@@ -47,26 +48,20 @@ std::vector<double> shared(const std::vector<double>& wanted, double room, bool 
 
 } // namespace
 
-ReportPages::ReportPages(QIODevice& target) : m_pdf(&target)
+ReportPages::ReportPages()
 {
-    constexpr int kMargin = 15; ///< millimetres
     constexpr std::array kPoints{16.0, 12.0, 10.0, 9.0};
-    m_pdf.setPageSize(QPageSize(QPageSize::A4));
-    m_pdf.setPageMargins(QMarginsF(kMargin, kMargin, kMargin, kMargin), QPageLayout::Millimeter);
-    m_pdf.setCreator("zor-monitor");
     for (std::size_t i = 0; i < m_fonts.size(); ++i) {
         m_fonts[i].setPointSizeF(kPoints[i]);
         m_fonts[i].setBold(i + 1 < m_fonts.size());
     }
     m_bold = m_fonts.back();
     m_bold.setBold(true);
-    m_line = QFontMetricsF(m_fonts.back(), &m_pdf).lineSpacing();
-    m_room = QSizeF(m_pdf.width(), m_pdf.height() - 2 * m_line);
 }
 
 void ReportPages::begin(const QString& title, const QString& /*language*/)
 {
-    m_pdf.setTitle(title);
+    m_title = title;
     m_blocks.push_back({Kind::Title, title});
 }
 
@@ -89,25 +84,38 @@ void ReportPages::picture(const QImage& image, const QString& text)
     m_blocks.push_back({Kind::Picture, text, image});
 }
 
-void ReportPages::end(const QString& text)
+void ReportPages::print(QIODevice& target)
 {
-    paragraph(text);
+    constexpr int kMargin = 15; ///< millimetres
+    QPdfWriter pdf(&target);
+    pdf.setPageSize(QPageSize(QPageSize::A4));
+    pdf.setPageMargins(QMarginsF(kMargin, kMargin, kMargin, kMargin), QPageLayout::Millimeter);
+    pdf.setCreator("zor-monitor");
+    pdf.setTitle(m_title);
+    m_pdf = &pdf;
+    m_pieces.clear();
+    m_page = 0;
+    m_y = 0;
+    m_line = QFontMetricsF(m_fonts.back(), m_pdf).lineSpacing();
+    m_room = QSizeF(pdf.width(), pdf.height() - 2 * m_line);
     giveWidths();
     for (std::size_t i = 0; i < m_blocks.size(); ++i)
         layOut(i);
-    QPainter painter(&m_pdf);
+    QPainter painter(&pdf);
     int page = -1;
     for (const Piece& piece : m_pieces) {
         if (page >= 0 && piece.page > page)
-            m_pdf.newPage();
+            pdf.newPage();
         if (std::exchange(page, piece.page) < piece.page) {
             painter.setFont(m_fonts.back());
             painter.setPen(Qt::black);
-            painter.drawText(QRectF(0, 0, m_pdf.width(), m_pdf.height()), Qt::AlignRight | Qt::AlignBottom,
+            painter.drawText(QRectF(0, 0, pdf.width(), pdf.height()), Qt::AlignRight | Qt::AlignBottom,
                              QString("%1 / %2").arg(piece.page + 1).arg(m_page + 1));
         }
         paint(painter, piece);
     }
+    painter.end();
+    m_pdf = nullptr;
 }
 
 // --- Laying out
@@ -121,7 +129,7 @@ const QFont& ReportPages::fontOf(const Block& block, std::size_t row, std::size_
 
 void ReportPages::giveWidths()
 {
-    const QFontMetricsF metrics(m_bold, &m_pdf); // the broader one
+    const QFontMetricsF metrics(m_bold, m_pdf); // the broader one
     // Tables with the same headings have the same columns.
     std::map<QStringList, std::vector<double>> all;
     const auto wantedBy = [&](const Block& table) -> std::vector<double>& {
@@ -147,7 +155,7 @@ void ReportPages::giveWidths()
 
 double ReportPages::textHeight(const QString& text, const QFont& font, double width) const
 {
-    const QFontMetricsF metrics(font, &m_pdf);
+    const QFontMetricsF metrics(font, m_pdf);
     if (!text.contains('\n') && metrics.horizontalAdvance(text) <= width)
         return metrics.height();
     constexpr double kAny = 1e6;

@@ -5,9 +5,13 @@
 #include <zor/monitor/report/report_sink.h>
 
 #include <QFont>
-#include <QPdfWriter>
+#include <QRectF>
 
 #include <array>
+
+class QIODevice;
+class QPainter;
+class QPdfWriter;
 
 namespace zor::monitor {
 
@@ -15,8 +19,7 @@ namespace zor::monitor {
 /// on each of its pages, and none stays alone at the end of one.
 class ReportPages final : public ReportSink {
 public:
-    /// The document is in `target` once the report has ended.
-    explicit ReportPages(QIODevice& target);
+    ReportPages();
 
     void begin(const QString& title, const QString& language) override;
     void heading(const QString& text) override { m_blocks.push_back({Kind::Heading, text}); }
@@ -27,7 +30,10 @@ public:
     void row(const QStringList& texts) override { m_blocks.back().rows.push_back(texts); }
     void endTable() override {}
     void picture(const QImage& image, const QString& text) override;
-    void end(const QString& text) override;
+    void end(const QString& text) override { paragraph(text); }
+
+    /// Writes the document, once the report has ended; in whatever thread.
+    void print(QIODevice& target);
 
 private:
     /// The first four in the order of their fonts.
@@ -59,7 +65,8 @@ private:
     void paint(QPainter& painter, const Piece& piece) const;
     void paintCells(QPainter& painter, const Piece& piece) const;
 
-    QPdfWriter m_pdf;
+    QPdfWriter* m_pdf = nullptr; ///< while it is printed
+    QString m_title;
     std::array<QFont, 4> m_fonts;
     QFont m_bold;
     std::vector<Block> m_blocks;

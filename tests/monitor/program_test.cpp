@@ -43,6 +43,7 @@ TEST(Program, RunsUnattendedAndLeavesAReportAPictureAndARecord)
     const QString html = written.readAll();
     EXPECT_TRUE(html.contains("<td>Tankhöhe</td><td>TankHeight</td><td>12,500</td><td>m</td><td>gelesen</td>"))
         << html.toStdString();
+    EXPECT_TRUE(html.contains("<td>Horn</td><td>Ein</td>"));
     EXPECT_TRUE(html.contains("data:image/png"));
     QFile record(log);
     ASSERT_TRUE(record.open(QIODevice::ReadOnly));

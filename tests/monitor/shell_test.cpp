@@ -392,6 +392,21 @@ TEST_F(Transfers, AFileThatIsDroppedIsOfferedForWhatItIs)
     EXPECT_TRUE(QTest::qWaitFor([&] { return window->panels().size() == 2; }, kPatience));
 }
 
+TEST_F(Transfers, AReportIsSavedWhileTheWindowGoesOn)
+{
+    QFile report(folder.filePath("a.pdf"));
+    window->report().make(window->front(), report.fileName(), file, false);
+    EXPECT_TRUE(shown<QMessageBox>()->text().startsWith("This is no settings file")) << "there is none";
+    delete window->findChild<QMessageBox*>();
+    window->report().make(window->front(), report.fileName(), "", false);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->statusBar()->currentMessage().startsWith("Report saved"); },
+                                kPatience));
+    ASSERT_TRUE(report.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(report.readAll().startsWith("%PDF-"));
+    window->report().make(window->front(), folder.filePath("no/a.pdf"), "", false);
+    EXPECT_TRUE(shown<QMessageBox>()->text().contains("no/a.pdf: "));
+}
+
 TEST_F(Transfers, TwoFilesAreComparedWithoutTheDevice)
 {
     window->front().transfer().save(file);
