@@ -1,4 +1,5 @@
 #include <zor/monitor/report/report_dialog.h>
+#include <zor/monitor/ui/framed_marks.h>
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -33,6 +34,7 @@ ReportDialog::ReportDialog(bool curves, QWidget* parent)
     line->addWidget(browse);
     m_picture->setEnabled(curves);
     m_picture->setChecked(curves);
+    FramedMarks::on(*m_picture);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     buttons->addButton(tr("&Save..."), QDialogButtonBox::AcceptRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

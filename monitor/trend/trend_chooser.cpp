@@ -1,4 +1,5 @@
 #include <zor/monitor/trend/trend_chooser.h>
+#include <zor/monitor/ui/framed_marks.h>
 #include <zor/monitor/ui/words.h>
 #include <zor/platform/qt/looks.h>
 
@@ -18,6 +19,7 @@ TrendChooser::TrendChooser(const Trend& trend, const std::string& language, QWid
     m_text->setClearButtonEnabled(true);
     m_list->setAccessibleName(windowTitle());
     m_list->setUniformItemSizes(true);
+    FramedMarks::on(*m_list);
     const std::vector<Parameter>& parameters = trend.session().file().parameters;
     for (std::size_t i = 0; i < parameters.size(); ++i) {
         if (!Trend::isPlottable(parameters[i]))

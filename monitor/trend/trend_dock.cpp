@@ -1,6 +1,7 @@
 #include <zor/monitor/trend/trend_chooser.h>
 #include <zor/monitor/trend/trend_dock.h>
 #include <zor/monitor/trend/trend_export.h>
+#include <zor/monitor/ui/framed_marks.h>
 #include <zor/monitor/ui/words.h>
 #include <zor/platform/qt/looks.h>
 
@@ -83,6 +84,7 @@ TrendDock::TrendDock(const Languages& languages, QWidget* parent)
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setTabKeyNavigation(false);
+    FramedMarks::on(*m_table);
     auto* side = new QWidget;
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);

@@ -1,3 +1,4 @@
+#include <zor/monitor/ui/framed_marks.h>
 #include <zor/monitor/ui/open_dialog.h>
 #include <zor/monitor/ui/scan_dialog.h>
 
@@ -68,8 +69,10 @@ OpenDialog::OpenDialog(const Memory& memory, QWidget* parent)
     connect(m_address, &QLineEdit::textEdited, this, [this] { m_real->setChecked(true); });
     for (QLineEdit* field : {m_address, m_parameters, m_form})
         connect(field, &QLineEdit::textEdited, this, [this] { leaveSite(); });
-    for (QRadioButton* button : {m_simulated, m_real})
+    for (QRadioButton* button : {m_simulated, m_real}) {
+        FramedMarks::on(*button);
         connect(button, &QRadioButton::clicked, this, [this] { leaveSite(); });
+    }
     connect(m_address, &QLineEdit::textChanged, this, [this] { checkAddress(); });
     connect(m_simulated, &QRadioButton::toggled, this, [this] { checkAddress(); });
     constexpr int kWidth = 560;

@@ -1,3 +1,4 @@
+#include <zor/monitor/ui/framed_marks.h>
 #include <zor/monitor/ui/review_dialog.h>
 #include <zor/monitor/ui/words.h>
 
@@ -43,6 +44,7 @@ ReviewDialog::ReviewDialog(std::vector<Change> changes, const ParameterFile& fil
     m_seen =
         new QCheckBox(tr("The device has changed while this list was open. I have seen what is marked."), this);
     m_seen->hide();
+    FramedMarks::on(*m_seen);
     connect(m_seen, &QCheckBox::toggled, this, [this] { allowWriting(); });
     column->addWidget(m_seen);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);

@@ -1,3 +1,4 @@
+#include <zor/monitor/ui/framed_marks.h>
 #include <zor/monitor/ui/settings_dialog.h>
 #include <zor/monitor/ui/words.h>
 
@@ -91,6 +92,7 @@ void SettingsDialog::addTable()
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setTabKeyNavigation(false);
     m_table->setWordWrap(false);
+    FramedMarks::on(*m_table);
     m_table->setAccessibleName(m_use.title);
 }
 
