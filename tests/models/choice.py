@@ -1,6 +1,6 @@
 """The controls for a choice, and of these combo box and list box."""
 
-from model import Model
+from model import Model, step, way_of_a_value
 from values import BLACK, FACE, PLACE, RED, WINDOW, YELLOW, names
 
 HEAD = "DataModified WaitingForData DeviceValue OutputValue DataChanged DataNotAvailable DeviceTypeSupported" \
@@ -46,12 +46,6 @@ class Choice(Model):
 
     def paint(self, colour):
         self[self.FACE + ".BackColor"] = colour
-
-    def newer(self):
-        """A value sets out; the one under way before it does nothing more."""
-        self.turn += 1
-        turn = self.turn
-        return lambda: self.dead or self.turn != turn
 
     def loaded(self):
         self.reference = self["DeviceValue"]
@@ -148,7 +142,7 @@ class ComboBox(Choice):
 
     # --- Values
 
-    def show(self, value, overtaken):
+    def show(self, value):
         """Selects the first entry that carries a value, if there are entries."""
         if not self.entries:
             return
@@ -157,69 +151,54 @@ class ComboBox(Choice):
         if at is None:
             self.emit("InvalidValueSetTrue")
         else:
-            self.select(at, overtaken)
+            if self.current != at:
+                self.pick(at)
 
-    def select(self, at, overtaken=None):
-        if self.current != at:
-            self.current = at
-            self.chosen(overtaken)
-
-    def chosen(self, overtaken=None):
-        overtaken = overtaken or self.step_of_operator()
+    def chosen(self):
+        overtaken = self.under_way()
         value = self.entries[self.current][1]
         self["DataModified"] = value != self.reference
         if self["DataModified"]:
             self.emit("DataModifiedSetTrue")
         if not overtaken():
-            self["OutputValue"] = self.entries[self.current][1] if self.current >= 0 else value
-            self.emit("OutputValueChange")
+            self.assign(self.entries[self.current][1] if self.current >= 0 else value)
         self.colors()
         self.emit("ComboClick")
 
-    def step_of_operator(self):
-        turn = self.turn
-        return lambda: self.dead or self.turn != turn
-
+    @way_of_a_value
     def put_DeviceValue(self):
-        overtaken = self.newer()
         self.reference = self["DeviceValue"]
-        self.show(self.reference, overtaken)
-        if overtaken():
-            return
-        self["OutputValue"] = self.reference
-        self.emit("OutputValueChange")
-        if overtaken():
-            return
+        self.show(self.reference)
+        yield
+        self.assign(self.reference)
+        yield
         self["DataModified"] = False
         self.colors()
         self.status()
 
+    @way_of_a_value
     def put_ModifiedValue(self):
-        overtaken, value = self.newer(), self["ModifiedValue"]
-        self.show(value, overtaken)
-        if overtaken():
-            return
-        self["OutputValue"] = value
-        self.emit("OutputValueChange")
-        if overtaken():
-            return
+        value = self["ModifiedValue"]
+        self.show(value)
+        yield
+        self.assign(value)
+        yield
         self.colors()
         self.status()
 
+    @way_of_a_value
     def undo(self):
         if not self["DataModified"]:
             return
-        overtaken, at = self.newer(), self.find(self.reference)
-        if at == self.current and at is not None:
+        if self.find(self.reference) == self.current != -1:
             self["InvalidValue"] = False
-            self.chosen(overtaken)
+            self.chosen()
         else:
-            self.show(self.reference, overtaken)
-        if not overtaken():
-            self["OutputValue"] = self.reference
-            self.emit("OutputValueChange")
-        if not overtaken():
-            self.status()
+            self.show(self.reference)
+        yield
+        self.assign(self.reference)
+        yield
+        self.status()
 
     # --- The operator
 
@@ -319,30 +298,28 @@ class ListBox(Choice):
 
     # --- Values
 
-    def mark(self, value, overtaken=None):
+    @step
+    def mark(self, value):
         """Marks the list as a value says; each mark that changes is a click, and the way back to the first entry."""
         for i in range(len(self.entries)):
             if i < len(self.marks) and self.marks[i] != bool(value & mask(self.entries[i][1])):
                 self.marks[i] = not self.marks[i]
                 self.current = i
                 if not self.locked():
-                    self.clicked_entry(overtaken)
-                    if overtaken():
-                        return
+                    self.clicked_entry()
+                    yield
         if self.entries and self.current != 0:
             self.current = 0
             if not self.locked():
-                self.clicked_entry(overtaken)
+                self.clicked_entry()
 
-    def clicked_entry(self, overtaken=None):
-        turn = self.turn
-        overtaken = overtaken or (lambda: self.dead or self.turn != turn)
+    def clicked_entry(self):
+        overtaken = self.under_way()
         if self.current < 0:
             return
         bit = mask(self.entries[self.current][1])
         marked = self.marks[self.current]
-        self["OutputValue"] = self["OutputValue"] | bit if marked else self["OutputValue"] & ~bit
-        self.emit("OutputValueChange")
+        self.assign(self["OutputValue"] | bit if marked else self["OutputValue"] & ~bit)
         if not overtaken():
             self["DataModified"] = self["OutputValue"] != self.reference
             if self["DataModified"]:
@@ -350,35 +327,37 @@ class ListBox(Choice):
         self.colors()
         self.emit("ListClick")
 
-    def assign(self, value, overtaken):
-        self["OutputValue"] = value
-        self.emit("OutputValueChange")
-        return not overtaken()
-
+    @way_of_a_value
     def put_DeviceValue(self):
-        overtaken = self.newer()
         self.reference = self["OutputValue"] = self["DeviceValue"]
-        self.mark(self.reference, overtaken)
-        if not overtaken() and self.assign(self.reference, overtaken):
-            self["DataModified"] = False
-            self.colors()
-            self.status()
+        self.mark(self.reference)
+        yield
+        self.assign(self.reference)
+        yield
+        self["DataModified"] = False
+        self.colors()
+        self.status()
 
+    @way_of_a_value
     def put_ModifiedValue(self):
-        overtaken, value = self.newer(), self["ModifiedValue"]
-        self.mark(value, overtaken)
-        if not overtaken() and self.assign(value, overtaken):
-            self["DataModified"] = self["OutputValue"] != self.reference
-            self.colors()
-            self.status()
+        value = self["ModifiedValue"]
+        self.mark(value)
+        yield
+        self.assign(value)
+        yield
+        self["DataModified"] = self["OutputValue"] != self.reference
+        self.colors()
+        self.status()
 
+    @way_of_a_value
     def undo(self):
         if self["DataModified"]:
-            overtaken = self.newer()
-            self.mark(self.reference, overtaken)
-            if not overtaken() and self.assign(self.reference, overtaken):
-                self["DataModified"] = False
-                self.colors()
+            self.mark(self.reference)
+            yield
+            self.assign(self.reference)
+            yield
+            self["DataModified"] = False
+            self.colors()
 
     # --- The operator
 

@@ -13,12 +13,14 @@ import time
 import choice
 import display
 import numeric
+import pages
 import slider
 import text_box
 import toggles
 from values import Colour, TooDeep, written
 
-MODELS = {**display.CONTROLS, **numeric.CONTROLS, **slider.CONTROLS, **text_box.CONTROLS, **choice.CONTROLS, **toggles.CONTROLS}
+MODELS = {**display.CONTROLS, **numeric.CONTROLS, **slider.CONTROLS, **text_box.CONTROLS, **choice.CONTROLS, **toggles.CONTROLS,
+          **pages.CONTROLS}
 LENGTH, BATCH = 60, 100
 
 
@@ -34,7 +36,7 @@ class Form:
         if what == "usermode":
             self.usermode = arguments[0] == "on"
         else:
-            self.decimal, self.group = (argument.strip('"') for argument in arguments)
+            self.decimal, self.group = [argument.strip('"') for argument in (*arguments, "")[:2]]
 
     def ask(self, *lines):
         if lines not in self.cache:
@@ -89,7 +91,8 @@ class Player:
         return steps, script
 
     def opening(self):
-        return [([(f"new {self.model.CLASS} c", []), ("usermode on", [])], [("events c quiet", []), ("notices c quiet", [])])]
+        opening = [(line, []) for line in self.model.opening()]
+        return [(opening, [("events c quiet", []), ("notices c quiet", [])])]
 
     def replay(self, steps):
         control, script = self.fresh(), self.opening()

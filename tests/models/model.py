@@ -5,6 +5,22 @@ from units import Overflow
 from values import BEGIN, DEFAULTS, DESIGNED, EFFECTS, KEYS, SILENT, Colour, TooDeep, type_index, version_fails, written
 
 
+def in_order(newer):
+    """Of a value's way: at each `yield` it ends if a newer value has set out meanwhile, or the control is gone."""
+    def decorate(steps):
+        def way(self, *arguments):
+            self.turn += newer
+            overtaken = self.under_way()
+            for _ in steps(self, *arguments):
+                if overtaken():
+                    break
+        return way
+    return decorate
+
+
+way_of_a_value, step = in_order(1), in_order(0)
+
+
 class Model(Steps):
     """A control. `self[...]` is a property by its name or a widget's aspect as `widget.aspect`."""
 
@@ -45,7 +61,7 @@ class Model(Steps):
         self.s = {**{name: self.DEFAULTS.get(name, DEFAULTS.get(name)) for name in self.stored}, "MessageHeader": "Zor",
                   **{name: BEGIN[name.split(".")[1]] for name in self.aspects if name.split(".")[1] in BEGIN},
                   **self.form.designed(self.CLASS, [name for name in self.aspects if name.split(".")[1] in DESIGNED])}
-        self.index, self.dead, self.focused = 0, False, None
+        self.index, self.dead, self.focused, self.turn = 0, False, None, 0
         self["img_State.Visible"], self["img_State.Picture"] = False, 0
         self.created()
 
@@ -170,6 +186,14 @@ class Model(Steps):
     def size(self, width, height):
         self["Surface.Width"], self["Surface.Height"] = width, height
         self.layout()
+
+    def under_way(self):
+        turn = self.turn
+        return lambda: self.dead or self.turn != turn
+
+    def assign(self, value):
+        self["OutputValue"] = value
+        self.emit("OutputValueChange")
 
     # --- States
 

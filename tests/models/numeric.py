@@ -1,6 +1,6 @@
 """What the numeric controls share, and the up-down."""
 
-from model import Model
+from model import Model, step, way_of_a_value
 from units import TYPES, UNITS, Overflow, convert, is_valid, plain, reading, whole
 from values import BLACK, FACE, PLACE, RED, WINDOW, YELLOW, names
 
@@ -28,14 +28,6 @@ class Numeric(Model):
     def look(self, name):
         return self.s["OutputValue"] if name == "ModifiedValue" else self.s[name]
 
-    def newer(self):
-        self.turn += 1
-        return self.under_way()
-
-    def under_way(self):
-        turn = self.turn
-        return lambda: self.dead or self.turn != turn
-
     def out_of(self, value, low, high):
         def beyond(one, other):
             return one > other and abs(one - other) > 1e-9 * max(abs(one), abs(other))
@@ -56,10 +48,6 @@ class Numeric(Model):
 
     def limit(self, value):
         return convert(value, self["UnitType"], self["DefaultUnit"], self["OutputUnit"])
-
-    def assign(self, value):
-        self["OutputValue"] = value
-        self.emit("OutputValueChange")
 
     def put_OtherUserValue(self):
         self.status()
@@ -136,6 +124,11 @@ class Numeric(Model):
 
     WRITES = ("paste",)
     ENTRIES = ("0", "12", "12.5", "150", "-3", "abc", "", " 7 ", "1e2", "1,000", "99", "12,5")
+
+    def random_steps(self, random):
+        if random.random() < 0.02:
+            return [("form", "locale", *random.choice((('"."', '","'), ('","', '"."'), ('","',))))]
+        return super().random_steps(random)
 
     def random_do(self, random):
         step = super().random_do(random)
@@ -215,38 +208,31 @@ class UpDown(Numeric):
             self.colors()
             self.emit("textChange")
 
+    @way_of_a_value
     def put_DeviceValue(self):
-        overtaken = self.newer()
         self.judge(self["DeviceValue"])
-        if overtaken():
-            return
+        yield
         self.reference = whole(self.forth(self["DeviceValue"]))
         self.set_text(str(self.reference))
-        if overtaken():
-            return
+        yield
         self.set_spin(self.spin_of(self.reference))
-        if overtaken():
-            return
+        yield
         self.assign(self["DeviceValue"])
-        if overtaken():
-            return
+        yield
         self["DataModified"] = False
         self.colors()
         self.status()
 
+    @way_of_a_value
     def put_ModifiedValue(self):
-        overtaken, value = self.newer(), self["ModifiedValue"]
+        value = self["ModifiedValue"]
         self.judge(value)
-        if overtaken():
-            return
+        yield
         self.set_text(plain(self.forth(value), self.form.decimal))
-        if overtaken():
-            return
-        number = self.number()
-        self.set_spin(self.spin_of(self.forth(value)))
-        if overtaken():
-            return
-        if number is not None:
+        yield
+        if self.number() is not None:
+            self.set_spin(self.spin_of(self.number()))
+            yield
             self.assign(value)
         self.colors()
         self.status()
@@ -281,31 +267,30 @@ class UpDown(Numeric):
     # --- The operator
 
     def up(self, widget):
-        self.step(1, "upDownUpClick")
+        self.click_spin(1, "upDownUpClick")
 
     def down(self, widget):
-        self.step(-1, "upDownDownClick")
+        self.click_spin(-1, "upDownDownClick")
 
     def struck(self, widget, code):
         if code in (40, 38):
-            self.step(1 if code == 38 else -1, "upDownUpClick" if code == 38 else "upDownDownClick")
+            self.click_spin(1 if code == 38 else -1, "upDownUpClick" if code == 38 else "upDownDownClick")
 
-    def step(self, way, event):
-        overtaken, before, locked = self.under_way(), self["upd_UpDown.Value"], self.locked()
-        self.set_spin(before + way)
-        if locked and not overtaken():
-            self["upd_UpDown.Value"] = before
-        elif not overtaken():
-            self.stepped(overtaken)
+    def click_spin(self, way, event):
+        self.one_step(self["upd_UpDown.Value"], way, self.locked())
         self.emit(event)
 
-    def stepped(self, overtaken):
+    @step
+    def one_step(self, before, way, locked):
+        self.set_spin(before + way)
+        yield
+        if locked:
+            self["upd_UpDown.Value"] = before
+            return
         self.set_text(str(self["upd_UpDown.Value"]))
-        if overtaken():
-            return
+        yield
         self.assign(whole(self.back(self["upd_UpDown.Value"])))
-        if overtaken():
-            return
+        yield
         self["DataModified"] = self["upd_UpDown.Value"] != self.reference
         if self["DataModified"]:
             self.emit("DataModifiedSetTrue")
@@ -316,8 +301,9 @@ class UpDown(Numeric):
             self.commit()
         super().lost_focus(widget)
 
+    @step
     def commit(self):
-        overtaken, number = self.under_way(), self.number()
+        number = self.number()
         if number is None:
             self.set_text(str(self["upd_UpDown.Value"]))
         else:
@@ -325,25 +311,23 @@ class UpDown(Numeric):
             beyond = high if number > high else low if number < low else None
             if beyond is not None and self.clamped(beyond) != number:
                 self.set_text(str(self.clamped(beyond)))
-            if overtaken():
-                return
+            yield
             self.set_spin(self.spin_of(number))
-            if overtaken():
-                return
+            yield
             self.assign(whole(self.back(whole(self.number()))))
-        if not overtaken():
-            self.pending = self.typed = False
+        yield
+        self.pending = self.typed = False
 
+    @way_of_a_value
     def undo(self):
         if self["DataModified"]:
-            overtaken = self.newer()
             self.set_text(str(self.reference))
-            if not overtaken():
-                self.set_spin(self.reference)
-            if not overtaken():
-                self["DataModified"] = False
-                self.colors()
-                self.assign(self["DeviceValue"])
+            yield
+            self.set_spin(self.reference)
+            yield
+            self["DataModified"] = False
+            self.colors()
+            self.assign(self["DeviceValue"])
 
     # --- Looks
 

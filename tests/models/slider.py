@@ -1,5 +1,6 @@
 """The slider."""
 
+from model import step, way_of_a_value
 from numeric import BINDING, LABEL, UNIT_ROWS, Numeric
 from units import UNITS, plain, whole
 from values import PLACE, names
@@ -87,16 +88,15 @@ class Slider(Numeric):
         self.output = value
         self.emit("OutputValueChange")
 
+    @step
     def moved(self):
-        overtaken, position = self.under_way(), self["sld_Slider.Value"]
-        self["DataModified"] = position != whole(self.reference)
+        self["DataModified"] = self["sld_Slider.Value"] != whole(self.reference)
         if self["DataModified"]:
             self.emit("DataModifiedSetTrue")
-        if overtaken():
-            return
-        self.set_output(self.back(position))
-        if not overtaken():
-            self.emit("sliderChange")
+        yield
+        self.set_output(self.back(self["sld_Slider.Value"]))
+        yield
+        self.emit("sliderChange")
 
     def move_to(self, value):
         value = self.clamped(whole(value))
@@ -105,36 +105,36 @@ class Slider(Numeric):
             if not self.locked():
                 self.moved()
 
+    @way_of_a_value
     def put_DeviceValue(self):
-        overtaken = self.newer()
         self["DeviceValue"] *= self["ScaleFactor"]
         self.judge(self["DeviceValue"])
-        if overtaken():
-            return
+        yield
         self.reference = self.forth(self["DeviceValue"])
         self.move_to(self.reference)
-        if not overtaken():
-            self.set_output(self["DeviceValue"])
-        if not overtaken():
-            self["DataModified"] = False
-            self.status()
+        yield
+        self.set_output(self["DeviceValue"])
+        yield
+        self["DataModified"] = False
+        self.status()
 
+    @way_of_a_value
     def put_ModifiedValue(self):
-        overtaken, value = self.newer(), self["ModifiedValue"]
+        value = self["ModifiedValue"]
         self.judge(value)
-        if not overtaken():
-            self.move_to(self.forth(value))
-        if not overtaken():
-            self.set_output(value)
-            self.status()
+        yield
+        self.move_to(self.forth(value))
+        yield
+        self.set_output(value)
+        self.status()
 
+    @way_of_a_value
     def undo(self):
         if self["DataModified"]:
-            overtaken = self.newer()
             self.move_to(self.reference)
-            if not overtaken():
-                self["DataModified"] = False
-                self.set_output(self["DeviceValue"])
+            yield
+            self["DataModified"] = False
+            self.set_output(self["DeviceValue"])
 
     def put_DeviceUnit(self):
         self.set_output(self.back(self["sld_Slider.Value"]))

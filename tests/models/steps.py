@@ -11,6 +11,10 @@ CHANGES = {"KeyDown": ("KeyCode", 0), "KeyPress": ("KeyAscii", 0), "Validate": (
 class Steps:
     # --- A step of a history, as the console is told and as it answers
 
+    @classmethod
+    def opening(cls):
+        return [f"new {cls.CLASS} c", "usermode on"]
+
     def render(self, step):
         kind, *rest = step
         if kind == "put":

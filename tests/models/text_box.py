@@ -1,5 +1,6 @@
 """The text box."""
 
+from model import step, way_of_a_value
 from numeric import BINDING, LABEL, UNIT_ROWS, Numeric
 from units import UNITS, convert, fixed, is_valid, plain, reading
 from values import BLACK, FACE, PLACE, RED, WINDOW, YELLOW, Colour, names
@@ -93,29 +94,28 @@ class TextBox(Numeric):
 
     # --- Values
 
+    @way_of_a_value
     def put_DeviceValue(self):
-        overtaken, value = self.newer(), self["DeviceValue"]
+        value = self["DeviceValue"]
         number = self.value_of(value) if self["EntryType"] == 1 else None
         self.display = value if number is None else self.formatted(self.forth(number)) or None
         self.shown, self.source, self.device_unit = None, "device", self["DeviceUnit"]
         self.show(self.display)
-        if overtaken():
-            return
+        yield
         if number is None or self.number() is not None:
             self.assign(value)
-        if overtaken():
-            return
+        yield
         self["DataModified"] = self["InvalidEntry"] = False
         self.colors()
         self.status()
 
+    @way_of_a_value
     def put_ModifiedValue(self):
-        overtaken, value = self.newer(), self["ModifiedValue"]
+        value = self["ModifiedValue"]
         number = self.value_of(value)
         self.source = "output"
         self.show(value if number is None else self.forth(number))
-        if overtaken():
-            return
+        yield
         if number is None or self.number() is not None:
             self.assign(value)
         self.colors()
@@ -126,16 +126,17 @@ class TextBox(Numeric):
         if number is not None:
             self.assign(self.back(number))
 
+    @step
     def output_unit_changed(self):
         text, display = self.number(), self.value_of(self.display)
         if text is not None and display is not None:
             self["MinParamValue"], self["MaxParamValue"] = self.anew(self["MinParamValue"]), self.anew(self["MaxParamValue"])
             self.display, self.shown = self.anew(display), None
-            modified, overtaken = self["DataModified"], self.under_way()
+            modified = self["DataModified"]
             self.show(self.anew(text))
-            if not overtaken():
-                self["DataModified"], self.shown = modified, self.formatted(self.display)
-                self.colors()
+            yield
+            self["DataModified"], self.shown = modified, self.formatted(self.display)
+            self.colors()
 
     def put_MinValue(self):
         self["MinParamValue"] = self.limit(self["MinValue"])
@@ -224,16 +225,17 @@ class TextBox(Numeric):
             return convert(value, self["UnitType"], self.device_unit, self["DeviceUnit"])
         return self["txt_TextBox.Text"] if number is None else self.back(number)
 
+    @way_of_a_value
     def undo(self):
         if self["DataModified"]:
-            overtaken, self.source = self.newer(), "device"
+            self.source = "device"
             self.undoing = True
             self.show(self.display)
             self.undoing = False
-            if not overtaken():
-                self["DataModified"] = False
-                self.colors()
-                self.assign(self["DeviceValue"])
+            yield
+            self["DataModified"] = False
+            self.colors()
+            self.assign(self["DeviceValue"])
 
     # --- Looks
 

@@ -1,5 +1,6 @@
 """Check box and option button."""
 
+from model import way_of_a_value
 from choice import FIVE, HEAD, LOOKS, PLACE, RAISED, TAIL, Choice, mask
 from values import names
 
@@ -83,22 +84,20 @@ class CheckBox(Toggle):
     def mask(self):
         return mask(self["BitFieldEntryIndex"])
 
-    def show(self, on, overtaken):
+    def show(self, on):
         if self["chk_CheckBox.Value"] != int(on):
             self["chk_CheckBox.Value"] = int(on)
-            self.changed(overtaken)
+            self.changed()
 
-    def changed(self, overtaken=None):
-        turn = self.turn
-        overtaken = overtaken or (lambda: self.dead or self.turn != turn)
+    def changed(self):
+        overtaken = self.under_way()
         on = bool(self["chk_CheckBox.Value"])
         self["DataModified"] = on != self.was
         if self.locked():
             return
         self.emit("DataModifiedSetTrue" if on != self.was else "DataModifiedReset")
         if not overtaken():
-            self["OutputValue"] = self["OutputValue"] | self.mask() if on else self["OutputValue"] & ~self.mask()
-            self.emit("OutputValueChange")
+            self.assign(self["OutputValue"] | self.mask() if on else self["OutputValue"] & ~self.mask())
         self.colors()
         self.emit("CheckClick")
 
@@ -107,41 +106,38 @@ class CheckBox(Toggle):
         if not self.locked():
             self.changed()
 
+    @way_of_a_value
     def put_DeviceValue(self):
-        overtaken = self.newer()
         self.was = bool(self["DeviceValue"] & self.mask())
-        self.show(self.was, overtaken)
-        if overtaken():
-            return
-        self["OutputValue"] = self["DeviceValue"]
-        self.emit("OutputValueChange")
-        if not overtaken():
-            self["DataModified"] = False
-            self.colors()
-            self.status()
+        self.show(self.was)
+        yield
+        self.assign(self["DeviceValue"])
+        yield
+        self["DataModified"] = False
+        self.colors()
+        self.status()
 
+    @way_of_a_value
     def put_ModifiedValue(self):
-        overtaken, value = self.newer(), self["ModifiedValue"]
-        self.show(bool(value & self.mask()), overtaken)
+        value = self["ModifiedValue"]
+        self.show(bool(value & self.mask()))
         if self.locked():
             self["DataModified"] = bool(self["chk_CheckBox.Value"]) != self.was
-        if not overtaken():
-            self["OutputValue"] = value
-            self.emit("OutputValueChange")
-            self.colors()
-            self.status()
+        yield
+        self.assign(value)
+        self.colors()
+        self.status()
 
+    @way_of_a_value
     def undo(self):
         if self["DataModified"]:
-            overtaken = self.newer()
             if self["chk_CheckBox.Value"] == int(self.was):
-                self.changed(overtaken)
+                self.changed()
             else:
-                self.show(self.was, overtaken)
-            if not overtaken():
-                self["OutputValue"] = self["DeviceValue"]
-                self.emit("OutputValueChange")
-                self.colors()
+                self.show(self.was)
+            yield
+            self.assign(self["DeviceValue"])
+            self.colors()
 
 
 class OptionButton(Toggle):
@@ -172,7 +168,7 @@ class OptionButton(Toggle):
     def look(self, name):
         return self["opt_OptionButton.Value"] if name == "OptionButtonValue" else super().look(name)
 
-    def show(self, value, overtaken):
+    def show(self, value):
         """A value comes: selected or not, and a click where the button becomes selected, or stands for something else."""
         on = value == self["EnumEntryValue"]
         fresh = on and (not self["opt_OptionButton.Value"] or self.stood_for != self["EnumEntryValue"])
@@ -182,9 +178,7 @@ class OptionButton(Toggle):
     def put_EnumEntryValue(self):
         pass
 
-    def clicked_button(self, overtaken=None):
-        turn = self.turn
-        overtaken = overtaken or (lambda: self.dead or self.turn != turn)
+    def clicked_button(self):
         self["OutputValue"] = self["EnumEntryValue"] if self["opt_OptionButton.Value"] else self["EnumValue"]
         self["DataModified"] = self["OutputValue"] != self.reference
         if self["DataModified"]:
@@ -195,17 +189,17 @@ class OptionButton(Toggle):
             self.emit("OutputValueChange")
 
     def apply(self):
-        overtaken, self.armed = self.newer(), True
+        self.turn, self.armed = self.turn + 1, True
         self.reference = self["DeviceValue"]
         was = self["opt_OptionButton.Value"]
-        fresh = self.show(self["EnumValue"], overtaken)
+        fresh = self.show(self["EnumValue"])
         self["DataModified"], self["OutputValue"] = False, self["EnumValue"]
         if was and self["opt_OptionButton.Value"] and not fresh:
             self["DataModified"] = not self.locked() and self["OutputValue"] != self.reference
         self.status()
         self.colors()
         if fresh and self.may_click():
-            self.clicked_button(overtaken)
+            self.clicked_button()
 
     def may_click(self):
         """A button that was read back has its first click swallowed, and arms itself by it."""
@@ -220,24 +214,24 @@ class OptionButton(Toggle):
         self.apply()
 
     def put_ModifiedValue(self):
-        overtaken, value, self.armed = self.newer(), self["ModifiedValue"], True
-        fresh = self.show(value, overtaken)
+        self.turn, value, self.armed = self.turn + 1, self["ModifiedValue"], True
+        fresh = self.show(value)
         if not self["opt_OptionButton.Value"]:
             self["DataModified"] = False
         self["OutputValue"] = value
         self.status()
         self.colors()
         if fresh and self.may_click():
-            self.clicked_button(overtaken)
+            self.clicked_button()
 
     def undo(self):
-        overtaken = self.newer()
+        self.turn += 1
         on = self.reference == self["EnumEntryValue"]
         fresh, self["opt_OptionButton.Value"] = on and not self["opt_OptionButton.Value"], on
         self["OutputValue"], self["DataModified"] = self["DeviceValue"], False
         self.colors()
         if fresh and self.may_click():
-            self.clicked_button(overtaken)
+            self.clicked_button()
 
     def push(self):
         if self["opt_OptionButton.Value"]:
