@@ -66,6 +66,12 @@ OpenDialog::OpenDialog(const Memory& memory, QWidget* parent)
     column->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    QWidget* before = m_recent;
+    for (QWidget* next : std::initializer_list<QWidget*>{m_simulated, m_real, m_address, look}) {
+        if (before != nullptr)
+            setTabOrder(before, next);
+        before = next;
+    }
     connect(m_address, &QLineEdit::textEdited, this, [this] { m_real->setChecked(true); });
     for (QLineEdit* field : {m_address, m_parameters, m_form})
         connect(field, &QLineEdit::textEdited, this, [this] { leaveSite(); });
