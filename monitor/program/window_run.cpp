@@ -108,9 +108,10 @@ int finish(Window& window, const Settings& settings)
 {
     int status = kWell;
     for (const auto& panel : window.panels()) {
-        if (!settings.site.empty())
+        const bool tells = settings.runFor > 0 || !settings.screenshot.empty();
+        if (tells && !settings.site.empty())
             std::cout << panel->name().toStdString() << '\n';
-        if (settings.runFor > 0 || !settings.screenshot.empty())
+        if (tells)
             std::cout << panel->session().report();
         status = std::max(status, withFiles(panel->device(), finish(*panel, settings)));
     }

@@ -130,7 +130,7 @@
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation>&amp;Anhalten</translation>
+        <translation>A&amp;nhalten</translation>
     </message>
     <message>
         <source>Cl&amp;ear</source>
@@ -141,8 +141,8 @@
         <translation>&amp;Kopieren</translation>
     </message>
     <message>
-        <source>Sa&amp;ve...</source>
-        <translation>&amp;Sichern ...</translation>
+        <source>&amp;Save...</source>
+        <translation>Si&amp;chern ...</translation>
     </message>
     <message>
         <source>Fields of the frame</source>

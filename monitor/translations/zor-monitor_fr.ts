@@ -141,7 +141,7 @@
         <translation>&amp;Copier</translation>
     </message>
     <message>
-        <source>Sa&amp;ve...</source>
+        <source>&amp;Save...</source>
         <translation>Enre&amp;gistrer...</translation>
     </message>
     <message>
@@ -1215,7 +1215,7 @@
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>&amp;Affichage</translation>
+        <translation>Affic&amp;hage</translation>
     </message>
     <message>
         <source>&amp;Tool bar</source>

@@ -136,7 +136,7 @@ void FramesDock::retranslate()
     m_pause->setText(tr("&Pause"));
     m_clear->setText(tr("Cl&ear"));
     m_copy->setText(tr("&Copy"));
-    m_save->setText(tr("Sa&ve..."));
+    m_save->setText(tr("&Save..."));
     m_table->setAccessibleName(tr("Frames"));
     m_fields->setAccessibleName(tr("Fields of the frame"));
     m_fields->setHeaderLabels({tr("Field"), tr("Value"), tr("Bytes")});
