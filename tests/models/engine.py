@@ -165,7 +165,7 @@ class Player:
                 one = script[:wanted[0]] + [(script[wanted[0]][0], [("get " + name, [word])])]
                 if found := self.failures([one]):
                     lines += ["get " + name, f"= {word}  # {found[0][2].rpartition('got ')[2]}"]
-        return "\n".join(lines + [] if wanted[1].startswith("get ") else [*lines, "# " + wanted[2]])
+        return "\n".join(lines if wanted[1].startswith("get ") else [*lines, "# " + wanted[2]])
 
     def run(self, count, seed):
         """Plays that many steps; answers the first history that diverges, or None."""
@@ -179,10 +179,10 @@ class Player:
         return None
 
 
-def prove(zorsh):
+def prove(zorsh, platform):
     """That a divergence is found, and told in as few commands as it takes: a label that never looks at its versions."""
     wrong = type("Wrong", (display.Label,), {"check_version": display.Label.support})
-    told = Player(zorsh, "headless", wrong).run(10_000, 1).splitlines()
+    told = Player(zorsh, platform, wrong).run(10_000, 1).splitlines()
     if len(told) != 6 or not told[3].startswith("put c.DeviceVersion") or told[4] != "get c.DeviceVerNotSupported":
         sys.exit("\n".join(["the wrong model is told like this:", *told]))
 
@@ -196,7 +196,7 @@ def main():
     asked = parser.parse_args()
     seed, began = int(os.environ.get("ZOR_SEED", 1)), time.monotonic()
     if asked.kind == "wrong":
-        return prove(asked.zorsh)
+        return prove(asked.zorsh, asked.platform)
     found = Player(asked.zorsh, asked.platform, MODELS[asked.kind]).run(asked.steps, seed)
     if found:
         sys.exit(f"{asked.kind} on {asked.platform}, ZOR_SEED={seed}: model and zorsh say different things\n{found}")

@@ -154,7 +154,8 @@ class Slider(Numeric):
 
     def unit_caption(self, text):
         self.caption("lbl_MinUnit", text)
-        self.caption("lbl_MaxUnit", text)
+        if self["lbl_MinUnit.Caption"] == text:
+            self.caption("lbl_MaxUnit", text)
         self.layout()
 
     def put_MinPrefix(self):

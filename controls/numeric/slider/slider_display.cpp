@@ -86,8 +86,11 @@ void ctx_ZorSlider::s_UpdateUnitLabelVisibility()
 
 void ctx_ZorSlider::s_ShowUnit(std::string_view caption)
 {
-    label(lbl_MinUnit).setCaption(caption);
-    label(lbl_MaxUnit).setCaption(caption);
+    // Who hears of the first label may write another caption where this one is kept, and has set both then.
+    const std::string shown(caption);
+    label(lbl_MinUnit).setCaption(shown);
+    if (label(lbl_MinUnit).caption() == shown)
+        label(lbl_MaxUnit).setCaption(shown);
     s_Layout();
 }
 
