@@ -26,7 +26,8 @@ UNITS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9, "B": 1, "kB": 1e3, "MB": 1e6, 
 
 class Row(NamedTuple):
     """What is done; the program, and its benchmark; the unit of the columns and the bound in it, None: what the peer takes, if
-    there is one; the peer, as it stands behind the slash of its name; how often the benchmark does it; what is looked at: the time, or a counter."""
+    there is one; the peer, as it stands behind the slash of its name; how often the benchmark does it; what is looked at: the time, or a
+    counter; what the peer took on the machine on which the bound was set."""
 
     work: str
     program: str
@@ -36,6 +37,7 @@ class Row(NamedTuple):
     peer: str = ""
     times: int = 1
     what: str = "time"
+    then: float | None = None
 
 
 def changing(control, wanted):
@@ -44,14 +46,14 @@ def changing(control, wanted):
             Row("allocations of that", "numeric", f"DeviceValue, changing, {control}/zor", "", 0, what="allocations")]
 
 
-def memory(work, program, name, unit, wanted, peer=""):
-    return Row(work, program, name, unit, wanted, peer, what="bytes_each")
+def memory(work, program, name, unit, wanted, peer="", then=None):
+    return Row(work, program, name, unit, wanted, peer, what="bytes_each", then=then)
 
 
 ROWS = [
     Row("conversion, units chosen at run time", "conversion", "four conversions/zor", "ns", 1.6, "udunits2", 4),
-    Row("value text of a double, user's separator", "text", "text of four values/zor", "ns", 15, "std::to_chars", 4),
-    Row("number of a text, with the test", "text", "test and read four texts/zor", "ns", 15, "QLocale", 4),
+    Row("value text of a double, user's separator", "text", "text of four values/zor", "ns", 15, "std::to_chars", 4, then=35),
+    Row("number of a text, with the test", "text", "test and read four texts/zor", "ns", 15, "QLocale", 4, then=370),
     *changing("text box", 50), *changing("up-down", 50), *changing("slider", 35), *changing("label", 40),
     Row("the same value again: text box", "numeric", "DeviceValue, the same again, text box/zor", "ns", 25),
     Row("create and initialise 10,000 text boxes", "numeric", "create, text box/zor/10000", "ms", 15),
@@ -60,14 +62,15 @@ ROWS = [
     memory("memory of one", "numeric", "create, slider/zor/10000", "kB", 2),
     Row("list box, a value over 32,767 entries", "choice", "value of a list box/zor/32767", "ms", 0.1),
     Row("the same on Qt", "qt_choice", "value of a list box/zor/32767", "ms", 2),
-    Row("create a `ZorTextBox` on Qt", "qt_widgets", "create/zor/1000", "us", 45, "QDoubleSpinBox", 1000),
-    Row("the same", "qt_widgets", "create/zor/1000", "us", None, "a line edit and two labels", 1000),
-    memory("memory of one", "qt_widgets", "create/zor/1000", "kB", 9, "QDoubleSpinBox"),
-    memory("the same", "qt_widgets", "create/zor/1000", "kB", None, "a line edit and two labels"),
+    Row("create a `ZorTextBox` on Qt", "qt_widgets", "create/zor/1000", "us", 45, "QDoubleSpinBox", 1000, then=37),
+    Row("the same", "qt_widgets", "create/zor/1000", "us", None, "a line edit and two labels", 1000, then=52),
+    memory("memory of one", "qt_widgets", "create/zor/1000", "kB", 9, "QDoubleSpinBox", then=7),
+    memory("the same", "qt_widgets", "create/zor/1000", "kB", None, "a line edit and two labels", then=8.8),
     Row("show 10,000 of them", "qt_widgets", "show/zor/10000", "ms", None, "QDoubleSpinBox"),
     Row("delete 10,000 of them", "qt_widgets", "delete/zor/10000", "ms", None, "QDoubleSpinBox"),
     Row("load a form of 1,000 (`ZorUiLoader`)", "qt_widgets", "load/zor/1000", "ms", 90, "QUiLoader"),
-    Row("a new value in a visible field, with its frame", "qt_text_box", "a value, with a frame/zor", "us", 27, "QDoubleSpinBox"),
+    Row("a new value in a visible field, with its frame", "qt_text_box", "a value, with a frame/zor", "us", 27, "QDoubleSpinBox", then=27),
+    Row("the same", "qt_text_box", "a value, with a frame/zor", "us", None, "QLineEdit"),
     Row("monitor, 2,000 parameters in 50 groups, from start to first values", "monitor", "start/2000/50", "s", 0.4),
     Row("its memory", "monitor", "start/2000/50", "MB", 60, what="bytes"),
     Row("monitor, 10,000 parameters in 50 groups", "monitor", "start/10000/50", "s", 1),
@@ -123,7 +126,7 @@ def bounds(found, complete):
         unit = " µs" if row.unit == "us" else f" {row.unit}" if row.unit else ""
         cells = [row.work, figure(shown(ours)) + unit,
                  f"{row.wanted:g}{unit}" if row.wanted is not None else "the peer's" if row.peer else "", reached,
-                 f"{row.peer} {figure(shown(other))}{unit}" if other else "",
+                 f"{row.peer} {figure(shown(other))}{unit}" + (f", then {row.then:g}" if row.then else "") if other else "",
                  f"{shown(ours) / shown(other):.2f} of it" if other else ""]
         yield f"| {' | '.join(cells)} |"
 

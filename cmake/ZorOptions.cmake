@@ -25,6 +25,7 @@ zor_option(ZOR_BUILD_TOOLS "The console zorsh and the writer of the reference pa
 zor_option(ZOR_BUILD_MONITOR "The monitor" NEEDS ZOR_BUILD_FORMS ZOR_BUILD_QT)
 zor_option(ZOR_BUILD_EXAMPLES "The programs of examples/")
 zor_option(ZOR_BUILD_TESTS "The tests" NEEDS ZOR_BUILD_TOOLS)
+zor_option(ZOR_BUILD_QT_TESTS "The test programs that need Qt" NEEDS ZOR_BUILD_TESTS ZOR_BUILD_QT)
 zor_option(ZOR_INSTALL "Install what is built")
 option(ZOR_BUILD_BENCH "The benchmarks" OFF)
 option(ZOR_BUILD_INSTRUCTIONS "The program whose instructions are counted (valgrind)" OFF)

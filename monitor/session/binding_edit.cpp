@@ -118,9 +118,10 @@ void Binding::event(core::Control& control, const core::EventRow& row, platform:
 {
     const core::RaisedEvents& raised = control.info().raised;
     const bool chosen = &row == raised.outputValueChange;
-    const bool edited =
-        chosen || &row == raised.changed || &row == raised.dataModifiedSetTrue || &row == raised.dataModifiedReset;
-    if (edited && onEdit)
+    const bool flagged = &row == raised.dataModifiedSetTrue || &row == raised.dataModifiedReset;
+    const bool edited = chosen || flagged || &row == raised.changed;
+    // A value that is shown is no edit, though it may end one.
+    if (onEdit && (m_quiet.isNone() ? edited : flagged))
         onEdit();
     if (!m_quiet.isNone())
         return;

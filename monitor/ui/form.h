@@ -93,19 +93,22 @@ private:
         const LocalText* title;
         QScrollArea* area;
         std::vector<const Parameter*> parameters;
-        std::unique_ptr<platform::qt::QtContainer> container; ///< once it has been made
+        /// Once it has been made: of some rows each, for whatever is painted is compared with all beside it.
+        std::vector<std::unique_ptr<platform::qt::QtContainer>> bands;
         std::vector<Row> rows;
     };
 
     void addPages(const ParameterFile& file);
     void addTree();
     void makePage(std::size_t index);
+    void addBand(Page& page, QWidget& widget);
     void addRow(Page& page, QGridLayout& grid, const Parameter& parameter);
     core::Control& addControl(Page& page, Row& row, const core::ClassInfo& info, const Entry* entry);
     void prepare(core::Control& control, const Parameter& parameter);
     void translatePage(const Page& page);
     void translateRow(const Row& row);
     [[nodiscard]] int heightOf(const Page& page) const;
+    [[nodiscard]] static bool isInSight(const Page& page, const Row& row);
     [[nodiscard]] const core::ClassInfo& classOf(const Parameter& parameter) const;
 
     const core::ClassRegistry& m_classes;

@@ -68,7 +68,10 @@ void GeneratedForm::addPages(const ParameterFile& file)
             area->setWidgetResizable(true);
             area->setFrameShape(QFrame::NoFrame);
             m_tabs->addTab(area, QString());
-            m_pages.push_back({&group, area, {}, nullptr, {}});
+            // What comes into sight is brought up to date.
+            QObject::connect(area->verticalScrollBar(), &QScrollBar::valueChanged, area, [this] { arrange(); });
+            QObject::connect(area->verticalScrollBar(), &QScrollBar::rangeChanged, area, [this] { arrange(); });
+            m_pages.push_back({&group, area, {}, {}, {}});
         }
         m_pages[place->second].parameters.push_back(&parameter);
         m_pageOf.emplace(&parameter, place->second);
@@ -105,7 +108,7 @@ void GeneratedForm::whenMade(const std::function<void(std::span<core::Control* c
 const core::ClassInfo* GeneratedForm::foreseen(const Parameter& parameter) const
 {
     const auto page = m_pageOf.find(&parameter);
-    const bool toCome = page != m_pageOf.end() && m_pages[page->second].container == nullptr;
+    const bool toCome = page != m_pageOf.end() && m_pages[page->second].bands.empty();
     return toCome ? &classOf(parameter) : nullptr;
 }
 
@@ -114,17 +117,14 @@ void GeneratedForm::make(const Parameter& parameter) { makePage(m_pageOf.at(&par
 void GeneratedForm::makePage(std::size_t index)
 {
     Page& page = m_pages[index];
-    if (page.container != nullptr)
+    if (!page.bands.empty())
         return;
     // In its place from the start: moving a widget into another takes the longer the more there are.
     auto* widget = new QWidget(page.area->viewport());
-    auto* grid = new QGridLayout(widget);
-    page.container = std::make_unique<platform::qt::QtContainer>(*widget, core::pictureData);
-    for (const Parameter* parameter : page.parameters)
-        addRow(page, *grid, *parameter);
-    grid->setRowStretch(grid->rowCount(), 1);
-    grid->setColumnStretch(2, 1);
-    page.container->setUserMode(true);
+    auto* column = new QVBoxLayout(widget);
+    while (page.rows.size() < page.parameters.size())
+        addBand(page, *widget);
+    column->addStretch(1);
     std::vector<core::Control*> made;
     for (const Row& row : page.rows) {
         for (const auto& control : row.controls)
@@ -133,6 +133,21 @@ void GeneratedForm::makePage(std::size_t index)
     m_hear(made);
     translatePage(page);
     page.area->setWidget(widget);
+}
+
+void GeneratedForm::addBand(Page& page, QWidget& widget)
+{
+    constexpr std::size_t kRows = 32;
+    auto* band = new QWidget(&widget);
+    auto* grid = new QGridLayout(band);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setColumnStretch(2, 1);
+    widget.layout()->addWidget(band);
+    page.bands.push_back(std::make_unique<platform::qt::QtContainer>(*band, core::pictureData));
+    const std::size_t first = page.rows.size();
+    for (std::size_t i = first; i < std::min(first + kRows, page.parameters.size()); ++i)
+        addRow(page, *grid, *page.parameters[i]);
+    page.bands.back()->setUserMode(true);
 }
 
 void GeneratedForm::addRow(Page& page, QGridLayout& grid, const Parameter& parameter)
@@ -164,7 +179,7 @@ void GeneratedForm::addRow(Page& page, QGridLayout& grid, const Parameter& param
 
 core::Control& GeneratedForm::addControl(Page& page, Row& row, const core::ClassInfo& info, const Entry* entry)
 {
-    core::ControlPtr<> control = info.create(*page.container);
+    core::ControlPtr<> control = info.create(*page.bands.back());
     control->initialiseProperties();
     prepare(*control, *row.parameter);
     if (entry != nullptr)
@@ -215,18 +230,31 @@ void GeneratedForm::mark(int page, const QIcon& icon, const QString& tip)
 
 void GeneratedForm::arrange()
 {
-    for (Row& row : m_pages[static_cast<std::size_t>(std::max(m_tabs->currentIndex(), 0))].rows) {
+    const Page& page = m_pages[static_cast<std::size_t>(std::max(m_tabs->currentIndex(), 0))];
+    for (const Row& row : page.rows) {
+        bool shown = false;
+        for (const auto& control : row.controls)
+            shown = showIfHad(*control) || shown;
+        if (row.caption->isHidden() == shown) {
+            row.caption->setVisible(shown);
+            row.note->setVisible(shown);
+        }
+        if (!shown || !isInSight(page, row))
+            continue;
         for (const auto& control : row.controls)
             fitSize(*control);
-        if (row.controls.empty())
-            continue;
         core::Control& first = *row.controls.front();
-        const bool hidden = platform::qt::widgetOf(first.surface()).isHidden();
-        row.caption->setHidden(hidden);
-        row.note->setHidden(hidden);
-        if (!hidden)
-            showNote(*row.note, first, *row.parameter, !isKnown || isKnown(first), m_language);
+        showNote(*row.note, first, *row.parameter, !isKnown || isKnown(first), m_language);
     }
+}
+
+bool GeneratedForm::isInSight(const Page& page, const Row& row)
+{
+    const QWidget& sight = *page.area->viewport();
+    const QWidget& first = platform::qt::widgetOf(row.controls.front()->surface());
+    const QWidget& last = platform::qt::widgetOf(row.controls.back()->surface());
+    return first.mapTo(&sight, QPoint()).y() < sight.height() &&
+           last.mapTo(&sight, QPoint()).y() + last.height() > 0;
 }
 
 QSize GeneratedForm::wholeSize()

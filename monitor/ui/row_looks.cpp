@@ -177,13 +177,18 @@ void setOwnCaption(core::Control& control, const QString& caption)
     surface.setToolTip(shown == caption ? QString() : platform::qt::plainToolTip(caption.toStdString()));
 }
 
+bool showIfHad(core::Control& control)
+{
+    const bool lacks = control.DeviceTypeNotSupported() || control.DeviceVerNotSupported();
+    if (surfaceOf(control).isHidden() != lacks)
+        surfaceOf(control).setHidden(lacks);
+    return !lacks;
+}
+
 void fitSize(core::Control& control)
 {
     QWidget& surface = surfaceOf(control);
     const bool fixed = control.info().name == "ctx_ZorListBox";
-    const bool lacks = control.DeviceTypeNotSupported() || control.DeviceVerNotSupported();
-    if (surface.isHidden() != lacks)
-        surface.setHidden(lacks);
     if (surface.isVisible() && !fixed)
         setWidth(control, std::max(looksOf(control.info()).width, rightEnd(surface) + 1));
 }

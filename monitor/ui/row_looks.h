@@ -35,8 +35,11 @@ void giveRoomForEntries(core::Control& comboBox);
 /// Of a check box or an option button; what is too long is cut and stands in the tooltip.
 void setOwnCaption(core::Control& control, const QString& caption);
 
+/// Hides a control while the device does not have its parameter. Says whether it is shown.
+bool showIfHad(core::Control& control);
+
 /// Widens or narrows a control to what it shows, so that neither a long unit nor a long caption pushes the state
-/// icon over its edge, and hides it while the device does not have the parameter.
+/// icon over its edge.
 void fitSize(core::Control& control);
 
 /// Beside a control: the value where it has no text for it, or one that its field is too narrow for; and the unit

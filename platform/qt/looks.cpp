@@ -8,12 +8,14 @@
 #include <QPalette>
 #include <QPixmapCache>
 #include <QStyle>
+#include <QStyleOptionFrame>
 #include <QSvgRenderer>
 #include <QTextDocument>
 #include <QWidget>
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <map>
 #include <utility>
 
@@ -28,6 +30,27 @@ double channel(double value) { return value <= 0.04045 ? value / 12.92 : std::po
 double luminance(const QColor& colour)
 {
     return 0.2126 * channel(colour.redF()) + 0.7152 * channel(colour.greenF()) + 0.0722 * channel(colour.blueF());
+}
+
+/// All that a style draws the frame of a line edit from, as a text that Qt keeps pictures by.
+QString frameKey(const QStyleOptionFrame& frame, const QWidget& widget, double ratio)
+{
+    QString key("zor frame ");
+    const auto add = [&key](std::uint64_t number) {
+        for (; number != 0; number >>= 16U)
+            key += QChar(static_cast<char16_t>(number));
+        key += u' ';
+    };
+    key.reserve(2 * (QPalette::NColorRoles + key.size()) + 16);
+    add(reinterpret_cast<std::uintptr_t>(widget.style()));
+    add(static_cast<std::uint64_t>(frame.rect.width()));
+    add(static_cast<std::uint64_t>(frame.rect.height()));
+    add(static_cast<std::uint64_t>(frame.lineWidth));
+    add(static_cast<std::uint64_t>(frame.state));
+    add(static_cast<std::uint64_t>(std::lround(ratio * 1000)));
+    for (int role = 0; role < QPalette::NColorRoles; ++role)
+        add(frame.palette.color(static_cast<QPalette::ColorRole>(role)).rgba());
+    return key;
 }
 
 } // namespace
@@ -114,6 +137,32 @@ QPixmap shownPicture(std::string_view svg, QSize size, double ratio)
     renderer.setAspectRatioMode(Qt::KeepAspectRatio);
     QPainter painter(&picture);
     renderer.render(&painter, QRectF(QPointF(), size));
+    painter.end();
+    QPixmapCache::insert(key, picture);
+    return picture;
+}
+
+QRect insideOf(const QStyleOptionFrame& frame)
+{
+    const int width = frame.lineWidth;
+    return frame.rect.adjusted(width, width, -width, -width);
+}
+
+QPixmap fieldFrame(const QStyleOptionFrame& frame, const QWidget& widget)
+{
+    const double ratio = widget.devicePixelRatioF();
+    const QString key = frameKey(frame, widget, ratio);
+    QPixmap picture;
+    if (QPixmapCache::find(key, &picture))
+        return picture;
+    picture = QPixmap((QSizeF(frame.rect.size()) * ratio).toSize());
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    widget.style()->drawPrimitive(QStyle::PE_PanelLineEdit, &frame, &painter, &widget);
+    // A line edit's text keeps a pixel from the frame, where some styles draw a shadow.
+    painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    painter.fillRect(insideOf(frame).adjusted(1, 1, -1, -1), Qt::transparent);
     painter.end();
     QPixmapCache::insert(key, picture);
     return picture;

@@ -15,6 +15,7 @@
 #include <string>
 #include <string_view>
 
+class QStyleOptionFrame;
 class QWidget;
 
 namespace zor::platform::qt {
@@ -48,6 +49,13 @@ private:
 
 /// A picture in the middle of a size, as sharp as the pixel ratio asks for. Each is drawn once, whoever shows it.
 [[nodiscard]] QPixmap shownPicture(std::string_view svg, QSize size, double ratio);
+
+/// What lies inside of a frame.
+[[nodiscard]] QRect insideOf(const QStyleOptionFrame& frame);
+
+/// The frame that the widget's style draws around a line edit, and nothing inside of it. Each look of one size is
+/// drawn once, whoever shows it.
+[[nodiscard]] QPixmap fieldFrame(const QStyleOptionFrame& frame, const QWidget& widget);
 
 /// The theme's colour for a system colour, any other as it is.
 [[nodiscard]] QColor toQColor(Colour colour);

@@ -2,7 +2,9 @@
 #include <zor/platform/text.h>
 
 #include <QContextMenuEvent>
+#include <QPainter>
 #include <QPointer>
+#include <QStyleOptionFrame>
 #include <QWheelEvent>
 
 #include <cstdlib>
@@ -42,6 +44,29 @@ void FieldEdit::dragEnterEvent(QDragEnterEvent* event)
 {
     takeAnyLength();
     QLineEdit::dragEnterEvent(event);
+}
+
+void FieldEdit::paintEvent(QPaintEvent* event)
+{
+    // A style sheet's frame may be of any form and reach below the text.
+    const bool shared = hasFrame() && !testAttribute(Qt::WA_StyleSheet);
+    m_paintsInside = shared;
+    QLineEdit::paintEvent(event);
+    m_paintsInside = false;
+    if (!shared)
+        return;
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    QPainter(this).drawPixmap(0, 0, fieldFrame(option, *this));
+}
+
+void FieldEdit::initStyleOption(QStyleOptionFrame* option) const
+{
+    QLineEdit::initStyleOption(option);
+    if (!m_paintsInside)
+        return;
+    option->rect = insideOf(*option);
+    option->lineWidth = 0;
 }
 
 void FieldEdit::contextMenuEvent(QContextMenuEvent* event)
