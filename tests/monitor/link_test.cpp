@@ -103,12 +103,13 @@ TEST(TcpLink, ACutReplyIsNotTakenForAWholeOneWhateverComesBehindIt)
     tests::Peer peer;
     TcpLink link("127.0.0.1", peer.serverPort(), 1, kDeadline);
     link.setManners({0, 0, 2});
+    int missing = 0; // of the next reply
+    peer.answer = [&](QTcpSocket& socket, const QByteArray& reply) {
+        socket.write(reply.chopped(std::exchange(missing, 0)));
+    };
     for (const int cut : {1, 10, 11}) {
         (void)ask(link, kRead);
-        bool isFirst = true;
-        peer.answer = [&](QTcpSocket& socket, const QByteArray& reply) {
-            socket.write(reply.chopped(std::exchange(isFirst, false) ? cut : 0));
-        };
+        missing = cut;
         Reply cutOne;
         link.send({Function::ReadHolding, 20, 6}, [&](const Reply& reply) { cutOne = reply; });
         const Reply next = ask(link, {Function::ReadHolding, 10, 1});
