@@ -108,11 +108,7 @@ void EntryField::showSupported(bool isSupported, bool unitEnable)
     }
 }
 
-void EntryField::followUnit(bool showsUnit)
-{
-    if (showsUnit)
-        move(*m_icon, m_units->left() + m_units->width() + kGap, m_icon->top());
-}
+void EntryField::followUnit() { move(*m_icon, m_units->left() + m_units->width() + kGap, m_icon->top()); }
 
 Rect EntryField::layOut(const Rect& area, Twips minHeight, Twips beside, bool showsUnit)
 {

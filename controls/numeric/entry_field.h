@@ -10,6 +10,8 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string_view>
+#include <utility>
 
 namespace zor::controls {
 
@@ -55,8 +57,15 @@ public:
     /// Shows the text, and the unit where it is enabled; hides both and the icon for a device that does not
     /// offer the parameter.
     void showSupported(bool isSupported, bool unitEnable);
-    /// Places the icon behind the unit label, which has got another width, where a unit is shown.
-    void followUnit(bool showsUnit);
+    /// Shows a text as the unit; the icon follows the label's width where a unit is shown. That is asked
+    /// afterwards, for who hears of the caption may switch the unit off.
+    template <class Asked>
+    void showUnit(std::string_view caption, Asked&& showsUnit)
+    {
+        m_units->setCaption(caption);
+        if (std::forward<Asked>(showsUnit)())
+            followUnit();
+    }
     /// Places all three. `beside` is the width of what touches the field on its right. Returns where the field
     /// has come to lie.
     platform::Rect layOut(const platform::Rect& area, platform::Twips minHeight, platform::Twips beside,
@@ -76,6 +85,8 @@ private:
         bool operator==(const Looks&) const = default;
     };
 
+    /// Places the icon behind the unit label, which has got another width.
+    void followUnit();
     void selectAll();
     void paint(const Looks& looks);
 

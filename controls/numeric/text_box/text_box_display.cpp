@@ -26,9 +26,7 @@ void ctx_ZorTextBox::s_UpdateUnitLabelVisibility()
 
 void ctx_ZorTextBox::s_ShowUnit(std::string_view caption)
 {
-    m_field.units().setCaption(caption);
-    // Asked afterwards: who hears of the caption may switch the unit off.
-    m_field.followUnit(showsUnit());
+    m_field.showUnit(caption, [this] { return showsUnit(); });
 }
 
 void ctx_ZorTextBox::describe(platform::Spoken& spoken) const

@@ -35,9 +35,7 @@ void ctx_ZorUpDown::s_UpdateUnitLabelVisibility()
 
 void ctx_ZorUpDown::s_ShowUnit(std::string_view caption)
 {
-    m_field.units().setCaption(caption);
-    // Asked afterwards: who hears of the caption may switch the unit off.
-    m_field.followUnit(showsUnit());
+    m_field.showUnit(caption, [this] { return showsUnit(); });
 }
 
 void ctx_ZorUpDown::s_Layout()
