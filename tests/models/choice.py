@@ -22,12 +22,10 @@ class Choice(Model):
     VALUES = {**names("DeviceValue ModifiedValue EnumValue EnumEntryValue", (0, 1, 2, 2, 5, -6)),
               "OtherUserValue": (0, 7, -3), "ReadOnly": (False, False, False, True)}
     OFTEN = ("DeviceValue", "DeviceValue", "ModifiedValue", "ModifiedValue", "ReadOnly", "DataModified", "DataChanged")
+    READ_AS = {"ModifiedValue": "OutputValue"}
 
     def created(self):
         self.reference, self.s["OtherUserValue"], self.turn = 0, 0, 0
-
-    def look(self, name):
-        return self.s["OutputValue"] if name == "ModifiedValue" else self.s[name]
 
     def other(self):
         return self["OtherUserValue"]
@@ -81,11 +79,11 @@ class ComboBox(Choice):
         super().created()
         self.entries, self.current = [], -1
 
-    def look(self, name):
-        if name in ("SelectedText", "cbo_ComboBox.Text"):
-            return self.entries[self.current][0] if self.current >= 0 else ""
-        return {"cbo_ComboBox.ListCount": len(self.entries), "cbo_ComboBox.ListIndex": self.current}.get(name) \
-            if name[13:17] == "List" else super().look(name)
+    def selected(self):
+        return self.entries[self.current][0] if self.current >= 0 else ""
+
+    READ_AS = {**Choice.READ_AS, "SelectedText": selected, "cbo_ComboBox.Text": selected,
+               "cbo_ComboBox.ListCount": lambda self: len(self.entries), "cbo_ComboBox.ListIndex": lambda self: self.current}
 
     def paint(self, colour):
         super().paint(colour)
@@ -257,9 +255,8 @@ class ListBox(Choice):
         super().created()
         self.entries, self.current, self.marks = [], -1, []
 
-    def look(self, name):
-        own = {"SelCount": sum(self.marks), "lst_ListBox.ListCount": len(self.entries), "lst_ListBox.ListIndex": self.current}
-        return own[name] if name in own else super().look(name)
+    READ_AS = {**Choice.READ_AS, "SelCount": lambda self: sum(self.marks),
+               "lst_ListBox.ListCount": lambda self: len(self.entries), "lst_ListBox.ListIndex": lambda self: self.current}
 
     invalid_rows = ComboBox.invalid_rows
 

@@ -25,9 +25,8 @@ class Label(Model):
     ACTIONS = names("lbl_Label img_State Surface", "click dblclick rightclick")
     OFTEN = ("CFail", "DeviceValue", "LabelCaption", "LabelFontBold", "DeviceType", "DeviceVersion")
 
-    def look(self, name):
-        return self.s[{"LabelCaption": "lbl_Label.Caption", "LabelFontBold": "lbl_Label.FontBold",
-                       "LabelFontItalic": "lbl_Label.FontItalic"}.get(name, name)]
+    READ_AS = {"LabelCaption": "lbl_Label.Caption", "LabelFontBold": "lbl_Label.FontBold",
+               "LabelFontItalic": "lbl_Label.FontItalic"}
 
     def created(self):
         self["lbl_Label.Caption"] = ""

@@ -105,28 +105,32 @@ class Player:
 
     def failures(self, scripts):
         """Of each script that failed the place in it and what zorsh said, first one first."""
-        names, places = [], []
+        names = []
         for i, script in enumerate(scripts):
-            lines, place = [], []
-            for number, (done, seen) in enumerate(script):
-                for command, said in done + seen:
-                    lines.append(command)
-                    lines += ["= " + line for line in said] or ["="]
-                    place += [(number, command)] * (len(lines) - len(place))
             names.append(os.path.join(self.folder.name, f"{i}.zor"))
             with open(names[-1], "w", encoding="utf-8") as file:
-                file.write("\n".join(lines) + "\n")
-            places.append(place)
+                file.writelines("\n= ".join((command, *(said or [""]))) + "\n"
+                                for done, seen in script for command, said in done + seen)
         done = subprocess.run(self.zorsh + names, capture_output=True, text=True, timeout=300)
         said = (done.stderr + done.stdout).splitlines()
         found = {}
         for line in said:
             match = re.match(r".*/(\d+)\.zor:(\d+): (.*)", line)
             if match and int(match[1]) not in found:
-                found[int(match[1])] = (*places[int(match[1])][int(match[2]) - 1], match[3])
+                found[int(match[1])] = (*self.place(scripts[int(match[1])], int(match[2])), match[3])
         if done.returncode and not found:
             raise SystemExit(f"zorsh ended with {done.returncode}: {said[-5:]}")
         return found
+
+    @staticmethod
+    def place(script, line):
+        """Which step and which command a line of the file belongs to."""
+        for number, (done, seen) in enumerate(script):
+            for command, said in done + seen:
+                line -= 1 + max(len(said), 1)
+                if line <= 0:
+                    return number, command
+        raise LookupError(line)
 
     def fails(self, steps):
         script = self.replay(steps)

@@ -28,6 +28,7 @@ class Model(Steps):
     FRESH, OWN_EFFECTS, MESSAGES, OTHER_MESSAGE = {}, {}, (), "ERROR_RETURNED"
     DERIVED = ()         # refused at run time, ignored at design time
     READ = ()            # refused always
+    READ_AS = {}         # what is kept under another name, or reckoned
     PREFIX = {}          # a widget's events begin so
     AT = {}              # where the operator points in a widget
     FACE = ""            # the widget that bears the tooltip
@@ -43,7 +44,8 @@ class Model(Steps):
         # A colour looks like a comment beside other words.
         colours = [name for name in self.aspects if name.endswith("Color")]
         plain = [name for name in self.aspects if name not in colours]
-        self.groups = [self.properties, plain, *([name] for name in colours)]
+        self.groups = [("get " + " ".join("c." + name for name in group), group)
+                       for group in (self.properties, plain, *([name] for name in colours))]
         self.forget()
         self.create()
         self.initialise()
@@ -97,7 +99,8 @@ class Model(Steps):
         self.loaded()
 
     def look(self, name):
-        return self.s[name]
+        read = self.READ_AS.get(name, name)
+        return self.s[read] if isinstance(read, str) else read(self)
 
     # --- What the host does
 

@@ -20,13 +20,11 @@ class Numeric(Model):
         "UnitEnable": (True, True, False), "ReadOnly": (False, False, False, True), "WidthDifference": (1305, 500, 3000, -200),
     }
     OFTEN = ("DeviceValue", "DeviceValue", "ModifiedValue", "OutputUnit", "DeviceUnit", "MaxValue", "MinValue", "UnitType")
+    READ_AS = {"ModifiedValue": "OutputValue"}
 
     def created(self):
         self.s["OtherUserValue"], self.turn, self.pending, self.typed, self.unit = 0, 0, False, False, 0
         self.begin()
-
-    def look(self, name):
-        return self.s["OutputValue"] if name == "ModifiedValue" else self.s[name]
 
     def out_of(self, value, low, high):
         def beyond(one, other):

@@ -36,11 +36,8 @@ class Slider(Numeric):
         self.reference, self.output, self.s["ScaleFactor"] = 0, 0, 1
         self["sld_Slider.Min"], self["sld_Slider.Max"], self["sld_Slider.Value"] = 0, 10, 0
 
-    def look(self, name):
-        if name in ("MinPrefix", "MaxPrefix"):
-            return self.s[f"lbl_{name}.Caption"]
-        return {"OutputValue": self.output / self["ScaleFactor"], "ModifiedValue": self.output}.get(name) \
-            if name in ("OutputValue", "ModifiedValue") else self.s[name]
+    READ_AS = {"MinPrefix": "lbl_MinPrefix.Caption", "MaxPrefix": "lbl_MaxPrefix.Caption",
+               "OutputValue": lambda self: self.output / self["ScaleFactor"], "ModifiedValue": lambda self: self.output}
 
     def kept(self, name):
         return self.output if name == "OutputValue" else self.look(name)

@@ -2,7 +2,7 @@
 
 import itertools
 
-from values import FACE, Colour, names, written
+from values import FACE, NOTATION, Colour, names, written
 
 # What a handler may make of an event's argument.
 CHANGES = {"KeyDown": ("KeyCode", 0), "KeyPress": ("KeyAscii", 0), "Validate": ("Cancel", True)}
@@ -60,8 +60,8 @@ class Steps:
         return done, self.seen()
 
     def seen(self):
-        seen = [("get " + " ".join("c." + name for name in group), [" ".join(written(self.look(name)) for name in group)])
-                for group in self.groups]
+        now = {**self.s, **{name: self.look(name) for name in self.READ_AS}}
+        seen = [(asked, [" ".join([NOTATION[type(now[name])](now[name]) for name in group])]) for asked, group in self.groups]
         seen += [("events c", [" ".join(self.events) or "-"]), ("notices c", [" ".join(self.notices) or "-"]),
                  ("boxes", self.form.boxes or ["-"]), ("menu", [self.form.menu])]
         self.events, self.notices, self.form.boxes = [], [], []

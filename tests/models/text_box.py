@@ -44,8 +44,7 @@ class TextBox(Numeric):
         self.display, self.shown, self.source, self.custom, self.undoing = 0, None, "device", None, False
         self["TextFontBold"], self["txt_TextBox.Alignment"], self.device_unit = False, RIGHT, 0
 
-    def look(self, name):
-        return self.s["lbl_Units.FontBold"] if name == "UnitsFontBold" else super().look(name)
+    READ_AS = {**Numeric.READ_AS, "UnitsFontBold": "lbl_Units.FontBold"}
 
     # --- Texts
 
@@ -86,7 +85,8 @@ class TextBox(Numeric):
 
     def text_changed(self):
         self.pending = True
-        self["DataModified"] = not self.undoing and not self.equals_display()
+        undoing, self.undoing = self.undoing, False
+        self["DataModified"] = not undoing and not self.equals_display()
         if self["DataModified"]:
             self.emit("DataModifiedSetTrue")
         self.colors()

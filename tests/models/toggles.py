@@ -14,9 +14,6 @@ class Toggle(Choice):
     def paint(self, colour):
         self.layout()
 
-    def look(self, name):
-        return self.s[self.FACE + ".Caption"] if name == self.CAPTION else super().look(name)
-
     def put_caption(self):
         self[self.FACE + ".Caption"] = self[self.CAPTION]
         self.layout()
@@ -75,8 +72,8 @@ class CheckBox(Toggle):
         super().created()
         self.was, self["OtherUserValue"] = False, False
 
-    def look(self, name):
-        return bool(self["chk_CheckBox.Value"]) if name == "CheckBoxValue" else super().look(name)
+    READ_AS = {**Choice.READ_AS, "CheckBoxCaption": "chk_CheckBox.Caption",
+               "CheckBoxValue": lambda self: bool(self["chk_CheckBox.Value"])}
 
     def reference_text(self):
         return self.was
@@ -165,8 +162,7 @@ class OptionButton(Toggle):
         self["opt_OptionButton.Value"], self["EnumValue"], self.stood_for = False, 0, 0
         self.armed = False
 
-    def look(self, name):
-        return self["opt_OptionButton.Value"] if name == "OptionButtonValue" else super().look(name)
+    READ_AS = {**Choice.READ_AS, "OptionButtonCaption": "opt_OptionButton.Caption", "OptionButtonValue": "opt_OptionButton.Value"}
 
     def show(self, value):
         """A value comes: selected or not, and a click where the button becomes selected, or stands for something else."""

@@ -1,5 +1,7 @@
 """Values, defaults and their notation, and the check of versions."""
 
+import functools
+
 NOT_FOUND_TEXT = "Identifier Look Up Failed"
 
 
@@ -50,17 +52,21 @@ class TooDeep(Exception):
     """Handlers that call each other: the history ends before."""
 
 
+@functools.lru_cache(100_000)
+def quoted(text):
+    for plain, escaped in ("\\", "\\\\"), ('"', '\\"'), ("\r", "\\r"), ("\n", "\\n"), ("\t", "\\t"):
+        text = text.replace(plain, escaped)
+    return f'"{text}"'
+
+
+# How a value is written on the console, by its kind: the most frequent thing that histories do.
+NOTATION = {str: quoted, bool: str, int: str, float: "{:.15g}".format, Colour: str,
+            list: lambda values: "[" + ", ".join(map(written, values)) + "]"}
+
+
 def written(value):
     """A value as the console writes it."""
-    if isinstance(value, Colour):
-        return value
-    if isinstance(value, str):
-        for plain, escaped in ("\\", "\\\\"), ('"', '\\"'), ("\r", "\\r"), ("\n", "\\n"), ("\t", "\\t"):
-            value = value.replace(plain, escaped)
-        return f'"{value}"'
-    if isinstance(value, list):
-        return "[" + ", ".join(map(written, value)) + "]"
-    return f"{value:.15g}" if isinstance(value, float) else str(value)
+    return NOTATION[type(value)](value)
 
 
 def padded(version):
