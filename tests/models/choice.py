@@ -1,49 +1,34 @@
 """The controls for a choice, and of these combo box and list box."""
 
-from model import Model, step, way_of_a_value
-from values import BLACK, FACE, PLACE, RED, WINDOW, YELLOW, names
+from model import BINDING, FIVE, Valued, step, way_of_a_value
+from values import PLACE, names
 
-HEAD = "DataModified WaitingForData DeviceValue OutputValue DataChanged DataNotAvailable DeviceTypeSupported" \
-       " DeviceMinVersionSupported DeviceMaxVersionSupported DeviceTag DeviceTagNotFound DeviceVerNotSupported" \
-       " DeviceTypeNotSupported MsgCfail MsgDataChanged MsgDataNotAvailable"
+HEAD = "DataModified WaitingForData DeviceValue OutputValue" + BINDING
 TAIL = " MsgDeviceTagNotFound MsgDefault IconEnable ReadOnly DeviceType DeviceVersion RegisterType EnableControl"
 RAISED = "OutputValueChange DataModifiedSetTrue imgClick imgDblClick "
-FIVE = ("MsgCfail", "MsgDataNotAvailable", "MsgDataChanged", "MsgDefault", "MsgDeviceTagNotFound")
 LOOKS = PLACE + " BackColor ForeColor FontBold ToolTipText"
+AROUND = {"img_State": "click dblclick", "Surface": "click rightclick rightclick", "mnu_Edit": "choose choose"}
 
 
 def mask(bit):
     return 1 << bit if 0 <= bit <= 30 else 0
 
 
-class Choice(Model):
+class Choice(Valued):
     DERIVED = ("OutputValue", "InvalidValue")
     OWN_EFFECTS = {"CFail": "status colors"}
     VALUES = {**names("DeviceValue ModifiedValue EnumValue EnumEntryValue", (0, 1, 2, 2, 5, -6)),
               "OtherUserValue": (0, 7, -3), "ReadOnly": (False, False, False, True)}
     OFTEN = ("DeviceValue", "DeviceValue", "ModifiedValue", "ModifiedValue", "ReadOnly", "DataModified", "DataChanged")
-    READ_AS = {"ModifiedValue": "OutputValue"}
 
-    def created(self):
-        self.reference, self.s["OtherUserValue"], self.turn = 0, 0, 0
+    def take(self, value, from_device):
+        if from_device:
+            self.reference = self.meant(value)
+        self.show(self.meant(value))
+        yield
 
-    def other(self):
-        return self["OtherUserValue"]
-
-    def reference_text(self):
-        return self.reference
-
-    def put_OtherUserValue(self):
-        self.status()
-
-    def colors(self):
-        face, modified = self.FACE, self["DataModified"]
-        self[face + ".ForeColor"] = RED if self["CFail"] else BLACK
-        self[face + ".FontBold"] = self["CFail"] or modified
-        self.paint(FACE if self.read_only() else YELLOW if modified else WINDOW)
-
-    def paint(self, colour):
-        self[self.FACE + ".BackColor"] = colour
+    def meant(self, value):
+        return value
 
     def loaded(self):
         self.reference = self["DeviceValue"]
@@ -69,10 +54,8 @@ class ComboBox(Choice):
                       " ComboLostFocus ComboValidate"
     MESSAGES = (*FIVE[:4], "MsgInvalidValue", FIVE[4])
     PREFIX = {"cbo_ComboBox": "Combo", "img_State": "img"}
-    WIDGETS = {"cbo_ComboBox": LOOKS + " Text Locked ListCount ListIndex", "img_State": PLACE + " Picture",
-               "Surface": "Width Height BackColor"}
-    ACTIONS = {"cbo_ComboBox": "choose choose focus blur dropdown key key", "img_State": "click dblclick",
-               "Surface": "click rightclick rightclick", "mnu_Edit": "choose choose"}
+    WIDGETS = {"cbo_ComboBox": LOOKS + " Text Locked ListCount ListIndex"}
+    ACTIONS = {"cbo_ComboBox": "choose choose focus blur dropdown key key", **AROUND}
     KEYS = (40, 38, 36, 35, 32, 112)
 
     def created(self):
@@ -84,10 +67,6 @@ class ComboBox(Choice):
 
     READ_AS = {**Choice.READ_AS, "SelectedText": selected, "cbo_ComboBox.Text": selected,
                "cbo_ComboBox.ListCount": lambda self: len(self.entries), "cbo_ComboBox.ListIndex": lambda self: self.current}
-
-    def paint(self, colour):
-        super().paint(colour)
-        self["cbo_ComboBox.Locked"] = self.locked()
 
     def layout_height(self, height):
         self["Surface.Height"] = 315
@@ -148,41 +127,18 @@ class ComboBox(Choice):
         self["InvalidValue"] = at is None
         if at is None:
             self.emit("InvalidValueSetTrue")
-        else:
-            if self.current != at:
-                self.pick(at)
+        elif self.current != at:
+            self.pick(at)
 
     def chosen(self):
         overtaken = self.under_way()
         value = self.entries[self.current][1]
-        self["DataModified"] = value != self.reference
-        if self["DataModified"]:
-            self.emit("DataModifiedSetTrue")
+        self.modify(value != self.reference)
         if not overtaken():
             self.assign(self.entries[self.current][1] if self.current >= 0 else value)
         self.colors()
         self.emit("ComboClick")
 
-    @way_of_a_value
-    def put_DeviceValue(self):
-        self.reference = self["DeviceValue"]
-        self.show(self.reference)
-        yield
-        self.assign(self.reference)
-        yield
-        self["DataModified"] = False
-        self.colors()
-        self.status()
-
-    @way_of_a_value
-    def put_ModifiedValue(self):
-        value = self["ModifiedValue"]
-        self.show(value)
-        yield
-        self.assign(value)
-        yield
-        self.colors()
-        self.status()
 
     @way_of_a_value
     def undo(self):
@@ -208,7 +164,7 @@ class ComboBox(Choice):
     WRITES = ("choose", "dropdown")
 
     def choose(self, widget, index):
-        self.emit("ComboDropDown")
+        self.dropdown(widget)
         if self.able(widget) and not self.locked() and index < len(self.entries):
             self.pick(index)
 
@@ -243,10 +199,8 @@ class ListBox(Choice):
     EVENTS = RAISED + "ListClick ListDblClick ListGotFocus ListKeyDown ListKeyPress ListKeyUp ListLostFocus ListMouseDown" \
                       " ListMouseUp ListValidate"
     PREFIX = {"lst_ListBox": "List", "img_State": "img"}
-    WIDGETS = {"lst_ListBox": LOOKS + " ListCount ListIndex", "img_State": PLACE + " Picture",
-               "Surface": "Width Height BackColor"}
-    ACTIONS = {"lst_ListBox": "toggle toggle toggle focus blur key key click dblclick rightclick",
-               "img_State": "click dblclick", "Surface": "click rightclick rightclick", "mnu_Edit": "choose choose"}
+    WIDGETS = {"lst_ListBox": LOOKS + " ListCount ListIndex"}
+    ACTIONS = {"lst_ListBox": "toggle toggle toggle focus blur key key click dblclick rightclick", **AROUND}
     KEYS = (40, 38, 36, 35, 32, 32, 112)
     UNHANDLED = ("ListMouseDown", "ListMouseUp")  # which entry is current between the two is the platform's
     VALUES = {**Choice.VALUES, **names("DeviceValue ModifiedValue", (0, 1, 9, 0x40000008, -1, 6))}
@@ -296,7 +250,7 @@ class ListBox(Choice):
     # --- Values
 
     @step
-    def mark(self, value):
+    def show(self, value):
         """Marks the list as a value says; each mark that changes is a click, and the way back to the first entry."""
         for i in range(len(self.entries)):
             if i < len(self.marks) and self.marks[i] != bool(value & mask(self.entries[i][1])):
@@ -318,38 +272,23 @@ class ListBox(Choice):
         marked = self.marks[self.current]
         self.assign(self["OutputValue"] | bit if marked else self["OutputValue"] & ~bit)
         if not overtaken():
-            self["DataModified"] = self["OutputValue"] != self.reference
-            if self["DataModified"]:
-                self.emit("DataModifiedSetTrue")
+            self.modify(self["OutputValue"] != self.reference)
         self.colors()
         self.emit("ListClick")
 
-    @way_of_a_value
-    def put_DeviceValue(self):
-        self.reference = self["OutputValue"] = self["DeviceValue"]
-        self.mark(self.reference)
-        yield
-        self.assign(self.reference)
-        yield
-        self["DataModified"] = False
-        self.colors()
-        self.status()
+    def take(self, value, from_device):
+        if from_device:
+            self["OutputValue"] = value
+        return super().take(value, from_device)
 
-    @way_of_a_value
-    def put_ModifiedValue(self):
-        value = self["ModifiedValue"]
-        self.mark(value)
-        yield
-        self.assign(value)
-        yield
+    def taken(self):
         self["DataModified"] = self["OutputValue"] != self.reference
-        self.colors()
-        self.status()
+
 
     @way_of_a_value
     def undo(self):
         if self["DataModified"]:
-            self.mark(self.reference)
+            self.show(self.reference)
             yield
             self.assign(self.reference)
             yield
@@ -379,7 +318,7 @@ class ListBox(Choice):
             self.current = index
             self.clicked_entry()
         else:
-            self.mark(self["OutputValue"])
+            self.show(self["OutputValue"])
 
     def clicked(self, widget):
         if widget != "lst_ListBox":
@@ -390,7 +329,7 @@ class ListBox(Choice):
     def go(self, index):
         self.current = index
         if self.locked():
-            self.mark(self["OutputValue"])
+            self.show(self["OutputValue"])
         else:
             self.clicked_entry()
 

@@ -20,8 +20,7 @@ class Label(Model):
     PREFIX = {"lbl_Label": "label", "img_State": "img"}
     AT = {"lbl_Label": (60, 60)}
     SHOWN, COLOURED, MENU_OVER = ("lbl_Label",), ("Surface", "lbl_Label"), ()
-    WIDGETS = {"lbl_Label": PLACE + " BackColor ForeColor FontBold FontItalic Caption ToolTipText",
-               "img_State": PLACE + " Picture", "Surface": "Width Height BackColor"}
+    WIDGETS = {"lbl_Label": PLACE + " BackColor ForeColor FontBold FontItalic Caption ToolTipText"}
     ACTIONS = names("lbl_Label img_State Surface", "click dblclick rightclick")
     OFTEN = ("CFail", "DeviceValue", "LabelCaption", "LabelFontBold", "DeviceType", "DeviceVersion")
 
@@ -87,7 +86,7 @@ class Image(Model):
     OWN_SILENT = ("MsgStatusNotOK", "MsgStatusOK", "MsgUndefined", "MsgBit", "ReadOnly")
     PREFIX = {"img_State": "image"}
     SHOWN, MENU_OVER = ("img_State",), ()
-    WIDGETS = {"img_State": PLACE + " Picture ToolTipText", "Surface": "Width Height BackColor"}
+    WIDGETS = {"img_State": PLACE + " Picture ToolTipText"}
     ACTIONS = {"img_State": "click dblclick rightclick click click", "Surface": "click rightclick"}
     OFTEN = ("DeviceValue", "CFail", "WaitingForData", "UseAuxIcon", "MsgUndefined", "MsgBit")
     VALUES = {"DeviceValue": (0, 0, 1, 5, 9, -1, -2147483648, 2147483647)}

@@ -1,18 +1,21 @@
 """What the numeric controls share, and the up-down."""
 
-from model import Model, step, way_of_a_value
+from model import BINDING, FIVE, Valued, step, way_of_a_value
 from units import TYPES, UNITS, Overflow, convert, is_valid, plain, reading, whole
-from values import BLACK, FACE, PLACE, RED, WINDOW, YELLOW, names
+from values import PLACE, names
 
-BINDING = " DataChanged DataNotAvailable DeviceTypeSupported DeviceMinVersionSupported DeviceMaxVersionSupported DeviceTag" \
-          " DeviceTagNotFound DeviceVerNotSupported DeviceTypeNotSupported MsgCfail MsgDataChanged MsgDataNotAvailable"
 UNIT_ROWS = "UnitType DeviceValue OutputValue DeviceUnit OutputUnit"
 LABEL = PLACE + " Caption"
+TEXT_EVENTS = ("DataModifiedSetTrue OutputValueChange textChange textClick textDblClick textGotFocus textKeyDown textKeyPress"
+               " textKeyUp textLostFocus textMouseDown textMouseUp textValidate unitsChange unitsClick unitsDblClick imgClick"
+               " imgDblClick")
+AROUND = {"lbl_Units": "click dblclick rightclick", "img_State": "click dblclick", "Surface": "click rightclick",
+          "mnu_Edit": "choose choose"}
 
 
-class Numeric(Model):
+class Numeric(Valued):
     DERIVED = ("OutputValue", "InvalidValue", "InvalidEntry", "MinParamValue", "MaxParamValue")
-    MESSAGES = ("MsgCfail", "MsgDataNotAvailable", "MsgDataChanged", "MsgDefault", "MsgInvalidValue", "MsgDeviceTagNotFound")
+    MESSAGES = (*FIVE[:4], "MsgInvalidValue", FIVE[4])
     VALUES = {
         **names("DeviceValue ModifiedValue", (0, 1, 5, 50, 125, 135, -5, 150)), "UnitType": TYPES,
         **names("DeviceUnit OutputUnit DefaultUnit", (0, 0, 1, 2, 2, 5, 7, 15, 16, 52, 53)),
@@ -20,10 +23,10 @@ class Numeric(Model):
         "UnitEnable": (True, True, False), "ReadOnly": (False, False, False, True), "WidthDifference": (1305, 500, 3000, -200),
     }
     OFTEN = ("DeviceValue", "DeviceValue", "ModifiedValue", "OutputUnit", "DeviceUnit", "MaxValue", "MinValue", "UnitType")
-    READ_AS = {"ModifiedValue": "OutputValue"}
 
     def created(self):
-        self.s["OtherUserValue"], self.turn, self.pending, self.typed, self.unit = 0, 0, False, False, 0
+        super().created()
+        self.pending, self.typed, self.unit = False, False, 0
         self.begin()
 
     def out_of(self, value, low, high):
@@ -47,11 +50,17 @@ class Numeric(Model):
     def limit(self, value):
         return convert(value, self["UnitType"], self["DefaultUnit"], self["OutputUnit"])
 
-    def put_OtherUserValue(self):
-        self.status()
-
     def other(self):
         return plain(self["OtherUserValue"], self.form.decimal)
+
+    @way_of_a_value
+    def undo(self):
+        if self["DataModified"]:
+            yield from self.take_back()
+            self["DataModified"] = False
+            self.colors()
+            self.assign(self["DeviceValue"])
+
 
     def fc_GetCaptionID(self):
         return "UNIT_" + UNITS[self["OutputUnit"]][1]
@@ -143,30 +152,21 @@ class UpDown(Numeric):
     RUNTIME = "MessageHeader ModifiedValue OtherUserValue"
     DEFAULTS = {"NumberOfDigits": 3, "WidthDifference": 1305}
     OWN_EFFECTS = {"MsgInvalidValue": "status", "WidthDifference": "layout"}
-    EVENTS = ("InvalidValueSetTrue DataModifiedSetTrue OutputValueChange textChange textClick textDblClick textGotFocus"
-              " textKeyDown textKeyPress textKeyUp textLostFocus textMouseDown textMouseUp textValidate unitsChange unitsClick"
-              " unitsDblClick upDownChange upDownDownClick upDownUpClick imgClick imgDblClick")
+    EVENTS = "InvalidValueSetTrue upDownChange upDownDownClick upDownUpClick " + TEXT_EVENTS
     PREFIX = {"txt_TextBox": "text", "lbl_Units": "units", "img_State": "img"}
     AT = {"lbl_Units": (60, 60)}
     COLOURED, MENU_OVER = ("Surface", "lbl_Units"), ("Surface", "lbl_Units")
     WIDGETS = {"txt_TextBox": PLACE + " BackColor ForeColor FontBold ToolTipText Text Locked",
-               "upd_UpDown": PLACE + " Value Min Max", "lbl_Units": LABEL, "img_State": PLACE + " Picture",
-               "Surface": "Width Height BackColor"}
-    ACTIONS = {"txt_TextBox": "paste paste paste blur blur focus key click rightclick", "upd_UpDown": "up down",
-               "lbl_Units": "click dblclick rightclick", "img_State": "click dblclick", "Surface": "click rightclick",
-               "mnu_Edit": "choose choose"}
+               "upd_UpDown": PLACE + " Value Min Max", "lbl_Units": LABEL}
+    ACTIONS = {"txt_TextBox": "paste paste paste blur blur focus key click rightclick", "upd_UpDown": "up down", **AROUND}
     KEYS = (40, 38, 112)
     HEIGHTS = (200, 315, 400, 900)
 
     def begin(self):
-        self.reference = 0
         self["upd_UpDown.Min"], self["upd_UpDown.Max"], self["upd_UpDown.Value"] = 0, 10, 0
 
     def other(self):
         return self["OtherUserValue"]
-
-    def reference_text(self):
-        return self.reference
 
     # --- Limits and the button
 
@@ -200,40 +200,20 @@ class UpDown(Numeric):
         self.pending = True
         number = self.number()
         if number is not None:
-            self["DataModified"] = whole(number) != self.reference
-            if self["DataModified"]:
-                self.emit("DataModifiedSetTrue")
+            self.modify(whole(number) != self.reference)
             self.colors()
             self.emit("textChange")
 
-    @way_of_a_value
-    def put_DeviceValue(self):
-        self.judge(self["DeviceValue"])
-        yield
-        self.reference = whole(self.forth(self["DeviceValue"]))
-        self.set_text(str(self.reference))
-        yield
-        self.set_spin(self.spin_of(self.reference))
-        yield
-        self.assign(self["DeviceValue"])
-        yield
-        self["DataModified"] = False
-        self.colors()
-        self.status()
-
-    @way_of_a_value
-    def put_ModifiedValue(self):
-        value = self["ModifiedValue"]
+    def take(self, value, from_device):
         self.judge(value)
         yield
-        self.set_text(plain(self.forth(value), self.form.decimal))
+        number = self.forth(value)
+        if from_device:
+            number = self.reference = whole(number)
+        self.set_text(plain(number, self.form.decimal))
         yield
-        if self.number() is not None:
-            self.set_spin(self.spin_of(self.number()))
-            yield
-            self.assign(value)
-        self.colors()
-        self.status()
+        self.set_spin(self.spin_of(self.reference if from_device else self.number()))
+        yield
 
     def put_DeviceUnit(self):
         number = self.number()
@@ -289,9 +269,7 @@ class UpDown(Numeric):
         yield
         self.assign(whole(self.back(self["upd_UpDown.Value"])))
         yield
-        self["DataModified"] = self["upd_UpDown.Value"] != self.reference
-        if self["DataModified"]:
-            self.emit("DataModifiedSetTrue")
+        self.modify(self["upd_UpDown.Value"] != self.reference)
         self.colors()
 
     def lost_focus(self, widget):
@@ -305,36 +283,24 @@ class UpDown(Numeric):
         if number is None:
             self.set_text(str(self["upd_UpDown.Value"]))
         else:
-            low, high = self["upd_UpDown.Min"], self["upd_UpDown.Max"]
-            beyond = high if number > high else low if number < low else None
-            if beyond is not None and self.clamped(beyond) != number:
-                self.set_text(str(self.clamped(beyond)))
+            taken = self.clamped(number)
+            if taken != number:
+                self.set_text(str(taken))
             yield
-            self.set_spin(self.spin_of(number))
+            self.set_spin(whole(taken))
             yield
             self.assign(whole(self.back(whole(self.number()))))
         yield
         self.pending = self.typed = False
 
-    @way_of_a_value
-    def undo(self):
-        if self["DataModified"]:
-            self.set_text(str(self.reference))
-            yield
-            self.set_spin(self.reference)
-            yield
-            self["DataModified"] = False
-            self.colors()
-            self.assign(self["DeviceValue"])
+    def take_back(self):
+        self.set_text(str(self.reference))
+        yield
+        self.set_spin(self.reference)
+        yield
 
     # --- Looks
 
-    def colors(self):
-        modified, field = self["DataModified"], "txt_TextBox"
-        self[field + ".ForeColor"] = RED if self["CFail"] else BLACK
-        self[field + ".FontBold"] = self["CFail"] or modified
-        self[field + ".Locked"] = self.locked()
-        self[field + ".BackColor"] = FACE if self.read_only() else YELLOW if modified else WINDOW
 
     def layout(self):
         field, spin, label, icon = "txt_TextBox", "upd_UpDown", "lbl_Units", "img_State"

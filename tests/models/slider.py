@@ -1,7 +1,7 @@
 """The slider."""
 
-from model import step, way_of_a_value
-from numeric import BINDING, LABEL, UNIT_ROWS, Numeric
+from model import BINDING, step
+from numeric import LABEL, UNIT_ROWS, Numeric
 from units import UNITS, plain, whole
 from values import PLACE, names
 
@@ -23,8 +23,7 @@ class Slider(Numeric):
     PREFIX = {"sld_Slider": "slider", "img_State": "img", **{name: "Label" + name[4:] for name in LABELS}}
     AT = names(" ".join(LABELS), (60, 60))
     COLOURED, MENU_OVER = ("Surface", *LABELS), ("Surface", *LABELS)
-    WIDGETS = {"sld_Slider": PLACE + " Value Min Max ToolTipText", "img_State": PLACE + " Picture",
-               **names(" ".join(LABELS), LABEL), "Surface": "Width Height BackColor"}
+    WIDGETS = {"sld_Slider": PLACE + " Value Min Max ToolTipText", **names(" ".join(LABELS), LABEL)}
     ACTIONS = {"sld_Slider": "move move move focus blur key key", "img_State": "click dblclick", "lbl_MinPrefix": "click rightclick",
                "lbl_MaxUnit": "click dblclick rightclick", "Surface": "rightclick rightclick", "mnu_Edit": "choose choose"}
     UNHANDLED = ("sliderScroll",)  # whether the track has moved by then is the platform's
@@ -33,7 +32,7 @@ class Slider(Numeric):
               "OtherUserValue": (0, 7.5), "EnableValues": (True, True, False)}
 
     def begin(self):
-        self.reference, self.output, self.s["ScaleFactor"] = 0, 0, 1
+        self.output, self["ScaleFactor"] = 0, 1
         self["sld_Slider.Min"], self["sld_Slider.Max"], self["sld_Slider.Value"] = 0, 10, 0
 
     READ_AS = {"MinPrefix": "lbl_MinPrefix.Caption", "MaxPrefix": "lbl_MaxPrefix.Caption",
@@ -81,17 +80,15 @@ class Slider(Numeric):
 
     # --- Values
 
-    def set_output(self, value):
+    def assign(self, value):
         self.output = value
         self.emit("OutputValueChange")
 
     @step
     def moved(self):
-        self["DataModified"] = self["sld_Slider.Value"] != whole(self.reference)
-        if self["DataModified"]:
-            self.emit("DataModifiedSetTrue")
+        self.modify(self["sld_Slider.Value"] != whole(self.reference))
         yield
-        self.set_output(self.back(self["sld_Slider.Value"]))
+        self.assign(self.back(self["sld_Slider.Value"]))
         yield
         self.emit("sliderChange")
 
@@ -102,39 +99,23 @@ class Slider(Numeric):
             if not self.locked():
                 self.moved()
 
-    @way_of_a_value
-    def put_DeviceValue(self):
-        self["DeviceValue"] *= self["ScaleFactor"]
-        self.judge(self["DeviceValue"])
-        yield
-        self.reference = self.forth(self["DeviceValue"])
-        self.move_to(self.reference)
-        yield
-        self.set_output(self["DeviceValue"])
-        yield
-        self["DataModified"] = False
-        self.status()
-
-    @way_of_a_value
-    def put_ModifiedValue(self):
-        value = self["ModifiedValue"]
+    def take(self, value, from_device):
+        if from_device:
+            value = self["DeviceValue"] = value * self["ScaleFactor"]
         self.judge(value)
         yield
-        self.move_to(self.forth(value))
+        number = self.forth(value)
+        if from_device:
+            self.reference = number
+        self.move_to(number)
         yield
-        self.set_output(value)
-        self.status()
 
-    @way_of_a_value
-    def undo(self):
-        if self["DataModified"]:
-            self.move_to(self.reference)
-            yield
-            self["DataModified"] = False
-            self.set_output(self["DeviceValue"])
+    def take_back(self):
+        self.move_to(self.reference)
+        yield
 
     def put_DeviceUnit(self):
-        self.set_output(self.back(self["sld_Slider.Value"]))
+        self.assign(self.back(self["sld_Slider.Value"]))
 
     def output_unit_changed(self):
         before = self["sld_Slider.Value"]

@@ -1,9 +1,9 @@
 """The text box."""
 
-from model import step, way_of_a_value
-from numeric import BINDING, LABEL, UNIT_ROWS, Numeric
+from model import BINDING, step, way_of_a_value
+from numeric import AROUND, LABEL, TEXT_EVENTS, UNIT_ROWS, Numeric
 from units import UNITS, convert, fixed, is_valid, plain, reading
-from values import BLACK, FACE, PLACE, RED, WINDOW, YELLOW, Colour, names
+from values import FACE, PLACE, WINDOW, YELLOW, Colour, names
 
 LEFT, RIGHT = Colour("left"), Colour("right")
 
@@ -25,16 +25,13 @@ class TextBox(Numeric):
     MESSAGES = ("MsgCfail", "MsgDataNotAvailable", "MsgDataChanged", "MsgDefault", "MsgInvalidEntry", "MsgDeviceTagNotFound",
                 "MsgInvalidEntryTo", "MsgInvalidEntryNAN")
     OTHER_MESSAGE = "MSG_INVALIDENTRYTO"
-    EVENTS = ("InvalidEntrySetTrue DataModifiedSetTrue OutputValueChange textChange textClick textDblClick textGotFocus"
-              " textKeyDown textKeyPress textKeyUp textLostFocus textMouseDown textMouseUp textValidate unitsChange unitsClick"
-              " unitsDblClick imgClick imgDblClick")
+    EVENTS = "InvalidEntrySetTrue " + TEXT_EVENTS
     PREFIX = {"txt_TextBox": "text", "lbl_Units": "units", "img_State": "img"}
     AT = {"lbl_Units": (60, 60)}
     COLOURED, MENU_OVER = ("Surface", "lbl_Units", "txt_TextBox"), ("Surface", "lbl_Units")
     WIDGETS = {"txt_TextBox": PLACE + " BackColor ForeColor FontBold ToolTipText Text Locked Alignment",
-               "lbl_Units": LABEL + " FontBold BackColor", "img_State": PLACE + " Picture", "Surface": "Width Height BackColor"}
-    ACTIONS = {"txt_TextBox": "paste paste paste blur blur focus key click rightclick", "img_State": "click dblclick",
-               "lbl_Units": "click dblclick rightclick", "Surface": "click rightclick", "mnu_Edit": "choose choose"}
+               "lbl_Units": LABEL + " FontBold BackColor"}
+    ACTIONS = {"txt_TextBox": "paste paste paste blur blur focus key click rightclick", **AROUND}
     KEYS = (112,)
     VALUES = {**Numeric.VALUES, **names("DeviceValue ModifiedValue", (0, 1, 50, 1234, 12.5, -5, 150.25, "abc", "12", "", "1,000")),
               "EntryType": (1, 1, 1, 0), "NumberOfDigits": (0, 2, 3), "NumberOfDecimals": (1, 3), "MaxLength": (10, 2, 0)}
@@ -86,9 +83,7 @@ class TextBox(Numeric):
     def text_changed(self):
         self.pending = True
         undoing, self.undoing = self.undoing, False
-        self["DataModified"] = not undoing and not self.equals_display()
-        if self["DataModified"]:
-            self.emit("DataModifiedSetTrue")
+        self.modify(not undoing and not self.equals_display())
         self.colors()
         self.emit("textChange")
 
@@ -225,17 +220,11 @@ class TextBox(Numeric):
             return convert(value, self["UnitType"], self.device_unit, self["DeviceUnit"])
         return self["txt_TextBox.Text"] if number is None else self.back(number)
 
-    @way_of_a_value
-    def undo(self):
-        if self["DataModified"]:
-            self.source = "device"
-            self.undoing = True
-            self.show(self.display)
-            self.undoing = False
-            yield
-            self["DataModified"] = False
-            self.colors()
-            self.assign(self["DeviceValue"])
+    def take_back(self):
+        self.source, self.undoing = "device", True
+        self.show(self.display)
+        self.undoing = False
+        yield
 
     # --- Looks
 
@@ -262,17 +251,14 @@ class TextBox(Numeric):
         self.custom = shown
 
     def colors(self):
-        modified, field = self["DataModified"], "txt_TextBox"
-        self[field + ".ForeColor"] = RED if self["CFail"] else BLACK
-        self[field + ".Locked"] = self.locked()
-        self[field + ".FontBold"] = self["CFail"] or modified or self["TextFontBold"]
-        if self["CFail"]:
-            plain_colour = (self.custom or FACE) if self.read_only() else YELLOW if modified else self.custom or WINDOW
-        elif self.read_only():
-            plain_colour = self[field + ".BackColor"] if self.custom else FACE
-        else:
-            plain_colour = YELLOW if modified else self.custom or WINDOW
-        self[field + ".BackColor"] = plain_colour
+        super().colors()
+        self["txt_TextBox.FontBold"] |= self["TextFontBold"]
+
+    def paint(self, colour):
+        """A colour of the host's own stands for both of the system's; a read-only field keeps what it had, unless it fails."""
+        if self.custom and colour in (FACE, WINDOW):
+            colour = self["txt_TextBox.BackColor"] if colour == FACE and not self["CFail"] else self.custom
+        super().paint(colour)
 
     def layout(self):
         field, label, icon = "txt_TextBox", "lbl_Units", "img_State"

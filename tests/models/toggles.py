@@ -1,7 +1,7 @@
 """Check box and option button."""
 
-from model import way_of_a_value
-from choice import FIVE, HEAD, LOOKS, PLACE, RAISED, TAIL, Choice, mask
+from choice import AROUND, HEAD, LOOKS, RAISED, TAIL, Choice, mask
+from model import FIVE, way_of_a_value
 from values import names
 
 
@@ -10,6 +10,13 @@ class Toggle(Choice):
 
     KEYS, MESSAGES = (32, 32, 112), FIVE
     LINE, ICON = 330, 25
+
+    def __init_subclass__(cls):
+        face = cls.FACE
+        cls.SHOWN, cls.COLOURED, cls.MENU_OVER = (face,), ("Surface", face), ("Surface", face)
+        cls.WIDGETS = {face: LOOKS + " Caption Value"}
+        cls.ACTIONS = {face: f"{cls.PUSH} {cls.PUSH} {cls.PUSH} focus blur key key click dblclick rightclick", **AROUND}
+        setattr(cls, "put_" + cls.CAPTION, Toggle.put_caption)
 
     def paint(self, colour):
         self.layout()
@@ -51,7 +58,7 @@ class Toggle(Choice):
 
 
 class CheckBox(Toggle):
-    CLASS, FACE, SHOWN, CAPTION = "ctx_ZorCheckBox", "chk_CheckBox", ("chk_CheckBox",), "CheckBoxCaption"
+    CLASS, FACE, PUSH, CAPTION = "ctx_ZorCheckBox", "chk_CheckBox", "toggle", "CheckBoxCaption"
     STORED = "CFail " + HEAD + TAIL + " CheckBoxCaption BitFieldEntryIndex"
     RUNTIME = "MessageHeader ModifiedValue OtherUserValue CheckBoxValue"
     DERIVED = ("OutputValue", "CheckBoxValue")
@@ -60,85 +67,71 @@ class CheckBox(Toggle):
                       " CheckLostFocus CheckMouseDown CheckMouseUp"
     PREFIX = {"chk_CheckBox": "Check", "img_State": "img"}
     AT = {"chk_CheckBox": (120, 165)}
-    COLOURED, MENU_OVER = ("Surface", "chk_CheckBox"), ("Surface", "chk_CheckBox")
-    WIDGETS = {"chk_CheckBox": LOOKS + " Caption Value", "img_State": PLACE + " Picture", "Surface": "Width Height BackColor"}
-    ACTIONS = {"chk_CheckBox": "toggle toggle toggle focus blur key key click dblclick rightclick",
-               "img_State": "click dblclick", "Surface": "click rightclick rightclick", "mnu_Edit": "choose choose"}
     VALUES = {**Choice.VALUES, **names("DeviceValue ModifiedValue", (0, 1, 8, 9, -1, 6)), "OtherUserValue": (True, False),
               "BitFieldEntryIndex": (0, 0, 3, 30, -1, 31)}
-    put_CheckBoxCaption = Toggle.put_caption
 
     def created(self):
-        super().created()
-        self.was, self["OtherUserValue"] = False, False
+        self.reference = self["OtherUserValue"] = False
+
 
     READ_AS = {**Choice.READ_AS, "CheckBoxCaption": "chk_CheckBox.Caption",
                "CheckBoxValue": lambda self: bool(self["chk_CheckBox.Value"])}
 
-    def reference_text(self):
-        return self.was
+    def loaded(self):
+        super().loaded()
+        self.reference = False  # the next value is the first that is compared
 
     def mask(self):
         return mask(self["BitFieldEntryIndex"])
 
-    def show(self, on):
-        if self["chk_CheckBox.Value"] != int(on):
-            self["chk_CheckBox.Value"] = int(on)
-            self.changed()
+    def meant(self, value):
+        return bool(value & self.mask())
+
 
     def changed(self):
         overtaken = self.under_way()
         on = bool(self["chk_CheckBox.Value"])
-        self["DataModified"] = on != self.was
+        self["DataModified"] = on != self.reference
         if self.locked():
             return
-        self.emit("DataModifiedSetTrue" if on != self.was else "DataModifiedReset")
+        self.emit("DataModifiedSetTrue" if on != self.reference else "DataModifiedReset")
         if not overtaken():
             self.assign(self["OutputValue"] | self.mask() if on else self["OutputValue"] & ~self.mask())
         self.colors()
         self.emit("CheckClick")
 
     def push(self):
-        self["chk_CheckBox.Value"] = int(self.was) if self.locked() else 1 - self["chk_CheckBox.Value"]
+        self["chk_CheckBox.Value"] = int(self.reference) if self.locked() else 1 - self["chk_CheckBox.Value"]
         if not self.locked():
             self.changed()
 
-    @way_of_a_value
-    def put_DeviceValue(self):
-        self.was = bool(self["DeviceValue"] & self.mask())
-        self.show(self.was)
-        yield
-        self.assign(self["DeviceValue"])
-        yield
-        self["DataModified"] = False
-        self.colors()
-        self.status()
+    def show(self, on):
+        if self["chk_CheckBox.Value"] != int(on):
+            self["chk_CheckBox.Value"] = int(on)
+            self.changed()
 
-    @way_of_a_value
-    def put_ModifiedValue(self):
-        value = self["ModifiedValue"]
-        self.show(bool(value & self.mask()))
+    def take(self, value, from_device):
+        steps = super().take(value, from_device)
+        next(steps)
         if self.locked():
-            self["DataModified"] = bool(self["chk_CheckBox.Value"]) != self.was
+            self["DataModified"] = bool(self["chk_CheckBox.Value"]) != self.reference
         yield
-        self.assign(value)
-        self.colors()
-        self.status()
+
 
     @way_of_a_value
     def undo(self):
         if self["DataModified"]:
-            if self["chk_CheckBox.Value"] == int(self.was):
+            if self["chk_CheckBox.Value"] == int(self.reference):
                 self.changed()
             else:
-                self.show(self.was)
+                self.show(self.reference)
             yield
             self.assign(self["DeviceValue"])
             self.colors()
 
 
 class OptionButton(Toggle):
-    CLASS, FACE, SHOWN, CAPTION = "ctx_ZorOptionButton", "opt_OptionButton", ("opt_OptionButton",), "OptionButtonCaption"
+    CLASS, FACE, PUSH, CAPTION = "ctx_ZorOptionButton", "opt_OptionButton", "choose", "OptionButtonCaption"
     STORED = "CFail " + HEAD + TAIL + " OptionButtonCaption EnumEntryValue"
     RUNTIME = "MessageHeader ModifiedValue OtherUserValue EnumValue OptionButtonValue"
     DERIVED, ALWAYS = ("OutputValue",), ("EnumEntryValue",)
@@ -148,14 +141,8 @@ class OptionButton(Toggle):
                       " OptionMouseDown OptionMouseUp OptionValidate"
     PREFIX = {"opt_OptionButton": "Option", "img_State": "img"}
     AT = {"opt_OptionButton": (120, 157.5)}
-    COLOURED, MENU_OVER = ("Surface", "opt_OptionButton"), ("Surface", "opt_OptionButton")
-    WIDGETS = {"opt_OptionButton": LOOKS + " Caption Value", "img_State": PLACE + " Picture",
-               "Surface": "Width Height BackColor"}
-    ACTIONS = {"opt_OptionButton": "choose choose choose focus blur key key click dblclick rightclick",
-               "img_State": "click dblclick", "Surface": "click rightclick rightclick", "mnu_Edit": "choose choose"}
     OFTEN = (*Choice.OFTEN, "EnumValue", "EnumEntryValue")
     LINE, ICON = 315, 20
-    put_OptionButtonCaption = Toggle.put_caption
 
     def created(self):
         super().created()
@@ -171,14 +158,10 @@ class OptionButton(Toggle):
         self["opt_OptionButton.Value"], self.stood_for = on, self["EnumEntryValue"]
         return fresh
 
-    def put_EnumEntryValue(self):
-        pass
 
     def clicked_button(self):
         self["OutputValue"] = self["EnumEntryValue"] if self["opt_OptionButton.Value"] else self["EnumValue"]
-        self["DataModified"] = self["OutputValue"] != self.reference
-        if self["DataModified"]:
-            self.emit("DataModifiedSetTrue")
+        self.modify(self["OutputValue"] != self.reference)
         self.colors()
         self.emit("OptionClick")
         if self["opt_OptionButton.Value"]:

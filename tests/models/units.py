@@ -2,14 +2,10 @@
 
 import re
 from decimal import ROUND_HALF_UP, Decimal
+from fractions import Fraction
 
-MI = 25.4
-FACTORS = {
-    0: {(0, 1): 0.001, (0, 2): 10, (0, 5): 1 / MI, (0, 7): 0.1, (1, 0): 1000, (1, 2): 10000, (1, 5): 1000 / MI, (1, 7): 100,
-        (2, 0): 0.1, (2, 1): 0.0001, (2, 5): 1 / MI / 10, (2, 7): 0.01, (5, 0): MI, (5, 1): MI / 1000, (5, 2): MI * 10,
-        (5, 7): MI / 10, (7, 0): 10, (7, 1): 0.01, (7, 2): 100, (7, 5): 10 / MI},
-    2: {(15, 16): 1.8, (15, 17): 1, (16, 15): 1 / 1.8, (16, 17): 1 / 1.8, (17, 15): 1, (17, 16): 1.8},
-}
+# A unit's size in one that its type has in common; a factor is the ratio of two sizes.
+SIZES = {0: {0: 1, 1: 1000, 2: Fraction(1, 10), 5: Fraction("25.4"), 7: 10}, 2: {15: 1, 16: Fraction(5, 9), 17: 1}}
 OFFSETS = {(15, 16): 32, (15, 17): 273.15, (16, 15): -17.7778, (16, 17): 255.37222, (17, 15): -273.15, (17, 16): -459.67}
 # Label, identifier, decimals.
 UNITS = {0: ("mm", "LENGTH_MM", 0), 1: ("m", "LENGTH_MTR", 3), 2: ("1/10mm", "LENGTH_1/10_MM", 2), 5: ("in", "LENGTH_INCH", 1),
@@ -23,7 +19,9 @@ class Overflow(Exception):
 
 
 def convert(value, kind, source, target):
-    return value * FACTORS.get(kind, {}).get((source, target), 1) + OFFSETS.get((source, target), 0)
+    sizes = SIZES.get(kind, {})
+    factor = float(Fraction(sizes[source]) / sizes[target]) if source in sizes and target in sizes else 1
+    return value * factor + OFFSETS.get((source, target), 0)
 
 
 def whole(value):
