@@ -1,6 +1,7 @@
 """The controls for a choice, and of these combo box and list box."""
 
-from model import BINDING, FIVE, Valued, step, way_of_a_value
+from model import step, way_of_a_value
+from valued import BINDING, FIVE, Valued
 from values import PLACE, names
 
 HEAD = "DataModified WaitingForData DeviceValue OutputValue" + BINDING

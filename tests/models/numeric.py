@@ -1,7 +1,8 @@
 """What the numeric controls share, and the up-down."""
 
-from model import BINDING, FIVE, Valued, step, way_of_a_value
-from units import TYPES, UNITS, Overflow, convert, is_valid, plain, reading, whole
+from model import step, way_of_a_value
+from units import TYPES, UNITS, convert, is_valid, plain, reading, whole
+from valued import BINDING, FIVE, Valued
 from values import PLACE, names
 
 UNIT_ROWS = "UnitType DeviceValue OutputValue DeviceUnit OutputUnit"

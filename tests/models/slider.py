@@ -1,8 +1,9 @@
 """The slider."""
 
-from model import BINDING, step
+from model import step
 from numeric import LABEL, UNIT_ROWS, Numeric
 from units import UNITS, plain, whole
+from valued import BINDING
 from values import PLACE, names
 
 LABELS = tuple(f"lbl_{end}{part}" for end in ("Min", "Max") for part in ("Prefix", "Value", "Unit"))

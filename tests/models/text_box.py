@@ -1,9 +1,10 @@
 """The text box."""
 
-from model import BINDING, step, way_of_a_value
+from model import step, way_of_a_value
 from numeric import AROUND, LABEL, TEXT_EVENTS, UNIT_ROWS, Numeric
 from units import UNITS, convert, fixed, is_valid, plain, reading
-from values import FACE, PLACE, WINDOW, YELLOW, Colour, names
+from valued import BINDING
+from values import FACE, PLACE, WINDOW, Colour, names
 
 LEFT, RIGHT = Colour("left"), Colour("right")
 

@@ -1,7 +1,8 @@
 """Check box and option button."""
 
 from choice import AROUND, HEAD, LOOKS, RAISED, TAIL, Choice, mask
-from model import FIVE, way_of_a_value
+from model import way_of_a_value
+from valued import FIVE
 from values import names
 
 

@@ -2,9 +2,9 @@
 
 #include <zor/monitor/data/codec.h>
 #include <zor/monitor/session/plan.h>
+#include <zor/tests/monitor/files.h>
 #include <zor/tests/random.h>
 
-#include <QFile>
 #include <gtest/gtest.h>
 
 namespace zor::monitor {
@@ -98,9 +98,7 @@ TEST(ParameterFile, SaysWhatIsWrongAndWhere)
 
 TEST(ParameterFile, RandomDamageIsReadOrRefused)
 {
-    QFile demo(ZOR_TEST_DATA "/../../monitor/device/demo.json");
-    ASSERT_TRUE(demo.open(QIODevice::ReadOnly));
-    const std::string whole = demo.readAll().toStdString();
+    const std::string whole = tests::textIn(ZOR_TEST_DATA "/../../monitor/device/demo.json").toStdString();
     EXPECT_GT(readParameterFile(whole, "demo").parameters.size(), 20U);
     tests::Random random;
     int refused = 0;

@@ -1,11 +1,9 @@
 // The program as it is started: its options, its exit status and what it leaves behind.
 
-#include <QFile>
+#include <zor/tests/monitor/files.h>
+
 #include <QImage>
-#include <QProcess>
 #include <QTcpServer>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace zor::monitor {
 namespace {
@@ -38,16 +36,12 @@ TEST(Program, RunsUnattendedAndLeavesAReportAPictureAndARecord)
     EXPECT_TRUE(good.out.contains("Density  ?  nicht vorhanden\n")) << good.out.toStdString();
     EXPECT_TRUE(good.out.contains(" m3  gelesen\n")) << good.out.toStdString();
     EXPECT_FALSE(QImage(picture).isNull());
-    QFile written(report);
-    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
-    const QString html = written.readAll();
+    const QString html = tests::textIn(report);
     EXPECT_TRUE(html.contains("<td>Tankhöhe</td><td>TankHeight</td><td>12,500</td><td>m</td><td>gelesen</td>"))
         << html.toStdString();
     EXPECT_TRUE(html.contains("<td>Horn</td><td>Ein</td>"));
     EXPECT_TRUE(html.contains("data:image/png"));
-    QFile record(log);
-    ASSERT_TRUE(record.open(QIODevice::ReadOnly));
-    const QString lines = record.readAll();
+    const QString lines = tests::textIn(log);
     EXPECT_TRUE(lines.contains(",read,TankHeight,?,125000,live\n")) << "of a tab that nobody has opened";
     EXPECT_FALSE(good.out.contains("nicht gelesen")) << good.out.toStdString();
 }
@@ -56,10 +50,7 @@ TEST(Program, SaysWhyItCannotRun)
 {
     QTemporaryDir folder;
     const auto fileOf = [&](const char* name, const char* text) {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-        return file.fileName();
+        return tests::writeFile(folder.filePath(name), text);
     };
     const QString bad = fileOf("bad.json", "{\n\"parameters\": [\n{\"tag\": 5}]}");
     const QString empty = fileOf("empty.ui", R"(<ui version="4.0"><widget class="QWidget" name="a"/></ui>)");
@@ -117,9 +108,8 @@ TEST(Program, SaysWhyItCannotRun)
             << row.arguments.join(' ').toStdString() << ": " << bad.error.toStdString();
     }
     EXPECT_EQ(run({"--help"}).status, 0);
-    QFile lines(record);
-    ASSERT_TRUE(lines.open(QIODevice::ReadOnly));
-    EXPECT_EQ(lines.readAll().count('\n'), 25) << "a heading, and once for each parameter that nobody answers";
+    EXPECT_EQ(tests::textIn(record).count('\n'), 25)
+        << "a heading, and once for each parameter that nobody answers";
 }
 
 TEST(Program, KilledLeavesItsRecordWhole)

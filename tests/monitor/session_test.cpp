@@ -1,8 +1,7 @@
 // A host's work, without a window, against a device that does what it should.
 
+#include <zor/tests/monitor/files.h>
 #include <zor/tests/monitor/session_fixture.h>
-
-#include <QTemporaryDir>
 
 namespace zor::monitor {
 namespace {
@@ -12,6 +11,8 @@ using tests::kPeriod;
 using tests::only;
 using tests::Peer;
 using tests::SessionTest;
+using tests::textIn;
+using tests::writeFile;
 
 TEST_F(SessionTest, ReadsEachParameterAndTellsHowItWent)
 {
@@ -194,11 +195,9 @@ TEST(Sessions, AWriteThatIsLeftOpenIsSentOnceAndSettledByReading)
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         QTemporaryDir folder;
-        QFile file(folder.filePath("log.csv"));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("time,event,tag,old,new,result\n2026-"); // the last run had a power cut
-        file.close();
-        Log log(file.fileName());
+        // The last run had a power cut.
+        const QString file = writeFile(folder.filePath("log.csv"), "time,event,tag,old,new,result\n2026-");
+        Log log(file);
         Peer peer;
         const auto good = peer.answer;
         Host host(peer.serverPort(), &log);
@@ -226,8 +225,7 @@ TEST(Sessions, AWriteThatIsLeftOpenIsSentOnceAndSettledByReading)
         EXPECT_EQ(std::ranges::count(peer.functions, 6), 1) << "resent blindly";
         EXPECT_EQ(host.get("Limit", "DataModified").toBoolean(), row.carried == Never);
         EXPECT_EQ(host.text("Limit"), "5");
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        const QString record = file.readAll();
+        const QString record = textIn(file);
         EXPECT_TRUE(record.startsWith("time,event,tag,old,new,result\n2026-\n2")) << record.toStdString();
         EXPECT_TRUE(record.contains(",read,Limit,?,20,live\n")) << record.toStdString();
         EXPECT_TRUE(record.contains(QString(",write,Limit,20,5,") + row.record)) << record.toStdString();

@@ -1,37 +1,22 @@
 // Settings files: what is refused, what is compared, and what becomes of them when a device dies.
 
 #include <zor/monitor/settings/comparison.h>
+#include <zor/tests/monitor/files.h>
 #include <zor/tests/monitor/session_fixture.h>
 
 #include <QDir>
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 
 namespace zor::monitor {
 namespace {
 
 using tests::Host;
 using tests::Peer;
+using tests::textIn;
+using tests::writeFile;
 
 constexpr const char* kGood = R"({"format": "zor-settings", "formatVersion": 1,
 "device": {"type": "ZT", "version": "1"}, "date": "2026-11-25T08:30:00Z", "parameters": [
 {"tag": "Limit", "value": 20, "unit": "LgthU_MM", "registers": [20]}]})";
-
-QString fileOf(const QTemporaryDir& folder, const QString& name, const QByteArray& text)
-{
-    QFile file(folder.filePath(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(text);
-    return file.fileName();
-}
-
-QString textIn(const QString& name)
-{
-    QFile file(name);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-}
 
 struct Ended {
     int status = -1;
@@ -52,7 +37,7 @@ Ended run(const QString& name, const QStringList& arguments)
 struct Commands : testing::Test {
     QTemporaryDir folder;
     QString saved = folder.filePath("saved.json");
-    QString parameters = fileOf(folder, "parameters.json", tests::kParameters);
+    QString parameters = writeFile(folder.filePath("parameters.json"), tests::kParameters);
 
     Ended monitor(int port, const QStringList& arguments)
     {
@@ -64,14 +49,8 @@ struct Commands : testing::Test {
 
 TEST(SettingsFiles, WhatIsWrongIsRefusedWithItsPlaceAndTheSchemaAgrees)
 {
-    struct Row {
-        QByteArray from;
-        QByteArray to;
-        const char* error; ///< nullptr: taken
-        bool schemaSees = true;
-    };
     const QByteArray second = R"({"tag": "Limit", "value": 1}, {"tag")";
-    const std::vector<Row> rows{
+    const std::vector<tests::Damage> rows{
         {"", "", nullptr},
         {R"(, "registers": [20])", "", nullptr},
         {"20, \"unit\": \"LgthU_MM\"", "\"text\"", nullptr},
@@ -101,30 +80,8 @@ TEST(SettingsFiles, WhatIsWrongIsRefusedWithItsPlaceAndTheSchemaAgrees)
         {"[20]", QByteArray("[").repeated(100000), "test:3: nested too deeply", false},
         {"Limit", "L\xFFmit", "test:3: this is not JSON", false},
     };
-    QTemporaryDir folder;
-    QStringList arguments{"-W", "ignore", "-c",
-                          "import json,sys,jsonschema as j\ns=json.load(open(sys.argv[1]))\n"
-                          "print(*[int(j.Draft202012Validator(s).is_valid(json.load(open(f)))) for f in "
-                          "sys.argv[2:]])",
-                          ZOR_TEST_DATA "/../../docs/settings-file.schema.json"};
-    QStringList expected;
-    for (const Row& row : rows) {
-        QByteArray text = kGood;
-        text.replace(text.indexOf(row.from), row.from.size(), row.to);
-        std::string error;
-        try {
-            (void)readSettingsFile(text.toStdString(), "test");
-        } catch (const FileError& refused) {
-            error = refused.what();
-        }
-        EXPECT_TRUE(row.error == nullptr ? error.empty() : error.starts_with(row.error))
-            << row.to.left(40).constData() << ": " << error;
-        if (!row.schemaSees)
-            continue;
-        arguments.append(fileOf(folder, QString("%1.json").arg(expected.size()), text));
-        expected.append(row.error == nullptr ? "1" : "0");
-    }
-    EXPECT_EQ(run("/usr/bin/python3", arguments).out.trimmed().toStdString(), expected.join(' ').toStdString());
+    tests::expectRefusals(kGood, rows, "settings-file.schema.json",
+                          [](const std::string& text) { return readSettingsFile(text, "test"); });
 }
 
 TEST(SettingsFiles, EachValueIsJudgedAgainstWhatIsHeld)
@@ -218,7 +175,7 @@ TEST_F(Commands, ADeviceThatDiesInTheMiddleOfSavingLeavesTheOldFile)
 {
     Peer peer;
     const quint16 port = peer.serverPort();
-    fileOf(folder, "saved.json", "old");
+    writeFile(saved, "old");
     peer.answer = [&](QTcpSocket& socket, const QByteArray& reply) {
         if (peer.functions.size() == 2)
             return peer.die();
@@ -230,7 +187,7 @@ TEST_F(Commands, ADeviceThatDiesInTheMiddleOfSavingLeavesTheOldFile)
     EXPECT_EQ(textIn(saved), "old");
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 2) << "half a file is left behind";
     EXPECT_EQ(monitor(port, {"--compare", saved}).status, 2) << "a bad file";
-    fileOf(folder, "saved.json", kGood);
+    writeFile(saved, kGood);
     EXPECT_EQ(monitor(port, {"--compare", saved}).status, 3);
     peer.revive(port);
     int lost = 0;
@@ -249,9 +206,9 @@ TEST_F(Commands, ALoadingThatBreaksOffGoesOnWithWhatIsLeft)
     Peer peer;
     const quint16 port = peer.serverPort();
     const QString file =
-        fileOf(folder, "edited.json",
-               QByteArray(kGood).replace(R"(20, "unit": "LgthU_MM", "registers": [20])",
-                                         R"(30, "unit": "LgthU_MM"}, {"tag": "Far", "value": -5)"));
+        writeFile(folder.filePath("edited.json"),
+                  QByteArray(kGood).replace(R"(20, "unit": "LgthU_MM", "registers": [20])",
+                                            R"(30, "unit": "LgthU_MM"}, {"tag": "Far", "value": -5)"));
     const auto writes = [&] {
         return std::ranges::count_if(peer.functions, [](int function) { return function == 6 || function == 16; });
     };

@@ -3,8 +3,8 @@
 #include <zor/controls/registration.h>
 #include <zor/monitor/ui/settings_dialog.h>
 #include <zor/monitor/ui/window.h>
+#include <zor/tests/monitor/files.h>
 
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -23,9 +23,7 @@ constexpr int kPatience = 5000;
 
 inline ParameterFile demoFile()
 {
-    QFile file(":/monitor/demo.json");
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return readParameterFile(file.readAll().toStdString(), "demo.json");
+    return readParameterFile(textIn(":/monitor/demo.json").toStdString(), "demo.json");
 }
 
 struct Demo : testing::Test {

@@ -11,7 +11,6 @@
 #include <QStatusBar>
 #include <QTableView>
 #include <QTableWidget>
-#include <QTemporaryDir>
 #include <QTreeWidget>
 
 #include <set>
@@ -188,9 +187,7 @@ TEST_F(Demo, FramesShowWhatGoesOverTheLineAndWhyItFails)
     EXPECT_EQ(table.model()->rowCount(), rows);
     QTemporaryDir folder;
     dock.save(folder.filePath("frames.txt"));
-    QFile saved(folder.filePath("frames.txt"));
-    ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
-    EXPECT_EQ(saved.readAll().count(" <- unit 1  "), rows);
+    EXPECT_EQ(textIn(folder.filePath("frames.txt")).count(" <- unit 1  "), rows);
 }
 
 TEST_F(Demo, ConnectsToADeviceThatWasLookedFor)
@@ -247,22 +244,21 @@ TEST_F(Drawn, ShowsAllNineClassesAndWritesThroughThem)
 TEST(DrawnForm, KeepsTheSizeItWasDrawnInAndScrollsInLessRoom)
 {
     QTemporaryDir folder;
-    QFile file(folder.filePath("plain.ui"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(R"(<ui version="4.0"><class>F</class><widget class="QWidget" name="F"><property name="geometry">
+    const QString file =
+        writeFile(folder.filePath("plain.ui"),
+                  R"(<ui version="4.0"><class>F</class><widget class="QWidget" name="F"><property name="geometry">
         <rect><x>0</x><y>0</y><width>500</width><height>400</height></rect></property>
         <widget class="zor::ZorTextBox" name="box"><property name="geometry">
         <rect><x>20</x><y>340</y><width>301</width><height>21</height></rect></property></widget>
         <widget class="zor::ZorSlider" name="track"><property name="geometry">
         <rect><x>20</x><y>20</y><width>301</width><height>60</height></rect></property></widget></widget></ui>)");
-    file.close();
     core::ClassRegistry classes;
     registerControls(classes);
     Languages languages;
     DeviceEntry entry;
     entry.address = "tcp://127.0.0.1:1";
     Window window(std::make_unique<DevicePanel>(std::make_unique<Device>(entry, demoFile()),
-                                                std::make_unique<UiForm>(file.fileName(), classes)),
+                                                std::make_unique<UiForm>(file, classes)),
                   languages, classes);
     window.show();
     QWidget& box = platform::qt::widgetOf(window.form().controls().front()->surface());
@@ -285,9 +281,7 @@ struct Tutorial : Demo {
     Tutorial() : Demo(ZOR_TEST_DATA "/forms/flow.ui", parameters()) {}
     static ParameterFile parameters()
     {
-        QFile manual(ZOR_TEST_DATA "/../../docs/monitor.md");
-        EXPECT_TRUE(manual.open(QIODevice::ReadOnly));
-        const QString text = manual.readAll();
+        const QString text = textIn(ZOR_TEST_DATA "/../../docs/monitor.md");
         return readParameterFile(text.section("```json flow.json", 1, 1).section("```", 0, 0).toStdString(),
                                  "monitor.md");
     }
