@@ -2,7 +2,7 @@
 
 from model import step, way_of_a_value
 from valued import BINDING, FIVE, Valued
-from values import PLACE, names
+from values import PLACE, names, written
 
 HEAD = "DataModified WaitingForData DeviceValue OutputValue" + BINDING
 TAIL = " MsgDeviceTagNotFound MsgDefault IconEnable ReadOnly DeviceType DeviceVersion RegisterType EnableControl"
@@ -212,6 +212,10 @@ class ListBox(Choice):
 
     READ_AS = {**Choice.READ_AS, "SelCount": lambda self: sum(self.marks),
                "lst_ListBox.ListCount": lambda self: len(self.entries), "lst_ListBox.ListIndex": lambda self: self.current}
+
+    def seen(self):
+        marks = " ".join(f"c.lst_ListBox.Selected({i})" for i in range(len(self.entries)))
+        return [*([("get " + marks, [" ".join(map(written, self.marks))])] if marks else []), *super().seen()]
 
     invalid_rows = ComboBox.invalid_rows
 

@@ -25,12 +25,14 @@ class Slider(Numeric):
     AT = names(" ".join(LABELS), (60, 60))
     COLOURED, MENU_OVER = ("Surface", *LABELS), ("Surface", *LABELS)
     WIDGETS = {"sld_Slider": PLACE + " Value Min Max ToolTipText", **names(" ".join(LABELS), LABEL)}
-    ACTIONS = {"sld_Slider": "move move move focus blur key key", "img_State": "click dblclick", "lbl_MinPrefix": "click rightclick",
-               "lbl_MaxUnit": "click dblclick rightclick", "Surface": "rightclick rightclick", "mnu_Edit": "choose choose"}
+    ACTIONS = {"sld_Slider": "move move move move focus blur key key key", **names(" ".join(LABELS), "click"),
+               "lbl_MinPrefix": "click rightclick", "lbl_MaxUnit": "click dblclick rightclick", "img_State": "click dblclick",
+               "Surface": "rightclick rightclick", "mnu_Edit": "choose choose"}
     UNHANDLED = ("sliderScroll",)  # whether the track has moved by then is the platform's
     KEYS = (39, 37, 38, 40, 36, 35, 112)
     VALUES = {**Numeric.VALUES, "ScaleFactor": (1, 1, 10, 100), **names("DeviceValue ModifiedValue", (0, 5, 5.4, 12, -3, 7.5, 150)),
-              "OtherUserValue": (0, 7.5), "EnableValues": (True, True, False)}
+              "MinValue": (0, 0.5, -40, 20), "MaxValue": (9.5, 100, 100, 1000, -50), "OtherUserValue": (0, 7.5),
+              "EnableValues": (True, True, False)}
 
     def begin(self):
         self.output, self["ScaleFactor"] = 0, 1

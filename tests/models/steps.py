@@ -106,8 +106,7 @@ class Steps:
         return ()
 
     def random_do(self, random):
-        widget = random.choice(list(self.ACTIONS))
-        action = random.choice(self.ACTIONS[widget].split())
+        widget, action = random.choice([(widget, one) for widget, listed in self.ACTIONS.items() for one in listed.split()])
         return ("do", widget, action, *self.arguments(random, widget, action))
 
     def arguments(self, random, widget, action):
