@@ -115,8 +115,8 @@ bool ctx_ZorTextBox::equalsDisplayValue() const
 {
     if (!isNumeric())
         return m_displayValue.isText() ? showsDisplayValue() : m_displayValue.toText() == m_field.text().text();
-    // What has been formatted is a number and need not be read.
-    if (m_formatted && showsDisplayValue())
+    // What has been formatted is a number and need not be read, unless the region has changed since.
+    if (m_formatted && m_formatted->settings == platform::regionalRevision() && showsDisplayValue())
         return true;
     const std::optional<double> text = m_field.number();
     if (!text)
