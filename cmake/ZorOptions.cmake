@@ -69,7 +69,7 @@ if(ZOR_BUILD_FUZZ)
   add_link_options(-fsanitize=address,undefined)
 elseif(ZOR_SANITIZE)
   # With the sanitizers the compiler takes much for uninitialised that is not.
-  target_compile_options(zor_warnings INTERFACE -Wno-maybe-uninitialized)
+  target_compile_options(zor_warnings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()

@@ -175,7 +175,7 @@ class Player:
         """Plays that many steps; answers the first history that diverges, or None."""
         rng, played = random.Random(seed), 0
         while played < count:
-            batch = [self.history(rng, LENGTH) for _ in range(BATCH)]
+            batch = [self.history(rng, LENGTH) for _ in range(min(BATCH, (count - played) // LENGTH + 1))]
             found = self.failures([script for _, script in batch])
             if found:
                 return self.report(self.shrink(batch[min(found)][0]))

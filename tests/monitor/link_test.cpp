@@ -3,6 +3,7 @@
 #include <zor/monitor/link/tcp_link.h>
 #include <zor/monitor/scan/scanner.h>
 #include <zor/tests/monitor/peer.h>
+#include <zor/tests/monitor/times.h>
 
 #include <QElapsedTimer>
 #include <QSocketNotifier>
@@ -17,8 +18,8 @@
 namespace zor::monitor {
 namespace {
 
-constexpr int kDeadline = 300;
-constexpr int kPatience = 5000;
+using tests::kDeadline;
+using tests::kPatience;
 
 Reply ask(Link& link, const Request& request)
 {

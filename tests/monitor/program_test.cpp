@@ -8,13 +8,13 @@
 namespace zor::monitor {
 namespace {
 
-struct Ended {
+struct Exit {
     int status;
     QString out;
     QString error;
 };
 
-Ended run(const QStringList& arguments)
+Exit run(const QStringList& arguments)
 {
     QProcess program;
     program.start(ZOR_MONITOR, arguments);
@@ -30,8 +30,8 @@ TEST(Program, RunsUnattendedAndLeavesAReportAPictureAndARecord)
     const QString picture = folder.filePath("picture.png");
     const QString log = folder.filePath("log.csv");
     const QString report = folder.filePath("report.html");
-    const Ended good = run({"--run-for", "2", "--screenshot", picture, "--log", log, "--language", "de", "--trend",
-                            "Distance", "--report", report});
+    const Exit good = run({"--run-for", "2", "--screenshot", picture, "--log", log, "--language", "de", "--trend",
+                           "Distance", "--report", report});
     EXPECT_EQ(good.status, 0) << good.error.toStdString();
     EXPECT_TRUE(good.out.contains("Density  ?  nicht vorhanden\n")) << good.out.toStdString();
     EXPECT_TRUE(good.out.contains(" m3  gelesen\n")) << good.out.toStdString();
@@ -102,7 +102,7 @@ TEST(Program, SaysWhyItCannotRun)
         {{"--device", "tcp://h?unit=x", "--language", "de"}, 2, "unit ist eine Zahl von 0 bis 255"},
     };
     for (const Row& row : rows) {
-        const Ended bad = run(row.arguments);
+        const Exit bad = run(row.arguments);
         EXPECT_EQ(bad.status, row.status) << row.arguments.join(' ').toStdString();
         EXPECT_TRUE((bad.error + bad.out).contains(row.error))
             << row.arguments.join(' ').toStdString() << ": " << bad.error.toStdString();

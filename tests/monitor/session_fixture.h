@@ -6,6 +6,7 @@
 #include <zor/platform/headless/container.h>
 #include <zor/platform/headless/operator.h>
 #include <zor/tests/monitor/peer.h>
+#include <zor/tests/monitor/times.h>
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -16,10 +17,6 @@
 namespace zor::tests {
 
 using namespace zor::monitor;
-
-inline constexpr int kPeriod = 150;
-inline constexpr int kDeadline = 300;
-inline constexpr int kPatience = 5000;
 
 /// Registers 0 to 199 of the peer hold their own address.
 inline constexpr const char* kParameters = R"({

@@ -4,6 +4,7 @@
 #include <zor/monitor/ui/settings_dialog.h>
 #include <zor/monitor/ui/window.h>
 #include <zor/tests/monitor/files.h>
+#include <zor/tests/monitor/times.h>
 
 #include <QLabel>
 #include <QLineEdit>
@@ -17,9 +18,6 @@
 namespace zor::tests {
 
 using namespace zor::monitor;
-
-constexpr int kPeriod = 200;
-constexpr int kPatience = 5000;
 
 inline ParameterFile demoFile()
 {

@@ -11,7 +11,7 @@
 namespace zor::console {
 namespace {
 
-constexpr int kDeepest = 200; ///< brackets and signs within each other
+constexpr int kMostBrackets = 200; ///< brackets and signs within each other
 constexpr std::string_view kEndsOperand = " \t+-*/()";
 
 class Parser {
@@ -78,7 +78,7 @@ private:
     double factor()
     {
         const platform::Depth::Level level(m_depth);
-        if (m_depth.levels() > kDeepest)
+        if (m_depth.levels() > kMostBrackets)
             raiseError(ErrorNumber::InvalidCall, "too many brackets and signs within each other");
         if (take('-'))
             return -factor();
