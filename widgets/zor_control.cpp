@@ -301,6 +301,9 @@ void ZorControl::setValue(const QVariant& value)
 
 void ZorControl::connectNotify(const QMetaMethod& signal)
 {
+    // Qt itself connects to the end of every widget that it shows.
+    if (signal.methodIndex() < staticMetaObject.methodOffset())
+        return;
     const QMetaObject& meta = *metaObject();
     for (const core::PropertyRow* row : info().properties) {
         const int index = meta.indexOfProperty(std::string(row->name).c_str());

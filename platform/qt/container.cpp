@@ -5,11 +5,9 @@
 #include <zor/platform/qt/simple_widgets.h>
 #include <zor/platform/qt/text_field.h>
 
-#include <QContextMenuEvent>
 #include <QDebug>
 #include <QMenu>
 #include <QMessageBox>
-#include <QResizeEvent>
 
 namespace zor::platform::qt {
 namespace {
@@ -84,31 +82,6 @@ private:
     Context m_context;
     std::span<const MenuItem> m_items;
     QPointer<QMenu> m_menu;
-};
-
-/// The QWidget under a surface; tells the component when the container gives it another size, and of the menu key
-/// of any widget on it that has no menu of its own.
-class SurfaceWidget : public QWidget {
-public:
-    using QWidget::QWidget;
-    std::function<void(QSize)> onResized;
-    std::function<void(QPoint)> onMenuKey;
-
-protected:
-    void contextMenuEvent(QContextMenuEvent* event) override
-    {
-        // The mouse has been heard of already, by its release.
-        const bool isKey = event->reason() == QContextMenuEvent::Keyboard;
-        event->setAccepted(isKey);
-        if (isKey && onMenuKey)
-            onMenuKey(event->pos());
-    }
-    void resizeEvent(QResizeEvent* event) override
-    {
-        QWidget::resizeEvent(event);
-        if (onResized)
-            onResized(event->size());
-    }
 };
 
 class QtSurface final : public QtBase<Surface, SurfaceWidget> {

@@ -3,6 +3,8 @@
 #include <zor/platform/qt/qt_widget.h>
 
 #include <QAccessible>
+#include <QContextMenuEvent>
+#include <QResizeEvent>
 
 namespace zor::platform::qt {
 
@@ -23,6 +25,32 @@ void QtWidget::announce() const
         return;
     QAccessibleEvent changed(&qwidget(), QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&changed);
+}
+
+bool SurfaceWidget::event(QEvent* event)
+{
+    const bool isHandled = QWidget::event(event);
+    if (event->type() == QEvent::Polish) {
+        for (QtWidget* part : std::exchange(waiting, {}))
+            part->aboutToBeSeen();
+    }
+    return isHandled;
+}
+
+void SurfaceWidget::contextMenuEvent(QContextMenuEvent* event)
+{
+    // The mouse has been heard of already, by its release.
+    const bool isKey = event->reason() == QContextMenuEvent::Keyboard;
+    event->setAccepted(isKey);
+    if (isKey && onMenuKey)
+        onMenuKey(event->pos());
+}
+
+void SurfaceWidget::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (onResized)
+        onResized(event->size());
 }
 
 bool EventReports::before()

@@ -15,9 +15,11 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace zor::platform::qt {
 
@@ -58,6 +60,8 @@ public:
     [[nodiscard]] const Scale& scale() const noexcept { return m_context.container->scale(); }
     /// Takes the pixels that its twips are now.
     virtual void placeAnew() = 0;
+    /// The surface is about to be seen for the first time.
+    virtual void aboutToBeSeen() {}
     /// Tells a screen reader, if one listens, that there is something new to say.
     void announce() const;
     /// Reports; what a handler throws goes to the container, never through Qt's event loop.
@@ -207,8 +211,24 @@ inline void showNow(QWidget& widget)
         widget.setVisible(true);
 }
 
-/// Whether a part has its Qt widget from the beginning, or from when it first has something to show: an icon or a
-/// unit that most controls never show is as much work as half the field beside it.
+/// The QWidget under a surface; tells the component when the container gives it another size, and of the menu key
+/// of any widget on it that has no menu of its own.
+class SurfaceWidget : public QWidget {
+public:
+    using QWidget::QWidget;
+    std::function<void(QSize)> onResized;
+    std::function<void(QPoint)> onMenuKey;
+    /// Parts that hear when it is about to be seen for the first time.
+    std::vector<QtWidget*> waiting;
+
+protected:
+    bool event(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+};
+
+/// Whether a part has its Qt widget from the beginning, or from when there is first something to see of it: an icon
+/// or a unit that most controls never show is as much work as half the field beside it.
 enum class Made : std::uint8_t { Now, WhenShown };
 
 /// The interface's settings over a Qt widget of type Q.
@@ -220,11 +240,15 @@ public:
     {
         if (made == Made::Now)
             make();
+        else if (!isSurfaceSeen())
+            surfaceWidget().waiting.push_back(this);
     }
     ~QtBase() override
     {
-        if (!isMade())
+        if (!isMade()) {
+            std::erase(surfaceWidget().waiting, this);
             return;
+        }
         m_widget->owner = nullptr;
         // Our own connections only: Qt's accessibility must still hear that the widget ends.
         QObject::disconnect(m_widget, nullptr, m_widget, nullptr);
@@ -317,11 +341,14 @@ protected:
     virtual void prepare() {}
     /// Whether there is anything to see of it.
     [[nodiscard]] virtual bool hasFace() const { return true; }
+    /// On a surface that nobody has seen yet it is made with the first look: what the control shows while it gets
+    /// its properties one by one, nobody sees.
     void makeIfSeen()
     {
-        if (!isMade() && m_isShown && hasFace())
+        if (!isMade() && m_isShown && hasFace() && isSurfaceSeen())
             makeLate();
     }
+    void aboutToBeSeen() override { makeIfSeen(); }
 
     Rect m_geometry;
 
@@ -331,8 +358,12 @@ private:
         m_widget = new Reporting<Q>(context().surface);
         m_widget->owner = this;
     }
+    /// What a part that is made when shown lies on.
+    [[nodiscard]] SurfaceWidget& surfaceWidget() const { return static_cast<SurfaceWidget&>(*context().surface); }
+    [[nodiscard]] bool isSurfaceSeen() const { return context().surface->testAttribute(Qt::WA_WState_Polished); }
     void makeLate()
     {
+        std::erase(surfaceWidget().waiting, this);
         make();
         if (m_isShown)
             showNow(*m_widget);

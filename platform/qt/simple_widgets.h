@@ -13,6 +13,7 @@
 #include <QStyleOptionFocusRect>
 
 #include <cmath>
+#include <optional>
 
 namespace zor::platform::qt {
 
@@ -196,7 +197,7 @@ private:
     void prepare() override
     {
         // What the mouse can do, the keyboard can: Space and Enter click.
-        widget().installEventFilter(&m_keys);
+        widget().installEventFilter(&m_keys.emplace(*this));
         showPicture();
         if (backColour() != ButtonFace)
             paintColours();
@@ -232,7 +233,7 @@ private:
         QtImage& m_image;
     };
 
-    Keys m_keys{*this};
+    std::optional<Keys> m_keys;
     int m_picture = 0;
 };
 
