@@ -37,10 +37,9 @@ using ControlPtr = std::unique_ptr<T, ControlDeleter>;
 /// A numbered message: hosts look its text up by the identifier and replace it by the number.
 struct MessageRow {
     /// For an identifier and the property that holds the text.
-    template <class C>
-    constexpr MessageRow(std::string_view id, const Row<C, std::string>* text) noexcept
-        : identifier(id), property(text)
-    {}
+    template <class C, class T>
+    requires detail::isText<T>
+    constexpr MessageRow(std::string_view id, const Row<C, T>* text) noexcept : identifier(id), property(text) {}
 
     /// Under which a host looks the text up.
     std::string_view identifier;

@@ -133,7 +133,9 @@ void Control::assign(const PropertyRow& row, const Variant& value)
     }
     assert(row.field.at != nullptr); // what has neither is read-only, and refused above
     std::visit(
-        [&](auto* field) { write(row, *field, detail::convertTo<std::remove_pointer_t<decltype(field)>>(value)); },
+        [&](auto* field) {
+            write(row, *field, detail::convertTo<detail::Taken<std::remove_pointer_t<decltype(field)>>>(value));
+        },
         row.field.at(*this));
 }
 
@@ -220,7 +222,7 @@ void Control::s_UpdateStatusDisplay()
 void Control::showState(const StatusRow* state)
 {
     if (state == nullptr) {
-        body().front()->setToolTip(m_messages.defaultText);
+        body().front()->setToolTip(m_messages.defaultText.text());
         icon().setVisible(false);
         m_isDefaultShown = true;
     } else {
@@ -270,7 +272,7 @@ void Control::s_ExplainState()
         return;
     std::string text;
     state->boxText(*this, text);
-    const std::string title = m_info.boxTitle != nullptr ? m_info.boxTitle(*this) : m_messages.header;
+    const std::string title = m_info.boxTitle != nullptr ? m_info.boxTitle(*this) : m_messages.header.text();
     m_container.showMessage(*this, {state->boxIcon, title, text});
     if (state->acknowledged) {
         m_status.dataChanged = false;

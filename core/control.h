@@ -49,12 +49,12 @@ struct Status {
 
 /// The texts every control has, and the one that all editing controls add.
 struct Messages {
-    std::string header = "Zor";
-    std::string cFail = "Communication Failure !";
-    std::string dataNotAvailable = "Data Not Available";
-    std::string deviceTagNotFound = "Identifier Look Up Failed";
-    std::string defaultText;
-    std::string dataChanged = "Data Changed by other user ";
+    SharedText header = shared<"Zor">();
+    SharedText cFail = shared<"Communication Failure !">();
+    SharedText dataNotAvailable = shared<"Data Not Available">();
+    SharedText deviceTagNotFound = shared<"Identifier Look Up Failed">();
+    SharedText defaultText = shared<"">();
+    SharedText dataChanged = shared<"Data Changed by other user ">();
 };
 
 /// A control without a kind. Controls are created through their class (`create`) and owned by a ControlPtr.
@@ -262,8 +262,7 @@ protected:
     void write(const Row<C, T>& row, V&& value)
     {
         using Value = std::remove_cvref_t<V>;
-        static_assert(std::is_same_v<Value, T> ||
-                          (std::is_same_v<T, std::string> && std::is_same_v<Value, std::string_view>),
+        static_assert(std::is_same_v<Value, T> || (detail::isText<T> && std::is_same_v<Value, std::string_view>),
                       "the value has another type than the property");
         assert(row.in != nullptr); // a property that a function answers is not written into a field
         naming(m_info.name, row.name, [&] { write(row, row.in(*this), std::forward<V>(value)); });
@@ -405,15 +404,12 @@ std::optional<T> Control::replace(T& field, V&& value)
 {
     // Most texts that a new control is given stand there already, and texts are long. An equal number need not be
     // the same: 0 and -0, 16 bits and 32.
-    if constexpr (std::is_same_v<T, std::string>) {
+    if constexpr (detail::isText<T>) {
         if (field == value)
             return std::nullopt;
-        return std::exchange(field, T(std::forward<V>(value)));
     }
     // A copy, for the value may be the field's own.
-    std::optional<T> before(field);
-    field = std::forward<V>(value);
-    return before;
+    return std::exchange(field, T(std::forward<V>(value)));
 }
 
 template <class T, class V>

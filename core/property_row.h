@@ -105,7 +105,7 @@ consteval bool isConstantOf()
 {
     if constexpr (std::is_same_v<T, Variant>)
         return std::is_arithmetic_v<V> || std::is_convertible_v<V, std::string_view>;
-    else if constexpr (std::is_same_v<T, std::string>)
+    else if constexpr (isText<T>)
         return std::is_convertible_v<V, std::string_view>;
     else if constexpr (std::is_integral_v<T> && !std::is_same_v<T, bool>)
         return std::is_integral_v<V> && !std::is_same_v<V, bool>;

@@ -39,7 +39,12 @@ Variant valueOf(const FieldRef& field)
 
 void storeInto(const FieldRef& field, const Variant& value)
 {
-    std::visit([&](auto* at) { *at = detail::convertTo<std::decay_t<decltype(*at)>>(value); }, field);
+    std::visit(
+        [&](auto* at) {
+            using Field = std::decay_t<decltype(*at)>;
+            *at = Field(detail::convertTo<detail::Taken<Field>>(value));
+        },
+        field);
 }
 
 std::uint32_t detail::toColour(const Variant& value)

@@ -2,6 +2,7 @@
 
 /// The types that properties, arguments and results have, and what converts between them and values of any type.
 
+#include <zor/core/shared_text.h>
 #include <zor/platform/error.h>
 #include <zor/platform/macros_aside.h>
 #include <zor/platform/variant.h>
@@ -47,8 +48,8 @@ using Literal = std::variant<std::monostate, bool, std::int32_t, double, std::st
 [[nodiscard]] Variant toVariant(const Literal& literal);
 
 /// Where a control keeps a property.
-using FieldRef = std::variant<bool*, std::int16_t*, std::int32_t*, double*, std::string*, Variant*, UNIT_TYPE*,
-                              MEAS_TYPE*, REGISTER_TYPE*, ENTRY_TYPE*>;
+using FieldRef = std::variant<bool*, std::int16_t*, std::int32_t*, double*, std::string*, SharedText*, Variant*,
+                              UNIT_TYPE*, MEAS_TYPE*, REGISTER_TYPE*, ENTRY_TYPE*>;
 
 /// The value of a field.
 [[nodiscard]] Variant valueOf(const FieldRef& field);
@@ -72,6 +73,12 @@ inline void requireFinite(const Variant& value)
 namespace detail {
 
 template <class T>
+inline constexpr bool isText = std::is_same_v<T, std::string> || std::is_same_v<T, SharedText>;
+/// What a field of type T takes.
+template <class T>
+using Taken = std::conditional_t<isText<T>, std::string, T>;
+
+template <class T>
 consteval ValueKind kindOf()
 {
     if constexpr (std::is_same_v<T, bool>)
@@ -82,7 +89,7 @@ consteval ValueKind kindOf()
         return ValueKind::Int32;
     else if constexpr (std::is_same_v<T, double>)
         return ValueKind::Double;
-    else if constexpr (std::is_same_v<T, std::string> || std::is_same_v<T, std::string_view>)
+    else if constexpr (isText<T> || std::is_same_v<T, std::string_view>)
         return ValueKind::Text;
     else if constexpr (std::is_same_v<T, UNIT_TYPE>)
         return ValueKind::UnitType;
@@ -132,9 +139,9 @@ template <class T>
         return core::toVariant(literal);
     } else {
         using Kept = std::conditional_t<
-            std::is_same_v<T, std::string>, std::string_view,
+            isText<T>, std::string_view,
             std::conditional_t<std::is_same_v<T, bool> || std::is_same_v<T, double>, T, std::int32_t>>;
-        using Given = std::conditional_t<std::is_same_v<T, std::string>, std::string_view, T>;
+        using Given = std::conditional_t<isText<T>, std::string_view, T>;
         const auto* kept = std::get_if<Kept>(&literal);
         return kept != nullptr ? static_cast<Given>(*kept) : Given{};
     }
@@ -145,6 +152,8 @@ template <class T>
 {
     if constexpr (std::is_enum_v<T>)
         return static_cast<std::int32_t>(value);
+    else if constexpr (std::is_same_v<T, SharedText>)
+        return Variant(value.text());
     else
         return Variant(value);
 }

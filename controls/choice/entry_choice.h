@@ -12,7 +12,7 @@ namespace zor::controls {
 /// The state of a value that no entry stands for.
 struct InvalidMark {
     bool isSet = false;
-    std::string message = "Invalid Entry";
+    core::SharedText message = core::shared<"Invalid Entry">();
 };
 
 /// The back colour of a list: what cannot be edited looks like the form, what is edited stands out.
@@ -65,7 +65,7 @@ struct EntryChoiceRows {
     static constexpr std::array kStates{
         S::CommunicationFailure, S::TagNotFound, S::NoData, S::DataChangedByOther<Other, Reference>,
         core::StatusRow{[](const core::Control& c) { return mark(c).isSet; },
-                        [](const core::Control& c, std::string& text) { text += mark(c).message; },
+                        [](const core::Control& c, std::string& text) { text += mark(c).message.text(); },
                         frm_Container::Warning,
                         [](core::Control& c, std::string& text) { text.append(mark(c).message).append("\r\n"); },
                         platform::BoxIcon::Exclamation}};

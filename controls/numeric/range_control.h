@@ -30,7 +30,7 @@ protected:
 private:
     friend struct RangeRows;
 
-    std::string m_msgInvalidValue = "Invalid Entry";
+    core::SharedText m_msgInvalidValue = core::shared<"Invalid Entry">();
     bool m_invalidValue = false;
 };
 

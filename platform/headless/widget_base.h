@@ -4,6 +4,7 @@
 
 #include <zor/platform/widgets.h>
 
+#include <memory>
 #include <string>
 
 namespace zor::platform::headless {
@@ -58,8 +59,11 @@ public:
     void setEnabled(bool enabled) override { m_enabled = enabled; }
     [[nodiscard]] Colour backColour() const override { return m_backColour; }
     void setBackColour(Colour colour) override { m_backColour = colour; }
-    [[nodiscard]] std::string toolTip() const override { return m_toolTip; }
-    void setToolTip(std::string_view text) override { m_toolTip = text; }
+    [[nodiscard]] std::string toolTip() const override { return m_toolTip ? *m_toolTip : std::string(); }
+    void setToolTip(std::string_view text) override
+    {
+        m_toolTip = text.empty() ? nullptr : std::make_unique<const std::string>(text);
+    }
 
     [[nodiscard]] Host& host() const noexcept override { return m_host; }
     [[nodiscard]] int number() const noexcept override { return m_number; }
@@ -69,7 +73,7 @@ protected:
 
 private:
     Host& m_host;
-    std::string m_toolTip;
+    std::unique_ptr<const std::string> m_toolTip; ///< nullptr for none: most widgets never have one
     int m_number;
     Colour m_backColour;
     bool m_visible = true;

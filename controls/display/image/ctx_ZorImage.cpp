@@ -15,7 +15,7 @@ ctx_ZorImage::ctx_ZorImage(platform::Container& container)
     : Control(classInfo(), container, kDesignedSize, kDesignedSize),
       m_picture(surface().createImage(img_State, true)), m_body{m_picture.get()}
 {
-    m_messages.header = "Qex";
+    m_messages.header = core::shared<"Qex">();
     m_picture->setPicture(frm_Container::StatusOk);
     s_Layout();
 }

@@ -209,7 +209,7 @@ std::string ctx_ZorTextBox::rangeText() const
     const std::string_view unit = fc_GetUnitLabel(m_units.outputUnit);
     std::string text = m_entryMessages.invalid;
     text.append("  ").append(Variant(m_units.minParam).toText()).append(" ").append(unit);
-    text.append(" ").append(m_entryMessages.to).append(" ");
+    text.append(" ").append(m_entryMessages.to.text()).append(" ");
     text.append(Variant(m_units.maxParam).toText()).append(" ").append(unit);
     return text;
 }

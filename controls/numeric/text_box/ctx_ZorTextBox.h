@@ -115,10 +115,10 @@ private:
     struct Tables;
 
     struct EntryMessages {
-        std::string invalid = "Invalid Entry";
-        std::string to = "To";
-        std::string notANumber = "Invalid Entry";
-        std::string tooLong = "Text is too long. Please enter a shorter text.";
+        core::SharedText invalid = core::shared<"Invalid Entry">();
+        core::SharedText to = core::shared<"To">();
+        core::SharedText notANumber = core::shared<"Invalid Entry">();
+        core::SharedText tooLong = core::shared<"Text is too long. Please enter a shorter text.">();
     };
 
     /// What the text of a number follows from. The same value comes again and again, and keeps its text.

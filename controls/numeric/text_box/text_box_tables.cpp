@@ -26,11 +26,11 @@ struct ctx_ZorTextBox::States {
     {
         const ctx_ZorTextBox& box = self(control);
         if (!box.isNumeric())
-            text += box.m_entryMessages.tooLong;
+            text += box.m_entryMessages.tooLong.text();
         else if (box.m_invalidEntryEnable)
             text += box.rangeText();
         else
-            text += box.m_entryMessages.notANumber;
+            text += box.m_entryMessages.notANumber.text();
     }
 
     template <class C>
