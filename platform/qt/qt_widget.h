@@ -227,8 +227,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 };
 
-/// Whether a part has its Qt widget from the beginning, or from when there is first something to see of it: an icon
-/// or a unit that most controls never show is as much work as half the field beside it.
+/// Whether a part has its Qt widget from the beginning, or from when there is first something to see of it: an
+/// icon or a unit that most controls never show is as much work as half the field beside it.
 enum class Made : std::uint8_t { Now, WhenShown };
 
 /// The interface's settings over a Qt widget of type Q.
