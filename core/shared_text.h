@@ -18,20 +18,20 @@ class SharedText {
 public:
     /// Words, and whether they are kept for all.
     struct Kept {
-        std::string text;
-        bool isCommon = false;
+        std::string text;      ///< what is said
+        bool isCommon = false; ///< kept for all, and never given up
     };
 
     /// `common` must outlive the text.
     explicit SharedText(const Kept& common) noexcept : m_kept(&common) {}
     explicit SharedText(std::string_view own) : m_kept(new Kept{std::string(own)}) {}
-
+    /// What it says.
     [[nodiscard]] const std::string& text() const noexcept { return m_kept->text; }
-    operator const std::string&() const noexcept
+    operator const std::string&() const noexcept // NOLINT(google-explicit-constructor)
     {
         return text();
-    } // NOLINT(google-explicit-constructor): is a text
-    bool operator==(std::string_view other) const noexcept { return text() == other; }
+    } ///< The same, where a text is asked for.
+    bool operator==(std::string_view other) const noexcept { return text() == other; } ///< Whether it says this.
 
 private:
     struct Release {

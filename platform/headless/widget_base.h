@@ -62,7 +62,10 @@ public:
     [[nodiscard]] std::string toolTip() const override { return m_toolTip ? *m_toolTip : std::string(); }
     void setToolTip(std::string_view text) override
     {
-        m_toolTip = text.empty() ? nullptr : std::make_unique<const std::string>(text);
+        if (m_toolTip)
+            *m_toolTip = text;
+        else if (!text.empty())
+            m_toolTip = std::make_unique<std::string>(text);
     }
 
     [[nodiscard]] Host& host() const noexcept override { return m_host; }
@@ -73,7 +76,7 @@ protected:
 
 private:
     Host& m_host;
-    std::unique_ptr<const std::string> m_toolTip; ///< nullptr for none: most widgets never have one
+    std::unique_ptr<std::string> m_toolTip; ///< made with the first: most widgets never have one
     int m_number;
     Colour m_backColour;
     bool m_visible = true;
