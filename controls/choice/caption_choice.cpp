@@ -42,7 +42,6 @@ void CaptionChoice::s_Layout()
 {
     constexpr Twips kIndicator = 330; // left of the caption
     constexpr Twips kGap = 100;
-    constexpr Twips kIconTop = 25;
     const Twips height = surface().height();
     const bool isLow = height < m_layout.lowest;
     platform::Rect place = m_button->geometry();
@@ -50,7 +49,7 @@ void CaptionChoice::s_Layout()
     place.height = m_layout.lowest;
     place.top = isLow ? 0 : roundToInt32((height - m_layout.lowest) / 2);
     m_button->setGeometry(place);
-    const Twips iconTop = isLow ? kIconTop : place.top + m_layout.iconTop;
+    const Twips iconTop = isLow ? core::kIconTop : place.top + m_layout.iconTop;
     icon().setGeometry({place.left + place.width + kGap, iconTop, icon().width(), icon().height()});
 }
 

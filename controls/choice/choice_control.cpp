@@ -14,11 +14,9 @@ ChoiceControl::ChoiceControl(const core::ClassInfo& info, platform::Container& c
 
 void ChoiceControl::adopt(platform::FontWidget& face)
 {
-    constexpr platform::Twips kIconSize = 285;
-    constexpr platform::Twips kIconTop = 25;
     // After the face: the keyboard goes from one to the other in the order in which they are made.
     m_icon = surface().createImage(kState, false);
-    m_icon->setGeometry({0, kIconTop, kIconSize, kIconSize});
+    m_icon->setGeometry({0, core::kIconTop, core::kIconSize, core::kIconSize});
     assert(m_face == nullptr); // once, at the end of the class's constructor
     m_face = &face;
     m_body = {&face};

@@ -14,8 +14,6 @@ using platform::Twips;
 namespace {
 
 constexpr Twips kDesignedTextWidth = 1695;
-constexpr Twips kIconSize = 285;
-constexpr Twips kIconTop = 25;
 constexpr Twips kGap = 100;
 constexpr Twips kMinTextWidth = 100;
 
@@ -38,7 +36,7 @@ EntryField::EntryField(platform::Surface& surface)
 {
     m_text->setGeometry({0, 0, kDesignedTextWidth, kDesignedHeight});
     move(*m_units, kDesignedTextWidth + kGap, 0);
-    m_icon->setGeometry({kDesignedTextWidth + kGap, kIconTop, kIconSize, kIconSize});
+    m_icon->setGeometry({kDesignedTextWidth + kGap, core::kIconTop, core::kIconSize, core::kIconSize});
     m_heightMargin = surface.height() - m_text->height();
 }
 

@@ -6,12 +6,12 @@
 namespace zor {
 namespace {
 
-constexpr controls::CaptionLayout kLayout{330, 25};
+constexpr controls::CaptionLayout kCheckLayout{330, 25};
 
 } // namespace
 
 ctx_ZorCheckBox::ctx_ZorCheckBox(platform::Container& container)
-    : CaptionChoice(classInfo(), container, kLayout), m_check(surface().createCheckBox(chk_CheckBox))
+    : CaptionChoice(classInfo(), container, kCheckLayout), m_check(surface().createCheckBox(chk_CheckBox))
 {
     adopt(*m_check, "Check1");
 }

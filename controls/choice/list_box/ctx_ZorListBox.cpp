@@ -10,13 +10,12 @@ using platform::Twips;
 
 constexpr Twips kOneLine = 315; ///< lowest control that its list fills
 constexpr Twips kLowest = 285;  ///< a list is no lower
-constexpr Twips kIconTop = 25;  ///< of a control of one line
-constexpr platform::Rect kDesigned{0, 0, 2415, 1215};
+constexpr platform::Rect kDesignedList{0, 0, 2415, 1215};
 
 } // namespace
 
 ctx_ZorListBox::ctx_ZorListBox(platform::Container& container)
-    : ChoiceControl(classInfo(), container, kDesigned, UndoAt::Surface),
+    : ChoiceControl(classInfo(), container, kDesignedList, UndoAt::Surface),
       m_list(surface().createListBox(lst_ListBox)), m_entries(*m_list)
 {
     adopt(*m_list);
@@ -126,7 +125,7 @@ void ctx_ZorListBox::s_Layout()
     m_list->setGeometry(place);
     controls::layOutListWidth(area.width, *m_list, icon());
     platform::Rect iconPlace = icon().geometry();
-    iconPlace.top = (isLow ? 0 : roundToInt32((area.height - kOneLine) / 2)) + kIconTop;
+    iconPlace.top = (isLow ? 0 : roundToInt32((area.height - kOneLine) / 2)) + core::kIconTop;
     icon().setGeometry(iconPlace);
 }
 

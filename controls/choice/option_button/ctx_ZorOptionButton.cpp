@@ -5,12 +5,13 @@
 namespace zor {
 namespace {
 
-constexpr controls::CaptionLayout kLayout{315, 20};
+constexpr controls::CaptionLayout kOptionLayout{315, 20};
 
 } // namespace
 
 ctx_ZorOptionButton::ctx_ZorOptionButton(platform::Container& container)
-    : CaptionChoice(classInfo(), container, kLayout), m_option(surface().createOptionButton(opt_OptionButton))
+    : CaptionChoice(classInfo(), container, kOptionLayout),
+      m_option(surface().createOptionButton(opt_OptionButton))
 {
     adopt(*m_option, "option");
 }

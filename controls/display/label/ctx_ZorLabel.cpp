@@ -10,19 +10,17 @@ namespace {
 
 // The composite as designed; the container may give it any other size.
 constexpr Twips kDesignedWidth = 1800;
-constexpr Twips kIconSize = 285;
-
 constexpr Twips kGap = 100;
 
 } // namespace
 
 ctx_ZorLabel::ctx_ZorLabel(platform::Container& container)
-    : Control(classInfo(), container, kDesignedWidth, kIconSize), m_label(surface().createLabel(lbl_Label)),
+    : Control(classInfo(), container, kDesignedWidth, core::kIconSize), m_label(surface().createLabel(lbl_Label)),
       m_icon(surface().createImage(img_State, false)), m_body{m_label.get()}
 {
     m_label->setSelectable(true);
-    m_label->setGeometry({0, (kIconSize - m_label->height()) / 2, 0, m_label->height()});
-    m_icon->setGeometry({0, 0, kIconSize, kIconSize});
+    m_label->setGeometry({0, (core::kIconSize - m_label->height()) / 2, 0, m_label->height()});
+    m_icon->setGeometry({0, 0, core::kIconSize, core::kIconSize});
     s_PlaceIcon();
 }
 

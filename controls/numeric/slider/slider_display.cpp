@@ -14,8 +14,6 @@ namespace {
 constexpr Twips kTrackHeight = 510;
 constexpr Twips kLabelTop = 515;
 constexpr Twips kLabelHeight = 195;
-constexpr Twips kIconTop = 25;
-constexpr Twips kIconSize = 285;
 constexpr Twips kIconGap = 100;
 
 constexpr Twips kBesideTrack = 415;
@@ -49,7 +47,8 @@ void ctx_ZorSlider::s_PlaceAsDesigned()
 {
     m_track->setGeometry({0, 0, kDesignedWidth - kBesideTrack, kTrackHeight});
     m_icon->setVisible(false);
-    m_icon->setGeometry({kDesignedWidth - kBesideTrack + kIconGap, kIconTop, kIconSize, kIconSize});
+    m_icon->setGeometry(
+        {kDesignedWidth - kBesideTrack + kIconGap, core::kIconTop, core::kIconSize, core::kIconSize});
     for (const auto& label : m_labels)
         label->setGeometry({0, kLabelTop, 0, kLabelHeight});
 }
