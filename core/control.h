@@ -32,9 +32,9 @@ struct Binding {
     std::int16_t typeIndex = 0; ///< position of deviceType in typesSupported, -1 when it is not there
 };
 
-/// In twips: the state icon is a square of this size, and this far from the top of a control of one line.
+/// In twips: the state icon is a square of this size.
 inline constexpr platform::Twips kIconSize = 285;
-inline constexpr platform::Twips kIconTop = 25;
+inline constexpr platform::Twips kIconTop = 25; ///< In twips: from the top of a control of one line to its icon.
 
 /// The flags that decide what the operator sees. A control that does not publish one never sets it.
 struct Status {
