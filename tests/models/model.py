@@ -357,7 +357,7 @@ class Model(Steps):
         if not self.button(widget, 1, "MouseDown"):
             return False
         # A handler may make the widget narrower than where it is pressed.
-        over = widget not in self.AT or self.point[0] < max(15, self[widget + ".Width"])
+        over = self.point[0] < max(15, self[widget + ".Width"])
         return self.button(widget, 1, "MouseUp") and over
 
     def click(self, widget):
