@@ -126,9 +126,7 @@ public:
     [[nodiscard]] std::int32_t value() const override { return widget().value(); }
     void setValue(std::int32_t value) override
     {
-        const bool before = std::exchange(m_setting, true);
-        widget().setValue(value);
-        m_setting = before;
+        set([&] { widget().setValue(value); });
     }
     [[nodiscard]] std::int32_t minimum() const override { return m_ends.minimum; }
     [[nodiscard]] std::int32_t maximum() const override { return m_ends.maximum; }
@@ -157,10 +155,18 @@ public:
     [[nodiscard]] bool hasFocus() const override { return focusReported; }
 
 private:
+    /// While the operator drags, Qt calls every way the handle moves his own, also where a handler sets value or ends.
+    template <class Action>
+    void set(Action&& action)
+    {
+        const bool before = std::exchange(m_setting, true);
+        action();
+        m_setting = before;
+    }
     void applyEnds()
     {
         // Qt would move the upper end along with the lower one.
-        widget().setRange(m_ends.minimum, std::max(m_ends.minimum, m_ends.maximum));
+        set([&] { widget().setRange(m_ends.minimum, std::max(m_ends.minimum, m_ends.maximum)); });
         widget().setSingleStep(1);
         widget().setPageStep(pageStep(m_ends));
     }

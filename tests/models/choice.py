@@ -2,7 +2,7 @@
 
 from model import step, way_of_a_value
 from valued import BINDING, FIVE, Valued
-from values import PLACE, names, written
+from values import PLACE, Unsaid, names, written
 
 HEAD = "DataModified WaitingForData DeviceValue OutputValue" + BINDING
 TAIL = " MsgDeviceTagNotFound MsgDefault IconEnable ReadOnly DeviceType DeviceVersion RegisterType EnableControl"
@@ -348,11 +348,17 @@ class ListBox(Choice):
         elif last >= 0 and to != self.current:
             self.go(to)
 
+    def scrolls(self):
+        return self["lst_ListBox.Height"] < 120 + 270 * len(self.entries) or self["lst_ListBox.Width"] < 700
+
+    def button(self, widget, which, end):
+        if widget == "lst_ListBox" and self.scrolls():
+            raise Unsaid  # each platform clicks it somewhere else
+        return super().button(widget, which, end)
+
     def random_do(self, random):
         step = super().random_do(random)
-        # A list that has to scroll is clicked elsewhere on every platform.
-        scrolls = self["lst_ListBox.Height"] < 120 + 270 * len(self.entries) or self["lst_ListBox.Width"] < 700
-        return ("do", "lst_ListBox", "key", 32) if scrolls and step[1] == "lst_ListBox" and step[2] != "blur" else step
+        return ("do", "lst_ListBox", "key", 32) if self.scrolls() and step[1] == "lst_ListBox" and step[2] != "blur" else step
 
     def arguments(self, random, widget, action):
         if action == "toggle":

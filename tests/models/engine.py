@@ -17,7 +17,7 @@ import pages
 import slider
 import text_box
 import toggles
-from values import Colour, TooDeep, written
+from values import Colour, Unsaid, written
 
 MODELS = {**display.CONTROLS, **numeric.CONTROLS, **slider.CONTROLS, **text_box.CONTROLS, **choice.CONTROLS, **toggles.CONTROLS,
           **pages.CONTROLS}
@@ -86,7 +86,7 @@ class Player:
                 for step in control.random_steps(rng):
                     script.append(control.play(step))
                     steps.append(step)
-        except TooDeep:
+        except Unsaid:
             pass
         return steps, script
 
@@ -99,7 +99,7 @@ class Player:
         try:
             for step in steps:
                 script.append(control.play(step))
-        except TooDeep:
+        except Unsaid:
             return None
         return script
 

@@ -2,7 +2,7 @@
 
 from steps import Steps
 from units import Overflow
-from values import BEGIN, DEFAULTS, DESIGNED, EFFECTS, KEYS, PLACE, SILENT, Colour, TooDeep, type_index, version_fails, written
+from values import BEGIN, DEFAULTS, DESIGNED, EFFECTS, KEYS, PLACE, SILENT, Colour, Unsaid, type_index, version_fails, written
 
 
 def in_order(newer):
@@ -158,7 +158,7 @@ class Model(Steps):
                 arguments[command[1]] = command[2]
                 continue
             if self.depth > 3:
-                raise TooDeep
+                raise Unsaid
             self.depth += 1
             self.perform(command)
             self.depth -= 1

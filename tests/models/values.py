@@ -48,8 +48,8 @@ YELLOW, RED, BLACK = Colour("#FFFF00"), Colour("#FF0000"), Colour("ButtonText")
 FACE, WINDOW = Colour("ButtonFace"), Colour("WindowBackground")
 
 
-class TooDeep(Exception):
-    """Handlers that call each other: the history ends before."""
+class Unsaid(Exception):
+    """What a model does not say, as of handlers that go on calling each other: the history ends before."""
 
 
 @functools.lru_cache(100_000)
