@@ -2,7 +2,8 @@
 
 from steps import Steps
 from units import Overflow
-from values import BEGIN, DEFAULTS, DESIGNED, EFFECTS, KEYS, PLACE, SILENT, Colour, Unsaid, type_index, version_fails, written
+from values import (BEGIN, DEFAULTS, DESIGNED, EFFECTS, KEYS, NOTATION, PLACE, SILENT, Colour, Unsaid, type_index, version_fails,
+                    written)
 
 
 def in_order(newer):
@@ -116,6 +117,10 @@ class Model(Steps):
             getattr(self, effect)()
 
     OWN_SILENT = ()
+
+    def get(self, name):
+        shown = self.look(name)
+        self.out.append(NOTATION[type(shown)](shown))
 
     def call(self, method, *arguments):
         answer = getattr(self, method)(*arguments)

@@ -68,18 +68,19 @@ class Slider(Numeric):
     def show_limits(self, which):
         for end in which:
             self.caption(f"lbl_{end}Value", plain(self[end + "ParamValue"] / self["ScaleFactor"], self.form.decimal))
-        self.layout()
 
     def put_MinValue(self):
         self["MinParamValue"] = self.limit(self["MinValue"]) * self["ScaleFactor"]
         self.show_limits(["Min"])
         self.ends(low=whole(self["MinParamValue"]))
+        self.layout()
 
     def put_MaxValue(self):
         self["MaxParamValue"] = self.limit(self["MaxValue"]) * self["ScaleFactor"]
         if self["MaxParamValue"] > self["MinParamValue"]:
             self.ends(high=whole(self["MaxParamValue"]))
         self.show_limits(["Max"])
+        self.layout()
 
     # --- Values
 

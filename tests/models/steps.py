@@ -19,6 +19,8 @@ class Steps:
         kind, *rest = step
         if kind == "put":
             return f"put c.{rest[0]} {written(rest[1])}"
+        if kind == "get":
+            return f"get c.{rest[0]}"
         if kind == "call":
             return " ".join([f"call c.{rest[0]}", *map(written, rest[1:])])
         if kind == "do":
@@ -79,7 +81,7 @@ class Steps:
         **names("EnableControl IconEnable", (True, True, False)),
     }
     UNHANDLED = ()
-    HANDLED = ("put", "put", "put", "call", "destroy")
+    HANDLED = ("put", "put", "put", "get", "get", "get", "call", "destroy")
 
     def value(self, random, name):
         pool = {**Steps.VALUES, **self.VALUES}.get(name)
@@ -93,7 +95,9 @@ class Steps:
         return ("put", name, self.value(random, name))
 
     OFTEN = ()
-    CALLS = ()
+
+    def random_get(self, random):
+        return ("get", random.choice(random.choice(self.groups)[1]))
 
     def random_call(self, random):
         colour = random.choice((0, 255, 0x336699, FACE))
