@@ -155,7 +155,8 @@ public:
     [[nodiscard]] bool hasFocus() const override { return focusReported; }
 
 private:
-    /// While the operator drags, Qt calls every way the handle moves his own, also where a handler sets value or ends.
+    /// While the operator drags, Qt calls every way the handle moves his own, also where a handler sets value or
+    /// ends.
     template <class Action>
     void set(Action&& action)
     {
