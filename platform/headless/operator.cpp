@@ -234,7 +234,12 @@ void HeadlessOperator::drag(Track& track, std::int32_t position)
     }
 }
 
-void HeadlessOperator::open(ComboBox& box) { base(box).report(Notice::DropDown); }
+void HeadlessOperator::open(ComboBox& box)
+{
+    // Who heard of the focus may have locked it.
+    if (!box.isLocked())
+        base(box).report(Notice::DropDown);
+}
 
 void HeadlessOperator::pick(ComboBox& box, std::int32_t index)
 {

@@ -123,6 +123,12 @@ void QtOperator::dropFocus(Widget& widget)
     QWidget& target = base(widget).qwidget();
     const bool hadFocus = target.hasFocus();
     target.clearFocus();
+    // One that was hidden with its list open would be given the focus when it is shown; nobody else's has come
+    // between.
+    if (target.isHidden()) {
+        target.window()->setFocus();
+        target.window()->clearFocus();
+    }
     // A host that kept the focus could not get it back into a field that is frozen or hidden.
     if (!hadFocus)
         leave(target);

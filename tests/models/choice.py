@@ -173,12 +173,13 @@ class ComboBox(Choice):
         self.current = index
         self.chosen()
 
-    def dropdown(self, widget):
-        self.emit("ComboDropDown")
+    def dropdown(self, widget="cbo_ComboBox"):
+        if not self.locked():
+            self.emit("ComboDropDown")
 
     def struck(self, widget, code):
-        if code == 32 and not self.locked():
-            return self.dropdown(widget)
+        if code == 32:
+            return self.dropdown()
         last = len(self.entries) - 1
         to = {40: min(self.current + 1, last), 38: max(self.current - 1, 0), 36: 0, 35: last}.get(code, self.current)
         if not self.locked() and last >= 0 and to != self.current:

@@ -2,8 +2,7 @@
 
 from steps import Steps
 from units import Overflow
-from values import (BEGIN, DEFAULTS, DESIGNED, EFFECTS, KEYS, NOTATION, PLACE, SILENT, Colour, Unsaid, type_index, version_fails,
-                    written)
+from values import (BEGIN, DEFAULTS, DESIGNED, EFFECTS, KEYS, PLACE, SILENT, Colour, Unsaid, type_index, version_fails, written)
 
 
 def in_order(newer):
@@ -118,9 +117,8 @@ class Model(Steps):
 
     OWN_SILENT = ()
 
-    def get(self, name):
-        shown = self.look(name)
-        self.out.append(NOTATION[type(shown)](shown))
+    def get(self, *names):
+        self.out.append(self.line(self.now(), names))
 
     def call(self, method, *arguments):
         answer = getattr(self, method)(*arguments)

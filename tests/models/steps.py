@@ -20,7 +20,7 @@ class Steps:
         if kind == "put":
             return f"put c.{rest[0]} {written(rest[1])}"
         if kind == "get":
-            return f"get c.{rest[0]}"
+            return "get " + " ".join("c." + name for name in rest)
         if kind == "call":
             return " ".join([f"call c.{rest[0]}", *map(written, rest[1:])])
         if kind == "do":
@@ -61,9 +61,16 @@ class Steps:
             self.form.boxes = boxes
         return done, self.seen()
 
+    @staticmethod
+    def line(now, names):
+        return " ".join([NOTATION[type(now[name])](now[name]) for name in names])
+
+    def now(self):
+        return {**self.s, **{name: self.look(name) for name in self.READ_AS}}
+
     def seen(self):
-        now = {**self.s, **{name: self.look(name) for name in self.READ_AS}}
-        seen = [(asked, [" ".join([NOTATION[type(now[name])](now[name]) for name in group])]) for asked, group in self.groups]
+        now = self.now()
+        seen = [(asked, [self.line(now, group)]) for asked, group in self.groups]
         seen += [("events c", [" ".join(self.events) or "-"]), ("notices c", [" ".join(self.notices) or "-"]),
                  ("boxes", self.form.boxes or ["-"]), ("menu", [self.form.menu])]
         self.events, self.notices, self.form.boxes = [], [], []
@@ -97,7 +104,7 @@ class Steps:
     OFTEN = ()
 
     def random_get(self, random):
-        return ("get", random.choice(random.choice(self.groups)[1]))
+        return ("get", *random.choice(self.groups)[1])
 
     def random_call(self, random):
         colour = random.choice((0, 255, 0x336699, FACE))

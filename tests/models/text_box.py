@@ -72,7 +72,7 @@ class TextBox(Numeric):
     def equals_display(self):
         text = self["txt_TextBox.Text"]
         if self["EntryType"] == 0:
-            return text == self.text_of(self.display) or text == self.shown
+            return text == self.text_of(self.display)
         number = self.number()
         return number is not None and number in (self.value_of(self.display), self.value_of(self.shown))
 

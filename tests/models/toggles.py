@@ -91,10 +91,10 @@ class CheckBox(Toggle):
 
     def changed(self):
         overtaken = self.under_way()
-        on = bool(self["chk_CheckBox.Value"])
-        self["DataModified"] = on != self.reference
         if self.locked():
             return
+        on = bool(self["chk_CheckBox.Value"])
+        self["DataModified"] = on != self.reference
         self.emit("DataModifiedSetTrue" if on != self.reference else "DataModifiedReset")
         if not overtaken():
             self.assign(self["OutputValue"] | self.mask() if on else self["OutputValue"] & ~self.mask())
@@ -114,7 +114,7 @@ class CheckBox(Toggle):
     def take(self, value, from_device):
         steps = super().take(value, from_device)
         next(steps)
-        if self.locked():
+        if self.locked() and not from_device:
             self["DataModified"] = bool(self["chk_CheckBox.Value"]) != self.reference
         yield
 
@@ -127,8 +127,10 @@ class CheckBox(Toggle):
             else:
                 self.show(self.reference)
             yield
-            self.assign(self["DeviceValue"])
+            if self.locked():
+                self["DataModified"] = False
             self.colors()
+            self.assign(self["DeviceValue"])
 
 
 class OptionButton(Toggle):
