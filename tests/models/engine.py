@@ -45,7 +45,7 @@ class Form:
         return self.cache[lines]
 
     def designed(self, name, aspects):
-        """Places and colours as designed: of a fresh control, where no rule says otherwise."""
+        """Colours as designed and what fonts decide: of a fresh control, where no rule says otherwise."""
         known = self.cache.get(name)
         if known is None:
             said = self.ask(f"new {name} c", "get " + " ".join("c." + aspect for aspect in aspects))

@@ -2,7 +2,8 @@
 
 from steps import Steps
 from units import Overflow
-from values import (BEGIN, DEFAULTS, DESIGNED, EFFECTS, KEYS, PLACE, SILENT, Colour, Unsaid, type_index, version_fails, written)
+from values import (BEGIN, DEFAULTS, DESIGNED, EFFECTS, KEYS, PLACE, SILENT, Colour, Unsaid, places, type_index,
+                    version_fails, written)
 
 
 def in_order(newer):
@@ -63,7 +64,8 @@ class Model(Steps):
     def create(self):
         self.s = {**{name: self.DEFAULTS.get(name, DEFAULTS.get(name)) for name in self.stored}, "MessageHeader": "Zor",
                   **{name: BEGIN[name.split(".")[1]] for name in self.aspects if name.split(".")[1] in BEGIN},
-                  **self.form.designed(self.CLASS, [name for name in self.aspects if name.split(".")[1] in DESIGNED])}
+                  **self.form.designed(self.CLASS, [name for name in self.aspects if name.split(".")[1] in DESIGNED]),
+                  **places(self.CLASS)}
         self.index, self.dead, self.focused, self.turn = 0, False, None, 0
         self["img_State.Visible"], self["img_State.Picture"] = False, 0
         self.created()

@@ -36,6 +36,29 @@ SILENT = set("MessageHeader DataModified ModifiedValue OtherUserValue".split())
 
 PLACE = "Left Top Width Height Visible Enabled"
 DESIGNED = "Left Top Width Height BackColor ForeColor".split()
+# Where the parts of a new control are, as they were drawn; what its font decides is asked from the platform.
+_ICON, _ASKED = (285, 285), None
+_TEXT = {"Surface": (3000, 315), "txt_TextBox": (0, 0, 1695, 315), "lbl_Units": (_ASKED, 60, 0, 195)}
+PLACES = {
+    "ctx_ZorTextBox": {**_TEXT, "img_State": (1895, 15, *_ICON)},
+    "ctx_ZorUpDown": {**_TEXT, "upd_UpDown": (1695, 0, 240, 315), "img_State": (2135, 15, *_ICON)},
+    "ctx_ZorSlider": {"Surface": (3000, 770), "sld_Slider": (0, 0, 2585, 510), "img_State": (2685, 25, *_ICON),
+                      **{f"lbl_{end}{part}": (_ASKED, 515, _ASKED, 195) for end in ("Min", "Max")
+                         for part in ("Prefix", "Value", "Unit")}},
+    "ctx_ZorComboBox": {"Surface": (2415, 315), "cbo_ComboBox": (0, 0, 2000, 315), "img_State": (2100, 25, *_ICON)},
+    "ctx_ZorListBox": {"Surface": (2415, 1215), "lst_ListBox": (0, 0, 2000, 1215), "img_State": (2100, 475, *_ICON)},
+    "ctx_ZorCheckBox": {"Surface": (2000, 330), "chk_CheckBox": (0, 0, _ASKED, 330), "img_State": (_ASKED, 25, *_ICON)},
+    "ctx_ZorOptionButton": {"Surface": (2000, 315), "opt_OptionButton": (0, 0, _ASKED, 315), "img_State": (_ASKED, 20, *_ICON)},
+    "ctx_ZorLabel": {"Surface": (1800, 285), "lbl_Label": (0, 45, _ASKED, 195), "img_State": (_ASKED, 0, *_ICON)},
+    "ctx_ZorImage": {"Surface": (480, 480), "img_State": (0, 0, 480, 480)},
+}
+
+
+def places(control):
+    return {f"{part}.{aspect}": float(number) for part, numbers in PLACES[control].items()
+            for aspect, number in zip(("Left", "Top", "Width", "Height")[-len(numbers):], numbers) if number is not None}
+
+
 BEGIN = {**names("Visible Enabled", True), **names("FontBold FontItalic Locked", False), **names("Caption Text ToolTipText", ""),
          **names("SelStart SelLength Picture Value", 0)}
 
