@@ -31,8 +31,11 @@ public:
 
     void run()
     {
+        // Before anything reads all of it.
         if (m_text.size() > kMostBytes)
             fail("the form is too large");
+        if (platform::validUtf8(m_text) != m_text)
+            throw FormError(m_file, 0, "the form is not in UTF-8");
         const auto control = std::ranges::find_if(m_text, [](char c) {
             const auto byte = static_cast<unsigned char>(c);
             return byte < 0x20 && kBlanks.find(c) == npos;
@@ -216,11 +219,6 @@ std::size_t lineOf(string_view text, std::size_t position) noexcept
     return 1 + static_cast<std::size_t>(std::ranges::count(text.substr(0, position), '\n'));
 }
 
-void checkXml(string_view text, string_view file)
-{
-    if (platform::validUtf8(text) != text)
-        throw FormError(file, 0, "the form is not in UTF-8");
-    Check(text, file).run();
-}
+void checkXml(string_view text, string_view file) { Check(text, file).run(); }
 
 } // namespace zor::forms
