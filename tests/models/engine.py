@@ -192,6 +192,8 @@ def prove(zorsh, platform):
 
 
 def main():
+    if sys.argv[1:] == ["--kinds"]:
+        return print(*MODELS)
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("zorsh")
     parser.add_argument("kind", choices=[*MODELS, "wrong"])
