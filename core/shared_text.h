@@ -27,11 +27,11 @@ public:
     explicit SharedText(std::string_view own) : m_kept(new Kept{std::string(own)}) {}
     /// What it says.
     [[nodiscard]] const std::string& text() const noexcept { return m_kept->text; }
-    operator const std::string&() const noexcept // NOLINT(google-explicit-constructor)
-    {
-        return text();
-    } ///< The same, where a text is asked for.
-    bool operator==(std::string_view other) const noexcept { return text() == other; } ///< Whether it says this.
+    /// The same, where a text is asked for.
+    // NOLINTNEXTLINE(google-explicit-constructor)
+    operator const std::string&() const noexcept { return text(); }
+    /// Whether it says this.
+    bool operator==(std::string_view other) const noexcept { return text() == other; }
 
 private:
     struct Release {
