@@ -288,7 +288,7 @@ class UpDown(Numeric):
             if taken != number:
                 self.set_text(str(taken))
             yield
-            self.set_spin(whole(taken))
+            self.set_spin(whole(self.number()))
             yield
             self.assign(whole(self.back(whole(self.number()))))
         yield

@@ -305,13 +305,14 @@ void ctx_ZorUpDown::s_CommitEntry()
         return;
     const auto underWay = valueUnderWay();
     if (const std::optional<double> number = m_field.number()) {
-        const double taken = cut(*number);
-        if (taken != *number)
+        if (const double taken = cut(*number); taken != *number)
             showNumber(roundToInt32(taken));
-        if (!isOvertaken(underWay))
-            spinToNumber(taken);
-        if (!isOvertaken(underWay))
-            assignEntry(taken);
+        // What is shown by then: who heard of it may have chosen another unit.
+        const auto shown = [&] { return isOvertaken(underWay) ? std::nullopt : m_field.number(); };
+        if (const std::optional<double> taken = shown())
+            spinToNumber(cut(*taken));
+        if (const std::optional<double> taken = shown())
+            assignEntry(cut(*taken));
     } else {
         showNumber(m_spin->value());
     }
