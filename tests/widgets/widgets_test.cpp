@@ -266,7 +266,9 @@ TEST(Widgets, ADataMapperTakesThemAsItTakesASpinBox)
     QTest::qWait(0);
     EXPECT_EQ(model.data(model.index(1, 0)).toDouble(), 12.345) << "what nobody edited is not rounded";
     box->setFocus();
-    QTest::keyClicks(box->focusProxy(), "999");
+    QTest::keyClicks(box->focusProxy(), "100");
+    EXPECT_EQ(box->value(), 100) << "the limit is an entry";
+    QTest::keyClicks(box->focusProxy(), "1");
     EXPECT_EQ(box->value(), 12.345) << "what is no valid entry";
 }
 
