@@ -90,7 +90,8 @@ std::string write(double value, int decimals)
     // The largest numbers round up to none.
     if (!again)
         return std::fabs(value) > 1.7976931348623e308 ? std::string() : "unreadable: " + plain;
-    if (std::fabs(again->value - value) > std::fabs(value) * 5.1e-15 + 1e-323 ||
+    // Half a unit of the fifteenth digit, of the shortest text of the number instead of itself.
+    if (std::fabs(again->value - value) > std::fabs(value) * 5.3e-15 + 1e-323 ||
         platform::doubleToText(again->value) != plain)
         return "not the same again: " + plain;
     return {};
