@@ -81,7 +81,7 @@ class Steps:
     TEXTS = ("", "a", "Zor", "one two", "°C \"x\"")
     VALUES = {
         "DeviceTypeSupported": ("", "A", "A, b ,C", "Zor,,B"), "DeviceType": ("", "A", " b", "c", "x"),
-        **names("DeviceMinVersionSupported DeviceMaxVersionSupported", ("", "1.5", "1.0,,2.0", "9", "2.10,1")),
+        **names("DeviceMinVersionSupported DeviceMaxVersionSupported", ("", "1.5", "9,,2.1", "9", "2.10,1,9", "1,2,1")),
         "DeviceVersion": ("", "1.4", "1.10", "2.3", "10", "2"), "RegisterType": (0, 0, 0, 1),
         **names("CFail DataNotAvailable DeviceTagNotFound WaitingForData ReadOnly DeviceTypeNotSupported"
                 " DeviceVerNotSupported", (False, False, True)),
