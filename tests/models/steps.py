@@ -103,9 +103,6 @@ class Steps:
 
     OFTEN = ()
 
-    def random_get(self, random):
-        return ("get", *random.choice(self.groups)[1])
-
     def random_call(self, random):
         colour = random.choice((0, 255, 0x336699, FACE))
         number = random.randint(-1, len(self.MESSAGES) + 1)
@@ -146,7 +143,11 @@ class Steps:
         event = random.choice(sorted(self.raised.difference(self.UNHANDLED)))
         changed = next((change for end, change in CHANGES.items() if event.endswith(end)), None)
         kind = random.choice(self.HANDLED)
-        inner = ("destroy",) if kind == "destroy" else getattr(self, "random_" + kind)(random)
-        first = ("set", *changed) if changed and random.random() < 0.5 else ("run", inner)
-        return [("host", event, *first), *itertools.chain.from_iterable(
+        if changed and random.random() < 0.5:
+            first = [("set", *changed)]
+        elif kind == "get":
+            first = [("run", ("get", *group)) for _, group in self.groups]
+        else:
+            first = [("run", ("destroy",) if kind == "destroy" else getattr(self, "random_" + kind)(random))]
+        return [*(("host", event, *one) for one in first), *itertools.chain.from_iterable(
             self.random_steps(random)[:1] for _ in range(3)), ("host", event, "off")]
