@@ -104,7 +104,11 @@ void EventReports::after()
         m_widget.report(Notice::KeyUp, std::array<ArgRef, 2>{&code, &shift});
         break;
     }
-    case QEvent::MouseButtonPress: mouse(Notice::MouseDown); break;
+    case QEvent::MouseButtonPress:
+        // Of a double click whose handler froze the widget the end is never heard.
+        m_widget.doubleClicked = false;
+        mouse(Notice::MouseDown);
+        break;
     case QEvent::MouseMove: mouse(Notice::MouseMove); break;
     case QEvent::MouseButtonDblClick:
         m_widget.doubleClicked = true;

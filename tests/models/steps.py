@@ -140,14 +140,16 @@ class Steps:
             return [("store",)]
         if chance < 0.92:
             return [("form", "usermode", random.choice(("on", "off"))), self.random_put(random), ("form", "usermode", "on")]
-        event = random.choice(sorted(self.raised.difference(self.UNHANDLED)))
+        kind, heard = random.choice(self.HANDLED), sorted(self.raised.difference(self.UNHANDLED))
+        if kind == "get":
+            looks = [("host", event, "run", ("get", *group)) for event in heard for _, group in self.groups]
+            return [("both", *looks), *self.few(random), ("both", *(("host", event, "off") for event in heard))]
+        event = random.choice(heard)
         changed = next((change for end, change in CHANGES.items() if event.endswith(end)), None)
-        kind = random.choice(self.HANDLED)
+        first = ("run", ("destroy",) if kind == "destroy" else getattr(self, "random_" + kind)(random))
         if changed and random.random() < 0.5:
-            first = [("set", *changed)]
-        elif kind == "get":
-            first = [("run", ("get", *group)) for _, group in self.groups]
-        else:
-            first = [("run", ("destroy",) if kind == "destroy" else getattr(self, "random_" + kind)(random))]
-        return [*(("host", event, *one) for one in first), *itertools.chain.from_iterable(
-            self.random_steps(random)[:1] for _ in range(3)), ("host", event, "off")]
+            first = ("set", *changed)
+        return [("host", event, *first), *self.few(random), ("host", event, "off")]
+
+    def few(self, random):
+        return itertools.chain.from_iterable(self.random_steps(random)[:1] for _ in range(3))

@@ -37,7 +37,7 @@ void ctx_ZorOptionButton::s_ApplyEnumValue()
     const bool isOn = m_enumValue == m_entryValue;
     s_Select(isOn);
     // A button that was selected before makes no click, and stays the choice that it is.
-    m_status.dataModified = wasOn && isOn && !isInputLocked() && m_enumValue != m_reference;
+    m_status.dataModified = wasOn && isOn && !m_isArmed && !isInputLocked() && m_enumValue != m_reference;
     m_outputValue = m_enumValue;
     s_UpdateStatusDisplay();
     s_UpdateColors();
