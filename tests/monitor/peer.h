@@ -6,6 +6,7 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
+#include <gtest/gtest.h>
 
 #include <array>
 #include <functional>
@@ -49,7 +50,10 @@ public:
                 socket->abort();
         }
     }
-    void revive(quint16 port) { listen(QHostAddress::LocalHost, port); }
+    void revive(quint16 port)
+    {
+        EXPECT_TRUE(listen(QHostAddress::LocalHost, port)) << "the port is somebody else's";
+    }
 
 private:
     void receive(QTcpSocket& socket)

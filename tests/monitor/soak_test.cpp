@@ -26,12 +26,12 @@ std::string parametersOf(int tags)
 
 /// As soon as it is so; qWaitFor looks every ten milliseconds.
 template <class Condition>
-void await(Condition condition)
+bool await(Condition condition)
 {
     QElapsedTimer clock;
     for (clock.start(); !condition() && clock.elapsed() < 10 * kPatience;)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    ASSERT_TRUE(condition()) << "hangs";
+    return condition();
 }
 
 /// One form: a hundred rounds, each with an edit that is written, and in the middle the connection is lost.
@@ -46,12 +46,12 @@ void play(Host& host, Peer& peer)
         if (edit == kEdits / 2)
             peer.sockets.back()->abort();
         const int next = host.session->poller().rounds() + 1;
-        await([&] { return host.session->poller().rounds() >= next && !host.box("P0").CFail(); });
+        ASSERT_TRUE(await([&] { return host.session->poller().rounds() >= next && !host.box("P0").CFail(); }));
         std::optional<std::vector<Written>> heard;
         host.session->onWritten = [&](const std::vector<Written>& results) { heard = results; };
         host.type("P0", std::to_string(edit));
         ASSERT_TRUE(host.session->write(host.session->pending()));
-        await([&] { return heard.has_value(); });
+        ASSERT_TRUE(await([&] { return heard.has_value(); }));
         ASSERT_EQ(only(*heard), WriteOutcome::Written);
         ASSERT_EQ(peer.registers[0], edit);
     }
@@ -85,6 +85,7 @@ TEST(Soak, ADayOfPollingLeavesNothingBehind)
         peer.functions.clear();
         std::erase_if(peer.sockets, [](const auto& socket) { return socket == nullptr; });
     }
+    ASSERT_TRUE(before) << "no form went well";
     QTest::qWait(100); // sockets end with the next events
     const Held after;
     EXPECT_LT(after.memory, before->memory + 1'000'000);

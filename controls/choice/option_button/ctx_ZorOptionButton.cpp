@@ -36,7 +36,8 @@ void ctx_ZorOptionButton::s_ApplyEnumValue()
     const bool wasOn = m_option->isOn();
     const bool isOn = m_enumValue == m_entryValue;
     s_Select(isOn);
-    // A button that was selected before makes no click, and stays the choice that it is.
+    // A button that was selected before makes no click, and stays the choice that it is; one selected anew is
+    // judged by its click.
     m_status.dataModified = wasOn && isOn && !m_isArmed && !isInputLocked() && m_enumValue != m_reference;
     m_outputValue = m_enumValue;
     s_UpdateStatusDisplay();
