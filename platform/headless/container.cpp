@@ -11,19 +11,15 @@ namespace {
 class SurfaceHost : public Host {
 public:
     SurfaceHost(HeadlessContainer& container, WidgetListener& listener)
-        : m_container(container), m_listener(listener)
+        : Host(listener, container.failures()), m_container(container)
     {}
 
-    [[nodiscard]] WidgetListener& listener() noexcept override { return m_listener; }
     [[nodiscard]] Widget* focused() const noexcept override { return m_container.focused(); }
     void setFocused(Widget* widget) noexcept override { m_container.setFocused(widget); }
     void forget(const Widget& widget) noexcept override { m_container.forget(widget); }
 
 protected:
     HeadlessContainer& m_container;
-
-private:
-    WidgetListener& m_listener;
 };
 
 /// A control's area. The host is a base so that it outlives the widget's own end.

@@ -50,6 +50,8 @@ public:
         if (m_focused == &widget)
             m_focused = nullptr;
     }
+    /// What handlers throw at the operator's actions.
+    [[nodiscard]] Failures& failures() noexcept { return m_failures; }
     /// A menu opened; nullptr: it closed.
     void setOpenMenu(HeadlessMenu* menu) noexcept { m_openMenu = menu; }
     /// @}
@@ -57,6 +59,7 @@ public:
 private:
     Widget* m_focused = nullptr;
     HeadlessMenu* m_openMenu = nullptr;
+    Failures m_failures;
     bool m_userMode = false;
 };
 

@@ -133,8 +133,9 @@ void strike(Widget& widget, std::int16_t code, std::int16_t ascii, Action&& acti
 
 void HeadlessOperator::holding(Widget& widget, const std::function<void()>& action)
 {
-    const Hold hold(base(widget).host().listener());
-    action();
+    const Host& host = base(widget).host();
+    const Hold hold(host.listener());
+    host.failures().during(action);
 }
 
 void HeadlessOperator::closePopUps()
@@ -256,7 +257,8 @@ void HeadlessOperator::clickMark(ListBox& box, std::int32_t index)
 
 void HeadlessOperator::clickItem(PopupMenu& menu, std::size_t item)
 {
-    WidgetListener& listener = dynamic_cast<HeadlessMenu&>(menu).host().listener();
+    const Host& host = dynamic_cast<HeadlessMenu&>(menu).host();
+    WidgetListener& listener = host.listener();
     const Hold hold(listener);
     const int number = menu.items()[item].widget;
     menu.close();

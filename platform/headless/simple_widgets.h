@@ -8,7 +8,6 @@
 #include <zor/platform/whole_range.h>
 
 #include <algorithm>
-#include <exception>
 
 namespace zor::platform::headless {
 
@@ -121,18 +120,9 @@ public:
     void setBuddy(TextField& field) override { dynamic_cast<HeadlessTextField&>(field).setStepper(*this); }
     void step(bool up) override
     {
-        // One action, two reports: what a handler throws out of the first does not cut off the second, as it does
-        // not where an event loop stands in between.
-        std::exception_ptr error;
-        try {
-            if (m_range.step(up))
-                report(Notice::Change);
-        } catch (...) {
-            error = std::current_exception();
-        }
+        if (m_range.step(up))
+            report(Notice::Change);
         report(up ? Notice::SpinUp : Notice::SpinDown);
-        if (error)
-            std::rethrow_exception(error);
     }
 };
 

@@ -2,8 +2,10 @@
 
 /// What all headless widgets share: plain state behind the interfaces.
 
+#include <zor/platform/failures.h>
 #include <zor/platform/widgets.h>
 
+#include <exception>
 #include <memory>
 #include <string>
 
@@ -12,7 +14,13 @@ namespace zor::platform::headless {
 /// What a widget needs of the surface it stands on.
 class Host {
 public:
-    [[nodiscard]] virtual WidgetListener& listener() noexcept = 0;
+    Host(WidgetListener& listener, Failures& failures) noexcept : m_listener(listener), m_failures(failures) {}
+    Host(const Host&) = delete;
+    Host& operator=(const Host&) = delete;
+
+    [[nodiscard]] WidgetListener& listener() const noexcept { return m_listener; }
+    /// Those of the container, which outlive the surface.
+    [[nodiscard]] Failures& failures() const noexcept { return m_failures; }
     /// The widget of the window that has its focus; nullptr for none.
     [[nodiscard]] virtual Widget* focused() const noexcept = 0;
     virtual void setFocused(Widget* widget) noexcept = 0;
@@ -21,6 +29,10 @@ public:
 
 protected:
     ~Host() = default;
+
+private:
+    WidgetListener& m_listener;
+    Failures& m_failures;
 };
 
 /// What the operator needs of a widget without knowing its kind.
@@ -29,7 +41,17 @@ public:
     virtual ~HeadlessWidget() = default;
     [[nodiscard]] virtual Host& host() const noexcept = 0;
     [[nodiscard]] virtual int number() const noexcept = 0;
-    void report(Notice notice, EventArgs args = {}) const { host().listener().notice(number(), notice, args); }
+    void report(Notice notice, EventArgs args = {}) const
+    {
+        // A handler may end the control, and this widget with it.
+        const Host& surface = host();
+        Failures& failures = surface.failures();
+        try {
+            surface.listener().notice(number(), notice, args);
+        } catch (...) {
+            failures.add(std::current_exception());
+        }
+    }
 };
 
 /// What the arrow keys of a field step.

@@ -181,7 +181,7 @@ class ComboBox(Choice):
         if code == 32:
             return self.dropdown()
         last = len(self.entries) - 1
-        to = {40: min(self.current + 1, last), 38: max(self.current - 1, 0), 36: 0, 35: last}.get(code, self.current)
+        to = {40: min(self.current + 1, last), 38: self.current - (self.current > 0), 36: 0, 35: last}.get(code, self.current)
         if not self.locked() and last >= 0 and to != self.current:
             self.pick(to)
         return None
@@ -315,7 +315,8 @@ class ListBox(Choice):
 
     def toggle(self, widget, index):
         self.point = 135, 120 + 270 * index
-        if self.press(widget) and index < len(self.entries):
+        # Who heard of the focus may have removed the entry.
+        if index < len(self.entries) and self.press(widget) and index < len(self.entries):
             self.switch(index)
 
     def switch(self, index):

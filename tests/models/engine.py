@@ -35,7 +35,7 @@ class Form:
     def tell(self, what, *arguments):
         if what == "usermode":
             self.usermode = arguments[0] == "on"
-        else:
+        elif what == "locale":
             self.decimal, self.group = [argument.strip('"') for argument in (*arguments, "")[:2]]
 
     def ask(self, *lines):

@@ -37,7 +37,7 @@ class Model(Steps):
     MENU_OVER = ("Surface",)
 
     def __init__(self, form):
-        self.form, self.handlers, self.out, self.depth = form, {}, [], 0
+        self.form, self.handlers, self.out, self.depth, self.thrown = form, {}, [], 0, None
         self.stored = self.STORED.split()
         self.raised = set(self.EVENTS.split())
         widgets = {"img_State": PLACE + " Picture", "Surface": "Width Height BackColor", **self.WIDGETS}
@@ -162,6 +162,9 @@ class Model(Steps):
             if command[0] == "set":
                 arguments[command[1]] = command[2]
                 continue
+            if command[0] == "raise":
+                self.thrown = self.thrown or command[1]
+                break
             if self.depth > 3:
                 raise Unsaid
             self.depth += 1
@@ -176,6 +179,7 @@ class Model(Steps):
         try:
             return getattr(self, "do_" + kind if kind in ("do", "host", "destroy") else kind)(*rest)
         except Overflow:
+            self.thrown = self.thrown if self.depth else None
             return self.out.append("error 6")
 
     def both(self, *steps):
@@ -186,7 +190,7 @@ class Model(Steps):
         if kind == "off":
             self.handlers.pop(event, None)
         else:
-            self.handlers.setdefault(event, []).append(rest[0] if kind == "run" else ("set", *rest))
+            self.handlers.setdefault(event, []).append(rest[0] if kind == "run" else (kind, *rest))
 
     def do_destroy(self):
         self.dead = True

@@ -27,7 +27,7 @@ class Steps:
             last = rest[2:] if rest[0] != "mnu_Edit" else [Colour("mnu_UndoEdit")]
             return " ".join([f"do c.{rest[0]} {rest[1]}", *map(written, last)])
         if kind == "host":
-            told = {"off": "off", "run": "run " + (self.render(rest[2]) if rest[1] == "run" else ""),
+            told = {"off": "off", "raise": " ".join(["raise", *map(str, rest[2:])]), "run": "run " + (self.render(rest[2]) if rest[1] == "run" else ""),
                     "set": "=".join([str(rest[2]), written(rest[3])]) if rest[1] == "set" else ""}
             return f"host c.{rest[0]} {told[rest[1]]}"
         return {"size": "size c", "destroy": "destroy c"}[kind] + "".join(" " + written(v) for v in rest)
@@ -52,6 +52,9 @@ class Steps:
                 done.append((self.render(one), []))
                 self.out = done[-1][1]
                 self.perform(one)
+                if self.thrown:
+                    self.out.append(f"error {self.thrown}")
+                    self.thrown = None
         if self.dead:
             done.append((f"new {self.CLASS} c", []))
             boxes, self.handlers = self.form.boxes, {}
@@ -88,7 +91,7 @@ class Steps:
         **names("EnableControl IconEnable", (True, True, False)),
     }
     UNHANDLED = ()
-    HANDLED = ("put", "put", "put", "get", "get", "get", "call", "destroy")
+    HANDLED = ("put", "put", "put", "get", "get", "get", "call", "destroy", "raise", "raise")
 
     def value(self, random, name):
         pool = {**Steps.VALUES, **self.VALUES}.get(name)
@@ -138,12 +141,16 @@ class Steps:
             return [self.random_size(random)]
         if chance < 0.9:
             return [("store",)]
+        if chance < 0.905:
+            return [("form", "theme", random.choice(("light", "dark")))]
         if chance < 0.92:
             return [("form", "usermode", random.choice(("on", "off"))), self.random_put(random), ("form", "usermode", "on")]
         kind, heard = random.choice(self.HANDLED), sorted(self.raised.difference(self.UNHANDLED))
-        if kind == "get":
+        if kind in ("get", "raise"):
             looks = [("host", event, "run", ("get", *group)) for event in heard for _, group in self.groups]
-            return [("both", *looks), *self.few(random), ("both", *(("host", event, "off") for event in heard))]
+            fails = [("host", event, "raise", number) for number, event in enumerate(heard, 20) if random.random() < 0.5]
+            return [("both", *(looks if kind == "get" else fails)), *self.few(random),
+                    ("both", *(("host", event, "off") for event in heard))]
         event = random.choice(heard)
         changed = next((change for end, change in CHANGES.items() if event.endswith(end)), None)
         first = ("run", ("destroy",) if kind == "destroy" else getattr(self, "random_" + kind)(random))

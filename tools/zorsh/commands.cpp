@@ -48,6 +48,13 @@ void locale(Session&, const Call& call)
         {separator(call[0]), call.words.size() > 1 ? separator(call[1]) : std::string()});
 }
 
+void theme(Session& session, const Call& call)
+{
+    if (call[0] != "light" && call[0] != "dark")
+        raiseError(ErrorNumber::InvalidCall, call[0]);
+    session.stage().setTheme(call[0] == "dark");
+}
+
 void create(Session& session, const Call& call)
 {
     session.create(session.classNamed(call[0]), call[1],
@@ -169,12 +176,35 @@ void callMethod(Session& session, const Call& call)
 
 void calculate(Session& session, const Call& call) { session.print(print(evaluate(call.from(0), session))); }
 
-void addHandler(Recorder& recorder, const core::EventRow& event, const Call& call)
+void setArgument(const platform::ArgRef& argument, const Variant& value)
 {
-    if (call[1] == "run") {
-        if (call.words.size() < 3)
+    std::visit(
+        [&](auto* target) {
+            using T = std::remove_pointer_t<decltype(target)>;
+            if constexpr (std::is_same_v<T, bool>)
+                *target = value.toBoolean();
+            else if constexpr (std::is_same_v<T, std::int16_t>)
+                *target = value.toInt16();
+            else if constexpr (std::is_same_v<T, std::int32_t>)
+                *target = value.toInt32();
+            else if constexpr (std::is_same_v<T, float>)
+                *target = static_cast<float>(value.toDouble());
+            else
+                *target = value.toText();
+        },
+        argument);
+}
+
+/// What the words behind the event's name say that the host does in it.
+std::function<void(platform::EventArgs)> actionOf(Session& session, const core::EventRow& event, const Call& call)
+{
+    const bool isRun = call[1] == "run";
+    if (isRun || call[1] == "raise") {
+        if (call.words.size() < 3 || (!isRun && call.words.size() > 3))
             raiseError(ErrorNumber::WrongArguments, call[1]);
-        return recorder.addHandler({event.name, 0, {}, std::string(call.from(2))});
+        if (isRun)
+            return [&session, command = std::string(call.from(2))](auto) { session.runInside(command); };
+        return [number = static_cast<ErrorNumber>(parseValue(call[2]).toInt32())](auto) { raiseError(number); };
     }
     const auto [name, value] = assignment(call[1]);
     if (call.words.size() != 2)
@@ -183,7 +213,9 @@ void addHandler(Recorder& recorder, const core::EventRow& event, const Call& cal
     const auto argument = std::ranges::find(names, name);
     if (argument == names.end())
         raiseError(ErrorNumber::NoSuchMember, name);
-    recorder.addHandler({event.name, static_cast<std::size_t>(argument - names.begin()), value, {}});
+    return [&session, at = static_cast<std::size_t>(argument - names.begin()), value](platform::EventArgs args) {
+        session.guard([&] { setArgument(args[at], value); });
+    };
 }
 
 void host(Session& session, const Call& call)
@@ -191,7 +223,7 @@ void host(Session& session, const Call& call)
     const auto [object, eventName] = resolve(session, call[0]);
     const core::EventRow* event = memberOf(*object.control, eventName, object.control->info().event(eventName));
     if (call[1] != "off")
-        return addHandler(*object.recorder, *event, call);
+        return object.recorder->addHandler({event->name, actionOf(session, *event, call)});
     if (call.words.size() != 2)
         raiseError(ErrorNumber::WrongArguments, call[1]);
     object.recorder->removeHandlers(event->name);
@@ -308,6 +340,8 @@ constexpr std::array kCommands{
     Command{"usermode", "usermode on|off", "run time or design time", 1, 1, userMode},
     Command{"locale", "locale DECIMAL [GROUP]", "changes the user's separators; without GROUP nothing is grouped",
             1, 2, locale},
+    Command{"theme", "theme light|dark", "the system's colours; a platform without a screen has none", 1, 1,
+            theme},
     Command{"new", "new CLASS NAME", "creates a control and initialises it", 2, 2, create},
     Command{"restore", "restore CLASS NAME KEY=VALUE ...",
             "creates a control and reads the keys; after an error there is no control", 2, kAny, restore},
@@ -337,7 +371,7 @@ constexpr std::array kCommands{
     Command{"boxes", "boxes [quiet]", "prints the message boxes shown since it was last asked; quiet forgets them",
             0, 1, boxes},
     Command{
-        "host", "host NAME.EVENT ARGUMENT=VALUE | run COMMAND | off",
+        "host", "host NAME.EVENT ARGUMENT=VALUE | run COMMAND | raise NUMBER | off",
         "what the host's handler does from now on; several add up and happen in their order, off takes all away",
         2, kAny, host},
     Command{"open", "open FILE", "opens a form of Qt Designer: its controls under their object names", 1, 1,

@@ -1,14 +1,13 @@
 #include <zor/core/frm_Container.h>
+#include <zor/platform/failures.h>
 #include <zor/platform/qt/container.h>
 #include <zor/platform/qt/operator.h>
 #include <zor/platform/qt/page_dialog.h>
 #include <zor/tools/zorsh/qt_stage.h>
 
 #include <QApplication>
+#include <QPalette>
 #include <QWidget>
-
-#include <exception>
-#include <utility>
 
 namespace zor::console {
 namespace {
@@ -24,20 +23,25 @@ public:
             onPropertyChanged(component, name);
         };
         m_container.onMessage = [this](platform::Component&, const platform::MessageBox& box) { onMessage(box); };
-        m_container.onError = [this](std::exception_ptr error) {
-            if (!m_error)
-                m_error = std::move(error);
-        };
+        m_container.onError = [this](const std::exception_ptr& error) { m_failures.add(error); };
         m_form.resize(kFormWidth, kFormHeight);
         m_form.show();
         m_form.activateWindow();
         QtStage::settle();
     }
+    ~QtStage() override { QApplication::setPalette(m_light); }
+    QtStage(const QtStage&) = delete;
+    QtStage& operator=(const QtStage&) = delete;
 
     platform::Container& container() override { return m_container; }
     platform::Operator& hands() override { return m_operator; }
     platform::PopupMenu* openMenu() override { return m_container.openMenu(); }
     void setUserMode(bool userMode) override { m_container.setUserMode(userMode); }
+    void setTheme(bool isDark) override
+    {
+        constexpr QRgb kDark = 0xFF2B2B2B;
+        QApplication::setPalette(isDark ? QPalette(QColor(kDark)) : m_light);
+    }
     std::unique_ptr<platform::PageFrame> createPageFrame() override
     {
         auto frame = std::make_unique<platform::qt::PageDialog>(&m_form);
@@ -50,17 +54,14 @@ public:
         // Widgets that are deleted later would otherwise wait for an event loop that never runs.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-    void passOnError() override
-    {
-        if (m_error)
-            std::rethrow_exception(std::exchange(m_error, nullptr));
-    }
+    void during(const std::function<void()>& action) override { m_failures.during(action); }
 
 private:
+    const QPalette m_light = QApplication::palette();
+    platform::Failures m_failures;
     QWidget m_form;
     platform::qt::QtContainer m_container{m_form, core::pictureData};
     platform::qt::QtOperator m_operator{m_container};
-    std::exception_ptr m_error;
 };
 
 QtMessageHandler& chained()

@@ -1,6 +1,5 @@
 #include <zor/tools/zorsh/notation.h>
 #include <zor/tools/zorsh/recorder.h>
-#include <zor/tools/zorsh/session.h>
 
 #include <algorithm>
 
@@ -8,25 +7,6 @@ namespace zor::console {
 namespace {
 
 constexpr std::size_t kMostKept = 1'000'000;
-
-void setArgument(const platform::ArgRef& argument, const Variant& value)
-{
-    std::visit(
-        [&](auto* target) {
-            using T = std::remove_pointer_t<decltype(target)>;
-            if constexpr (std::is_same_v<T, bool>)
-                *target = value.toBoolean();
-            else if constexpr (std::is_same_v<T, std::int16_t>)
-                *target = value.toInt16();
-            else if constexpr (std::is_same_v<T, std::int32_t>)
-                *target = value.toInt32();
-            else if constexpr (std::is_same_v<T, float>)
-                *target = static_cast<float>(value.toDouble());
-            else
-                *target = value.toText();
-        },
-        argument);
-}
 
 } // namespace
 
@@ -80,10 +60,7 @@ void Recorder::event(core::Control& /*control*/, const core::EventRow& row, plat
             continue;
         if (std::ranges::find(m_handlers, handler) == m_handlers.end())
             continue;
-        if (handler->command.empty())
-            m_session.guard([&] { setArgument(args[handler->argument], handler->value); });
-        else
-            m_session.runInside(handler->command);
+        handler->act(args);
     }
 }
 

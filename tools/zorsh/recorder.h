@@ -4,15 +4,13 @@
 
 #include <zor/core/control.h>
 
-#include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace zor::console {
-
-class Session;
 
 /// Names in the order in which they came, until they are asked for. Keeps a million and then says that
 /// there were more: a script that never asks must not fill the memory.
@@ -27,21 +25,16 @@ private:
     bool m_isCut = false;
 };
 
-/// Something the host does in an event: set an argument, or run a command.
+/// Something the host does in an event.
 struct Handler {
     std::string_view event;
-    std::size_t argument = 0;
-    Variant value;
-    std::string command; ///< empty for a handler that sets an argument
+    std::function<void(platform::EventArgs)> act;
 };
 
 /// Listens to one control. Shared, because a command run inside an event may destroy the control.
 class Recorder final : public core::EventSink, public std::enable_shared_from_this<Recorder> {
 public:
-    Recorder(Session& session, core::Control& control) : m_session(session), m_control(&control)
-    {
-        control.subscribe(*this);
-    }
+    explicit Recorder(core::Control& control) : m_control(&control) { control.subscribe(*this); }
     virtual ~Recorder() { detach(); }
     Recorder(const Recorder&) = delete;
     Recorder& operator=(const Recorder&) = delete;
@@ -59,7 +52,6 @@ public:
 private:
     using Handlers = std::vector<std::shared_ptr<const Handler>>;
 
-    Session& m_session;
     core::Control* m_control;
     Handlers m_handlers;
 };

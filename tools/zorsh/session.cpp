@@ -61,8 +61,7 @@ std::vector<OutputLine> Session::run(std::string_view line)
     m_output.clear();
     m_isRunaway = false;
     runInside(line);
-    m_stage->settle();
-    guard([this] { m_stage->passOnError(); });
+    guard([this] { m_stage->during([this] { m_stage->settle(); }); });
     return std::exchange(m_output, {});
 }
 
@@ -105,8 +104,7 @@ void Session::dispatch(std::string_view line)
     const auto arguments = std::span(parts).subspan(1);
     if (arguments.size() < command->least || arguments.size() > command->most)
         raiseError(ErrorNumber::WrongArguments, command->usage);
-    command->run(*this, {arguments, line});
-    m_stage->passOnError();
+    m_stage->during([&] { command->run(*this, {arguments, line}); });
 }
 
 void Session::printError(int number, std::string_view text)
@@ -162,7 +160,7 @@ void Session::create(const core::ClassInfo& info, std::string_view name,
     core::ControlPtr<> created = info.create(m_stage->container());
     prepare(*created);
     // The host connects itself once the control stands: what came before is not its business.
-    auto recorder = std::make_shared<Recorder>(*this, *created);
+    auto recorder = std::make_shared<Recorder>(*created);
     m_recorders.emplace(created.get(), recorder);
     m_objects.emplace(name, Object{std::move(created), std::move(recorder), m_created++});
 }

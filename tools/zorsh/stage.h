@@ -22,12 +22,14 @@ public:
     [[nodiscard]] virtual platform::Operator& hands() = 0;
     [[nodiscard]] virtual platform::PopupMenu* openMenu() = 0;
     virtual void setUserMode(bool userMode) = 0;
+    /// The colours of the system that the operator chose, where the platform has any; light at first.
+    virtual void setTheme(bool /*isDark*/) {}
     /// A frame for a property page, shown beside the form; it ends before the stage.
     [[nodiscard]] virtual std::unique_ptr<platform::PageFrame> createPageFrame() = 0;
     /// Lets pending events of the platform happen.
     virtual void settle() {}
-    /// Throws what a control has thrown into the platform's event loop since the last call.
-    virtual void passOnError() {}
+    /// Runs an action; then throws what a control has thrown into the platform's event loop meanwhile.
+    virtual void during(const std::function<void()>& action) { action(); }
 
     std::function<void(platform::Component&, std::string_view)> onPropertyChanged;
     std::function<void(const platform::MessageBox&)> onMessage;
