@@ -15,7 +15,7 @@
 
 namespace zor::monitor {
 
-QString describe(const DeviceEntry& entry)
+QString summaryOf(const DeviceEntry& entry)
 {
     QStringList parts;
     if (!entry.name.isEmpty())
@@ -92,7 +92,7 @@ void OpenDialog::addRecent(const QList<DeviceEntry>& devices, const QStringList&
         return;
     m_recent = new QListWidget(this);
     for (const DeviceEntry& entry : devices)
-        m_recent->addItem(describe(entry));
+        m_recent->addItem(summaryOf(entry));
     for (const QString& file : sites) {
         m_recent->addItem(tr("Site: %1").arg(QFileInfo(file).fileName()));
         m_recent->item(m_recent->count() - 1)->setToolTip(file);

@@ -51,6 +51,6 @@ private:
 };
 
 /// A device in a line, for a menu or a list.
-[[nodiscard]] QString describe(const DeviceEntry& entry);
+[[nodiscard]] QString summaryOf(const DeviceEntry& entry);
 
 } // namespace zor::monitor

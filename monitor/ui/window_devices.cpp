@@ -156,7 +156,7 @@ bool Window::openSite(const QString& file)
         const SiteFile site = loadSiteFile(file);
         for (const DeviceEntry& entry : site.devices) {
             if (const QString error = tryOpen(entry); !error.isEmpty())
-                errors.append(describe(entry) + ": " + error);
+                errors.append(summaryOf(entry) + ": " + error);
         }
         m_memory.addRecentSite(file);
         buildMenus();

@@ -92,7 +92,7 @@ void Window::addRecent(QMenu& menu)
     for (const DeviceEntry& entry : m_memory.recent()) {
         // Later: the menu that holds this action is made anew.
         menu.addAction(
-            inMenu(describe(entry)), this, [this, entry] { this->open(entry); }, Qt::QueuedConnection);
+            inMenu(summaryOf(entry)), this, [this, entry] { this->open(entry); }, Qt::QueuedConnection);
     }
     const QStringList sites = m_memory.recentSites();
     if (!sites.isEmpty())

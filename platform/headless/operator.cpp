@@ -202,7 +202,7 @@ void HeadlessOperator::point(Widget& widget, Pointer action)
         base(widget).report(Notice::DblClick);
         reportMouse(widget, Notice::MouseUp, kLeftButton, spot);
         // The second press is one more for a button, and no click of its own for anything else.
-        if (auto* button = dynamic_cast<ToggleButton*>(&widget))
+        if (auto* button = dynamic_cast<ToggleButton*>(&widget); button != nullptr && button->isEnabled())
             pushToggle(*button);
     }
 }

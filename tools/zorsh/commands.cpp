@@ -213,9 +213,8 @@ std::function<void(platform::EventArgs)> actionOf(Session& session, const core::
     const auto argument = std::ranges::find(names, name);
     if (argument == names.end())
         raiseError(ErrorNumber::NoSuchMember, name);
-    return [&session, at = static_cast<std::size_t>(argument - names.begin()), value](platform::EventArgs args) {
-        session.guard([&] { setArgument(args[at], value); });
-    };
+    return [&session, at = static_cast<std::size_t>(argument - names.begin()),
+            value = value](platform::EventArgs args) { session.guard([&] { setArgument(args[at], value); }); };
 }
 
 void host(Session& session, const Call& call)
