@@ -136,13 +136,19 @@ class Numeric(Valued):
     def random_steps(self, random):
         if random.random() < 0.02:
             return [("form", "locale", *random.choice((('"."', '","'), ('","', '"."'), ('","',))))]
+        if "paste" in self.ACTIONS.get("txt_TextBox", "") and random.random() < 0.03:
+            # An entry that is under way when its parameter becomes read-only.
+            return [self.random_entry(random), ("put", "ReadOnly", True), *self.few(random), ("do", "txt_TextBox", "blur"), ("put", "ReadOnly", False)]
         return super().random_steps(random)
 
     def random_do(self, random):
         step = super().random_do(random)
         if step[2] == "paste":
-            return ("both", ("do", "txt_TextBox", "select", 0, 99), ("do", "txt_TextBox", "paste", random.choice(self.ENTRIES)))
+            return self.random_entry(random)
         return step
+
+    def random_entry(self, random):
+        return ("both", ("do", "txt_TextBox", "select", 0, 99), ("do", "txt_TextBox", "paste", random.choice(self.ENTRIES)))
 
 
 class UpDown(Numeric):
@@ -256,14 +262,14 @@ class UpDown(Numeric):
             self.click_spin(1 if code == 38 else -1, "upDownUpClick" if code == 38 else "upDownDownClick")
 
     def click_spin(self, way, event):
-        self.one_step(self["upd_UpDown.Value"], way, self.locked())
+        self.one_step(self["upd_UpDown.Value"], way)
         self.emit(event)
 
     @step
-    def one_step(self, before, way, locked):
+    def one_step(self, before, way):
         self.set_spin(before + way)
         yield
-        if locked:
+        if self.locked():  # by then
             self["upd_UpDown.Value"] = before
             return
         self.set_text(str(self["upd_UpDown.Value"]))
