@@ -3,8 +3,6 @@
 #include <zor/tests/core/text_box_fixture.h>
 
 #include <functional>
-#include <stdexcept>
-#include <utility>
 
 namespace zor::tests {
 namespace {
@@ -90,40 +88,6 @@ TEST_F(TextBoxTest, AHandlerMayDestroyTheControl)
     box->DeviceValue(1234);
     EXPECT_EQ(box, nullptr);
     EXPECT_EQ(witness.outputs, 0) << "a control that is gone says nothing more";
-}
-
-/// Ends the control at the first event and throws.
-struct Ender : core::EventSink {
-    explicit Ender(core::ControlPtr<ctx_ZorTextBox>& ended) : box(ended) {}
-    void event(core::Control&, const core::EventRow&, platform::EventArgs) override
-    {
-        box.reset();
-        throw std::domain_error("host");
-    }
-    core::ControlPtr<ctx_ZorTextBox>& box;
-};
-
-TEST_F(TextBoxTest, AHandlerMayEndTheControlAndThrowInsideAnyWrite)
-{
-    const std::pair<const char*, std::function<void(ctx_ZorTextBox&)>> writes[] = {
-        {"DeviceValue", [](ctx_ZorTextBox& b) { b.DeviceValue(20); }},
-        {"ModifiedValue", [](ctx_ZorTextBox& b) { b.ModifiedValue(20); }},
-        {"DeviceUnit", [](ctx_ZorTextBox& b) { b.DeviceUnit(LgthU_Mtr); }},
-        {"OutputUnit", [](ctx_ZorTextBox& b) { b.OutputUnit(LgthU_Mtr); }},
-        {"OutputUnit by name", [](ctx_ZorTextBox& b) { b.setProperty("OutputUnit", 1); }},
-        {"UnitLabelCaption", [](ctx_ZorTextBox& b) { b.UnitLabelCaption("k"); }},
-        {"SelectedText", [](ctx_ZorTextBox& b) { b.SelectedText("q"); }},
-        {"s_ForceOutputValueUpdate", [](ctx_ZorTextBox& b) { b.s_ForceOutputValueUpdate(); }},
-        {"typing", [this](ctx_ZorTextBox&) { hands.type(field(), "1"); }},
-    };
-    for (const auto& [name, write] : writes) {
-        box = ctx_ZorTextBox::create(container);
-        box->initialiseProperties();
-        Ender ender(box);
-        box->subscribe(static_cast<core::EventSink&>(ender));
-        EXPECT_THROW(write(*box), std::domain_error) << name;
-        EXPECT_FALSE(box) << name;
-    }
 }
 
 } // namespace

@@ -148,8 +148,9 @@ class Steps:
         kind, heard = random.choice(self.HANDLED), sorted(self.raised.difference(self.UNHANDLED))
         if kind in ("get", "raise"):
             looks = [("host", event, "run", ("get", *group)) for event in heard for _, group in self.groups]
+            ends = [("host", random.choice(heard), "run", ("destroy",))] if random.random() < 0.2 else []
             fails = [("host", event, "raise", number) for number, event in enumerate(heard, 20) if random.random() < 0.5]
-            return [("both", *(looks if kind == "get" else fails)), *self.few(random),
+            return [("both", *(looks if kind == "get" else ends + fails)), *self.few(random),
                     ("both", *(("host", event, "off") for event in heard))]
         event = random.choice(heard)
         changed = next((change for end, change in CHANGES.items() if event.endswith(end)), None)

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTest>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -25,6 +26,24 @@ inline QByteArray textIn(const QString& name)
     QFile file(name);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
     return file.readAll();
+}
+
+/// How a program ended, and what it printed.
+struct Exit {
+    int status;
+    QString out;
+    QString error;
+};
+
+/// Runs the monitor while this program's peers answer it.
+inline Exit runMonitor(const QStringList& arguments)
+{
+    QProcess program;
+    program.start(ZOR_MONITOR, arguments);
+    constexpr int kLongest = 60000;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return program.state() == QProcess::NotRunning; }, kLongest));
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit) << "crashed";
+    return {program.exitCode(), program.readAllStandardOutput(), program.readAllStandardError()};
 }
 
 /// A change of a good file, and what the reader's refusal begins with.

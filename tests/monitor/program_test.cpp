@@ -8,21 +8,8 @@
 namespace zor::monitor {
 namespace {
 
-struct Exit {
-    int status;
-    QString out;
-    QString error;
-};
-
-Exit run(const QStringList& arguments)
-{
-    QProcess program;
-    program.start(ZOR_MONITOR, arguments);
-    constexpr int kLongest = 60000;
-    EXPECT_TRUE(program.waitForFinished(kLongest));
-    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit) << "crashed";
-    return {program.exitCode(), program.readAllStandardOutput(), program.readAllStandardError()};
-}
+using tests::Exit;
+using tests::runMonitor;
 
 TEST(Program, RunsUnattendedAndLeavesAReportAPictureAndARecord)
 {
@@ -30,8 +17,8 @@ TEST(Program, RunsUnattendedAndLeavesAReportAPictureAndARecord)
     const QString picture = folder.filePath("picture.png");
     const QString log = folder.filePath("log.csv");
     const QString report = folder.filePath("report.html");
-    const Exit good = run({"--run-for", "2", "--screenshot", picture, "--log", log, "--language", "de", "--trend",
-                           "Distance", "--report", report});
+    const Exit good = runMonitor({"--run-for", "2", "--screenshot", picture, "--log", log, "--language", "de",
+                                  "--trend", "Distance", "--report", report});
     EXPECT_EQ(good.status, 0) << good.error.toStdString();
     EXPECT_TRUE(good.out.contains("Density  ?  nicht vorhanden\n")) << good.out.toStdString();
     EXPECT_TRUE(good.out.contains(" m3  gelesen\n")) << good.out.toStdString();
@@ -102,12 +89,12 @@ TEST(Program, SaysWhyItCannotRun)
         {{"--device", "tcp://h?unit=x", "--language", "de"}, 2, "unit ist eine Zahl von 0 bis 255"},
     };
     for (const Row& row : rows) {
-        const Exit bad = run(row.arguments);
+        const Exit bad = runMonitor(row.arguments);
         EXPECT_EQ(bad.status, row.status) << row.arguments.join(' ').toStdString();
         EXPECT_TRUE((bad.error + bad.out).contains(row.error))
             << row.arguments.join(' ').toStdString() << ": " << bad.error.toStdString();
     }
-    EXPECT_EQ(run({"--help"}).status, 0);
+    EXPECT_EQ(runMonitor({"--help"}).status, 0);
     EXPECT_EQ(tests::textIn(record).count('\n'), 25)
         << "a heading, and once for each parameter that nobody answers";
 }

@@ -9,6 +9,7 @@
 namespace zor::monitor {
 namespace {
 
+using tests::Exit;
 using tests::Host;
 using tests::Peer;
 using tests::textIn;
@@ -18,32 +19,16 @@ constexpr const char* kGood = R"({"format": "zor-settings", "formatVersion": 1,
 "device": {"type": "ZT", "version": "1"}, "date": "2026-11-25T08:30:00Z", "parameters": [
 {"tag": "Limit", "value": 20, "unit": "LgthU_MM", "registers": [20]}]})";
 
-struct Ended {
-    int status = -1;
-    QString out;
-};
-
-/// Runs a program while this one's peers answer it.
-Ended run(const QString& name, const QStringList& arguments)
-{
-    QProcess program;
-    program.setProcessChannelMode(QProcess::MergedChannels);
-    program.start(name, arguments);
-    constexpr int kLongest = 30000;
-    EXPECT_TRUE(QTest::qWaitFor([&] { return program.state() == QProcess::NotRunning; }, kLongest));
-    return {program.exitCode(), program.readAll()};
-}
-
 struct Commands : testing::Test {
     QTemporaryDir folder;
     QString saved = folder.filePath("saved.json");
     QString parameters = writeFile(folder.filePath("parameters.json"), tests::kParameters);
 
-    Ended monitor(int port, const QStringList& arguments)
+    Exit monitor(int port, const QStringList& arguments)
     {
-        return run(ZOR_MONITOR, QStringList{"--parameters", parameters, "--period", "150", "--device",
-                                            QString("tcp://127.0.0.1:%1").arg(port)} +
-                                    arguments);
+        return tests::runMonitor(QStringList{"--parameters", parameters, "--period", "150", "--device",
+                                             QString("tcp://127.0.0.1:%1").arg(port)} +
+                                 arguments);
     }
 };
 
@@ -153,14 +138,14 @@ TEST_F(Commands, AFileSavedFromOneServerByOthersMakesAnotherTheSame)
         ASSERT_TRUE(Host::until([&] { return (said += servers[i].readAllStandardOutput()).contains("ready"); }));
     }
     EXPECT_EQ(monitor(ports[0], {"--save-settings", saved}).status, 0);
-    const Ended different = monitor(ports[1], {"--compare", saved, "--json"});
+    const Exit different = monitor(ports[1], {"--compare", saved, "--json"});
     EXPECT_EQ(different.status, 1);
     EXPECT_TRUE(different.out.contains("\"different\": 9")) << different.out.toStdString();
     EXPECT_TRUE(different.out.contains("\"otherType\": true")) << different.out.toStdString();
     EXPECT_EQ(monitor(ports[1], {"--load-settings", saved}).status, 2) << "without a yes";
     EXPECT_EQ(monitor(ports[1], {"--compare", saved}).status, 1) << "written without a yes";
-    const Ended loaded = monitor(ports[1], {"--load-settings", saved, "--yes"});
-    EXPECT_EQ(loaded.status, 0) << loaded.out.toStdString();
+    const Exit loaded = monitor(ports[1], {"--load-settings", saved, "--yes"});
+    EXPECT_EQ(loaded.status, 0) << loaded.error.toStdString();
     EXPECT_EQ(monitor(ports[1], {"--compare", saved}).status, 0);
     const QString again = folder.filePath("again.json");
     EXPECT_EQ(monitor(ports[1], {"--save-settings", again}).status, 0);
@@ -181,9 +166,9 @@ TEST_F(Commands, ADeviceThatDiesInTheMiddleOfSavingLeavesTheOldFile)
             return peer.die();
         socket.write(reply);
     };
-    const Ended died = monitor(port, {"--save-settings", saved});
+    const Exit died = monitor(port, {"--save-settings", saved});
     EXPECT_EQ(died.status, 1);
-    EXPECT_TRUE(died.out.contains("the device did not answer")) << died.out.toStdString();
+    EXPECT_TRUE(died.error.contains("the device did not answer")) << died.error.toStdString();
     EXPECT_EQ(textIn(saved), "old");
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 2) << "half a file is left behind";
     EXPECT_EQ(monitor(port, {"--compare", saved}).status, 2) << "a bad file";
@@ -223,8 +208,8 @@ TEST_F(Commands, ALoadingThatBreaksOffGoesOnWithWhatIsLeft)
     EXPECT_EQ(peer.registers[150], 150);
     peer.answer = [](QTcpSocket& socket, const QByteArray& reply) { socket.write(reply); };
     peer.revive(port);
-    const Ended loaded = monitor(port, {"--load-settings", file, "--yes"});
-    EXPECT_EQ(loaded.status, 0) << loaded.out.toStdString();
+    const Exit loaded = monitor(port, {"--load-settings", file, "--yes"});
+    EXPECT_EQ(loaded.status, 0) << loaded.error.toStdString();
     EXPECT_EQ(writes(), 2) << "what had taken was written again";
     EXPECT_EQ(static_cast<std::int16_t>(peer.registers[150]), -5);
 }
