@@ -2,24 +2,13 @@
 
 #include <zor/controls/choice/combo_box/ctx_ZorComboBox.h>
 #include <zor/controls/choice/list_box/ctx_ZorListBox.h>
-#include <zor/platform/error.h>
 #include <zor/platform/headless/container.h>
+#include <zor/tests/error_of.h>
 
 #include <gtest/gtest.h>
 
 namespace zor::tests {
 namespace {
-
-template <class Add>
-int errorOf(Add&& add)
-{
-    try {
-        add();
-    } catch (const RunTimeError& error) {
-        return static_cast<int>(error.number());
-    }
-    return 0;
-}
 
 constexpr int kMost = 32'767;
 

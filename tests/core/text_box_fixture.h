@@ -1,10 +1,10 @@
 #pragma once
 
 #include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
-#include <zor/platform/error.h>
 #include <zor/platform/headless/container.h>
 #include <zor/platform/headless/memory_bag.h>
 #include <zor/platform/headless/operator.h>
+#include <zor/tests/error_of.h>
 
 #include <gtest/gtest.h>
 
@@ -24,17 +24,6 @@ protected:
 
     [[nodiscard]] platform::TextField& field() { return dynamic_cast<platform::TextField&>(*box->widget(1)); }
     [[nodiscard]] std::string text() { return field().text(); }
-
-    template <class Action>
-    static int errorOf(Action&& action)
-    {
-        try {
-            action();
-        } catch (const RunTimeError& error) {
-            return static_cast<int>(error.number());
-        }
-        return 0;
-    }
 
     platform::headless::HeadlessContainer container;
     platform::headless::HeadlessOperator hands{container};

@@ -4,6 +4,7 @@
 #include <zor/fuzz/target.h>
 #include <zor/platform/headless/container.h>
 #include <zor/platform/headless/operator.h>
+#include <zor/tests/error_of.h>
 #include <zor/tests/random.h>
 #include <zor/tools/zorsh/commands.h>
 #include <zor/tools/zorsh/notation.h>
@@ -51,18 +52,6 @@ void convert(const Variant& value, core::ValueKind kind)
     case core::ValueKind::Any: break;
     default: static_cast<void>(value.toInt32());
     }
-}
-
-/// The number of the error that something raises, 0 for none. Nothing but a RunTimeError may come.
-template <class Action>
-int errorOf(Action&& action)
-{
-    try {
-        action();
-    } catch (const RunTimeError& error) {
-        return static_cast<int>(error.number());
-    }
-    return 0;
 }
 
 /// A control of which everything is compared.

@@ -1,7 +1,7 @@
 // Values as they are written and printed, and lines cut into words.
 
-#include <zor/platform/error.h>
 #include <zor/platform/regional.h>
+#include <zor/tests/error_of.h>
 #include <zor/tools/zorsh/notation.h>
 
 #include <gtest/gtest.h>
@@ -13,12 +13,7 @@ namespace {
 
 int errorOf(std::string_view word)
 {
-    try {
-        static_cast<void>(parseValue(word));
-    } catch (const RunTimeError& error) {
-        return static_cast<int>(error.number());
-    }
-    return 0;
+    return tests::errorOf([&] { static_cast<void>(parseValue(word)); });
 }
 
 TEST(Notation, ValuesAreReadAsWhatTheyAre)
