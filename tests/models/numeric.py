@@ -136,9 +136,12 @@ class Numeric(Valued):
     def random_steps(self, random):
         if random.random() < 0.02:
             return [("form", "locale", *random.choice((('"."', '","'), ('","', '"."'), ('","',))))]
-        if "paste" in self.ACTIONS.get("txt_TextBox", "") and random.random() < 0.03:
-            # An entry that is under way when its parameter becomes read-only.
-            return [self.random_entry(random), ("put", "ReadOnly", True), *self.few(random), ("do", "txt_TextBox", "blur"), ("put", "ReadOnly", False)]
+        if "paste" in self.ACTIONS.get("txt_TextBox", "") and random.random() < 0.05:
+            # An entry, or none, that is under way when its parameter becomes read-only.
+            begun = random.choice((self.random_entry(random), ("put", "DeviceValue", 50)))
+            shown = random.choice(([("put", "OutputUnit", self.value(random, "OutputUnit"))], self.few(random)))
+            return [("do", "txt_TextBox", "focus"), begun, ("put", "ReadOnly", True), *shown, ("do", "txt_TextBox", "blur"),
+                    ("put", "ReadOnly", False)]
         return super().random_steps(random)
 
     def random_do(self, random):
