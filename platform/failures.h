@@ -9,8 +9,8 @@
 
 namespace zor::platform {
 
-/// What handlers throw. While somebody acts it waits until he is done: a handler that fails takes neither the rest of
-/// a click nor the focus from the operator, whether or not an event loop stands around every report.
+/// What handlers throw. While somebody acts it waits until he is done: a handler that fails takes neither the rest
+/// of a click nor the focus from the operator, whether or not an event loop stands around every report.
 class Failures {
 public:
     /// Runs an action; then throws what failed first in it.
