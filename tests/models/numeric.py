@@ -170,7 +170,7 @@ class UpDown(Numeric):
                "upd_UpDown": PLACE + " Value Min Max", "lbl_Units": LABEL}
     ACTIONS = {"txt_TextBox": "paste paste paste blur blur focus key click rightclick", "upd_UpDown": "up down", **AROUND}
     KEYS = (40, 38, 112)
-    HEIGHTS = (200, 315, 400, 900)
+    HEIGHTS = (200, 315, 400, 900)  # a hand finds nothing lower on a screen
 
     def begin(self):
         self["upd_UpDown.Min"], self["upd_UpDown.Max"], self["upd_UpDown.Value"] = 0, 10, 0

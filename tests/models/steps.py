@@ -160,4 +160,7 @@ class Steps:
         return [("host", event, *first), *self.few(random), ("host", event, "off")]
 
     def few(self, random):
+        if "mnu_Edit" in self.ACTIONS and random.random() < 0.1:
+            return [("put", "ModifiedValue", self.value(random, "ModifiedValue")), ("do", "Surface", "rightclick"),
+                    ("do", "mnu_Edit", "choose")]
         return itertools.chain.from_iterable(self.random_steps(random)[:1] for _ in range(3))
