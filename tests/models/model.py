@@ -338,12 +338,15 @@ class Model(Steps):
         self.emit(self.PREFIX[widget] + "LostFocus")
 
     def key(self, widget, code):
-        prefix, character = self.PREFIX[widget], code if code in (8, 13, 27, 32, 65) else 0
+        self.strike(widget, code, code if code in (8, 13, 27, 32, 65) else 0, lambda: self.struck(widget, code))
+
+    def strike(self, widget, code, character, act):
+        prefix = self.PREFIX[widget]
         down = self.emit(prefix + "KeyDown", KeyCode=code, Shift=0)["KeyCode"]
         if down and self.able(widget):
             press = self.emit(prefix + "KeyPress", KeyAscii=character)["KeyAscii"] if character else 0
             if (press or not character) and self.able(widget):
-                self.struck(widget, code)
+                act()
         if self.able(widget):
             self.emit(prefix + "KeyUp", KeyCode=code, Shift=0)
 

@@ -3,7 +3,7 @@
 from model import step, way_of_a_value
 from units import TYPES, UNITS, convert, is_valid, plain, reading, whole
 from valued import BINDING, FIVE, Valued
-from values import PLACE, names
+from values import PLACE, Unsaid, names
 
 UNIT_ROWS = "UnitType DeviceValue OutputValue DeviceUnit OutputUnit"
 LABEL = PLACE + " Caption"
@@ -130,7 +130,24 @@ class Numeric(Valued):
             self["txt_TextBox.Text"], self.typed = text, True
             self.text_changed()
 
-    WRITES = ("paste",)
+    def type(self, widget, text):
+        """Over what is selected, which is all, one character after the other."""
+        before, typed = self[widget + ".Text"], ""
+
+        def write():
+            nonlocal typed
+            if self[widget + ".Text"] != (typed or before):
+                raise Unsaid  # where the caret is then
+            if not self[widget + ".Locked"]:
+                typed += character
+                self.paste(widget, typed)
+
+        for character in text:
+            self.strike(widget, {",": 188, "-": 189, ".": 190}.get(character, ord(character.upper())), ord(character), write)
+            if not self.able(widget):
+                return
+
+    WRITES = ("paste", "type")
     ENTRIES = ("0", "12", "12.5", "150", "-3", "abc", "", " 7 ", "1e2", "1,000", "99", "12,5")
 
     def random_steps(self, random):
@@ -151,7 +168,9 @@ class Numeric(Valued):
         return step
 
     def random_entry(self, random):
-        return ("both", ("do", "txt_TextBox", "select", 0, 99), ("do", "txt_TextBox", "paste", random.choice(self.ENTRIES)))
+        text = random.choice(self.ENTRIES)
+        return ("both", ("do", "txt_TextBox", "select", 0, 99),
+                ("do", "txt_TextBox", random.choice(("paste", "type")) if text else "paste", text))
 
 
 class UpDown(Numeric):
