@@ -20,7 +20,7 @@ class Numeric(Valued):
     VALUES = {
         **names("DeviceValue ModifiedValue", (0, 1, 5, 50, 125, 135, -5, 150)), "UnitType": TYPES,
         **names("DeviceUnit OutputUnit DefaultUnit", (0, 0, 1, 2, 2, 5, 7, 15, 16, 52, 53)),
-        "MinValue": (0, 0.5, -40), "MaxValue": (9.5, 100, 100, 1000), "OtherUserValue": (0, 7, -3),
+        "MinValue": (0, 0.5, -40, 100), "MaxValue": (9.5, 100, 100, 1000), "OtherUserValue": (0, 7, -3),
         "UnitEnable": (True, True, False), "ReadOnly": (False, False, False, True), "WidthDifference": (1305, 500, 3000, -200),
     }
     OFTEN = ("DeviceValue", "DeviceValue", "ModifiedValue", "OutputUnit", "DeviceUnit", "MaxValue", "MinValue", "UnitType")
