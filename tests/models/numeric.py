@@ -1,7 +1,7 @@
 """What the numeric controls share, and the up-down."""
 
 from model import step, way_of_a_value
-from units import TYPES, UNITS, convert, is_valid, plain, reading, whole
+from units import TYPES, UNITS, Overflow, convert, is_valid, plain, reading, whole
 from valued import BINDING, FIVE, Valued
 from values import PLACE, Unsaid, names
 
@@ -257,7 +257,10 @@ class UpDown(Numeric):
         self["OtherUserValue"] = whole(anew(self["OtherUserValue"]))
         self["MinParamValue"], self["MaxParamValue"] = anew(self["MinParamValue"]), anew(self["MaxParamValue"])
         self.set_text(plain(anew(number), self.form.decimal), self.typed)
-        self["upd_UpDown.Min"], self["upd_UpDown.Max"] = whole(self["MinParamValue"]), whole(self["MaxParamValue"])
+        try:
+            self["upd_UpDown.Min"], self["upd_UpDown.Max"] = whole(self["MinParamValue"]), whole(self["MaxParamValue"])
+        except Overflow:
+            raise Unsaid from None  # how far the button follows
         self.set_spin(self.spin_of(self.number()))
 
     def loaded(self):

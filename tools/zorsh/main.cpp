@@ -14,12 +14,11 @@
 #include <iostream>
 #include <unistd.h>
 
+namespace zor::console {
 namespace {
 
-using namespace zor;
-
 struct Settings {
-    std::string platform{console::platforms().front().name};
+    std::string platform{platforms().front().name};
     std::string locale = ".,";
     std::vector<std::string> files;
     bool requireExpectations = false;
@@ -40,7 +39,7 @@ class Program {
 public:
     explicit Program(Settings settings)
         : m_settings(std::move(settings)), m_locale(separators(m_settings.locale)),
-          m_platform(*std::ranges::find(console::platforms(), m_settings.platform, &console::PlatformRow::name))
+          m_platform(*std::ranges::find(platforms(), m_settings.platform, &PlatformRow::name))
     {
         // Checked before anything runs.
         platform::setRegionalSettings(m_locale);
@@ -58,7 +57,7 @@ public:
         if (isatty(fileno(stdin)) == 0)
             return runInput(std::cin, "standard input", {true, false});
         const auto session = freshSession();
-        return console::converse(*session) == 0 ? kWell : kFailed;
+        return converse(*session) == 0 ? kWell : kFailed;
     }
 
 private:
@@ -77,10 +76,10 @@ private:
         return kUsage;
     }
 
-    int runInput(std::istream& input, const std::string& name, console::ScriptOptions options)
+    int runInput(std::istream& input, const std::string& name, ScriptOptions options)
     {
         const auto session = freshSession();
-        console::Script script(*session, name, options, std::cout, std::cerr);
+        Script script(*session, name, options, std::cout, std::cerr);
         script.feedAll(input);
         if (m_settings.requireExpectations && script.expectations() == 0) {
             std::cerr << name << ": expected an expectation got none\n";
@@ -90,9 +89,9 @@ private:
     }
 
     /// A form as it is at the start of every file.
-    [[nodiscard]] std::unique_ptr<console::Session> freshSession() const
+    [[nodiscard]] std::unique_ptr<Session> freshSession() const
     {
-        auto session = std::make_unique<console::Session>(m_platform.createStage());
+        auto session = std::make_unique<Session>(m_platform.createStage());
         // Last, because a platform may bring the separators of its environment.
         platform::setRegionalSettings(m_locale);
         return session;
@@ -100,7 +99,7 @@ private:
 
     Settings m_settings;
     platform::RegionalSettings m_locale;
-    const console::PlatformRow& m_platform;
+    const PlatformRow& m_platform;
 };
 
 int runProgram(int argc, char** argv)
@@ -109,11 +108,10 @@ int runProgram(int argc, char** argv)
     CLI::App app{"The control console: creates controls, plays host and operator, and prints what they see. "
                  "The command `help` lists the commands."};
     app.set_version_flag("--version", "zorsh " + std::string(version()));
-    std::vector<std::string> platforms;
-    for (const console::PlatformRow& row : console::platforms())
-        platforms.emplace_back(row.name);
-    app.add_option("--platform", settings.platform, "the widgets under the controls")
-        ->check(CLI::IsMember(platforms));
+    std::vector<std::string> names;
+    for (const PlatformRow& row : platforms())
+        names.emplace_back(row.name);
+    app.add_option("--platform", settings.platform, "the widgets under the controls")->check(CLI::IsMember(names));
     app.add_option("--locale", settings.locale, "decimal separator, and grouping separator if any");
     app.add_flag("--require-expectations", settings.requireExpectations, "fail where a file expects nothing");
     app.add_option("FILE", settings.files, "scripts; standard input without any");
@@ -134,13 +132,14 @@ int runProgram(int argc, char** argv)
 }
 
 } // namespace
+} // namespace zor::console
 
 int main(int argc, char** argv)
 {
     try {
-        return runProgram(argc, argv);
+        return zor::console::runProgram(argc, argv);
     } catch (const std::exception& error) {
         std::cerr << "zorsh: " << error.what() << '\n';
-        return kFailed;
+        return zor::console::kFailed;
     }
 }

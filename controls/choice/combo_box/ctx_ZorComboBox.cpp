@@ -91,6 +91,8 @@ void ctx_ZorComboBox::s_UndoEdit()
     const auto underWay = newValue();
     const std::int32_t before = m_combo->current();
     s_SelectValue(m_reference);
+    if (isOvertaken(underWay))
+        return;
     // A list that shows the device's value already does not report: the flag came from elsewhere.
     if (m_entries.currentValue() == m_reference && m_combo->current() == before)
         s_HandleClick();
