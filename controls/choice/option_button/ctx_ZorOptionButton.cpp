@@ -100,13 +100,12 @@ void ctx_ZorOptionButton::s_TakeChoice()
 void ctx_ZorOptionButton::s_UndoEdit()
 {
     const auto underWay = newValue();
-    m_option->setOn(m_reference == m_entryValue);
-    if (isOvertaken(underWay))
-        return;
-    m_outputValue = m_deviceValue;
-    // Without a click nobody else notices that the edit is over.
-    m_status.dataModified = m_outputValue != m_reference;
+    // The edit is over, whether a click says so or not; what is written by those who hear of it stays.
+    m_status.dataModified = false;
     s_UpdateColors();
+    m_option->setOn(m_reference == m_entryValue);
+    if (!isOvertaken(underWay))
+        m_outputValue = m_deviceValue;
 }
 
 // --- Properties
