@@ -307,12 +307,12 @@ void ctx_ZorUpDown::s_CommitEntry()
     if (const std::optional<double> number = m_field.number()) {
         if (const double taken = cut(*number); taken != *number)
             showNumber(roundToInt32(taken));
-        // What is shown by then: who heard of it may have chosen another unit.
+        // What is shown by then: who heard of it may have chosen another unit, or moved the limits.
         const auto shown = [&] { return isOvertaken(underWay) ? std::nullopt : m_field.number(); };
         if (const std::optional<double> taken = shown())
             spinToNumber(cut(*taken));
         if (const std::optional<double> taken = shown())
-            assignEntry(cut(*taken));
+            assignEntry(*taken);
     } else {
         showNumber(m_spin->value());
     }
