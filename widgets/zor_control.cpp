@@ -55,7 +55,7 @@ QString toQString(std::string_view text)
 
 // --- The control, and where it reports to
 
-struct ZorControl::Inner final : QObject, core::EventSink {
+struct ZorControl::Inner final : core::EventSink {
     Inner(ZorControl& widget, const core::ClassInfo& classInfo)
         : owner(&widget), container(widget, core::pictureData), info(&classInfo),
           output(classInfo.property("OutputValue")), modified(classInfo.property("DataModified"))
@@ -69,11 +69,11 @@ struct ZorControl::Inner final : QObject, core::EventSink {
         control->initialiseProperties();
         container.onPropertyChanged = [this](platform::Component&, std::string_view name) { written(name); };
         container.onSettled = [this](platform::Component&) { settled(); };
+        container.onFormChanges = [this](QWidget& part, const QEvent& event) { formChanges(part, event); };
         control->subscribe(*this);
         designed = control->surface().geometry();
         face = &platform::qt::widgetOf(*control->widget(1));
     }
-    using QObject::event;
     void event(core::Control&, const core::EventRow& row, platform::EventArgs args) override
     {
         const QPointer<ZorControl> alive = owner;
@@ -91,6 +91,8 @@ struct ZorControl::Inner final : QObject, core::EventSink {
     }
     void written(std::string_view name);
     void settled() noexcept;
+    /// Follows the part that a control shows, and the one that has the focus.
+    void formChanges(const QWidget& part, const QEvent& event);
     /// Notes the value that is handed over, and says whether the operator is the one who does it.
     [[nodiscard]] bool takesOver();
     void released();
@@ -140,6 +142,25 @@ void ZorControl::Inner::written(std::string_view name)
     emit alive->propertyChanged(toQString(name));
 }
 
+void ZorControl::Inner::formChanges(const QWidget& part, const QEvent& event)
+{
+    if (owner == nullptr || (&part != face && &part != owner->focusProxy()))
+        return;
+    if (event.type() != QEvent::FocusOut)
+        return owner->followFace();
+    if (&part != owner->focusProxy())
+        return;
+    // Who watches this widget for its focus (a data mapper) would see nothing of the part that has it.
+    const auto reason = static_cast<const QFocusEvent&>(event).reason();
+    QMetaObject::invokeMethod(
+        owner,
+        [widget = owner, reason] {
+            QFocusEvent left(QEvent::FocusOut, reason);
+            QCoreApplication::sendEvent(widget, &left);
+        },
+        Qt::QueuedConnection);
+}
+
 bool ZorControl::Inner::takesOver()
 {
     isValueNew = false;
@@ -187,7 +208,7 @@ ZorControl::ZorControl(std::string_view className, QWidget* parent)
     inner.make();
     takeFocusProxy();
     if (const auto* track = qobject_cast<const QAbstractSlider*>(inner.face))
-        connect(track, &QAbstractSlider::sliderReleased, m_inner.get(), &Inner::released);
+        connect(track, &QAbstractSlider::sliderReleased, this, [this] { m_inner->released(); });
     setSizePolicy(QSizePolicy::Preferred, hasList() ? QSizePolicy::Expanding : QSizePolicy::Fixed);
     resize(sizeHint());
 }
@@ -206,7 +227,12 @@ ZorControl::~ZorControl()
     inner.surface().hide();
     inner.surface().setParent(nullptr);
     inner.control.reset();
-    m_inner.release()->deleteLater();
+    struct Leaving final : QObject {
+        std::unique_ptr<Inner> inner;
+    };
+    auto* const leaving = new Leaving;
+    leaving->inner = std::move(m_inner);
+    leaving->deleteLater();
 }
 
 core::Control& ZorControl::control() const noexcept { return *m_inner->control; }
@@ -358,11 +384,8 @@ void ZorControl::takeFocusProxy()
         setFocusProxy(&widget);
         m_inner->focusPolicy = widget.focusPolicy();
         setFocusPolicy(widget.focusPolicy());
-        widget.installEventFilter(this);
         break;
     }
-    if (m_inner->face != focusProxy())
-        m_inner->face->installEventFilter(this);
     followFace();
 }
 
@@ -400,28 +423,6 @@ bool ZorControl::focusNextPrevChild(bool next)
 }
 
 bool ZorControl::hasList() const { return dynamic_cast<const platform::ListBox*>(control().widget(1)) != nullptr; }
-
-bool ZorControl::eventFilter(QObject* watched, QEvent* event)
-{
-    switch (event->type()) {
-    case QEvent::EnabledChange:
-    case QEvent::ShowToParent:
-    case QEvent::HideToParent: followFace(); break;
-    default: break;
-    }
-    // Who watches this widget for its focus (a data mapper) would see nothing of the part that has it.
-    if (watched == focusProxy() && event->type() == QEvent::FocusOut) {
-        const auto reason = static_cast<QFocusEvent*>(event)->reason();
-        QMetaObject::invokeMethod(
-            this,
-            [this, reason] {
-                QFocusEvent left(QEvent::FocusOut, reason);
-                QCoreApplication::sendEvent(this, &left);
-            },
-            Qt::QueuedConnection);
-    }
-    return ZorWidget::eventFilter(watched, event);
-}
 
 void ZorControl::changeEvent(QEvent* event)
 {

@@ -95,7 +95,6 @@ protected:
     /// @}
 
     void connectNotify(const QMetaMethod& signal) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

@@ -84,7 +84,7 @@ private:
     QPointer<QMenu> m_menu;
 };
 
-class QtSurface final : public QtBase<Surface, SurfaceWidget> {
+class QtSurface final : public QtBase<Surface, SurfaceWidget>, SurfaceWidget::Listener {
 public:
     QtSurface(const Context& context, Twips width, Twips height) : QtBase(context, kSurfaceWidget, ButtonFace)
     {
@@ -92,9 +92,11 @@ public:
         m_inner = context;
         m_inner.surface = &widget();
         showNow(widget());
-        widget().onResized = [this](QSize size) { resizedByForm(size); };
-        widget().onMenuKey = [this](QPoint at) { menuKey(at); };
+        widget().listener = this;
     }
+    ~QtSurface() override { widget().listener = nullptr; }
+    QtSurface(const QtSurface&) = delete;
+    QtSurface& operator=(const QtSurface&) = delete;
 
     /// Where the form's layout has put the control, if it has.
     [[nodiscard]] Rect geometry() const override
@@ -170,7 +172,7 @@ private:
     }
 
     /// What the right mouse button does on the surface, the keyboard does on any of its widgets.
-    void menuKey(QPoint at)
+    void menuKey(QPoint at) override
     {
         std::int16_t button = kRightButton;
         std::int16_t shift = 0;
@@ -178,7 +180,8 @@ private:
         auto y = static_cast<float>(scale().twips(at.y()));
         report(Notice::MouseUp, std::array<ArgRef, 4>{&button, &shift, &x, &y});
     }
-    void resizedByForm(QSize size)
+    /// By the form's layout, where it is not the control's own doing.
+    void resized(QSize size) override
     {
         auto* component = dynamic_cast<Component*>(context().listener);
         if (m_setting || component == nullptr || size == scale().pixels(m_geometry).size())

@@ -12,6 +12,7 @@
 #include <span>
 #include <string_view>
 
+class QEvent;
 class QWidget;
 
 namespace zor::platform::qt {
@@ -51,6 +52,9 @@ public:
     std::function<void(Component&)> onSettled;
     /// Takes the place of the real message boxes.
     std::function<void(Component&, const MessageBox&)> onMessage;
+    /// Hears, before the part itself, that the form enables, disables, shows or hides a control's part, or takes
+    /// the focus from it.
+    std::function<void(QWidget& part, const QEvent&)> onFormChanges;
     /// Receives what an event handler of the host threw; without it, it is logged.
     std::function<void(std::exception_ptr)> onError;
 

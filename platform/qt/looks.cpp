@@ -215,14 +215,33 @@ QPalette paletteOf(Colour back, Colour fore)
         QPalette& palette = at->second;
         const QColor field = toQColor(back);
         const QColor text = readableOn(fore, field);
-        for (const auto role : {QPalette::Base, QPalette::Window})
-            palette.setColor(role, field);
+        palette.setColor(QPalette::Base, field);
+        // What is in the theme's colour has the theme's frame, too; any other frames itself.
+        if (back != WindowBackground)
+            palette.setColor(QPalette::Window, field);
         for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
             palette.setColor(QPalette::Active, role, text);
             palette.setColor(QPalette::Inactive, role, text);
         }
     }
     return at->second;
+}
+
+bool isSeenAs(const QWidget& widget, const QPalette& colours)
+{
+    if (widget.testAttribute(Qt::WA_SetPalette))
+        return false;
+    for (int group = 0; group < QPalette::NColorGroups; ++group) {
+        const auto in = static_cast<QPalette::ColorGroup>(group);
+        if (in == QPalette::Disabled && widget.isEnabled())
+            continue;
+        for (int number = 0; number < QPalette::NColorRoles; ++number) {
+            const auto role = static_cast<QPalette::ColorRole>(number);
+            if (colours.isBrushSet(in, role) && colours.brush(in, role) != widget.palette().brush(in, role))
+                return false;
+        }
+    }
+    return true;
 }
 
 QColor frameSource(const QColor& text, const QColor& background)

@@ -70,6 +70,10 @@ private:
 /// What a widget with these colours paints with, in the present theme. The same for all of one colour: made once.
 [[nodiscard]] QPalette paletteOf(Colour back, Colour fore);
 
+/// Whether a widget without a palette of its own is painted with these colours all the same, being as enabled as
+/// it is: a palette takes half a kilobyte, and most fields are in the theme's own colours.
+[[nodiscard]] bool isSeenAs(const QWidget& widget, const QPalette& colours);
+
 /// The window colour of a palette from which a style paints the frame of an empty mark: one that is seen on the
 /// background, whatever colour it has.
 [[nodiscard]] QColor frameSource(const QColor& text, const QColor& background);

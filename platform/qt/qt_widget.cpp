@@ -27,6 +27,15 @@ void QtWidget::announce() const
     QAccessible::updateAccessibility(&changed);
 }
 
+void QtWidget::formChanges(const QEvent& event)
+{
+    // Only what is painted in the theme's own colours looks otherwise where it is disabled.
+    if (event.type() == QEvent::EnabledChange && !qwidget().testAttribute(Qt::WA_SetPalette))
+        themeChanged();
+    if (m_context.container->onFormChanges)
+        m_context.container->onFormChanges(qwidget(), event);
+}
+
 bool SurfaceWidget::event(QEvent* event)
 {
     const bool isHandled = QWidget::event(event);
@@ -42,15 +51,15 @@ void SurfaceWidget::contextMenuEvent(QContextMenuEvent* event)
     // The mouse has been heard of already, by its release.
     const bool isKey = event->reason() == QContextMenuEvent::Keyboard;
     event->setAccepted(isKey);
-    if (isKey && onMenuKey)
-        onMenuKey(event->pos());
+    if (isKey && listener != nullptr)
+        listener->menuKey(event->pos());
 }
 
 void SurfaceWidget::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    if (onResized)
-        onResized(event->size());
+    if (listener != nullptr)
+        listener->resized(event->size());
 }
 
 bool EventReports::before()

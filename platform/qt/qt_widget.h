@@ -15,7 +15,6 @@
 #include <QWidget>
 
 #include <array>
-#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -84,6 +83,8 @@ public:
     virtual void themeChanged() = 0;
     /// The widget writes in another font, for whatever reason.
     virtual void fontChanged() {}
+    /// The form enables, disables, shows or hides the widget, or takes its focus.
+    void formChanges(const QEvent& event);
 
     /// Whether the listener believes that the widget has the focus.
     bool focusReported = false;
@@ -171,6 +172,8 @@ public:
 
     bool event(QEvent* event) override
     {
+        if (owner != nullptr && isOfForm(event->type()))
+            owner->formChanges(*event);
         if (!isOfInterest(event->type()))
             return Base::event(event);
         return reported(owner, event, [this](QEvent* shown) { return Base::event(shown); });
@@ -185,6 +188,11 @@ protected:
     }
 
 private:
+    static bool isOfForm(QEvent::Type type)
+    {
+        return type == QEvent::EnabledChange || type == QEvent::ShowToParent || type == QEvent::HideToParent ||
+               type == QEvent::FocusOut;
+    }
     static bool isOfInterest(QEvent::Type type)
     {
         switch (type) {
@@ -211,13 +219,24 @@ inline void showNow(QWidget& widget)
         widget.setVisible(true);
 }
 
-/// The QWidget under a surface; tells the component when the container gives it another size, and of the menu key
-/// of any widget on it that has no menu of its own.
+/// The QWidget under a surface.
 class SurfaceWidget : public QWidget {
 public:
     using QWidget::QWidget;
-    std::function<void(QSize)> onResized;
-    std::function<void(QPoint)> onMenuKey;
+
+    /// What the surface hears of its widget.
+    class Listener {
+    public:
+        /// It has another size.
+        virtual void resized(QSize size) = 0;
+        /// The menu key, on any widget of the surface that has no menu of its own.
+        virtual void menuKey(QPoint at) = 0;
+
+    protected:
+        ~Listener() = default;
+    };
+    /// nullptr once the surface has ended.
+    Listener* listener = nullptr;
     /// Parts that hear when it is about to be seen for the first time.
     std::vector<QtWidget*> waiting;
 
@@ -332,6 +351,8 @@ protected:
 
     void setColours(const QPalette& palette)
     {
+        if (isSeenAs(*m_widget, palette))
+            return;
         const bool before = std::exchange(isColouring, true);
         m_widget->setPalette(palette);
         isColouring = before;

@@ -200,6 +200,24 @@ TEST(Widgets, AStyleSheetOfTheProgramHidesNoState)
     EXPECT_EQ(field(), QColor(0x223344));
     form.setStyleSheet({});
     EXPECT_EQ(field(), form.palette().color(QPalette::Base));
+    // A field keeps its colour where its form is disabled, one that has never had a palette of its own too; and
+    // where somebody gives the form another palette.
+    auto* plain = new ZorTextBox(&form);
+    auto* edit = plain->findChild<QLineEdit*>();
+    EXPECT_FALSE(edit->testAttribute(Qt::WA_SetPalette));
+    QPalette own = form.palette();
+    const QColor theme = own.color(QPalette::Base);
+    own.setColor(QPalette::Disabled, QPalette::Base, Qt::gray);
+    form.setPalette(own);
+    EXPECT_FALSE(edit->testAttribute(Qt::WA_SetPalette));
+    form.setEnabled(false);
+    EXPECT_EQ(edit->palette().color(QPalette::Base), theme);
+    auto* late = new ZorTextBox(&form);
+    EXPECT_EQ(late->findChild<QLineEdit*>()->palette().color(QPalette::Base), theme);
+    own.setColor(QPalette::Base, Qt::green);
+    form.setPalette(own);
+    for (const QLineEdit* one : form.findChildren<QLineEdit*>())
+        EXPECT_EQ(one->palette().color(QPalette::Base), theme);
 }
 
 // Keys, submit() and a model that changes: our widgets beside a spin box of Qt's, which shows what is usual.
