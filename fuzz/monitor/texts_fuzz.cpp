@@ -48,27 +48,27 @@ std::string play(std::string_view input)
     std::string wrong;
     constexpr int kShort = 2000;
     const QString wanted = shownText(input, kShort);
-    for (const core::ClassInfo* info : classes().classes()) {
-        const core::ControlPtr<> control = info->create(container);
-        control->initialiseProperties();
-        const auto tried = [](auto&& action) {
-            try {
-                action();
-            } catch (const RunTimeError&) {
-                // Not every class has it, and a number is no text.
-            }
-        };
-        for (const char* property :
-             {"DeviceTag", "MsgDefault", "CheckBoxCaption", "UnitLabelCaption", "DeviceType", "DeviceValue"})
-            tried([&] { control->setProperty(property, input); });
-        for (const char* method : {"AddEnumEntry", "AddBitFieldEntry"})
-            tried([&] { control->call(method, std::vector<Variant>{input, 0}); });
-        const QWidget& face = platform::qt::widgetOf(*control->widget(1));
-        if (info->subject == nullptr && read(face.toolTip()) != read(wanted, true))
-            wrong.append(info->name).append(": another tooltip: ") += face.toolTip().toStdString();
-        if (const QString shown = shownOn(face); !shown.isEmpty() && input.size() < kShort && shown != wanted)
-            wrong.append(info->name).append(": another text: ") += shown.toStdString();
-    }
+    // One class a text, by its length: making all nine would take most of the time.
+    const core::ClassInfo& info = *classes().classes()[input.size() % classes().classes().size()];
+    const core::ControlPtr<> control = info.create(container);
+    control->initialiseProperties();
+    const auto tried = [](auto&& action) {
+        try {
+            action();
+        } catch (const RunTimeError&) {
+            // Not every class has it, and a number is no text.
+        }
+    };
+    for (const char* property :
+         {"DeviceTag", "MsgDefault", "CheckBoxCaption", "UnitLabelCaption", "DeviceType", "DeviceValue"})
+        tried([&] { control->setProperty(property, input); });
+    for (const char* method : {"AddEnumEntry", "AddBitFieldEntry"})
+        tried([&] { control->call(method, std::vector<Variant>{input, 0}); });
+    const QWidget& face = platform::qt::widgetOf(*control->widget(1));
+    if (info.subject == nullptr && read(face.toolTip()) != read(wanted, true))
+        wrong.append(info.name).append(": another tooltip: ") += face.toolTip().toStdString();
+    if (const QString shown = shownOn(face); !shown.isEmpty() && input.size() < kShort && shown != wanted)
+        wrong.append(info.name).append(": another text: ") += shown.toStdString();
     return wrong;
 }
 

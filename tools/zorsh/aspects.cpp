@@ -91,12 +91,14 @@ static_assert(kAspects[kSurfaceRows - 1].name == "BackColor");
 
 std::int32_t indexIn(std::string_view brackets)
 {
+    if (brackets.size() < 3 || brackets.back() != ')')
+        raiseError(ErrorNumber::InvalidCall, brackets);
     std::int32_t index = 0;
     const char* end = brackets.data() + brackets.size() - 1;
     const auto [at, error] = std::from_chars(brackets.data() + 1, end, index);
     if (error == std::errc::result_out_of_range)
         raiseError(ErrorNumber::Overflow, brackets);
-    if (brackets.size() < 3 || brackets.back() != ')' || error != std::errc() || at != end)
+    if (error != std::errc() || at != end)
         raiseError(ErrorNumber::InvalidCall, brackets);
     return index;
 }
