@@ -57,12 +57,25 @@ private:
     [[nodiscard]] bool starts(string_view with) const { return m_text.substr(m_at).starts_with(with); }
     [[nodiscard]] bool isAt(char c) const { return m_at < m_text.size() && m_text[m_at] == c; }
 
-    void skip(string_view what, string_view end)
+    /// Answers what lies between.
+    string_view skip(string_view what, string_view begin, string_view end)
     {
-        const auto found = m_text.find(end, m_at);
+        const auto from = m_at + begin.size();
+        const auto found = m_text.find(end, from);
         if (found == npos)
             fail(string(what) + " that does not end");
         m_at = found + end.size();
+        return m_text.substr(from, found - from);
+    }
+    void comment()
+    {
+        const std::size_t start = m_at;
+        // Two hyphens inside are no XML, and would be written otherwise than they were read.
+        if (const string_view inside = skip("a comment", "<!--", "-->");
+            inside.find("--") != npos || inside.ends_with('-')) {
+            m_at = start;
+            fail("a comment with -- in it");
+        }
     }
     void skipBlanks() { m_at = std::min(m_text.find_first_not_of(kBlanks, m_at), m_text.size()); }
     string_view name()
@@ -78,11 +91,12 @@ private:
     void markup()
     {
         if (starts("<!--"))
-            return skip("a comment", "-->");
+            return comment();
         if (starts("<![CDATA[")) {
             if (m_open.empty())
                 fail("text outside the form");
-            return skip("a CDATA section", "]]>");
+            skip("a CDATA section", "<![CDATA[", "]]>");
+            return;
         }
         if (starts("<!"))
             fail("document type definitions are not read");
@@ -95,11 +109,9 @@ private:
 
     void instruction()
     {
-        const std::size_t start = m_at;
-        skip("an instruction", "?>");
-        const string_view whole = m_text.substr(start, m_at - start);
+        const string_view whole = skip("an instruction", "<?", "?>");
         const auto encoding = whole.find("encoding");
-        if (!whole.starts_with("<?xml ") || encoding == npos)
+        if (!whole.starts_with("xml ") || encoding == npos)
             return;
         string named(whole.substr(encoding));
         std::ranges::transform(named, named.begin(),
