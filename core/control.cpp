@@ -63,6 +63,14 @@ void namingWritten(std::string_view object, std::string_view member, const Varia
     }
 }
 
+/// A value as a bag has it: published with 32 bits, some are stored with 16. Raises Overflow.
+Variant storable(ValueKind kind, const Variant& value)
+{
+    const bool isShort =
+        kind == ValueKind::UnitType || kind == ValueKind::MeasType || kind == ValueKind::RegisterType;
+    return isShort ? Variant(value.toInt16()) : value;
+}
+
 template <class Row>
 const Row& found(const Row* row)
 {
@@ -346,11 +354,7 @@ void Control::load(const PropertyRow& row, const platform::PropertyBag& bag)
         value = bag.ReadProperty(row.key, toVariant(row.bagDefault));
         if (row.field.at == nullptr)
             return row.put(*this, value);
-        // Published with 32 bits, stored with 16.
-        const ValueKind kind = row.field.kind;
-        const bool isShort =
-            kind == ValueKind::UnitType || kind == ValueKind::MeasType || kind == ValueKind::RegisterType;
-        storeInto(row.field.at(*this), isShort ? Variant(value.toInt16()) : value);
+        storeInto(row.field.at(*this), storable(row.field.kind, value));
     });
 }
 
@@ -368,13 +372,18 @@ void Control::readProperties(const platform::PropertyBag& bag)
 
 void Control::writeProperties(platform::PropertyBag& bag)
 {
+    // What could not be read again would take all that is stored with it: nothing is stored then.
+    std::vector<std::pair<const PropertyRow*, Variant>> values;
     for (const PropertyRow* row : m_info.properties) {
         if (row->key.empty())
             continue;
-        const Variant value = row->storesField ? valueOf(row->field.at(*this)) : read(*row);
-        // No property is Empty, so nothing equals that default.
-        bag.WriteProperty(row->key, value, row->isAlwaysStored ? Variant() : toVariant(row->bagDefault));
+        const Variant& value =
+            values.emplace_back(row, row->storesField ? valueOf(row->field.at(*this)) : read(*row)).second;
+        namingWritten(m_info.name, row->name, value, [&] { static_cast<void>(storable(row->field.kind, value)); });
     }
+    // No property is Empty, so nothing equals that default.
+    for (const auto& [row, value] : values)
+        bag.WriteProperty(row->key, value, row->isAlwaysStored ? Variant() : toVariant(row->bagDefault));
 }
 
 void Control::resized()

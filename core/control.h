@@ -186,7 +186,8 @@ public:
     void initialiseProperties() final;
     /// Takes the stored properties.
     void readProperties(const platform::PropertyBag& bag) final;
-    /// Stores the properties.
+    /// Stores the properties. An enumeration's value that needs more than the 16 bits of its key raises Overflow,
+    /// and nothing is stored.
     void writeProperties(platform::PropertyBag& bag) final;
     void resized() final;
     /// A widget reports.

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <utility>
 
 namespace zor::platform::headless {
 namespace {
@@ -15,13 +17,15 @@ HeadlessWidget& base(Widget& widget) { return dynamic_cast<HeadlessWidget&>(widg
 /// A handler may have frozen or hidden the widget under the operator's hands: then it hears of no key any more.
 bool isReachable(const Widget& widget) { return widget.isVisible() && widget.isEnabled(); }
 
-/// On the mark or the text of an entry, with the rows as high as on a screen in the usual font.
-Spot spotOnEntry(std::int32_t index, bool isMark)
+/// On the mark or the text of an entry, with the rows as high as on a screen in the usual font; one that lies
+/// below is scrolled to.
+Spot spotOnEntry(const ListBox& list, std::int32_t index, bool isMark)
 {
     constexpr Twips kRowHeight = 270;
     constexpr Twips kFirstRow = 120;
     constexpr Twips kMark = 135;
-    return {isMark ? kMark : kListText, kFirstRow + kRowHeight * index};
+    const auto last = std::max(static_cast<std::int32_t>(list.height() / kRowHeight), 1) - 1;
+    return {isMark ? kMark : kListText, kFirstRow + kRowHeight * std::min(index, last)};
 }
 
 Spot spotOfClick(const Widget& widget)
@@ -29,7 +33,7 @@ Spot spotOfClick(const Widget& widget)
     const auto* list = dynamic_cast<const ListBox*>(&widget);
     if (list == nullptr)
         return spotOn(widget);
-    return list->count() > 0 ? spotOnEntry(std::max(list->current(), 0), false) : Spot{};
+    return list->count() > 0 ? spotOnEntry(*list, std::max(list->current(), 0), false) : Spot{};
 }
 
 void reportMouse(Widget& widget, Notice notice, std::int16_t button, Spot spot)
@@ -229,10 +233,13 @@ void HeadlessOperator::step(SpinButton& button, bool up) { dynamic_cast<Headless
 void HeadlessOperator::drag(Track& track, std::int32_t position)
 {
     const std::int32_t target = std::clamp(position, track.minimum(), std::max(track.minimum(), track.maximum()));
-    if (track.value() != target) {
-        base(track).report(Notice::Scroll);
+    const std::int32_t before = track.value();
+    if (before == target)
+        return;
+    base(track).report(Notice::Scroll);
+    // Who hears of it may show another value, or freeze the track: then the hand has lost the handle.
+    if (track.value() == before && isReachable(track))
         track.setValue(target);
-    }
 }
 
 void HeadlessOperator::open(ComboBox& box)
@@ -250,8 +257,14 @@ void HeadlessOperator::pick(ComboBox& box, std::int32_t index)
 
 void HeadlessOperator::clickMark(ListBox& box, std::int32_t index)
 {
-    pressAndRelease(box, spotOnEntry(index, true));
-    if (box.isEnabled() && index < box.count())
+    using Entry = std::pair<std::string, std::int32_t>;
+    const auto entry = [&] {
+        return index < box.count() ? std::optional(Entry(box.entryText(index), box.datum(index))) : std::nullopt;
+    };
+    const std::optional<Entry> pressed = entry();
+    pressAndRelease(box, spotOnEntry(box, index, true));
+    // Where a handler has put another entry under the hand, it has not been clicked.
+    if (box.isEnabled() && pressed && entry() == pressed)
         box.setSelected(index, !box.isSelected(index));
 }
 

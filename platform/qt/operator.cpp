@@ -123,9 +123,9 @@ void QtOperator::dropFocus(Widget& widget)
     QWidget& target = base(widget).qwidget();
     const bool hadFocus = target.hasFocus();
     target.clearFocus();
-    // One that was hidden with its list open would be given the focus when it is shown; nobody else's has come
-    // between.
-    if (target.isHidden()) {
+    // One that was hidden with its list open would be given the focus when it is shown, unless somebody else has
+    // come between.
+    if (target.isHidden() && QApplication::focusWidget() == nullptr) {
         target.window()->setFocus();
         target.window()->clearFocus();
     }

@@ -86,13 +86,16 @@ bool EventReports::keyPressed(QKeyEvent& key)
     std::int16_t press = ascii;
     if (ascii != 0)
         m_widget.report(Notice::KeyPress, std::array<ArgRef, 1>{&press});
+    // No character has a number below 0.
+    if (ascii != 0 && press <= 0)
+        return true;
     if (press != ascii)
         m_replacement = std::make_unique<QKeyEvent>(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier,
                                                     QString(QChar(static_cast<char16_t>(press))));
     else if (code != oldCode && ascii < ' ')
         // A key without a letter acts as the key that the handler made of it.
         m_replacement = std::make_unique<QKeyEvent>(QEvent::KeyPress, keyOf(code), key.modifiers(), key.text());
-    return ascii != 0 && press == 0;
+    return false;
 }
 
 void EventReports::after()
@@ -145,6 +148,18 @@ void EventReports::after()
     }
 }
 
+/// Also to what is disabled, which Qt would not. What is hidden cannot have it: Qt would give it when that is
+/// shown, and take it from where the operator is by then.
+static void giveFocusBack(QWidget& widget)
+{
+    if (widget.isHidden())
+        return;
+    const bool isDisabled = widget.testAttribute(Qt::WA_Disabled);
+    widget.setAttribute(Qt::WA_Disabled, false);
+    widget.setFocus(Qt::OtherFocusReason);
+    widget.setAttribute(Qt::WA_Disabled, isDisabled);
+}
+
 void EventReports::focusLost(const QFocusEvent& focus)
 {
     // A menu or another program over the window does not end the operator's work in the field.
@@ -159,10 +174,8 @@ void EventReports::focusLost(const QFocusEvent& focus)
     if (!widget)
         return;
     m_widget.validating = false;
-    if (cancel) {
-        widget->setFocus(Qt::OtherFocusReason);
-        return;
-    }
+    if (cancel)
+        return giveFocusBack(*widget);
     m_widget.focusReported = false;
     m_widget.report(Notice::LostFocus);
 }

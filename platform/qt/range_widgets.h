@@ -94,6 +94,15 @@ public:
     explicit QuietSlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {}
 
 protected:
+    void changeEvent(QEvent* event) override
+    {
+        // What is frozen while it is dragged stays where it is: Qt would let go of it where the hand is.
+        if (event->type() == QEvent::EnabledChange && !isEnabled()) {
+            const QSignalBlocker quiet(this);
+            setSliderPosition(value());
+        }
+        QSlider::changeEvent(event);
+    }
     void wheelEvent(QWheelEvent* event) override
     {
         if (hasFocus())
@@ -116,11 +125,15 @@ public:
         widget().setTickInterval(1);
         applyEnds();
         setGeometry({0, 0, 285, 510});
-        QObject::connect(&widget(), &QSlider::sliderMoved, &widget(), [this] {
+        QObject::connect(&widget(), &QSlider::sliderMoved, &widget(), [this](int position) {
             if (!m_setting)
-                report(Notice::Scroll);
+                dragged(position);
         });
-        QObject::connect(&widget(), &QSlider::valueChanged, &widget(), [this] { report(Notice::Change); });
+        // Qt says so of a handle that comes back to its value, too.
+        QObject::connect(&widget(), &QSlider::valueChanged, &widget(), [this](int value) {
+            if (std::exchange(m_value, value) != value)
+                report(Notice::Change);
+        });
     }
 
     [[nodiscard]] std::int32_t value() const override { return widget().value(); }
@@ -164,6 +177,16 @@ private:
         action();
         m_setting = before;
     }
+    /// Who hears of it may show another value, or freeze the track: then the hand has lost the handle. Where he
+    /// moves an end, Qt has forgotten where the hand is.
+    void dragged(int position)
+    {
+        const EventScope scope(context());
+        const std::int32_t before = value();
+        report(Notice::Scroll);
+        const bool goesOn = value() == before && isReachable();
+        set([&] { widget().setSliderPosition(goesOn ? position : value()); });
+    }
     void applyEnds()
     {
         // Qt would move the upper end along with the lower one.
@@ -173,6 +196,7 @@ private:
     }
 
     WholeRange m_ends;
+    std::int32_t m_value = 0; ///< reported last
     std::int16_t m_tickStyle = 0;
     bool m_setting = false;
 };

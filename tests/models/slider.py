@@ -28,7 +28,6 @@ class Slider(Numeric):
     ACTIONS = {"sld_Slider": "move move move move focus blur key key key", **names(" ".join(LABELS), "click"),
                "lbl_MinPrefix": "click rightclick", "lbl_MaxUnit": "click dblclick rightclick", "img_State": "click dblclick",
                "Surface": "rightclick rightclick", "mnu_Edit": "choose choose"}
-    UNHANDLED = ("sliderScroll",)  # whether the track has moved by then is the platform's
     KEYS = (39, 37, 38, 40, 36, 35, 112)
     VALUES = {**Numeric.VALUES, "ScaleFactor": (1, 1, 10, 100), **names("DeviceValue ModifiedValue", (0, 5, 5.4, 12, -3, 7.5, 150)),
               "MinValue": (0, 0.5, -40, 20), "MaxValue": (9.5, 100, 100, 1000, -50), "OtherUserValue": (0, 7.5),
@@ -183,10 +182,13 @@ class Slider(Numeric):
     # --- The operator
 
     def move(self, widget, position):
-        position = self.clamped(position)
-        if position != self["sld_Slider.Value"]:
-            self.emit("sliderScroll")
-            self.drag(position)
+        before, position = self["sld_Slider.Value"], self.clamped(position)
+        if position == before:
+            return
+        self.emit("sliderScroll")
+        # Another value, or a frozen track, takes the handle out of the hand.
+        if self["sld_Slider.Value"] == before and self.able("sld_Slider"):
+            self.drag(self.clamped(position))
 
     def drag(self, position):
         self["sld_Slider.Value"] = position

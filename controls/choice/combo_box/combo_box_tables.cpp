@@ -21,7 +21,8 @@ struct ctx_ZorComboBox::Tables {
     static constexpr auto kProperties = joined(R::kStored, R::kNotStored, core::rows(&R::SelectedText));
 
     static constexpr std::array kFaceEvents{
-        event<&E::ComboChange>("ComboChange", cbo_ComboBox, Notice::Change),
+        event<&E::ComboChange>("ComboChange", cbo_ComboBox, Notice::Change)
+            .saying("Its typed text changed: where the platform's list takes one, which neither platform's does."),
         ownEvent<&E::ComboClick>("ComboClick")
             .saying("An entry was chosen, by whomever; after all that follows from it."),
         event<&E::ComboDblClick>("ComboDblClick", cbo_ComboBox, Notice::DblClick),

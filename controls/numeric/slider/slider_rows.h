@@ -28,8 +28,8 @@ struct ctx_ZorSlider::Rows : controls::RangeRows {
             .storingField();
     static constexpr auto ModifiedValue =
         core::computedRow<[](This& slider) { return slider.ModifiedValue(); }>("ModifiedValue", core::Topic::Value)
-            .saying("Reading gives OutputValue. Writing moves the track to a value, in DeviceUnit, as if the "
-                    "operator had.")
+            .saying("Reading gives OutputValue times ScaleFactor. Writing moves the track to a value, in steps of "
+                    "DeviceUnit, as if the operator had.")
             .written<[](This& slider, double value) { slider.ModifiedValue(value); }>();
     static constexpr auto OtherUserValue = OtherUser<&This::m_otherUser>;
     static constexpr auto ScaleFactor =
@@ -41,7 +41,13 @@ struct ctx_ZorSlider::Rows : controls::RangeRows {
 
     static constexpr auto MaxValue =
         controls::RangeRows::MaxValue.saying("Value at the right end of the track, in DefaultUnit.").stored(10.0);
-    static constexpr auto MaxParamValue = controls::RangeRows::MaxParamValue.stored(10.0);
+    static constexpr auto MinParamValue = controls::RangeRows::MinParamValue.saying(
+        "MinValue in OutputUnit, times ScaleFactor: the left end of the track. Follows from the others.");
+    static constexpr auto MaxParamValue =
+        controls::RangeRows::MaxParamValue
+            .saying(
+                "MaxValue in OutputUnit, times ScaleFactor: the right end of the track. Follows from the others.")
+            .stored(10.0);
     static constexpr auto EnableValues =
         core::fieldRow<&This::m_enableValues>("EnableValues", core::Topic::Appearance)
             .saying("Whether the labels below the track show the ends of the range.")
