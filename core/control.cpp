@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cmath>
 
 namespace zor::core {
 
@@ -41,6 +42,8 @@ std::string handed(ErrorNumber number, const Variant& value)
 {
     if (number != ErrorNumber::TypeMismatch && number != ErrorNumber::Overflow)
         return {};
+    if (value.isNumber() && !std::isfinite(value.number()))
+        return "no finite number";
     constexpr std::size_t kMost = 40;
     const std::string text = platform::validUtf8(value.toText());
     std::string shown = text.substr(0, platform::byteOffset(text, kMost));

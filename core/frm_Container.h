@@ -24,7 +24,7 @@ public:
 
     /// The roles of the pictures. A picture is told from the others by its shape alone.
     enum Picture : int {
-        None = 0,
+        NoPicture = 0,
         Error = 1,          ///< communication failure
         Warning = 2,        ///< no data, changed by another user, invalid entry
         NotFound = 3,       ///< identifier not found

@@ -2,12 +2,12 @@
 
 _zor_smart_controls()
 {
-    local cur prev words cword
-    _init_completion || return
+    local cur prev words cword split
+    _init_completion -s || return
     local help
     help=$("$1" --help 2>/dev/null)
     local values
-    values=$(sed -nE "s/^ +$prev [A-Z:]*\{([^}]*)\}.*/\1/p" <<<"$help")
+    values=$(awk -v option="$prev" '$1 == option && match($0, /\{[^}]*\}/) { print substr($0, RSTART + 1, RLENGTH - 2); exit }' <<<"$help")
     if [[ -n $values ]]; then
         values=$(sed -E 's/->[^,]*//g; s/,/ /g' <<<"$values")
         mapfile -t COMPREPLY < <(compgen -W "$values" -- "$cur")

@@ -2,6 +2,10 @@
 
 /// Variant values: what properties, property bags and the console exchange.
 
+#if !defined(_MSVC_LANG) && __cplusplus < 202002L
+#error "ZorSmartControls needs C++20 (-std=c++20)"
+#endif
+
 #include <cmath>
 #include <concepts>
 #include <cstddef>

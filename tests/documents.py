@@ -153,8 +153,9 @@ def fragments(found):
     """C++ that is no quotation compiles in the context given: as the body of a function behind its declarations."""
     commands = json.loads((BUILD / "compile_commands.json").read_text())
     uic = next(c for c in commands if "/example_tank_uic.dir/" in c["command"])
-    source = ["#include <zor/widgets.h>", "#include <zor/qt.h>", "#include <zor/pages.h>", '#include "ui_tank.h"',
-              "#include <QtWidgets>"]
+    # Of the QWidgets it is said that one header is enough.
+    more = [] if "qt-widgets" in str(DOCUMENT) else ["zor/qt.h", "zor/pages.h", "ui_tank.h"]
+    source = [f"#include <{header}>" for header in ("zor/widgets.h", *more, "QtWidgets")]
     source += [one for _, _, content in found for one in content if one.startswith("#include")]
     for line, given, content in found:
         source += [f"namespace block_{line} {{", (given or "void shown()") + " {", f'#line {line + 1} "{DOCUMENT}"',

@@ -29,6 +29,12 @@ Variant fromQVariant(const QVariant& value)
     case QMetaType::Float: return value.toDouble();
     case QMetaType::QString: return Variant(value.toString().toStdString());
     case QMetaType::UnknownType: return {};
+    // As a signed number the upper half of them would be negative.
+    case QMetaType::ULong:
+    case QMetaType::ULongLong:
+        if (const qulonglong number = value.toULongLong(); number > std::numeric_limits<std::int32_t>::max())
+            return static_cast<double>(number);
+        break;
     default: break;
     }
     if (value.canConvert<qlonglong>()) {
@@ -40,7 +46,9 @@ Variant fromQVariant(const QVariant& value)
         if (isInteger)
             return value.toDouble();
     }
-    return value.canConvert<QString>() ? Variant(value.toString().toStdString()) : Variant();
+    if (!value.canConvert<QString>())
+        raiseError(ErrorNumber::TypeMismatch);
+    return Variant(value.toString().toStdString());
 }
 
 } // namespace zor::widgets

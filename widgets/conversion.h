@@ -12,8 +12,8 @@
 namespace zor::widgets {
 
 [[nodiscard]] QVariant toQVariant(const Variant& value);
-/// Booleans, numbers and texts as they are; anything else by its text, Empty where it has none. An integer that
-/// does not fit 32 bits becomes a double.
+/// Booleans, numbers and texts as they are, no value as Empty; anything else by its text. An integer that does not
+/// fit 32 bits becomes a double. Raises TypeMismatch for what has no text.
 [[nodiscard]] Variant fromQVariant(const QVariant& value);
 
 /// What a Qt accessor hands out. A value of another kind gives the type's default.

@@ -280,6 +280,11 @@ void ZorControl::writeProperty(std::size_t row, const Variant& value)
     guarded(property.name, [&] { control().put(property, value); });
 }
 
+void ZorControl::writeProperty(std::size_t row, const QVariant& value)
+{
+    guarded(info().properties[row]->name, [&] { writeProperty(row, widgets::fromQVariant(value)); });
+}
+
 Variant ZorControl::callMethod(std::size_t row, std::initializer_list<Variant> arguments)
 {
     const core::MethodRow& method = info().methods[row];

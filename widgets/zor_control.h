@@ -87,6 +87,8 @@ protected:
     /// @{
     [[nodiscard]] Variant readProperty(std::size_t row) const;
     void writeProperty(std::size_t row, const Variant& value);
+    /// What is no value of a control is refused as another type.
+    void writeProperty(std::size_t row, const QVariant& value);
     /// The result of a method; Empty for none, and after an error.
     Variant callMethod(std::size_t row, std::initializer_list<Variant> arguments);
     [[nodiscard]] QVariantList callForArray(std::size_t row, std::initializer_list<Variant> arguments);

@@ -32,7 +32,7 @@ Twips centredOn(const Rect& field, const platform::Widget& widget)
 
 EntryField::EntryField(platform::Surface& surface)
     : m_text(surface.createTextField(kText)), m_units(surface.createLabel(kUnits)),
-      m_icon(surface.createImage(kState, false))
+      m_icon(surface.createImage(kIcon, false))
 {
     m_text->setGeometry({0, 0, kDesignedTextWidth, kDesignedHeight});
     move(*m_units, kDesignedTextWidth + kGap, 0);
@@ -45,7 +45,7 @@ platform::Widget* EntryField::widget(int number) const noexcept
     switch (number) {
     case kText: return m_text.get();
     case kUnits: return m_units.get();
-    case kState: return m_icon.get();
+    case kIcon: return m_icon.get();
     default: return nullptr;
     }
 }

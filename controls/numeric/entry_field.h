@@ -18,7 +18,7 @@ namespace zor::controls {
 class EntryField {
 public:
     /// Numbers of the widgets.
-    enum Number : int { kText = 1, kUnits = 2, kState = 3 };
+    enum Number : int { kText = 1, kUnits = 2, kIcon = 3 };
 
     /// Size of the whole as designed, in twips; the container may give it any other.
     static constexpr platform::Twips kDesignedWidth = 3000;

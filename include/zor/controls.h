@@ -1,6 +1,6 @@
 #pragma once
 
-/// The nine controls and the registry that makes them by name.
+/// The nine controls, the registry that makes them by name, and the separators that they write numbers with.
 
 #include <zor/controls/choice/check_box/ctx_ZorCheckBox.h>
 #include <zor/controls/choice/combo_box/ctx_ZorComboBox.h>
@@ -13,3 +13,4 @@
 #include <zor/controls/numeric/up_down/ctx_ZorUpDown.h>
 #include <zor/controls/registration.h>
 #include <zor/core/frm_Container.h>
+#include <zor/platform/regional.h>

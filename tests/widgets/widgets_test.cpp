@@ -104,6 +104,9 @@ TEST(Widgets, WhatIsRefusedIsSaidAndChangesNothing)
         int error;
     } rows[]{{"MaxLength", 70000, 6},
              {"InvalidEntry", true, 383},
+             {"DeviceValue", QPoint(1, 2), 13},
+             {"DeviceValue", qInf(), 6},
+             {"DeviceValue", QVariant::fromValue(std::numeric_limits<quint64>::max()), 0},
              {"DeviceValue", QVariant(), 0},
              {"MinValue", "abc", 0}};
     for (const auto& [property, value, error] : rows) {
@@ -116,6 +119,8 @@ TEST(Widgets, WhatIsRefusedIsSaidAndChangesNothing)
             EXPECT_EQ(refused[0][1], error) << property;
             EXPECT_TRUE(refused[0][2].toString().startsWith(QString("ctx_ZorTextBox.") + property + ": "));
             EXPECT_EQ(box.property(property), before) << property;
+        } else if (value.isValid()) {
+            EXPECT_EQ(box.property(property).toDouble(), value.toDouble());
         }
     }
     box.setUserMode(false);

@@ -254,7 +254,7 @@ void defineClass(std::ostream& out, const core::ClassInfo& info)
             << "() const { return "
             << (isReadable(*row) ? "as<" + type + ">(readProperty(" + std::to_string(index) + "))" : type + "{}")
             << "; }\nvoid " << name << "::set" << row->name << '(' << argument(row->field.kind, "value")
-            << ") { writeProperty(" << index << ", of(value)); }\n";
+            << ") { writeProperty(" << index << (type == "QVariant" ? ", value); }\n" : ", of(value)); }\n");
     }
     out << '\n';
     defineMethods(out, info);
