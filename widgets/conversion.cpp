@@ -1,3 +1,4 @@
+#include <zor/platform/error.h>
 #include <zor/widgets/conversion.h>
 
 #include <limits>

@@ -282,7 +282,10 @@ void ZorControl::writeProperty(std::size_t row, const Variant& value)
 
 void ZorControl::writeProperty(std::size_t row, const QVariant& value)
 {
-    guarded(info().properties[row]->name, [&] { writeProperty(row, widgets::fromQVariant(value)); });
+    const core::PropertyRow& property = *info().properties[row];
+    guarded(property.name, [&] {
+        control().put(property, naming(info().name, property.name, [&] { return widgets::fromQVariant(value); }));
+    });
 }
 
 Variant ZorControl::callMethod(std::size_t row, std::initializer_list<Variant> arguments)
@@ -327,7 +330,10 @@ QVariant ZorControl::value() const
 
 void ZorControl::setValue(const QVariant& value)
 {
-    guarded("value", [&] { control().setProperty("DeviceValue", widgets::fromQVariant(value)); });
+    guarded("value", [&] {
+        control().setProperty("DeviceValue",
+                              naming(info().name, "value", [&] { return widgets::fromQVariant(value); }));
+    });
 }
 
 void ZorControl::connectNotify(const QMetaMethod& signal)
