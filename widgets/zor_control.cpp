@@ -230,9 +230,9 @@ ZorControl::~ZorControl()
     struct Leaving final : QObject {
         std::unique_ptr<Inner> inner;
     };
-    auto* const leaving = new Leaving;
+    auto leaving = std::make_unique<Leaving>();
     leaving->inner = std::move(m_inner);
-    leaving->deleteLater();
+    leaving.release()->deleteLater();
 }
 
 core::Control& ZorControl::control() const noexcept { return *m_inner->control; }

@@ -105,7 +105,7 @@ public:
     enum Widgets : int {
         txt_TextBox = controls::EntryField::kText, ///< the text field
         lbl_Units = controls::EntryField::kUnits,  ///< the unit label
-        img_State = controls::EntryField::kIcon,  ///< the state icon; a click explains the state
+        img_State = controls::EntryField::kIcon,   ///< the state icon; a click explains the state
     };
     [[nodiscard]] platform::Widget* widget(int number) noexcept override;
 

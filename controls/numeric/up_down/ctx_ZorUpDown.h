@@ -71,7 +71,7 @@ public:
     enum Widgets : int {
         txt_TextBox = controls::EntryField::kText, ///< the text field
         lbl_Units = controls::EntryField::kUnits,  ///< the unit label
-        img_State = controls::EntryField::kIcon,  ///< the state icon; a click explains the state
+        img_State = controls::EntryField::kIcon,   ///< the state icon; a click explains the state
         upd_UpDown = 4,                            ///< the spin button
     };
     [[nodiscard]] platform::Widget* widget(int number) noexcept override;
