@@ -6,7 +6,7 @@
 #include <zor/platform/qt/looks.h>
 #include <zor/platform/qt/qt_regional.h>
 #include <zor/widgets/conversion.h>
-#include <zor/widgets/zor_control.h>
+#include <zor/widgets/zor_control_inner.h>
 
 #include <QAbstractSlider>
 #include <QCoreApplication>
@@ -54,80 +54,6 @@ QString toQString(std::string_view text)
 } // namespace
 
 // --- The control, and where it reports to
-
-struct ZorControl::Inner final : core::EventSink {
-    Inner(ZorControl& widget, const core::ClassInfo& classInfo)
-        : owner(&widget), container(widget, core::pictureData), info(&classInfo),
-          output(classInfo.property("OutputValue")), modified(classInfo.property("DataModified"))
-    {
-        container.setUserMode(true);
-    }
-    /// Makes the control. What a new one writes into itself nobody can have asked to hear of.
-    void make()
-    {
-        control = info->create(container);
-        control->initialiseProperties();
-        container.onPropertyChanged = [this](platform::Component&, std::string_view name) { written(name); };
-        container.onSettled = [this](platform::Component&) { settled(); };
-        container.onFormChanges = [this](QWidget& part, const QEvent& event) { formChanges(part, event); };
-        control->subscribe(*this);
-        designed = control->surface().geometry();
-        face = &platform::qt::widgetOf(*control->widget(1));
-    }
-    void event(core::Control&, const core::EventRow& row, platform::EventArgs args) override
-    {
-        const QPointer<ZorControl> alive = owner;
-        if (alive.isNull())
-            return;
-        const Telling telling(tellings);
-        const bool isValue = row.name == "OutputValueChange";
-        const bool isCommit = isValue && takesOver();
-        const QVariant committed = isCommit ? widgets::toQVariant(*handedOver) : QVariant();
-        alive->emitEvent(static_cast<std::size_t>(&row - &info->events[0]), args);
-        if (!alive.isNull() && isValue)
-            emit alive->valueChanged();
-        if (!alive.isNull() && isCommit)
-            emit alive->valueCommitted(committed);
-    }
-    void written(std::string_view name);
-    void settled() noexcept;
-    /// Follows the part that a control shows, and the one that has the focus.
-    void formChanges(const QWidget& part, const QEvent& event);
-    /// Notes the value that is handed over, and says whether the operator is the one who does it.
-    [[nodiscard]] bool takesOver();
-    void released();
-
-    /// While slots are being called, any of which may delete the widget.
-    using Telling = platform::Depth::Level;
-
-    /// A property whose changes somebody wants to hear of.
-    struct Watch {
-        const core::PropertyRow* row;
-        QMetaMethod notifier;
-        Variant last;
-    };
-
-    [[nodiscard]] QWidget& surface() const { return platform::qt::widgetOf(control->surface()); }
-
-    ZorControl* owner;
-    platform::qt::QtContainer container;
-    const core::ClassInfo* info;
-    const core::PropertyRow* output;   ///< nullptr for a control that hands nothing over
-    const core::PropertyRow* modified; ///< with it
-    core::ControlPtr<> control;
-    /// The part that a control shows where the device offers its parameter, and never else.
-    QWidget* face = nullptr;
-    std::optional<Variant> handedOver; ///< since the device's value came
-    std::vector<Watch> watches;
-    platform::Rect designed;
-    Qt::FocusPolicy focusPolicy = Qt::NoFocus; ///< of the focus proxy, while it can be reached
-    bool isAbsent = false;                     ///< hidden because the device does not offer the parameter
-    bool isShown = true;                       ///< whether it is to be seen where the device does
-    bool keepsFocus = false;                   ///< while the control itself hides its widget
-    bool isValueNew = false;                   ///< a device value has come, and nobody has been told
-    bool isDragged = false;                    ///< what is handed over at the end of a drag
-    platform::Depth tellings;
-};
 
 void ZorControl::Inner::written(std::string_view name)
 {
