@@ -146,7 +146,8 @@ QByteArray textOf(const SettingsFile& file)
     root["format"] = kFormat;
     root["formatVersion"] = kVersion;
     root["device"] = {{"type", file.deviceType}, {"version", file.deviceVersion}};
-    root["date"] = file.date;
+    if (!file.date.empty())
+        root["date"] = file.date;
     root["title"] = file.title;
     root["parameters"] = nlohmann::ordered_json::array();
     for (const Setting& setting : file.settings) {
@@ -155,7 +156,8 @@ QByteArray textOf(const SettingsFile& file)
         one["value"] = jsonOf(setting.value);
         if (setting.unit != NoneU)
             one["unit"] = unitRow(setting.unit)->name;
-        one["registers"] = setting.registers;
+        if (!setting.registers.empty())
+            one["registers"] = setting.registers;
     }
     constexpr int kIndent = 2;
     return QByteArray::fromStdString(root.dump(kIndent, ' ', false, nlohmann::json::error_handler_t::replace) +
