@@ -65,7 +65,8 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
 endif()
 
 if(ZOR_BUILD_FUZZ)
-  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
+  # Texts that are compared are heard all the same; each comparison of two numbers takes a third of the time.
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-coverage=trace-cmp -fno-sanitize-recover=all)
   add_link_options(-fsanitize=address,undefined)
 elseif(ZOR_SANITIZE)
   # With the sanitizers the compiler takes much for uninitialised that is not.

@@ -34,7 +34,7 @@ public:
         // Before anything reads all of it.
         if (m_text.size() > kMostBytes)
             fail("the form is too large");
-        if (platform::validUtf8(m_text) != m_text)
+        if (!platform::isUtf8(m_text))
             throw FormError(m_file, 0, "the form is not in UTF-8");
         const auto control = std::ranges::find_if(m_text, [](char c) {
             const auto byte = static_cast<unsigned char>(c);

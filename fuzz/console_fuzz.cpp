@@ -32,7 +32,7 @@ std::string play(std::string_view input)
         }
         script.finish();
     }
-    if (platform::validUtf8(output.str()) != output.str())
+    if (!platform::isUtf8(output.str()))
         wrong += "prints what is no UTF-8";
     platform::setRegionalSettings({});
     return wrong;

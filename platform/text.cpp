@@ -1,6 +1,8 @@
 #include <zor/platform/text.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 namespace zor::platform {
 namespace {
@@ -16,6 +18,26 @@ char32_t upper(char32_t code) noexcept
     if (code >= 0xE0 && code <= 0xFE && code != 0xF7)
         return code - 32;
     return code;
+}
+
+/// How many bytes stand in front of the first that is not part of valid UTF-8.
+std::size_t validFront(std::string_view text) noexcept
+{
+    const std::size_t size = text.size();
+    for (std::uint64_t eight = 0; !text.empty();) {
+        // Nearly everything is ASCII, and eight bytes of that are known at a glance.
+        if (text.size() >= sizeof eight) {
+            std::memcpy(&eight, text.data(), sizeof eight);
+            if ((eight & 0x8080808080808080U) == 0) {
+                text.remove_prefix(sizeof eight);
+                continue;
+            }
+        }
+        const std::size_t before = text.size();
+        if (takeCharacter(text) == kReplacement && before - text.size() == 1)
+            return size - before;
+    }
+    return size;
 }
 
 } // namespace
@@ -83,16 +105,20 @@ std::size_t byteOffset(std::string_view text, std::size_t index) noexcept
     return size - text.size();
 }
 
+bool isUtf8(std::string_view text) noexcept { return validFront(text) == text.size(); }
+
 std::string validUtf8(std::string_view text)
 {
     std::string valid;
     valid.reserve(text.size());
     while (!text.empty()) {
-        const std::string_view before = text;
-        if (takeCharacter(text) == kReplacement)
+        const std::size_t front = validFront(text);
+        valid += text.substr(0, front);
+        text.remove_prefix(front);
+        if (!text.empty()) {
             valid += "\xEF\xBF\xBD";
-        else
-            valid += before.substr(0, before.size() - text.size());
+            text.remove_prefix(1);
+        }
     }
     return valid;
 }

@@ -21,6 +21,9 @@ char32_t takeCharacter(std::string_view& text) noexcept;
 /// Appends a character in UTF-8; U+FFFD for a number that is none.
 void appendCharacter(std::string& text, char32_t character);
 
+/// Whether every byte is part of valid UTF-8 (no overlong forms, no surrogates).
+[[nodiscard]] bool isUtf8(std::string_view text) noexcept;
+
 /// The text with every byte that is not valid UTF-8 (overlong forms and surrogates included) replaced by
 /// U+FFFD. Embedded NULs stay.
 [[nodiscard]] std::string validUtf8(std::string_view text);

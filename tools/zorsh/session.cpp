@@ -29,7 +29,7 @@ std::string_view boxIconName(platform::BoxIcon icon)
 bool isName(std::string_view text)
 {
     return !text.empty() && text.find_first_of(kNotInNames) == std::string_view::npos &&
-           !(text[0] >= '0' && text[0] <= '9') && platform::validUtf8(text) == text;
+           !(text[0] >= '0' && text[0] <= '9') && platform::isUtf8(text);
 }
 
 } // namespace
