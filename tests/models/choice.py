@@ -177,14 +177,13 @@ class ComboBox(Choice):
         if not self.locked():
             self.emit("ComboDropDown")
 
-    def struck(self, widget, code):
-        if code == 32:
-            return self.dropdown()
+    def struck(self, widget, code, press):
+        if press == 32:
+            self.dropdown()
         last = len(self.entries) - 1
         to = {40: min(self.current + 1, last), 38: self.current - (self.current > 0), 36: 0, 35: last}.get(code, self.current)
         if not self.locked() and last >= 0 and to != self.current:
             self.pick(to)
-        return None
 
     def arguments(self, random, widget, action):
         if action == "choose" and widget == "cbo_ComboBox":
@@ -340,14 +339,14 @@ class ListBox(Choice):
         else:
             self.clicked_entry()
 
-    def struck(self, widget, code):
+    def struck(self, widget, code, press):
+        if press == 32 and self.current >= 0:
+            self.switch(self.current)
         last = len(self.entries) - 1
         to = {40: min(self.current + 1, last), 38: max(self.current - 1, 0), 36: 0, 35: last}.get(code, self.current)
         if self.current < 0 and code in (40, 38, 36, 35):
             to = min(last, 0)  # the first entry, whichever way
-        if code == 32 and self.current >= 0:
-            self.switch(self.current)
-        elif last >= 0 and to != self.current:
+        if last >= 0 and to != self.current:
             self.go(to)
 
     def scrolls(self):

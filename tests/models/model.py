@@ -338,7 +338,9 @@ class Model(Steps):
         self.emit(self.PREFIX[widget] + "LostFocus")
 
     def key(self, widget, code):
-        self.strike(widget, code, code if code in (8, 13, 27, 32, 65) else 0, lambda: self.struck(widget, code))
+        character = code if code in (8, 13, 27, 32, 65) else 0
+        # What a handler gave another character only writes it, where one can write.
+        self.strike(widget, code, character, lambda code, press: self.struck(widget, code if press == character else 0, press))
 
     def strike(self, widget, code, character, act):
         prefix = self.PREFIX[widget]
@@ -346,7 +348,7 @@ class Model(Steps):
         if down and self.able(widget):
             press = self.emit(prefix + "KeyPress", KeyAscii=character)["KeyAscii"] if character else 0
             if (press or not character) and self.able(widget):
-                act()
+                act(down, press)
         if self.able(widget):
             self.emit(prefix + "KeyUp", KeyCode=code, Shift=0)
 

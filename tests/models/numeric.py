@@ -7,6 +7,8 @@ from values import PLACE, Unsaid, names
 
 UNIT_ROWS = "UnitType DeviceValue OutputValue DeviceUnit OutputUnit"
 LABEL = PLACE + " Caption"
+FIELD = PLACE + " BackColor ForeColor FontBold ToolTipText Text Locked SelStart SelLength"
+EDITING = (8, 46, 37, 39, 36, 35)
 TEXT_EVENTS = ("DataModifiedSetTrue OutputValueChange textChange textClick textDblClick textGotFocus textKeyDown textKeyPress"
                " textKeyUp textLostFocus textMouseDown textMouseUp textValidate unitsChange unitsClick unitsDblClick imgClick"
                " imgDblClick")
@@ -27,7 +29,8 @@ class Numeric(Valued):
 
     def created(self):
         super().created()
-        self.pending, self.typed, self.unit = False, False, 0
+        self.pending = self.typed = self.fetched = False
+        self.unit = 0
         self.begin()
 
     def out_of(self, value, low, high):
@@ -119,35 +122,88 @@ class Numeric(Valued):
     def set_text(self, text, typed=False):
         if self["txt_TextBox.Text"] != text:
             self["txt_TextBox.Text"] = text
+            self.select("txt_TextBox", 0, 0)
             self.text_changed()
         self.typed = typed
 
     def select(self, widget, start, length):
-        self.selected = self[widget + ".Text"]
+        last = len(self[widget + ".Text"])
+        self[widget + ".SelStart"], self[widget + ".SelLength"] = min(start, last), min(length, last - min(start, last))
+
+    def select_all(self):
+        if self["txt_TextBox.Text"]:
+            self.select("txt_TextBox", 0, 1000)
+
+    def got_focus(self, widget):
+        self.fetched = widget == "txt_TextBox"
+        if self.fetched:
+            self.select_all()
+        super().got_focus(widget)
+
+    def button(self, widget, which, end):
+        if widget == "txt_TextBox" and end == "MouseUp" and self.fetched:
+            self.fetched = False
+            self.select_all()
+        return super().button(widget, which, end)
+
+    def leave(self):
+        if self.focused == "txt_TextBox":
+            self.select(self.focused, self.selection()[1], 0)
+        return super().leave()
+
+    def selection(self):
+        start = self["txt_TextBox.SelStart"]
+        return start, start + self["txt_TextBox.SelLength"]
+
+    def selected_text(self):
+        return self["txt_TextBox.Text"][slice(*self.selection())]
 
     def paste(self, widget, text):
-        if self["txt_TextBox.Text"] or text:
-            self["txt_TextBox.Text"], self.typed = text, True
-            self.text_changed()
+        """In the place of what is selected."""
+        start, end = self.selection()
+        if start < end or text:
+            whole = self[widget + ".Text"]
+            self[widget + ".Text"] = whole[:start] + text + whole[end:]
+            self.select(widget, start + len(text), 0)
+            self.edited()
+
+    def edited(self):
+        if abs(self.number() or 0) >= self.LARGEST:
+            raise Unsaid
+        self.typed = True
+        self.text_changed()
 
     def type(self, widget, text):
-        """Over what is selected, which is all, one character after the other."""
-        before, typed = self[widget + ".Text"], ""
-
-        def write():
-            nonlocal typed
-            if self[widget + ".Text"] != (typed or before):
-                raise Unsaid  # where the caret is then
-            if not self[widget + ".Locked"]:
-                typed += character
-                self.paste(widget, typed)
-
         for character in text:
-            self.strike(widget, {",": 188, "-": 189, ".": 190}.get(character, ord(character.upper())), ord(character), write)
+            self.strike(widget, {",": 188, "-": 189, ".": 190}.get(character, ord(character.upper())), ord(character),
+                        lambda _, press: self.edit(widget, 0, press))
             if not self.able(widget):
                 return
 
-    WRITES = ("paste", "type")
+    def edit(self, widget, code, press):
+        """What a key does to the text, or to the caret in it."""
+        start, end = self.selection()
+        to = {36: 0, 35: 1000, 37: max(end - 1, 0), 39: end + 1}.get(code)
+        if to is not None:
+            self.select(widget, to, 0)
+        elif self[widget + ".Locked"]:
+            return
+        elif code in (8, 46):
+            if start == end:
+                self.select(widget, max(start - (code == 8), 0), int(start > 0 or code == 46))
+            self.paste(widget, "")
+        elif press >= 32:
+            self.paste(widget, chr(press))
+
+    def press(self, widget):
+        if widget == "txt_TextBox":
+            if not self["Surface.Height"] or self[widget + ".Width"] < 300 + self.form.width(self[widget + ".Text"]):
+                raise Unsaid  # where in what a hand finds of the text
+            self.select(widget, 1000, 0)
+        return super().press(widget)
+
+
+    WRITES, LARGEST = ("paste", "type"), 2**31 - 1
     ENTRIES = ("0", "12", "12.5", "150", "-3", "abc", "", " 7 ", "1e2", "1,000", "99", "12,5")
 
     def random_steps(self, random):
@@ -169,7 +225,8 @@ class Numeric(Valued):
 
     def random_entry(self, random):
         text = random.choice(self.ENTRIES)
-        return ("both", ("do", "txt_TextBox", "select", 0, 99),
+        where = (0, 99) if random.random() < 0.7 else (random.randint(0, 4), random.randint(0, 2))
+        return ("both", ("do", "txt_TextBox", "select", *where),
                 ("do", "txt_TextBox", random.choice(("paste", "type")) if text else "paste", text))
 
 
@@ -185,10 +242,10 @@ class UpDown(Numeric):
     PREFIX = {"txt_TextBox": "text", "lbl_Units": "units", "img_State": "img"}
     AT = {"lbl_Units": (60, 60)}
     COLOURED, MENU_OVER = ("Surface", "lbl_Units"), ("Surface", "lbl_Units")
-    WIDGETS = {"txt_TextBox": PLACE + " BackColor ForeColor FontBold ToolTipText Text Locked",
+    WIDGETS = {"txt_TextBox": FIELD,
                "upd_UpDown": PLACE + " Value Min Max", "lbl_Units": LABEL}
     ACTIONS = {"txt_TextBox": "paste paste paste blur blur focus key click rightclick", "upd_UpDown": "up down", **AROUND}
-    KEYS = (40, 38, 112)
+    KEYS = (40, 38, 112, *EDITING)
     HEIGHTS = (200, 315, 400, 900)  # a hand finds nothing lower on a screen
 
     def begin(self):
@@ -282,9 +339,11 @@ class UpDown(Numeric):
     def down(self, widget):
         self.click_spin(-1, "upDownDownClick")
 
-    def struck(self, widget, code):
+    def struck(self, widget, code, press):
         if code in (40, 38):
             self.click_spin(1 if code == 38 else -1, "upDownUpClick" if code == 38 else "upDownDownClick")
+        else:
+            self.edit(widget, code, press)
 
     def click_spin(self, way, event):
         self.one_step(self["upd_UpDown.Value"], way)

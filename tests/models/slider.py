@@ -14,10 +14,11 @@ class Slider(Numeric):
     STORED = ("CFail MinValue MaxValue MinParamValue MaxParamValue InvalidValue DataModified WaitingForData " + UNIT_ROWS +
               BINDING + " MsgInvalidValue MsgDeviceTagNotFound MsgDefault IconEnable UnitEnable ReadOnly DefaultUnit"
               " UnitLabelCaption DeviceType DeviceVersion RegisterType EnableControl EnableValues MinPrefix MaxPrefix")
-    RUNTIME = "MessageHeader ModifiedValue OtherUserValue ScaleFactor"
+    RUNTIME = "MessageHeader ModifiedValue OtherUserValue ScaleFactor TickFrequency GetNumTicks"
+    READ = ("GetNumTicks",)
     DEFAULTS, FRESH = {"MaxValue": 10, "MaxParamValue": 10}, {"DeviceUnit": 2}
     OWN_EFFECTS = {"MsgInvalidValue": "status"}
-    OWN_SILENT = ("ScaleFactor",)
+    OWN_SILENT = ("ScaleFactor", "TickFrequency")
     EVENTS = ("InvalidValueSetTrue DataModifiedSetTrue OutputValueChange sliderChange sliderGotFocus sliderKeyDown sliderKeyUp"
               " sliderLostFocus sliderScroll sliderValidate imgClick imgDblClick " +
               " ".join(f"Label{name[4:]}{end}" for name in LABELS for end in ("Change", "Click", "DblClick")))
@@ -31,13 +32,21 @@ class Slider(Numeric):
     KEYS = (39, 37, 38, 40, 36, 35, 112)
     VALUES = {**Numeric.VALUES, "ScaleFactor": (1, 1, 10, 100), **names("DeviceValue ModifiedValue", (0, 5, 5.4, 12, -3, 7.5, 150)),
               "MinValue": (0, 0.5, -40, 20), "MaxValue": (9.5, 100, 100, 1000, -50), "OtherUserValue": (0, 7.5),
-              "EnableValues": (True, True, False)}
+              "EnableValues": (True, True, False), "TickFrequency": (1, 0.5, 7, -2, 0)}
 
     def begin(self):
-        self.output, self["ScaleFactor"] = 0, 1
+        self.output, self["ScaleFactor"], self.ticks = 0, 1, 1
         self["sld_Slider.Min"], self["sld_Slider.Max"], self["sld_Slider.Value"] = 0, 10, 0
 
-    READ_AS = {"MinPrefix": "lbl_MinPrefix.Caption", "MaxPrefix": "lbl_MaxPrefix.Caption",
+    def number_of_ticks(self):
+        length = self["sld_Slider.Max"] - self["sld_Slider.Min"]
+        return -(-length // self.ticks) + 1 if length > 0 else 1
+
+    def put_TickFrequency(self):
+        self.ticks = max(whole(self["ScaleFactor"] * self["TickFrequency"]), 1)
+
+    READ_AS = {"TickFrequency": lambda self: self.ticks / self["ScaleFactor"], "GetNumTicks": number_of_ticks,
+               "MinPrefix": "lbl_MinPrefix.Caption", "MaxPrefix": "lbl_MaxPrefix.Caption",
                "OutputValue": lambda self: self.output / self["ScaleFactor"], "ModifiedValue": lambda self: self.output}
 
     def kept(self, name):
@@ -197,7 +206,7 @@ class Slider(Numeric):
         else:
             self.moved()
 
-    def struck(self, widget, code):
+    def struck(self, widget, code, press):
         value = self["sld_Slider.Value"]
         to = {39: value + 1, 38: value + 1, 37: value - 1, 40: value - 1, 36: self["sld_Slider.Min"], 35: self["sld_Slider.Max"]}
         if self.clamped(to.get(code, value)) != value:

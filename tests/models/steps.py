@@ -5,7 +5,7 @@ import itertools
 from values import FACE, NOTATION, Colour, names, written
 
 # What a handler may make of an event's argument.
-CHANGES = {"KeyDown": ("KeyCode", 0), "KeyPress": ("KeyAscii", 0), "Validate": ("Cancel", True)}
+CHANGES = {"KeyDown": ("KeyCode", 0, 36, 40), "KeyPress": ("KeyAscii", 0, 55), "Validate": ("Cancel", True)}
 
 
 class Steps:
@@ -156,7 +156,7 @@ class Steps:
         changed = next((change for end, change in CHANGES.items() if event.endswith(end)), None)
         first = ("run", ("destroy",) if kind == "destroy" else getattr(self, "random_" + kind)(random))
         if changed and random.random() < 0.5:
-            first = ("set", *changed)
+            first = ("set", changed[0], random.choice(changed[1:]))
         return [("host", event, *first), *self.few(random), ("host", event, "off")]
 
     def few(self, random):

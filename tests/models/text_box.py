@@ -1,10 +1,10 @@
 """The text box."""
 
 from model import step, way_of_a_value
-from numeric import AROUND, LABEL, TEXT_EVENTS, UNIT_ROWS, Numeric
+from numeric import AROUND, EDITING, FIELD, LABEL, TEXT_EVENTS, UNIT_ROWS, Numeric
 from units import UNITS, convert, fixed, is_valid, plain, reading
 from valued import BINDING
-from values import FACE, PLACE, WINDOW, Colour, names
+from values import FACE, WINDOW, Colour, names
 
 LEFT, RIGHT = Colour("left"), Colour("right")
 
@@ -15,14 +15,14 @@ class TextBox(Numeric):
               BINDING + " MsgInvalidEntry MsgInvalidEntryForText MsgInvalidEntryTo MsgInvalidEntryNAN MsgDeviceTagNotFound"
               " MsgDefault EntryType NumberOfDigits MaxLength UnitEnable IconEnable ReadOnly DefaultUnit MinValue MaxValue"
               " UnitLabelCaption DeviceType DeviceVersion RegisterType EnableControl NumberOfDecimals WidthDifference")
-    RUNTIME = "MessageHeader ModifiedValue TextFontBold UnitsFontBold"
+    RUNTIME = "MessageHeader ModifiedValue TextFontBold UnitsFontBold SelectedText"
     DEFAULTS = {"NumberOfDigits": 3, "WidthDifference": 1305, "MaxLength": 10, "NumberOfDecimals": 3, "EntryType": 1,
                 "MsgInvalidEntry": "Invalid Entry", "MsgInvalidEntryTo": "To", "MsgInvalidEntryNAN": "Invalid Entry",
                 "MsgInvalidEntryForText": "Text is too long. Please enter a shorter text."}
     FRESH = {"DeviceUnit": 2}
     OWN_EFFECTS = {"WidthDifference": "layout",
                    **names("MsgInvalidEntry MsgInvalidEntryForText MsgInvalidEntryNAN", "status")}
-    OWN_SILENT = ("MsgInvalidEntryTo", "UnitsFontBold")
+    OWN_SILENT = ("MsgInvalidEntryTo", "UnitsFontBold", "SelectedText")
     MESSAGES = ("MsgCfail", "MsgDataNotAvailable", "MsgDataChanged", "MsgDefault", "MsgInvalidEntry", "MsgDeviceTagNotFound",
                 "MsgInvalidEntryTo", "MsgInvalidEntryNAN")
     OTHER_MESSAGE = "MSG_INVALIDENTRYTO"
@@ -30,19 +30,19 @@ class TextBox(Numeric):
     PREFIX = {"txt_TextBox": "text", "lbl_Units": "units", "img_State": "img"}
     AT = {"lbl_Units": (60, 60)}
     COLOURED, MENU_OVER = ("Surface", "lbl_Units", "txt_TextBox"), ("Surface", "lbl_Units")
-    WIDGETS = {"txt_TextBox": PLACE + " BackColor ForeColor FontBold ToolTipText Text Locked Alignment",
+    WIDGETS = {"txt_TextBox": FIELD + " Alignment",
                "lbl_Units": LABEL + " FontBold BackColor"}
     ACTIONS = {"txt_TextBox": "paste paste paste blur blur focus key click rightclick", **AROUND}
-    KEYS = (112,)
+    KEYS, LARGEST = (112, *EDITING), 1e15
     VALUES = {**Numeric.VALUES, **names("DeviceValue ModifiedValue", (0, 1, 50, 1234, 12.5, -5, 150.25, "abc", "12", "", "1,000")),
-              "EntryType": (1, 1, 1, 0), "NumberOfDigits": (0, 2, 3), "NumberOfDecimals": (1, 3), "MaxLength": (10, 2, 0)}
+              "EntryType": (1, 1, 1, 0), "SelectedText": ("", "5", "a", "12"), "NumberOfDigits": (0, 2, 3), "NumberOfDecimals": (1, 3), "MaxLength": (10, 2, 0)}
     HEIGHTS = (0, 315, 400, 900)
 
     def begin(self):
         self.display, self.shown, self.source, self.custom, self.undoing = 0, None, "device", None, False
         self["TextFontBold"], self["txt_TextBox.Alignment"], self.device_unit = False, RIGHT, 0
 
-    READ_AS = {**Numeric.READ_AS, "UnitsFontBold": "lbl_Units.FontBold"}
+    READ_AS = {**Numeric.READ_AS, "UnitsFontBold": "lbl_Units.FontBold", "SelectedText": Numeric.selected_text}
 
     # --- Texts
 
@@ -76,10 +76,9 @@ class TextBox(Numeric):
         number = self.number()
         return number is not None and number in (self.value_of(self.display), self.value_of(self.shown))
 
-    def paste(self, widget, text):
-        if self["txt_TextBox.Text"] or text:
-            self["txt_TextBox.Text"], self.source = text, "edit"
-            self.text_changed()
+    def edited(self):
+        self.source = "edit"
+        super().edited()
 
     def text_changed(self):
         self.pending = True
@@ -156,6 +155,9 @@ class TextBox(Numeric):
     def put_TextFontBold(self):
         self["txt_TextBox.FontBold"] = self["TextFontBold"]
 
+    def put_SelectedText(self):
+        self.paste("txt_TextBox", self["SelectedText"])
+
     def put_UnitsFontBold(self):
         self["lbl_Units.FontBold"] = self["UnitsFontBold"]
         self["lbl_Units.Width"] = self.form.width(self["lbl_Units.Caption"], self["UnitsFontBold"])
@@ -169,8 +171,8 @@ class TextBox(Numeric):
         self.show(self["txt_TextBox.Text"])
         self.layout()
 
-    def struck(self, widget, code):
-        pass
+    def struck(self, widget, code, press):
+        self.edit(widget, code, press)
 
     # --- Leaving and undoing
 

@@ -53,8 +53,8 @@ class Toggle(Choice):
 
     choose = toggle
 
-    def struck(self, widget, code):
-        if code == 32:
+    def struck(self, widget, code, press):
+        if press == 32:
             self.push()
 
 
