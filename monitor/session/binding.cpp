@@ -101,6 +101,9 @@ void Binding::applyFile()
     // The form chooses the unit that the operator sees; one of another kind than the parameter's makes no sense.
     // Without one it shows the device's numbers, with the decimals that it was given.
     const MEAS_TYPE wanted = outputUnit();
+    // Of a single bit the value is 0 or 1, wherever in its register it lies: a form must not count from there.
+    if (m_parameter->location.type == ValueType::Bit)
+        putIfThere("BitFieldEntryIndex", 0);
     putIfThere("UnitType", static_cast<std::int32_t>(m_parameter->unitType));
     putIfThere("DeviceUnit", static_cast<std::int32_t>(m_parameter->unit));
     const auto* type = units::rowOf(m_parameter->unitType);

@@ -101,7 +101,8 @@ public:
 private:
     void event(core::Control& control, const core::EventRow& row, platform::EventArgs args) override;
     [[nodiscard]] Variant valueFor(std::span<const std::uint16_t> registers, const std::string& language) const;
-    [[nodiscard]] bool isBitwise() const;
+    /// The bits that an edit changes one by one, as they lie in the device; none where it is of the whole value.
+    [[nodiscard]] std::uint32_t bitsAsTheyLie() const;
     void applyEntries(const std::string& language);
     void nameStranger(const Variant& value);
     void dropStranger();

@@ -15,19 +15,28 @@ bool Binding::isModified() const
 
 bool Binding::isInvalid() const { return m_row.invalid != nullptr && m_control.get(*m_row.invalid).toBoolean(); }
 
-bool Binding::isBitwise() const
+std::uint32_t Binding::bitsAsTheyLie() const
 {
-    return m_parameter->location.type == ValueType::Bit || m_row.bitIndex != nullptr ||
-           m_control.info().method("AddBitFieldEntry") != nullptr;
+    const Location& location = m_parameter->location;
+    if (location.type == ValueType::Bit)
+        return 1;
+    const bool ofBits = m_row.bitIndex != nullptr || m_control.info().method("AddBitFieldEntry") != nullptr;
+    if (!ofBits || !isInteger(location.type) || m_parameter->scale != 1)
+        return 0;
+    return location.registers == 1 ? std::uint32_t{UINT16_MAX} : UINT32_MAX;
 }
 
 Edit Binding::edit() const
 {
     Edit edit{entry()};
-    if (!isBitwise() || isInvalid())
+    const std::uint32_t own = bitsAsTheyLie();
+    if (own == 0 || isInvalid())
         return edit;
     edit.bits = static_cast<std::uint32_t>(edit.value.toInt32());
-    edit.mask = edit.bits ^ static_cast<std::uint32_t>(m_control.get(*m_row.value).toInt32());
+    if (m_parameter->location.type == ValueType::Bit)
+        edit.mask = edit.bits <= 1 ? 1 : 0;
+    else
+        edit.mask = (edit.bits ^ static_cast<std::uint32_t>(m_control.get(*m_row.value).toInt32())) & own;
     return edit;
 }
 

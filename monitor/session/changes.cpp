@@ -48,6 +48,8 @@ void take(Change& change, const Parameter& parameter, Binding& binding)
             const Edit edit = binding.edit();
             if (edit.mask != 0)
                 takeBits(change, edit);
+            else if (parameter.location.type == ValueType::Bit)
+                change.problem = Problem::OutOfRange; // neither 0 nor 1
             else
                 takeValue(change, parameter, edit.value);
         } catch (const RunTimeError&) {

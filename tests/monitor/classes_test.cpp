@@ -34,6 +34,7 @@ TEST_F(Classes, BitsThatShareARegisterAreWrittenTogetherAndNoOtherIsTouched)
     core::Control& four = *host.add("ctx_ZorCheckBox", "Flags");
     core::Control& horn = *host.add("ctx_ZorCheckBox", "Horn");
     four.setProperty("BitFieldEntryIndex", 4);
+    horn.setProperty("BitFieldEntryIndex", 2); // which makes no sense of a single bit
     host.start();
     EXPECT_EQ(list.property("SelCount"), Variant(2));
     EXPECT_EQ(get(four, "CheckBoxValue"), Variant(true));
