@@ -51,12 +51,15 @@ ReviewDialog::ReviewDialog(std::vector<Change> changes, const ParameterFile& fil
     m_write = buttons->addButton(tr("&Write"), QDialogButtonBox::AcceptRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    // What was meant for the window, a key held down or struck twice, must not write what nobody has read.
+    buttons->button(QDialogButtonBox::Cancel)->setDefault(true);
     column->addWidget(buttons);
     constexpr int kWidth = 760;
     constexpr int kHeight = 360;
     resize(kWidth, kHeight);
     show(std::move(changes));
-    m_write->setFocus();
+    const bool none = m_parts.front().table->rowCount() == 0;
+    (none ? m_parts.back() : m_parts.front()).table->setFocus();
 }
 
 ReviewDialog::Part ReviewDialog::addPart(const QString& heading, bool writable)

@@ -144,6 +144,8 @@ void Window::addDeviceMenu()
         menu->addAction(tr("&Write..."), QKeySequence("Ctrl+Return"), this, [this] { m_front->review(); });
     QAction* undo =
         menu->addAction(tr("&Undo all"), QKeySequence("Ctrl+Shift+Z"), this, [this] { m_front->undoAll(); });
+    for (QAction* action : {write, undo})
+        action->setAutoRepeat(false);
     menu->addSeparator();
     addDeviceActions(*menu);
     m_bar->setWindowTitle(tr("Device"));

@@ -52,6 +52,8 @@ TEST_F(Demo, WritesWhatHasBeenReviewed)
     window->front().review();
     ASSERT_NE(window->front().openReview(), nullptr);
     auto* table = window->front().openReview()->findChild<QTableWidget*>();
+    QTest::keyClick(window->front().openReview()->focusWidget(), Qt::Key_Return,
+                    Qt::ControlModifier); // struck twice
     QString row;
     for (int column = 0; column < table->columnCount(); ++column)
         row += table->item(0, column)->text() + '|';
@@ -144,7 +146,9 @@ TEST_F(Demo, LoadsFromASettingsFileWhatIsTickedThroughTheReview)
     SettingsDialog* dialog = window->front().transfer().openDialog();
     EXPECT_EQ(dialog->ticked().size(), settings.size());
     auto* table = dialog->findChild<QTableWidget*>();
-    dialog->findChild<QLineEdit*>()->setText("damp");
+    QTest::keyClicks(dialog->findChild<QLineEdit*>(), "damp\r");
+    EXPECT_TRUE(says("11 ticked, 10 of them not shown")) << "or Return has taken them";
+    EXPECT_FALSE(table->isRowHidden(table->currentRow())) << "Space ticks what nobody sees";
     for (int row = 0; row < table->rowCount(); ++row)
         EXPECT_EQ(table->isRowHidden(row), table->item(row, 1)->text() != "Damping");
     button(*dialog, "Tick &none shown")->click();
