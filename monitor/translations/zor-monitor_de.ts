@@ -811,6 +811,14 @@
         <source>this form has no field for it</source>
         <translation>dieses Formular hat kein Feld dafür</translation>
     </message>
+    <message>
+        <source>%1 ticked</source>
+        <translation>%1 gewählt</translation>
+    </message>
+    <message>
+        <source>%1 ticked, %2 of them not shown</source>
+        <translation>%1 gewählt, davon %2 nicht gezeigt</translation>
+    </message>
 </context>
 <context>
     <name>SettingsTransfer</name>

@@ -811,6 +811,14 @@
         <source>this form has no field for it</source>
         <translation>ce formulaire n&apos;a pas de champ pour lui</translation>
     </message>
+    <message>
+        <source>%1 ticked</source>
+        <translation>%1 cochés</translation>
+    </message>
+    <message>
+        <source>%1 ticked, %2 of them not shown</source>
+        <translation>%1 cochés, dont %2 non affichés</translation>
+    </message>
 </context>
 <context>
     <name>SettingsTransfer</name>

@@ -1,5 +1,6 @@
 #include <zor/monitor/trend/trend_chooser.h>
 #include <zor/monitor/ui/framed_marks.h>
+#include <zor/monitor/ui/kept_return.h>
 #include <zor/monitor/ui/words.h>
 #include <zor/platform/qt/looks.h>
 
@@ -17,6 +18,7 @@ TrendChooser::TrendChooser(const Trend& trend, const std::string& language, QWid
     m_text->setPlaceholderText(tr("Filter: parameter or tag"));
     m_text->setAccessibleName(m_text->placeholderText());
     m_text->setClearButtonEnabled(true);
+    KeptReturn::on(*m_text);
     m_list->setAccessibleName(windowTitle());
     m_list->setUniformItemSizes(true);
     FramedMarks::on(*m_list);
@@ -63,6 +65,13 @@ void TrendChooser::filter(const QString& text)
         QListWidgetItem* item = m_list->item(i);
         item->setHidden(!item->text().contains(text, Qt::CaseInsensitive) &&
                         !item->toolTip().contains(text, Qt::CaseInsensitive));
+    }
+    // Space would tick one that nobody sees.
+    if (m_list->currentItem() == nullptr || m_list->currentItem()->isHidden()) {
+        int first = 0;
+        while (first < m_list->count() && m_list->item(first)->isHidden())
+            ++first;
+        m_list->setCurrentRow(first < m_list->count() ? first : -1);
     }
 }
 

@@ -1,4 +1,5 @@
 #include <zor/monitor/ui/framed_marks.h>
+#include <zor/monitor/ui/kept_return.h>
 #include <zor/monitor/ui/settings_dialog.h>
 #include <zor/monitor/ui/words.h>
 
@@ -39,7 +40,6 @@ SettingsDialog::SettingsDialog(Comparison comparison, const ParameterFile& param
     resize(kWidth, kHeight);
     fill();
     filter();
-    allowLoading();
     // Only now: filling changes every item.
     connect(m_table, &QTableWidget::itemChanged, this, [this] { allowLoading(); });
     m_table->setFocus();
@@ -69,6 +69,8 @@ void SettingsDialog::addHead(QVBoxLayout& column)
     m_which->setAccessibleName(tr("What is shown"));
     if (m_comparison.isSame())
         m_which->setCurrentIndex(kAll);
+    KeptReturn::on(*m_text);
+    KeptReturn::on(*m_which);
     auto* line = new QHBoxLayout;
     line->addWidget(m_text, 1);
     line->addWidget(m_which);
@@ -100,6 +102,8 @@ void SettingsDialog::addButtons(QVBoxLayout& column)
 {
     auto* buttons = new QDialogButtonBox(m_use.loads ? QDialogButtonBox::Cancel : QDialogButtonBox::Close, this);
     if (m_use.loads) {
+        m_count = new QLabel(this);
+        column.addWidget(m_count);
         m_load = buttons->addButton(tr("&Load..."), QDialogButtonBox::AcceptRole);
         for (const bool ticked : {true, false}) {
             auto* all = buttons->addButton(ticked ? tr("Tick &all shown") : tr("Tick &none shown"),
@@ -178,6 +182,14 @@ void SettingsDialog::filter()
         const bool wanted = m_which->currentIndex() == kAll || compared.verdict != Verdict::Same;
         m_table->setRowHidden(row, !found || !wanted);
     }
+    // Space would tick a row that nobody sees.
+    if (m_table->currentRow() < 0 || m_table->isRowHidden(m_table->currentRow())) {
+        int first = 0;
+        while (first < m_table->rowCount() && m_table->isRowHidden(first))
+            ++first;
+        m_table->setCurrentCell(first < m_table->rowCount() ? first : -1, 0);
+    }
+    allowLoading();
 }
 
 void SettingsDialog::tickAll(bool ticked)
@@ -195,19 +207,33 @@ std::set<std::size_t> SettingsDialog::ticked() const
 {
     std::set<std::size_t> parameters;
     for (int row = 0; row < m_table->rowCount(); ++row) {
-        const QTableWidgetItem* item = m_table->item(row, 0);
-        if (item == nullptr || (item->flags() & Qt::ItemIsUserCheckable) == 0 || item->checkState() != Qt::Checked)
+        if (!isTicked(row))
             continue;
-        const auto index = static_cast<std::size_t>(item->data(Qt::UserRole).toInt());
+        const auto index = static_cast<std::size_t>(m_table->item(row, 0)->data(Qt::UserRole).toInt());
         parameters.insert(*m_comparison.rows[index].parameter);
     }
     return parameters;
 }
 
+bool SettingsDialog::isTicked(int row) const
+{
+    const QTableWidgetItem* item = m_table->item(row, 0);
+    return item != nullptr && (item->flags() & Qt::ItemIsUserCheckable) != 0 && item->checkState() == Qt::Checked;
+}
+
 void SettingsDialog::allowLoading()
 {
-    if (m_load != nullptr)
-        m_load->setEnabled(!ticked().empty());
+    if (m_load == nullptr)
+        return;
+    int ticked = 0;
+    int unseen = 0;
+    for (int row = 0; row < m_table->rowCount(); ++row) {
+        ticked += isTicked(row) ? 1 : 0;
+        unseen += isTicked(row) && m_table->isRowHidden(row) ? 1 : 0;
+    }
+    m_load->setEnabled(ticked > 0);
+    m_count->setText(unseen == 0 ? tr("%1 ticked").arg(ticked)
+                                 : tr("%1 ticked, %2 of them not shown").arg(ticked).arg(unseen));
 }
 
 } // namespace zor::monitor

@@ -50,6 +50,7 @@ private:
     [[nodiscard]] bool isLoadable(const Compared& row) const;
     void filter();
     void tickAll(bool ticked);
+    [[nodiscard]] bool isTicked(int row) const;
     void allowLoading();
     [[nodiscard]] QString countsText() const;
 
@@ -60,6 +61,7 @@ private:
     QTableWidget* m_table = nullptr;
     QLineEdit* m_text = nullptr;
     QComboBox* m_which = nullptr;
+    QLabel* m_count = nullptr;
     QPushButton* m_load = nullptr;
 };
 
