@@ -14,6 +14,17 @@ namespace {
 constexpr std::array<std::string_view, 5> kUnnumbered{"MsgInvalidEntryForText", "MsgStatusOK", "MsgUndefined",
                                                       "MsgBit", "StatusText"};
 
+/// What a status image says in English where its form says nothing: a new one is without words for some of it.
+struct ImageText {
+    std::string_view identifier;
+    std::string_view fresh; ///< of a new control
+    std::string_view text;
+};
+constexpr std::array<ImageText, 4> kImageTexts{{{"MSG_DEFAULT", "Status OK", "Detailed information about "},
+                                                {"StatusText", "", "Status"},
+                                                {"MsgUndefined", "", "Unnamed"},
+                                                {"MsgBit", "", "bit"}}};
+
 /// Why there is no value, where a control knows only that there is none.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 2> kReasons{
     {{"MSG_DEVICEBUSY", "The device is busy. It is asked again."},
@@ -43,6 +54,13 @@ ControlTexts::ControlTexts(core::Control& control) : m_control(control)
     for (const std::string_view name : kUnnumbered) {
         if (const core::PropertyRow* row = info.property(name))
             m_originals.push_back({0, std::string(name), control.get(*row).toText()});
+    }
+    if (info.name != "ctx_ZorImage")
+        return;
+    for (const ImageText& row : kImageTexts) {
+        const auto own = std::ranges::find(m_originals, row.identifier, &Original::identifier);
+        if (own != m_originals.end() && own->text == row.fresh)
+            own->text = row.text;
     }
 }
 
