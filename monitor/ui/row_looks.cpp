@@ -188,7 +188,8 @@ bool showIfHad(core::Control& control)
 void fitSize(core::Control& control)
 {
     QWidget& surface = surfaceOf(control);
-    const bool fixed = control.info().name == "ctx_ZorListBox";
+    // Their bodies fill them: what they are wide follows from what they are given.
+    const bool fixed = control.info().name == "ctx_ZorListBox" || control.info().name == "ctx_ZorImage";
     if (surface.isVisible() && !fixed)
         setWidth(control, std::max(looksOf(control.info()).width, rightEnd(surface) + 1));
 }
