@@ -170,6 +170,9 @@ bool Session::write(const std::vector<Change>& changes)
     std::ranges::copy_if(changes, std::back_inserter(writable),
                          [](const Change& change) { return change.problem == Problem::None; });
     m_isWriting = true;
+    m_toWrite = writable.size();
+    if (onWriting)
+        onWriting();
     if (m_poller.isIdentified()) {
         Reply known;
         known.outcome = Outcome::Answered;
@@ -252,6 +255,8 @@ void Session::hearResult(const Change& change, const WriteResult& result)
         }
     }
     m_results.push_back({change, result});
+    if (onWriting)
+        onWriting();
 }
 
 void Session::endEdits(const Change& change, const Registers& registers)

@@ -79,6 +79,8 @@ public:
     std::function<void(std::size_t parameter, const Reading&)> onReading;
     /// After each round; whether the device answered.
     std::function<void(bool answered)> onRound;
+    /// A write has begun, or one of the changes has been dealt with.
+    std::function<void()> onWriting;
     /// When a list of changes has been dealt with.
     std::function<void(const std::vector<Written>&)> onWritten;
     /// An edit may have begun, changed or ended. Often: whoever shows it waits until all has been heard.
@@ -92,6 +94,8 @@ public:
     /// and held in the list; false when a list is still being written.
     bool write(const std::vector<Change>& changes);
     [[nodiscard]] bool isWriting() const { return m_isWriting; }
+    /// Of the list that is being written: how many changes have been dealt with, of how many.
+    [[nodiscard]] std::pair<std::size_t, std::size_t> progress() const { return {m_results.size(), m_toWrite}; }
     /// The parameters that the operator can edit: those with a control for it, made or foreseen, that the device
     /// has.
     [[nodiscard]] std::set<std::size_t> editable() const;
@@ -212,6 +216,7 @@ private:
     std::string m_type;
     std::string m_version;
     int m_timeout = 0;
+    std::size_t m_toWrite = 0;
     unsigned m_device = 0; ///< counts the devices
     int m_failedRounds = 0;
     bool m_readsAll = false;

@@ -956,6 +956,10 @@
         <source>%1: %2 requests, %3 failed, round trip %4 ms on average, %5 ms at most</source>
         <translation>%1: %2 Anfragen, %3 fehlgeschlagen, Antwortzeit im Mittel %4 ms, höchstens %5 ms</translation>
     </message>
+    <message>
+        <source>Writing %1 of %2...</source>
+        <translation>%1 von %2 wird geschrieben...</translation>
+    </message>
 </context>
 <context>
     <name>TrendChooser</name>

@@ -956,6 +956,10 @@
         <source>%1: %2 requests, %3 failed, round trip %4 ms on average, %5 ms at most</source>
         <translation>%1 : %2 requêtes, %3 échouées, aller-retour %4 ms en moyenne, %5 ms au plus</translation>
     </message>
+    <message>
+        <source>Writing %1 of %2...</source>
+        <translation>Écriture %1 sur %2...</translation>
+    </message>
 </context>
 <context>
     <name>TrendChooser</name>

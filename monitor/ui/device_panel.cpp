@@ -64,7 +64,11 @@ void DevicePanel::listen()
         showRound();
         m_transfer->hearRound(answered);
     };
-    session.onWritten = [this](const std::vector<Written>& results) { showResults(results); };
+    session.onWriting = [this] { m_soon.start(0); };
+    session.onWritten = [this](const std::vector<Written>& results) {
+        m_soon.start(0);
+        showResults(results);
+    };
     session.onEdit = [this] { m_soon.start(0); };
     m_form->isKnown = [this](const core::Control& control) {
         const auto parameter = this->session().indexOf(control.DeviceTag());

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QTime>
 
+#include <algorithm>
 #include <utility>
 
 namespace zor::monitor {
@@ -49,13 +50,16 @@ void StatusLine::follow(Session& session)
 
 void StatusLine::showRound(bool answered)
 {
-    if (std::exchange(m_answered, answered) != answered)
+    const bool writing = m_session->isWriting();
+    if (std::exchange(m_answered, answered) != answered || writing)
         m_bar.clearMessage();
     const QString record = m_session->recordError();
     QFont font = m_bar.font();
     font.setBold(!answered || !record.isEmpty());
     m_state->setFont(font);
-    const QString state = connection(answered);
+    QString state = connection(answered);
+    if (const auto [done, all] = m_session->progress(); writing)
+        state = tr("Writing %1 of %2...").arg(std::min(done + 1, all)).arg(all) + "  |  " + state;
     const bool failed = !answered && m_session->poller().rounds() > 0;
     m_state->show(record.isEmpty() ? state : tr("The record cannot be written: %1").arg(record) + "  |  " + state,
                   failed ? Words::advice(m_session->poller().failure()) : QString());

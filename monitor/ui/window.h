@@ -95,6 +95,7 @@ private:
     void closeFront();
     void listDevices();
     void showState(const DevicePanel& panel);
+    void allowEditing();
     /// Opens and starts it behind the others; why it could not, or nothing.
     [[nodiscard]] QString tryOpen(const DeviceEntry& entry);
     void warn(const QString& title, const QString& text);
@@ -114,6 +115,7 @@ private:
     DevicePanel* m_front = nullptr;
     QStackedWidget* m_stack;
     DeviceList* m_list = nullptr;
+    std::array<QAction*, 2> m_editing{}; ///< writing and undoing, of the menu
     Languages& m_languages;
     const core::ClassRegistry& m_classes;
     QToolBar* m_bar;

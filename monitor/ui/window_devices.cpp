@@ -103,6 +103,7 @@ void Window::showState(const DevicePanel& panel)
 {
     if (&panel == m_front) {
         m_status.showRound(panel.isAnswered());
+        allowEditing();
         setWindowModified(
             std::ranges::any_of(m_panels, [](const auto& one) { return one->session().hasEdits(); }));
     }

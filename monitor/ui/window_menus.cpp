@@ -144,14 +144,23 @@ void Window::addDeviceMenu()
         menu->addAction(tr("&Write..."), QKeySequence("Ctrl+Return"), this, [this] { m_front->review(); });
     QAction* undo =
         menu->addAction(tr("&Undo all"), QKeySequence("Ctrl+Shift+Z"), this, [this] { m_front->undoAll(); });
-    for (QAction* action : {write, undo})
+    m_editing = {write, undo};
+    for (QAction* action : m_editing)
         action->setAutoRepeat(false);
+    allowEditing();
     menu->addSeparator();
     addDeviceActions(*menu);
     m_bar->setWindowTitle(tr("Device"));
     m_bar->addSeparator();
     toToolBar(*write, "write", true);
     toToolBar(*undo, "undo", true);
+}
+
+void Window::allowEditing()
+{
+    // What is on its way to the device cannot be taken back.
+    for (QAction* action : m_editing)
+        action->setEnabled(!session().isWriting());
 }
 
 void Window::addHelpMenu()
