@@ -75,6 +75,8 @@ void plot(Window& window, const std::vector<std::string>& tags)
 void start(Window& window, const Settings& settings)
 {
     for (const auto& panel : window.panels()) {
+        for (const std::string& note : panel->form().notes(panel->session().file()))
+            std::cerr << "zor-monitor: " << note << '\n';
         if (settings.runFor > 0)
             panel->session().readEverything();
         panel->device().start();

@@ -74,4 +74,9 @@ const char* const kOfForms[] = {
     QT_TRANSLATE_NOOP("texts", "a comment that does not end"),
     QT_TRANSLATE_NOOP("texts", "a CDATA section that does not end"),
     QT_TRANSLATE_NOOP("texts", "an instruction that does not end"),
+    QT_TRANSLATE_NOOP("texts", "unknown class %1"),
+    QT_TRANSLATE_NOOP("texts", "%1: no such property"),
+    QT_TRANSLATE_NOOP("texts", "%1: %2 holds no value of the kind %3"),
+    QT_TRANSLATE_NOOP("texts", "%1: follows from other properties and is not set"),
+    QT_TRANSLATE_NOOP("texts", "%1: a rectangle of whole pixels is expected"),
 };

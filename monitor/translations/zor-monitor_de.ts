@@ -2397,6 +2397,30 @@
         <source>the simulated device: %1</source>
         <translation>das simulierte Gerät: %1</translation>
     </message>
+    <message>
+        <source>no parameter has the tag &quot;%1&quot;</source>
+        <translation>kein Parameter hat die Kennung &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>unknown class %1</source>
+        <translation>unbekannte Klasse %1</translation>
+    </message>
+    <message>
+        <source>%1: no such property</source>
+        <translation>%1: diese Eigenschaft gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: %2 holds no value of the kind %3</source>
+        <translation>%1: %2 enthält keinen Wert der Art %3</translation>
+    </message>
+    <message>
+        <source>%1: follows from other properties and is not set</source>
+        <translation>%1: folgt aus anderen Eigenschaften und wird nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>%1: a rectangle of whole pixels is expected</source>
+        <translation>%1: hier wird ein Rechteck aus ganzen Pixeln erwartet</translation>
+    </message>
 </context>
 <context>
     <name>units</name>

@@ -2397,6 +2397,30 @@
         <source>the simulated device: %1</source>
         <translation>l&apos;appareil simulé : %1</translation>
     </message>
+    <message>
+        <source>no parameter has the tag &quot;%1&quot;</source>
+        <translation>aucun paramètre n&apos;a l&apos;identifiant &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>unknown class %1</source>
+        <translation>classe inconnue %1</translation>
+    </message>
+    <message>
+        <source>%1: no such property</source>
+        <translation>%1 : cette propriété n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>%1: %2 holds no value of the kind %3</source>
+        <translation>%1 : %2 ne contient aucune valeur du genre %3</translation>
+    </message>
+    <message>
+        <source>%1: follows from other properties and is not set</source>
+        <translation>%1 : découle d&apos;autres propriétés et ne se règle pas</translation>
+    </message>
+    <message>
+        <source>%1: a rectangle of whole pixels is expected</source>
+        <translation>%1 : un rectangle en pixels entiers est attendu ici</translation>
+    </message>
 </context>
 <context>
     <name>units</name>

@@ -56,6 +56,8 @@ public:
     [[nodiscard]] virtual QTabWidget* tabs() { return nullptr; }
     /// Gives a tab an icon, or none.
     virtual void mark(int page, const QIcon& icon, const QString& tip);
+    /// What on it goes with nothing in a parameter file; a line each, with its place in the form's own file.
+    [[nodiscard]] virtual std::vector<std::string> notes(const ParameterFile& /*file*/) const { return {}; }
     /// Brings a control into sight, with the focus in it, and marks it for a moment.
     void reveal(core::Control& control);
 };
@@ -124,7 +126,8 @@ private:
 /// A form drawn in Qt Designer. Its own texts stay as they were drawn.
 class UiForm final : public Form {
 public:
-    /// Raises FileError for a file that is no form or has no control of the library on it.
+    /// Raises FileError for a file that is no form, that has no control of the library on it, or that names a
+    /// class of the library, a property or a value that there is not.
     UiForm(const QString& file, const core::ClassRegistry& classes);
     ~UiForm() override;
 
@@ -133,8 +136,18 @@ public:
     void translate(const std::string& language) override;
     void arrange() override;
     [[nodiscard]] QTabWidget* tabs() override;
+    [[nodiscard]] std::vector<std::string> notes(const ParameterFile& file) const override;
 
 private:
+    /// A control in the form's file.
+    struct Place {
+        std::string tag;
+        std::string place; ///< "FILE:LINE: "
+    };
+    [[nodiscard]] static std::vector<Place> placesIn(const core::ClassRegistry& classes, const QByteArray& text,
+                                                     const std::string& file);
+
+    std::vector<Place> m_places;
     QPointer<QWidget> m_widget;
     std::vector<std::pair<core::Control*, QWidget*>> m_veilable; ///< and what of each is veiled
 };

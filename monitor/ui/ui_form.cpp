@@ -1,8 +1,11 @@
+#include <zor/core/control.h>
+#include <zor/core/frm_Container.h>
 #include <zor/forms/form.h>
 #include <zor/forms/form_error.h>
 #include <zor/monitor/data/message.h>
 #include <zor/monitor/ui/form.h>
 #include <zor/monitor/ui/no_value_veil.h>
+#include <zor/platform/qt/container.h>
 #include <zor/widgets/form_loader.h>
 #include <zor/widgets/zor_control.h>
 
@@ -38,35 +41,58 @@ private:
     QSize m_drawn;
 };
 
-/// What the library's reader says of a form, in the operator's language; the tags in it are the file's.
+/// What the library's reader says of a form, in the operator's language; the tags and names in it are the file's.
 FileError translated(const std::string& said, const std::string& file)
 {
-    static const QRegularExpression tag("<[^> ]*>?");
+    static const QRegularExpression own("<[^> ]*>?|\"[^\"]*\"|^[^ :]+\\.[^ :]+(?=: )|(?<=of the kind ).+");
     const std::size_t place = said.find(": ", file.size());
     QString english = QString::fromStdString(said.substr(place + 2));
-    std::array<std::string, 2> tags;
-    for (std::size_t i = 0; i < tags.size(); ++i) {
-        const QRegularExpressionMatch match = tag.match(english);
+    std::array<std::string, 3> names;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const QRegularExpressionMatch match = own.match(english);
         if (!match.hasMatch())
             break;
-        tags[i] = match.captured().toStdString();
+        names[i] = match.captured().toStdString();
         english.replace(match.capturedStart(), match.capturedLength(), '%' + QString::number(i + 1));
     }
-    return {said.substr(0, place), 0, message(english.toUtf8().constData(), {tags[0], tags[1]})};
+    return {said.substr(0, place), 0, message(english.toUtf8().constData(), {names[0], names[1], names[2]})};
 }
 
-/// Whether there is a control of the library on it. What is wrong is said by the library's own reader, with the
-/// line.
-bool hasControls(const core::ClassRegistry& classes, const QByteArray& text, const std::string& file)
+/// What Qt passes over in silence is refused: a class that the library does not have, a property or a member of an
+/// enumeration that there is not. A class of somebody else's may come from a plugin.
+void refuseNotes(const forms::Form& form, const std::string& file)
 {
-    try {
-        return !forms::Form::parse(classes, text.toStdString(), file).items().empty();
-    } catch (const forms::FormError& error) {
-        throw translated(error.what(), file);
+    for (const std::string& note : form.notes()) {
+        if (note.find("unknown class \"") == std::string::npos ||
+            note.find("unknown class \"zor::") != std::string::npos)
+            throw translated(note, file);
     }
 }
 
 } // namespace
+
+std::vector<UiForm::Place> UiForm::placesIn(const core::ClassRegistry& classes, const QByteArray& text,
+                                            const std::string& file)
+{
+    // What is wrong is said by the library's own reader, with the line.
+    try {
+        forms::Form form = forms::Form::parse(classes, text.toStdString(), file);
+        refuseNotes(form, file);
+        std::vector<Place> places;
+        QWidget nowhere;
+        platform::qt::QtContainer container(nowhere, core::pictureData);
+        for (std::size_t i = 0; i < form.items().size(); ++i) {
+            const core::ControlPtr<> control = form.items()[i].info->create(container);
+            control->initialiseProperties();
+            form.fill(i, *control);
+            places.push_back({control->DeviceTag(), forms::located(file, form.items()[i].line, {})});
+        }
+        refuseNotes(form, file);
+        return places;
+    } catch (const forms::FormError& error) {
+        throw translated(error.what(), file);
+    }
+}
 
 UiForm::UiForm(const QString& file, const core::ClassRegistry& classes)
 {
@@ -77,7 +103,8 @@ UiForm::UiForm(const QString& file, const core::ClassRegistry& classes)
     constexpr qint64 kLargest = 16 << 20;
     if (source.size() > kLargest)
         throw FileError(name, 0, message(QT_TRANSLATE_NOOP("texts", "larger than 16 MB")));
-    if (!hasControls(classes, source.readAll(), name))
+    m_places = placesIn(classes, source.readAll(), name);
+    if (m_places.empty())
         throw FileError(name, 0,
                         message(QT_TRANSLATE_NOOP("texts", "no controls of the library are on this form")));
     source.seek(0);
@@ -125,6 +152,18 @@ void UiForm::arrange()
 {
     for (const auto& [control, face] : m_veilable)
         NoValueVeil::put(*face, isKnown && !isEdited(*control) && !isKnown(*control));
+}
+
+std::vector<std::string> UiForm::notes(const ParameterFile& file) const
+{
+    const TagIndex indexOf(file);
+    std::vector<std::string> notes;
+    for (const Place& place : m_places) {
+        if (!indexOf(place.tag))
+            notes.push_back(place.place +
+                            message(QT_TRANSLATE_NOOP("texts", "no parameter has the tag \"%1\""), {place.tag}));
+    }
+    return notes;
 }
 
 QTabWidget* UiForm::tabs() { return m_widget->findChild<QTabWidget*>(); }

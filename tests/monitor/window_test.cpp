@@ -229,6 +229,8 @@ TEST_F(Drawn, ShowsAllNineClassesAndWritesThroughThem)
     for (core::Control* control : window->form().controls())
         seen.insert(control->info().name);
     EXPECT_EQ(seen.size(), 9U);
+    for (const char* form : {"flow/flow.ui", "overview/overview.ui", "tank/tank.ui"})
+        EXPECT_NO_THROW(UiForm(QString(ZOR_TEST_DATA "/../../examples/") + form, classes)) << form;
     const auto control = [&](std::string_view tag) -> core::Control& { return binding(tag).control(); };
     open(0);
     EXPECT_EQ(control("Serial").property("LabelCaption"), Variant("Z-0047110"));
@@ -282,7 +284,7 @@ TEST(DrawnForm, KeepsTheSizeItWasDrawnInAndScrollsInLessRoom)
 
 /// What the manual's tutorial makes.
 struct Tutorial : Demo {
-    Tutorial() : Demo(ZOR_TEST_DATA "/forms/flow.ui", parameters()) {}
+    Tutorial() : Demo(ZOR_TEST_DATA "/../../examples/flow/flow.ui", parameters()) {}
     static ParameterFile parameters()
     {
         const QString text = textIn(ZOR_TEST_DATA "/../../docs/monitor.md");
