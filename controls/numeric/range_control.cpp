@@ -8,6 +8,7 @@ void RangeControl::MsgInvalidValue(std::string_view value) { write(RangeRows::Ms
 
 void RangeControl::testValue(double deviceValue)
 {
+    m_units.settleLimits();
     m_invalidValue = m_units.isOutside(deviceValue);
     if (m_invalidValue)
         raise(raised().invalid);

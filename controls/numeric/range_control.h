@@ -27,6 +27,11 @@ protected:
     /// Judges a value in DeviceUnit; raises InvalidValueSetTrue each time it is invalid.
     void testValue(double deviceValue);
 
+    /// Whether all that is shown is in OutputUnit. A change of unit in which something does not fit is told, and
+    /// leaves the unit new and the numbers old: going back changes nothing then, and what comes meanwhile must not
+    /// be taken for one of the old numbers.
+    [[nodiscard]] bool isUnitSettled() const noexcept { return m_units.previousOutputUnit == m_units.outputUnit; }
+
 private:
     friend struct RangeRows;
 

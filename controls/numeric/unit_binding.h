@@ -5,6 +5,7 @@
 #include <zor/units/mod_Common.h>
 
 #include <cmath>
+#include <utility>
 
 namespace zor::controls {
 
@@ -17,6 +18,8 @@ struct UnitBinding {
     MEAS_TYPE defaultUnit = LgthU_MM;
     /// The output unit before its last change; what is shown is re-expressed from it.
     MEAS_TYPE previousOutputUnit = LgthU_MM;
+    /// The output unit in which the limits are where a change of unit has failed on the way to them.
+    MEAS_TYPE limitsUnit = LgthU_MM;
     double minValue = 0;
     double maxValue = 0;
     double minParam = 0;
@@ -35,11 +38,28 @@ struct UnitBinding {
         return convert(value, unitType, previousOutputUnit, outputUnit);
     }
 
+    /// A value has come in the present unit; a number beside it follows from the previous one, and that is over.
+    [[nodiscard]] double settled(double beside) noexcept
+    {
+        return converted(beside, unitType, std::exchange(previousOutputUnit, outputUnit), outputUnit);
+    }
+
     /// Both limits. The lower one is the new one also where the upper one has no finite result.
     void reExpressLimits()
     {
-        minParam = reExpress(minParam);
-        maxParam = reExpress(maxParam);
+        const MEAS_TYPE before = std::exchange(limitsUnit, outputUnit);
+        minParam = convert(minParam, unitType, before, outputUnit);
+        maxParam = convert(maxParam, unitType, before, outputUnit);
+    }
+
+    /// The limits of an older unit follow; what has no finite result limits nothing.
+    void settleLimits() noexcept
+    {
+        if (limitsUnit == outputUnit)
+            return;
+        minParam = converted(minParam, unitType, limitsUnit, outputUnit);
+        maxParam = converted(maxParam, unitType, limitsUnit, outputUnit);
+        limitsUnit = outputUnit;
     }
 
     void updateMinParam() { minParam = limitToOutput(minValue); }

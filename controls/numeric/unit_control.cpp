@@ -2,8 +2,6 @@
 #include <zor/controls/numeric/unit_rows.h>
 #include <zor/platform/number_text.h>
 
-#include <utility>
-
 namespace zor::controls {
 
 UnitControl::UnitControl(const core::ClassInfo& info, platform::Container& container, platform::Twips width,
@@ -22,7 +20,10 @@ void UnitControl::OutputUnit(MEAS_TYPE value)
 {
     // A handler may end the control and throw: it lives until the previous unit is settled.
     carryOut([&] {
-        const MEAS_TYPE before = std::exchange(m_units.previousOutputUnit, m_units.outputUnit);
+        const MEAS_TYPE before = m_units.previousOutputUnit;
+        // Where a failed write stays, the numbers may be in an older unit than the one written last.
+        if (!info().keepsFailedWrites)
+            m_units.previousOutputUnit = m_units.outputUnit;
         try {
             write(UnitRows::OutputUnit, value);
         } catch (...) {

@@ -37,7 +37,7 @@ public:
     /// Whether the unit is shown.
     [[nodiscard]] bool UnitEnable() const noexcept { return m_unitEnable; }
     void UnitEnable(bool value);
-    /// Text of the unit label; follows OutputUnit until it is overwritten.
+    /// Text of the unit label. Each write of OutputUnit makes it that unit's label again.
     [[nodiscard]] const std::string& UnitLabelCaption() const noexcept { return m_unitLabelCaption; }
     void UnitLabelCaption(std::string_view value);
     /// The identifier under which a host looks up a translated unit label.

@@ -66,7 +66,7 @@ struct UnitRows {
                                            }>();
     static constexpr auto UnitLabelCaption =
         core::fieldRow<&C::m_unitLabelCaption>("UnitLabelCaption", core::Topic::Units)
-            .saying("Text of the unit label; follows OutputUnit until it is overwritten.")
+            .saying("Text of the unit label. Each write of OutputUnit makes it that unit's label again.")
             .stored("")
             .then<[](C& control) { control.s_ShowUnit(control.m_unitLabelCaption); }>()
             .live();

@@ -77,7 +77,11 @@ void ctx_ZorSlider::s_ApplyDeviceValue()
     testValue(m_deviceValue);
     if (isOvertaken(underWay))
         return;
-    m_reference = m_units.toOutput(m_deviceValue);
+    const double position = m_units.toOutput(m_deviceValue);
+    static_cast<void>(roundToInt32(position));
+    m_reference = position;
+    if (!isUnitSettled())
+        m_otherUser = m_units.settled(m_otherUser);
     moveTo(m_reference);
     if (isOvertaken(underWay))
         return;
@@ -92,6 +96,8 @@ void ctx_ZorSlider::ModifiedValue(double value)
 {
     carryOut([&] {
         const auto underWay = newValue();
+        if (!isUnitSettled())
+            s_OutputUnitChanged();
         testValue(value);
         if (isOvertaken(underWay))
             return;
@@ -175,12 +181,17 @@ void ctx_ZorSlider::s_DeviceUnitChanged() { assignOutput(m_units.toDevice(m_trac
 
 void ctx_ZorSlider::s_OutputUnitChanged()
 {
-    m_reference = m_units.reExpress(m_reference);
-    m_otherUser = m_units.reExpress(m_otherUser);
+    // All or nothing: from a unit in which something does not fit, the way back changes nothing.
+    const double reference = m_units.reExpress(m_reference);
+    const double otherUser = m_units.reExpress(m_otherUser);
     const std::int32_t position = roundToInt32(m_units.reExpress(m_track->value()));
-    const double lower = m_units.reExpress(m_units.minParam);
-    const double upper = m_units.reExpress(m_units.maxParam);
+    const double lower = convert(m_units.minParam, m_units.unitType, m_units.limitsUnit, m_units.outputUnit);
+    const double upper = convert(m_units.maxParam, m_units.unitType, m_units.limitsUnit, m_units.outputUnit);
     const std::int32_t first = roundToInt32(lower);
+    const std::int32_t last = upper > lower ? roundToInt32(upper) : m_track->maximum();
+    m_reference = reference;
+    m_otherUser = otherUser;
+    m_units.previousOutputUnit = m_units.limitsUnit = m_units.outputUnit;
     // The new ends first: the old ones would hold back the same value in the new unit.
     const std::int32_t before = m_track->value();
     {
@@ -188,14 +199,12 @@ void ctx_ZorSlider::s_OutputUnitChanged()
         m_units.minParam = lower;
         m_track->setMinimum(first);
         m_units.maxParam = upper;
-        if (upper > lower)
-            m_track->setMaximum(roundToInt32(upper));
+        m_track->setMaximum(last);
         m_track->setValue(position);
     }
     if (m_track->value() != before && !isInputLocked())
         s_TrackMoved();
     s_ShowLimits();
-    m_units.previousOutputUnit = m_units.outputUnit;
 }
 
 double ctx_ZorSlider::scaled(double value) const { return finite(value * m_scaleFactor); }
@@ -222,6 +231,7 @@ void ctx_ZorSlider::setEnds(Set&& set)
 
 void ctx_ZorSlider::s_UpdateMinParamValue()
 {
+    m_units.settleLimits();
     m_units.minParam = scaled(m_units.limitToOutput(m_units.minValue));
     label(lbl_MinValue).setCaption(platform::doubleToText(unscaled(m_units.minParam)));
     setEnds([&] { m_track->setMinimum(roundToInt32(m_units.minParam)); });
@@ -230,6 +240,7 @@ void ctx_ZorSlider::s_UpdateMinParamValue()
 
 void ctx_ZorSlider::s_UpdateMaxParamValue()
 {
+    m_units.settleLimits();
     m_units.maxParam = scaled(m_units.limitToOutput(m_units.maxValue));
     if (m_units.maxParam > m_units.minParam)
         setEnds([&] { m_track->setMaximum(roundToInt32(m_units.maxParam)); });
@@ -259,7 +270,7 @@ void ctx_ZorSlider::s_AfterLoading()
             m_track->setMaximum(roundToInt32(m_units.maxParam));
     }
     // The stored limits are in the stored unit: nothing is left to be expressed in it.
-    m_units.previousOutputUnit = m_units.outputUnit;
+    m_units.previousOutputUnit = m_units.limitsUnit = m_units.outputUnit;
     s_ShowPrefixes();
     UnitControl::s_AfterLoading();
     s_Layout();

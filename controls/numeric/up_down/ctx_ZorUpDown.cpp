@@ -64,6 +64,8 @@ void ctx_ZorUpDown::s_ApplyDeviceValue()
     if (isOvertaken(underWay))
         return;
     m_reference = roundToInt32(m_units.toOutput(m_deviceValue));
+    if (!isUnitSettled())
+        m_otherUser = nearestWhole(m_units.settled(m_otherUser));
     showNumber(m_reference);
     if (isOvertaken(underWay))
         return;
@@ -82,6 +84,8 @@ void ctx_ZorUpDown::ModifiedValue(std::int32_t value)
 {
     carryOut([&] {
         const auto underWay = newValue();
+        if (!isUnitSettled())
+            s_OutputUnitChanged();
         testValue(value);
         if (isOvertaken(underWay))
             return;
@@ -140,8 +144,9 @@ void ctx_ZorUpDown::s_DeviceUnitChanged()
 void ctx_ZorUpDown::s_OutputUnitChanged()
 {
     if (const std::optional<double> number = m_field.number()) {
-        m_reference = roundToInt32(m_units.reExpress(m_reference));
-        m_otherUser = roundToInt32(m_units.reExpress(m_otherUser));
+        // All or nothing: from a unit in which something does not fit, the way back changes nothing.
+        const std::int32_t reference = roundToInt32(m_units.reExpress(m_reference));
+        const std::int32_t otherUser = roundToInt32(m_units.reExpress(m_otherUser));
         const std::string text = platform::doubleToText(m_units.reExpress(*number));
         // The limits before the text: who hears of the text must find both in one unit. What does not fit is told
         // when the text is there.
@@ -151,12 +156,15 @@ void ctx_ZorUpDown::s_OutputUnitChanged()
         } catch (const RunTimeError&) {
             failure = std::current_exception();
         }
+        m_reference = reference;
+        m_otherUser = otherUser;
+        m_units.previousOutputUnit = m_units.outputUnit;
         showText(text);
         if (failure)
             std::rethrow_exception(failure);
-        s_UpdateSpin();
+        return s_UpdateSpin();
     }
-    m_units.previousOutputUnit = m_units.outputUnit;
+    m_units.previousOutputUnit = m_units.limitsUnit = m_units.outputUnit;
 }
 
 void ctx_ZorUpDown::s_UpdateSpin()
@@ -189,12 +197,14 @@ void ctx_ZorUpDown::s_UpdateSpin()
 
 void ctx_ZorUpDown::s_UpdateMinParamValue()
 {
+    m_units.settleLimits();
     m_units.updateMinParam();
     spinFrom(roundToInt32(m_units.minParam));
 }
 
 void ctx_ZorUpDown::s_UpdateMaxParamValue()
 {
+    m_units.settleLimits();
     m_units.updateMaxParam();
     spinUpTo(roundToInt32(m_units.maxParam));
 }
