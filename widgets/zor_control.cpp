@@ -11,6 +11,7 @@
 #include <QAbstractSlider>
 #include <QCoreApplication>
 #include <QFocusEvent>
+#include <QLineEdit>
 #include <QMetaMethod>
 #include <QMetaProperty>
 #include <QPainter>
@@ -63,6 +64,7 @@ void ZorControl::Inner::written(std::string_view name)
     if (name == "DeviceValue") {
         isValueNew = true;
         handedOver.reset();
+        isCommitted = false;
     }
     const Telling telling(tellings);
     emit alive->propertyChanged(toQString(name));
@@ -91,10 +93,14 @@ bool ZorControl::Inner::takesOver()
 {
     isValueNew = false;
     Variant value = control->get(*output);
-    const bool isOther = handedOver ? !(*handedOver == value) : control->get(*modified).toBoolean();
+    const bool isEdit = control->get(*modified).toBoolean();
+    const bool isOther = handedOver ? !(*handedOver == value) : isEdit;
     handedOver = std::move(value);
-    if (!isOther || !control->isByOperator())
+    // Who only passes through a field hands over what it shows, which an up-down rounds.
+    const bool isPassing = !isEdit && !isCommitted && qobject_cast<const QLineEdit*>(face) != nullptr;
+    if (!isOther || isPassing || !control->isByOperator())
         return false;
+    isCommitted = true;
     const auto* track = qobject_cast<const QAbstractSlider*>(face);
     isDragged = track != nullptr && track->isSliderDown();
     return !isDragged;

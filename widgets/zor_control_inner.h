@@ -80,6 +80,7 @@ struct ZorControl::Inner final : core::EventSink {
     /// The part that a control shows where the device offers its parameter, and never else.
     QWidget* face = nullptr;
     std::optional<Variant> handedOver; ///< since the device's value came
+    bool isCommitted = false;          ///< an edit has been handed over since
     std::vector<Watch> watches;
     platform::Rect designed;
     Qt::FocusPolicy focusPolicy = Qt::NoFocus; ///< of the focus proxy, while it can be reached

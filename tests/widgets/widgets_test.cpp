@@ -300,17 +300,18 @@ TEST(Widgets, OnlyWhatTheOperatorHandsOverIsCommitted)
     QWidget form;
     QVBoxLayout layout(&form);
     auto* box = new ZorTextBox;
+    auto* count = new ZorUpDown;
     auto* slider = new ZorSlider;
     auto* choice = new ZorOptionButton;
     auto* other = new QLineEdit;
-    for (QWidget* widget : std::initializer_list<QWidget*>{box, slider, choice, other})
+    for (QWidget* widget : std::initializer_list<QWidget*>{box, count, slider, choice, other})
         layout.addWidget(widget);
     form.show();
     QApplication::setActiveWindow(&form);
     box->setMaxValue(1000);
     box->setDeviceUnit(ZorWidget::LgthU_MM);
     QVariantList committed;
-    for (ZorControl* control : std::initializer_list<ZorControl*>{box, slider, choice})
+    for (ZorControl* control : std::initializer_list<ZorControl*>{box, count, slider, choice})
         QObject::connect(control, &ZorControl::valueCommitted, &form, [&](const QVariant& v) { committed << v; });
     const auto leave = [&](const char* text) {
         box->setFocus();
@@ -330,6 +331,19 @@ TEST(Widgets, OnlyWhatTheOperatorHandsOverIsCommitted)
     leave("70");
     leave("9999");
     EXPECT_EQ(committed, QVariantList{7.0});
+
+    // 40.5 feet, shown as 41.
+    committed.clear();
+    count->setOutputUnit(ZorWidget::LgthU_FEET);
+    count->setDefaultUnit(ZorWidget::LgthU_FEET);
+    count->setMaxValue(1000);
+    count->setDeviceValue(12345);
+    for (const char* text : {"", "41", "50", "41"}) {
+        count->setFocus();
+        QTest::keyClicks(count->focusProxy(), text);
+        other->setFocus();
+    }
+    EXPECT_EQ(committed, (QVariantList{15240, 12497})) << "an edit, and it taken back";
 
     committed.clear();
     auto& track = dynamic_cast<QAbstractSlider&>(*slider->focusProxy());
