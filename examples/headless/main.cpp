@@ -8,11 +8,15 @@
 
 namespace {
 
-/// Hears of the control's events; the host writes to the device from here.
+/// Hears of the control's events; the host writes to the device from here, and only what the operator made.
 class Level final : public zor::__ctx_ZorTextBox {
 public:
     explicit Level(zor::ctx_ZorTextBox& control) : m_control(control) {}
-    void OutputValueChange() override { written = m_control.OutputValue().toDouble(); }
+    void OutputValueChange() override
+    {
+        if (m_control.isByOperator() && m_control.DataModified())
+            written = m_control.OutputValue().toDouble();
+    }
 
     double written = 0;
 

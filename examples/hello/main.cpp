@@ -7,13 +7,15 @@
 
 #include <iostream>
 
-/// Hears what the field has to say, and would write to the device.
+/// Hears what the operator hands over, and would write it to the device.
 class Host final : public zor::__ctx_ZorTextBox {
 public:
     explicit Host(zor::ctx_ZorTextBox& level) : m_level(level) {}
     void OutputValueChange() override
     {
-        std::cout << "OutputValue " << m_level.OutputValue().toText() << std::endl;
+        // It also comes with every value of the device's, and when somebody only passes through the field.
+        if (m_level.isByOperator() && m_level.DataModified())
+            std::cout << "OutputValue " << m_level.OutputValue().toText() << std::endl;
     }
 
 private:
