@@ -13,13 +13,13 @@ struct SharedRows {
     static constexpr auto DeviceTag =
         fieldRow<&Control::m_binding, &Binding::deviceTag>("DeviceTag", Topic::Parameter)
             .saying("Identifier of the parameter in the device. The host uses it to find the parameter; the "
-                    "control shows it in the message of an unknown identifier and reads it out as the control's "
-                    "name.")
+                    "control shows it in the message of an unknown identifier.")
             .identifier()
             .stored("");
     static constexpr auto RegisterType =
         fieldRow<&Control::m_binding, &Binding::registerType>("RegisterType", Topic::Parameter)
-            .saying("The register bank that holds the parameter. What lies in an input register cannot be edited.")
+            .saying("The register bank that holds the parameter. An operator edits nothing that lies in an input "
+                    "register.")
             .stored(HoldingRegister)
             .refreshing({Refresh::Colours});
     static constexpr auto DeviceType =
@@ -31,7 +31,7 @@ struct SharedRows {
             .refreshing({Refresh::CheckType});
     static constexpr auto DeviceVersion =
         fieldRow<&Control::m_binding, &Binding::deviceVersion>("DeviceVersion", Topic::Parameter)
-            .saying("Firmware version of the connected device (two digits a part, as 01.10). A write compares it "
+            .saying("Firmware version of the connected device (as 01.10; 1.5 counts as 01.05). A write compares it "
                     "with the versions of the device's type and hides the control outside of them.")
             .identifier()
             .stored("")
@@ -61,8 +61,8 @@ struct SharedRows {
     // --- State
     static constexpr auto CFail =
         fieldRow<&Control::m_status, &Status::cFail>("CFail", Topic::State)
-            .saying("Communication with the device failed. The host sets it after each read; the control turns "
-                    "red, is locked and explains itself behind the state icon.")
+            .saying("Communication with the device failed. The host sets it after each read; the control says "
+                    "so, a text turns red, and nothing can be edited.")
             .stored(false)
             .refreshing({Refresh::Status, Refresh::Colours, Refresh::Enabled});
     static constexpr auto DataNotAvailable =
@@ -72,8 +72,8 @@ struct SharedRows {
             .refreshing({Refresh::Status});
     static constexpr auto DeviceTagNotFound =
         fieldRow<&Control::m_status, &Status::deviceTagNotFound>("DeviceTagNotFound", Topic::State)
-            .saying("The device does not know DeviceTag. The host sets it; the control is disabled, its state "
-                    "icon can still be clicked.")
+            .saying("The device does not know DeviceTag. The host sets it; the control says so and, but for a "
+                    "status image, is disabled; its state icon can still be clicked.")
             .stored(false)
             .refreshing({Refresh::Status, Refresh::Enabled});
     static constexpr auto WaitingForData =

@@ -130,8 +130,8 @@ constexpr Field kUnitType{.widget = "cbo_UnitType",
                           .kind = FieldKind::List,
                           .caption = "Unit Type",
                           .property = "UnitType",
-                          .meaning = "The quantity. Apply sets the three units to the first of that kind; any "
-                                     "other is set in the property editor.",
+                          .meaning = "The quantity. Apply sets the three units to the usual one of that kind; "
+                                     "any other is set in the property editor.",
                           .items = kUnitTypeWords,
                           .write = [](Page&) {},
                           .usable = [](const Page& page) { return page.isTicked(kUnitEnable); }};

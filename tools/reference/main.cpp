@@ -91,9 +91,9 @@ void writeEvents(std::ostream& out, const ClassInfo& info)
                                                      "string"};
     static_assert(std::variant_size_v<platform::ArgRef> == kTypes.size());
     out << "\n## Events\n\n"
-           "Arguments are by reference: what a handler changes reaches the widget. An event that no widget's "
-           "report\n"
-           "raises comes from the control itself, or is declared only.\n\n"
+           "Arguments are by reference: a key code, a character and `Cancel` that a handler changes reach the "
+           "widget. An event that\n"
+           "no widget's report raises comes from the control itself, or is declared only.\n\n"
            "| No. | Event | Raised when | Arguments | Re-raised from |\n|---|---|---|---|---|\n";
     for (std::size_t i = 0; i < info.events.size(); ++i) {
         const core::EventRow& row = info.events[i];
@@ -102,7 +102,7 @@ void writeEvents(std::ostream& out, const ClassInfo& info)
             out << (a == 0 ? "" : ", ") << code(row.arguments[a]) << ' ' << kTypes[row.types[a]];
         out << " | ";
         for (const core::WidgetRow& widget : info.widgets) {
-            if (row.notice != platform::Notice::None && widget.widget == row.widget)
+            if (row.isRaised && row.notice != platform::Notice::None && widget.widget == row.widget)
                 out << code(widget.name);
         }
         out << " |\n";
