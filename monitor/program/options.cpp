@@ -46,7 +46,9 @@ void addOptions(CLI::App& app, Settings& settings)
                                "CSV file to which reads that change their outcome and writes are added");
     auto* frames =
         app.add_option("--frames", settings.frames, "text file for every request and reply, as they come");
-    app.add_option("--language", settings.language, "en, de or fr; without it, that of the environment")
+    app.add_option(
+           "--language", settings.language,
+           "en, de or fr; without it, in the window the one last chosen there, else that of the environment")
         ->check(CLI::IsMember({"en", "de", "fr"}));
     app.add_option("--units", settings.units, "form, metric, us or device")->check(CLI::IsMember(kUnitSystems));
     app.add_option("--tab", settings.tab, "number of the tab in front, from 0")->check(CLI::Range(0, 1000));
