@@ -32,12 +32,11 @@ constexpr std::array<EventRow, 3> declaredRows()
 
 /// An edit, the value that goes to the host, and what is declared with them.
 template <class E>
-constexpr std::array<EventRow, 5> conditionRows()
+constexpr std::array<EventRow, 5> conditionRows(std::string_view handedOver = kHandedOver)
 {
     const auto rest = declaredRows<E>();
     return {ownEvent<&E::DataModifiedSetTrue, E>("DataModifiedSetTrue").saying(kModified),
-            ownEvent<&E::OutputValueChange, E>("OutputValueChange").saying(kHandedOver), rest[0], rest[1],
-            rest[2]};
+            ownEvent<&E::OutputValueChange, E>("OutputValueChange").saying(handedOver), rest[0], rest[1], rest[2]};
 }
 
 /// The state icon; the last two rows of a control that has one.

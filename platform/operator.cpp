@@ -1,4 +1,5 @@
 #include <zor/platform/error.h>
+#include <zor/platform/key_codes.h>
 #include <zor/platform/operator.h>
 #include <zor/platform/text.h>
 
@@ -24,15 +25,6 @@ void requireFocus(const Widget& widget)
 {
     if (!takesFocus(widget))
         raiseError(ErrorNumber::NoSuchMember);
-}
-
-/// Of a key: its character has the same code, if it has one.
-std::int16_t characterOfKey(std::int16_t code)
-{
-    constexpr std::array<std::int16_t, 3> kControlCharacters{8, 13, 27};
-    const bool control = std::ranges::find(kControlCharacters, code) != kControlCharacters.end();
-    const bool printable = code >= ' ' && code <= 'Z' && keyCodeOf(code) == code;
-    return control || printable ? code : std::int16_t{0};
 }
 
 } // namespace
@@ -102,6 +94,9 @@ Refusal Operator::select(TextField& field, std::size_t start, std::size_t length
 Refusal Operator::key(Widget& widget, std::int16_t code)
 {
     requireFocus(widget);
+    constexpr std::int16_t kTab = 9;
+    if (code == kTab)
+        throw RunTimeError(ErrorNumber::InvalidCall, "Tab moves the focus, and is no key of a widget's");
     return act(widget, [&] { stroke(widget, code, characterOfKey(code)); });
 }
 

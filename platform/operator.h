@@ -17,23 +17,6 @@ namespace zor::platform {
 /// Why an action could not be done. Nothing has changed then.
 enum class Refusal : std::uint8_t { None, Hidden, Disabled, Locked, Closed };
 
-/// The key code that goes with a character: the upper-case letter, the digit, the code of the key for blank,
-/// comma, point, plus and minus, 0 for any other.
-[[nodiscard]] constexpr std::int16_t keyCodeOf(std::int16_t character) noexcept
-{
-    if (character >= 'a' && character <= 'z')
-        return static_cast<std::int16_t>(character - 'a' + 'A');
-    if ((character >= 'A' && character <= 'Z') || (character >= '0' && character <= '9') || character == ' ')
-        return character;
-    switch (character) {
-    case '+': return 187;
-    case ',': return 188;
-    case '-': return 189;
-    case '.': return 190;
-    default: return 0;
-    }
-}
-
 /// Where on a widget the operator points, in twips. One rule for all platforms, because events carry it.
 struct Spot {
     /// From the left edge.

@@ -36,7 +36,9 @@ struct EntryChoiceRows {
     using R = ChoiceRows;
     using Class = typename core::detail::Member<decltype(Mark)>::Class;
 
-    static constexpr auto InvalidValue = S::InvalidValue<Mark, &InvalidMark::isSet>;
+    static constexpr auto InvalidValue = S::InvalidValue<Mark, &InvalidMark::isSet>.saying(
+        "No entry stands for the last value of the device's or the host's; a list box never says so. The "
+        "control's own.");
     // A new control starts with another text than a form means that says nothing.
     static constexpr auto MsgInvalidValue =
         core::fieldRow<Mark, &InvalidMark::message>("MsgInvalidValue", core::Topic::Messages)

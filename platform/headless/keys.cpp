@@ -121,8 +121,9 @@ void pushToggle(ToggleButton& button)
     button.setOn(dynamic_cast<OptionButton*>(&button) != nullptr || !button.isOn());
 }
 
-void applyKey(Widget& widget, std::int16_t code, std::int16_t press)
+void applyKey(Widget& widget, const Stroke& stroke)
 {
+    const auto [code, press] = stroke;
     if (auto* field = dynamic_cast<TextField*>(&widget)) {
         keyInField(*field, code, press);
     } else if (auto* track = dynamic_cast<HeadlessTrack*>(&widget)) {

@@ -2,6 +2,7 @@
 
 /// What a key does to a widget that is plain memory.
 
+#include <zor/platform/key_codes.h>
 #include <zor/platform/widgets.h>
 
 #include <cstdint>
@@ -22,7 +23,7 @@ namespace zor::platform::headless {
 /// What a click or the space bar does: a check box changes, an option button becomes selected.
 void pushToggle(ToggleButton& button);
 
-/// The key `code` on the widget that has the focus; `press` is the character that its key press was left with.
-void applyKey(Widget& widget, std::int16_t code, std::int16_t press);
+/// A key, as handlers have left it, on the widget that has the focus.
+void applyKey(Widget& widget, const Stroke& stroke);
 
 } // namespace zor::platform::headless

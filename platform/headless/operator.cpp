@@ -108,28 +108,20 @@ void selectLastWord(TextField& field)
     field.select(first, characterCount(text) - first);
 }
 
-/// Key down and key up around `action`, which gets the key press's code.
+/// Key down and key up around `action`, which gets what handlers have made of the key.
 template <class Action>
-void strike(Widget& widget, std::int16_t code, std::int16_t ascii, Action&& action)
+void strike(Widget& widget, Stroke stroke, Action&& action)
 {
-    if (!isReachable(widget))
+    const auto isThere = [&] { return isReachable(widget); };
+    if (!isThere())
+        return;
+    std::int16_t up = stroke.code;
+    if (isHeard(
+            stroke, 0, [&](Notice notice, EventArgs args) { base(widget).report(notice, args); }, isThere))
+        action(stroke);
+    if (!isThere())
         return;
     std::int16_t shift = 0;
-    std::int16_t down = code;
-    base(widget).report(Notice::KeyDown, std::array<ArgRef, 2>{&down, &shift});
-    // A handler that sets the code to 0 swallows the key itself, its character included.
-    if ((down != 0 || code == 0) && isReachable(widget)) {
-        std::int16_t press = ascii;
-        if (ascii != 0)
-            base(widget).report(Notice::KeyPress, std::array<ArgRef, 1>{&press});
-        // A key that a handler gave another character does nothing but write it.
-        if ((ascii == 0 || press != 0) && isReachable(widget))
-            action(press == ascii ? down : std::int16_t{0}, press);
-    }
-    if (!isReachable(widget))
-        return;
-    std::int16_t up = code;
-    shift = 0;
     base(widget).report(Notice::KeyUp, std::array<ArgRef, 2>{&up, &shift});
 }
 
@@ -214,9 +206,13 @@ void HeadlessOperator::point(Widget& widget, Pointer action)
 bool HeadlessOperator::typeCharacter(TextField& field, std::string_view character)
 {
     const std::int16_t ascii = codeOf(character);
-    strike(field, keyCodeOf(ascii), ascii, [&](std::int16_t, std::int16_t press) {
-        if (isTyped(press) && !field.isLocked())
-            field.replaceSelection(press == ascii ? std::string(character) : characterOf(press));
+    const bool isBeyond = ascii == '?' && character != "?";
+    const Stroke struck{isBeyond ? kCharacterKey : keyCodeOf(ascii), ascii};
+    strike(field, struck, [&](const Stroke& stroke) {
+        if (stroke != struck)
+            applyKey(field, stroke);
+        else if (isTyped(ascii) && !field.isLocked())
+            field.replaceSelection(character);
     });
     return isReachable(field);
 }
@@ -225,7 +221,7 @@ void HeadlessOperator::replace(TextField& field, std::string_view text) { field.
 
 void HeadlessOperator::stroke(Widget& widget, std::int16_t code, std::int16_t character)
 {
-    strike(widget, code, character, [&](std::int16_t down, std::int16_t press) { applyKey(widget, down, press); });
+    strike(widget, {code, character}, [&](const Stroke& stroke) { applyKey(widget, stroke); });
 }
 
 void HeadlessOperator::step(SpinButton& button, bool up) { dynamic_cast<HeadlessSpinButton&>(button).step(up); }

@@ -1,3 +1,4 @@
+#include <zor/platform/key_codes.h>
 #include <zor/platform/notice.h>
 #include <zor/platform/operator.h>
 #include <zor/platform/qt/keys.h>
@@ -19,8 +20,6 @@ constexpr std::array kKeys{
     KeyRow{Qt::Key_PageDown, 34}, KeyRow{Qt::Key_End, 35},    KeyRow{Qt::Key_Home, 36},
     KeyRow{Qt::Key_Left, 37},     KeyRow{Qt::Key_Up, 38},     KeyRow{Qt::Key_Right, 39},
     KeyRow{Qt::Key_Down, 40},     KeyRow{Qt::Key_Insert, 45}, KeyRow{Qt::Key_Delete, 46},
-    KeyRow{Qt::Key_Plus, 187},    KeyRow{Qt::Key_Comma, 188}, KeyRow{Qt::Key_Minus, 189},
-    KeyRow{Qt::Key_Period, 190},
 };
 
 constexpr std::int16_t kFirstFunctionCode = 112;
@@ -45,7 +44,12 @@ std::int16_t codeOf(const QKeyEvent& key)
     if ((key.key() & ~kCodeMask) == kUnnamed)
         return static_cast<std::int16_t>(key.key() & kCodeMask);
     const auto row = std::ranges::find(kKeys, key.key(), [](const KeyRow& r) { return static_cast<int>(r.key); });
-    return row == kKeys.end() ? std::int16_t{0} : row->code;
+    if (row != kKeys.end())
+        return row->code;
+    // Qt's keys of Latin-1 have the numbers of their characters.
+    if (key.key() > Qt::Key_Space && key.key() <= Qt::Key_ydiaeresis)
+        return keyCodeOf(static_cast<std::int16_t>(key.key()));
+    return key.text().isEmpty() ? std::int16_t{0} : kCharacterKey;
 }
 
 std::int16_t characterOf(const QKeyEvent& key)

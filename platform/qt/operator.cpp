@@ -1,3 +1,4 @@
+#include <zor/platform/key_codes.h>
 #include <zor/platform/qt/entry_lists.h>
 #include <zor/platform/qt/keys.h>
 #include <zor/platform/qt/operator.h>
@@ -154,7 +155,7 @@ bool QtOperator::typeCharacter(TextField& field, std::string_view character)
     const QPointer<QWidget> alive = &base(field).qwidget();
     const QString shown = QString::fromStdString(validUtf8(character));
     const char16_t unit = shown.at(0).unicode();
-    const std::int16_t code = unit < 256 ? keyCodeOf(static_cast<std::int16_t>(unit)) : std::int16_t{0};
+    const std::int16_t code = unit < 256 ? keyCodeOf(static_cast<std::int16_t>(unit)) : kCharacterKey;
     sendKey(*alive, keyOf(code), shown);
     return !alive.isNull();
 }

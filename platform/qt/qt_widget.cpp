@@ -1,3 +1,4 @@
+#include <zor/platform/key_codes.h>
 #include <zor/platform/operator.h>
 #include <zor/platform/qt/keys.h>
 #include <zor/platform/qt/qt_widget.h>
@@ -62,10 +63,20 @@ void SurfaceWidget::resizeEvent(QResizeEvent* event)
         listener->resized(event->size());
 }
 
+static std::unique_ptr<QKeyEvent> keyEvent(QEvent::Type type, Qt::Key key, std::int16_t character,
+                                           Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    const QString text = character == 0 ? QString() : QString(QChar(static_cast<char16_t>(character)));
+    return std::make_unique<QKeyEvent>(type, key, modifiers, text);
+}
+
 bool EventReports::before()
 {
     if (m_event.type() == QEvent::KeyPress)
         return keyPressed(static_cast<QKeyEvent&>(m_event));
+    // What went down as another key comes up as that one.
+    if (m_event.type() == QEvent::KeyRelease && m_widget.heldAs != 0)
+        m_replacement = keyEvent(QEvent::KeyRelease, static_cast<Qt::Key>(std::exchange(m_widget.heldAs, 0)), 0);
     if (m_event.type() == QEvent::MouseButtonRelease && m_widget.changesOnRelease())
         mouse(Notice::MouseUp);
     return false;
@@ -76,25 +87,18 @@ bool EventReports::keyPressed(QKeyEvent& key)
     // Tab moves the focus; it is no key of the widget's.
     if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab)
         return false;
-    std::int16_t code = codeOf(key);
-    std::int16_t shift = shiftOf(key.modifiers());
-    const std::int16_t oldCode = code;
-    m_widget.report(Notice::KeyDown, std::array<ArgRef, 2>{&code, &shift});
-    if ((oldCode != 0 && code == 0) || !m_widget.isReachable())
+    const Stroke struck{codeOf(key), characterOf(key)};
+    Stroke stroke = struck;
+    const auto report = [&](Notice notice, EventArgs args) { m_widget.report(notice, args); };
+    if (!isHeard(stroke, shiftOf(key.modifiers()), report, [&] { return m_widget.isReachable(); }))
         return true;
-    const std::int16_t ascii = characterOf(key);
-    std::int16_t press = ascii;
-    if (ascii != 0)
-        m_widget.report(Notice::KeyPress, std::array<ArgRef, 1>{&press});
-    // No character has a number below 0.
-    if (ascii != 0 && press <= 0)
-        return true;
-    if (press != ascii)
-        m_replacement = std::make_unique<QKeyEvent>(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier,
-                                                    QString(QChar(static_cast<char16_t>(press))));
-    else if (code != oldCode && ascii < ' ')
-        // A key without a letter acts as the key that the handler made of it.
-        m_replacement = std::make_unique<QKeyEvent>(QEvent::KeyPress, keyOf(code), key.modifiers(), key.text());
+    m_widget.heldAs = 0;
+    if (stroke != struck) {
+        const Qt::Key instead = keyOf(stroke.code);
+        m_widget.heldAs = instead;
+        m_replacement = keyEvent(QEvent::KeyPress, instead, stroke.character,
+                                 stroke.character == 0 ? key.modifiers() : Qt::NoModifier);
+    }
     return false;
 }
 

@@ -88,6 +88,8 @@ public:
     bool focusReported = false;
     /// The release after a double click is no click of its own.
     bool doubleClicked = false;
+    /// The key that a handler made of one that is still down; 0 for none.
+    int heldAs = 0;
     /// True while the control disables or hides the widget: it keeps the focus then.
     bool keepsFocus = false;
     /// True while the listener is asked whether the focus may go.

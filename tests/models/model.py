@@ -338,17 +338,22 @@ class Model(Steps):
         self.emit(self.PREFIX[widget] + "LostFocus")
 
     def key(self, widget, code):
-        character = code if code in (8, 13, 27, 32, 65) else 0
-        # What a handler gave another character only writes it, where one can write.
-        self.strike(widget, code, character, lambda code, press: self.struck(widget, code if press == character else 0, press))
+        self.strike(widget, code, self.character(code), self.struck)
+
+    @staticmethod
+    def character(code):
+        """What a key writes by itself."""
+        return code if code in (8, 13, 27, 32, 65) else 0
 
     def strike(self, widget, code, character, act):
+        """What handlers make of a key is another key."""
         prefix = self.PREFIX[widget]
         down = self.emit(prefix + "KeyDown", KeyCode=code, Shift=0)["KeyCode"]
         if down and self.able(widget):
+            character = character if down == code else self.character(down)
             press = self.emit(prefix + "KeyPress", KeyAscii=character)["KeyAscii"] if character else 0
             if (press or not character) and self.able(widget):
-                act(down, press)
+                act(widget, down if press == character else self.character(press), press)
         if self.able(widget):
             self.emit(prefix + "KeyUp", KeyCode=code, Shift=0)
 

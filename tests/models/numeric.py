@@ -175,8 +175,7 @@ class Numeric(Valued):
 
     def type(self, widget, text):
         for character in text:
-            self.strike(widget, {",": 188, "-": 189, ".": 190}.get(character, ord(character.upper())), ord(character),
-                        lambda _, press: self.edit(widget, 0, press))
+            self.strike(widget, {",": 188, "-": 189, ".": 190}.get(character, ord(character.upper())), ord(character), self.struck)
             if not self.able(widget):
                 return
 

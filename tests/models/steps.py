@@ -5,7 +5,7 @@ import itertools
 from values import FACE, NOTATION, Colour, names, written
 
 # What a handler may make of an event's argument.
-CHANGES = {"KeyDown": ("KeyCode", 0, 36, 40), "KeyPress": ("KeyAscii", 0, 55), "Validate": ("Cancel", True)}
+CHANGES = {"KeyDown": ("KeyCode", 0, 36, 40, 32), "KeyPress": ("KeyAscii", 0, 55, 32, 8), "Validate": ("Cancel", True)}
 
 
 class Steps:

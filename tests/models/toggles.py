@@ -152,6 +152,10 @@ class OptionButton(Toggle):
         self["opt_OptionButton.Value"], self["EnumValue"], self.stood_for = False, 0, 0
         self.armed = False
 
+    def loaded(self):
+        super().loaded()
+        self.stood_for = self["EnumEntryValue"]
+
     READ_AS = {**Choice.READ_AS, "OptionButtonCaption": "opt_OptionButton.Caption", "OptionButtonValue": "opt_OptionButton.Value"}
 
     def show(self, value):

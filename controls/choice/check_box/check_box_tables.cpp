@@ -21,7 +21,9 @@ struct ctx_ZorCheckBox::Tables {
     static constexpr auto kProperties = joined(kInitialOrder, R::kNotStored, core::rows(&R::CheckBoxValue));
 
     static constexpr std::array kFaceEvents{
-        event<&E::CheckChange>("CheckChange", chk_CheckBox, Notice::Change),
+        event<&E::CheckChange>("CheckChange", chk_CheckBox, Notice::Change)
+            .saying("It reported a change apart from a click: where a platform's box does, which neither "
+                    "platform's does."),
         ownEvent<&E::CheckClick>("CheckClick")
             .saying("The box was ticked or unticked, by whomever; after all that follows from it."),
         event<&E::CheckDblClick>("CheckDblClick", chk_CheckBox, Notice::DblClick),

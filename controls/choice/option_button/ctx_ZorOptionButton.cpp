@@ -69,6 +69,12 @@ void ctx_ZorOptionButton::s_Select(bool selected)
         m_isArmed = true;
 }
 
+void ctx_ZorOptionButton::s_AfterLoading()
+{
+    CaptionChoice::s_AfterLoading();
+    m_stoodFor = m_entryValue;
+}
+
 // --- The operator
 
 void ctx_ZorOptionButton::s_HandleClick()

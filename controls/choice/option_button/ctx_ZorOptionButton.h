@@ -55,6 +55,7 @@ private:
     explicit ctx_ZorOptionButton(platform::Container& container);
     ~ctx_ZorOptionButton() override = default;
 
+    void s_AfterLoading() override;
     void s_ApplyDeviceValue() override;
     void s_ApplyEnumValue();
     void s_ApplyModifiedValue(std::int32_t value) override;

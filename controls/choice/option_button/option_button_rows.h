@@ -29,7 +29,7 @@ struct ctx_ZorOptionButton::Rows
     static constexpr auto OptionButtonValue =
         core::computedRow<[](This& button) { return button.OptionButtonValue(); }>("OptionButtonValue",
                                                                                    core::Topic::Appearance)
-            .saying("Whether the button is on.")
+            .saying("Whether the button is on. A write changes nothing.")
             .written<[](This& button, bool value) { button.OptionButtonValue(value); }>();
     static constexpr auto OtherUser = S::OtherUserValue<&This::m_otherUser>;
 };

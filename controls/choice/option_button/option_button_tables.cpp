@@ -46,7 +46,11 @@ struct ctx_ZorOptionButton::Tables {
         event<&E::OptionValidate>("OptionValidate", opt_OptionButton, Notice::Validate, "Cancel"),
     };
 
-    static constexpr auto kEvents = joined(core::conditionRows<E>(), kFaceEvents, core::iconRows<E>(img_State));
+    static constexpr auto kEvents = joined(
+        core::conditionRows<E>(
+            "This button became the one that is selected, by the operator or by a value, and OutputValue is "
+            "its value."),
+        kFaceEvents, core::iconRows<E>(img_State));
 
     static constexpr auto kWidgets =
         controls::ChoiceRows::widgets({opt_OptionButton, "opt_OptionButton", "The button with its caption."});
