@@ -158,7 +158,8 @@ bool HeadlessOperator::moveFocus(Host& window, Widget* widget)
         m_validating = true;
         base(*old).report(Notice::Validate, std::array<ArgRef, 1>{&cancel});
         m_validating = false;
-        if (cancel)
+        // Nobody can go on working in what is hidden: that is left, whatever the host says.
+        if (cancel && old->isVisible())
             return false;
         window.setFocused(nullptr);
         base(*old).report(Notice::LostFocus);

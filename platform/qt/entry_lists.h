@@ -172,6 +172,12 @@ public:
         if (enabled && widget().isOpen())
             widget().view()->setFocus(Qt::PopupFocusReason);
     }
+    void setVisible(bool visible) override
+    {
+        if (!visible && widget().isOpen())
+            widget().setFocus(Qt::PopupFocusReason);
+        QtEntryBase::setVisible(visible);
+    }
 
 private:
     void select(std::int32_t index) override { widget().setCurrentIndex(index); }

@@ -121,6 +121,8 @@ bool QtOperator::takeFocus(Widget& widget)
 
 void QtOperator::dropFocus(Widget& widget)
 {
+    if (!base(widget).focusReported)
+        return;
     QWidget& target = base(widget).qwidget();
     const bool hadFocus = target.hasFocus();
     target.clearFocus();

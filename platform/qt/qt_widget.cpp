@@ -152,12 +152,9 @@ void EventReports::after()
     }
 }
 
-/// Also to what is disabled, which Qt would not. What is hidden cannot have it: Qt would give it when that is
-/// shown, and take it from where the operator is by then.
+/// Also to what is disabled, which Qt would not.
 static void giveFocusBack(QWidget& widget)
 {
-    if (widget.isHidden())
-        return;
     const bool isDisabled = widget.testAttribute(Qt::WA_Disabled);
     widget.setAttribute(Qt::WA_Disabled, false);
     widget.setFocus(Qt::OtherFocusReason);
@@ -178,7 +175,8 @@ void EventReports::focusLost(const QFocusEvent& focus)
     if (!widget)
         return;
     m_widget.validating = false;
-    if (cancel)
+    // Nobody can go on working in what is hidden: that is left, whatever the host says.
+    if (cancel && !widget->isHidden())
         return giveFocusBack(*widget);
     m_widget.focusReported = false;
     m_widget.report(Notice::LostFocus);

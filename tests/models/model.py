@@ -328,7 +328,7 @@ class Model(Steps):
 
     def leave(self):
         widget = self.focused
-        if self.emit(self.PREFIX[widget] + "Validate", Cancel=False)["Cancel"]:
+        if self.emit(self.PREFIX[widget] + "Validate", Cancel=False)["Cancel"] and self[widget + ".Visible"]:
             return False
         self.focused = None
         self.lost_focus(widget)
