@@ -228,8 +228,9 @@ class Slider(Numeric):
         place = room - round(width_of[1] / 2) - width_of[0] - 20
         fits = left < place and width - width_of[2] - width_of[1] / 2 > room and self["EnableValues"]
         if not fits:
-            # Pushed left until it ends at the edge, but never into the left group.
-            place = max(min(place, width - sum(width_of) - 40), left)
+            # Pushed left until it ends at the edge, up to the left group and never into it.
+            edge = width - sum(width_of) - 40
+            place = left if edge < left - 20 else min(max(left, place), edge)
         for label, own in zip(LABELS[3:], width_of):
             self[label + ".Left"] = place
             place += own + 20

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <istream>
+#include <iterator>
 #include <ostream>
 
 namespace zor::console {
@@ -15,22 +16,31 @@ constexpr std::string_view kErrorWord = "error ";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::size_t kColourLength = 7;
 
+bool startsWithColour(std::string_view text)
+{
+    return text.starts_with('#') && text.size() >= kColourLength &&
+           text.substr(1, kColourLength - 1).find_first_not_of(kHexDigits) == std::string::npos &&
+           (text.size() == kColourLength || text[kColourLength] == ' ' || text[kColourLength] == '\t' ||
+            text[kColourLength] == '\r');
+}
+
 /// What stands behind "=", in canonical spelling. A colour starts like a comment and is none.
 std::string expectedText(std::string_view text)
 {
-    const auto start = text.find_first_not_of(" \t\r");
-    const std::string_view word = start == std::string_view::npos ? std::string_view{} : text.substr(start);
-    if (!word.starts_with('#'))
-        return canonical(withoutComment(text));
-    std::string colour(word.substr(0, kColourLength));
-    const bool isColour = colour.size() == kColourLength &&
-                          colour.find_first_not_of(kHexDigits, 1) == std::string::npos &&
-                          withoutComment(word.substr(kColourLength)).empty();
-    if (!isColour)
-        return {};
-    std::ranges::transform(colour, colour.begin(),
-                           [](char c) { return c >= 'a' && c <= 'f' ? static_cast<char>(c - 'a' + 'A') : c; });
-    return colour;
+    std::string spelled;
+    for (std::string_view rest = text;;) {
+        const std::string_view words = withoutComment(rest);
+        spelled += words;
+        rest.remove_prefix(static_cast<std::size_t>(words.data() + words.size() - rest.data()));
+        rest.remove_prefix(std::min(rest.find_first_not_of(" \t\r"), rest.size()));
+        if (!startsWithColour(rest))
+            return canonical(spelled);
+        spelled += spelled.empty() ? "" : " ";
+        std::ranges::transform(rest.substr(0, kColourLength), std::back_inserter(spelled),
+                               [](char c) { return c >= 'a' && c <= 'f' ? static_cast<char>(c - 'a' + 'A') : c; });
+        rest.remove_prefix(kColourLength);
+        spelled += rest.empty() ? "" : " ";
+    }
 }
 
 bool matches(std::string_view expected, const OutputLine& came)

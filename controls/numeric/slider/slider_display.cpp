@@ -112,8 +112,10 @@ void ctx_ZorSlider::s_Layout()
     const Twips centre = track.width - kBeforeTrackEnd;
     const Twips centred = centre - roundToInt32(valueWidth / 2) - kLabelGap - right[0]->width();
     const bool fits = leftEnd + kLabelGap < centred && area.width - right[2]->width() - valueWidth / 2 > centre;
-    // Else it is pushed left until it ends at the control's edge, but never into the left group.
-    const Twips pushed = std::max(leftEnd + kLabelGap, std::min(centred, area.width - widthOf(right)));
+    // Else it is pushed left until it ends at the control's edge, up to the left group and never into it.
+    const Twips beside = leftEnd + kLabelGap;
+    const Twips atEdge = area.width - widthOf(right);
+    const Twips pushed = atEdge < leftEnd ? beside : std::min(std::max(beside, centred), atEdge);
     place(right, fits && m_enableValues ? centred : pushed);
     if (area.height != kHeight)
         surface().setGeometry({area.left, area.top, area.width, kHeight});
