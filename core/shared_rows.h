@@ -31,8 +31,9 @@ struct SharedRows {
             .refreshing({Refresh::CheckType});
     static constexpr auto DeviceVersion =
         fieldRow<&Control::m_binding, &Binding::deviceVersion>("DeviceVersion", Topic::Parameter)
-            .saying("Firmware version of the connected device (as 01.10; 1.5 counts as 01.05). A write compares it "
-                    "with the versions of the device's type and hides the control outside of them.")
+            .saying(
+                "Firmware version of the connected device (as 01.10; 1.5 counts as 01.05). A write compares it "
+                "with the versions of the device's type and hides the control outside of them.")
             .identifier()
             .stored("")
             .refreshing({Refresh::CheckVersion});

@@ -141,6 +141,9 @@ void QtOperator::point(Widget& widget, Pointer action)
 {
     const auto [target, at] = aimAt(widget);
     const QPointer<QWidget> alive = &target;
+    // Which character is where is known once the text is painted, as on a screen it always is.
+    if (dynamic_cast<TextField*>(&widget) != nullptr)
+        target.grab({0, 0, 1, 1});
     const Qt::MouseButton button = action == Pointer::RightClick ? Qt::RightButton : Qt::LeftButton;
     click(target, button, at);
     if (action == Pointer::DoubleClick && alive) {
