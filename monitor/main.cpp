@@ -1,5 +1,6 @@
 #include <zor/monitor/link/device_address.h>
 #include <zor/monitor/program/commands.h>
+#include <zor/monitor/program/file_clash.h>
 #include <zor/monitor/program/outcome.h>
 #include <zor/monitor/program/window_run.h>
 #include <zor/monitor/scan/scan_command.h>
@@ -36,6 +37,7 @@ int run(int argc, char** argv)
     if (settings.task.language.empty())
         settings.task.language = Languages::systemLanguage().toStdString();
     languages.use(QString::fromStdString(settings.task.language));
+    refuseClashes(settings);
     const QString screen = QApplication::platformName();
     settings.asks = argc == 1 && screen != "offscreen" && screen != "minimal";
     if (!settings.scan.empty())

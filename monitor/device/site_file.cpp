@@ -1,4 +1,5 @@
 #include <zor/monitor/data/file_content.h>
+#include <zor/monitor/data/file_place.h>
 #include <zor/monitor/data/json_fields.h>
 #include <zor/monitor/device/site_file.h>
 #include <zor/monitor/link/device_address.h>
@@ -81,13 +82,23 @@ SiteFile readSiteFile(std::string_view text, const QString& name)
     if (const auto title = fields.take("title"))
         site.title = QString::fromStdString(title->text());
     const Value devices = fields.need("devices");
-    std::set<QString> written;
-    for (const Value& value : devices.array()) {
+    const std::vector<Value> values = devices.array();
+    for (const Value& value : values)
         site.devices.push_back(readEntry(value, QFileInfo(name).absoluteDir()));
+    std::set<QString> read{placeOf(name)};
+    for (const DeviceEntry& entry : site.devices)
+        read.insert({placeOf(entry.parameters), placeOf(entry.form)});
+    std::set<QString> written;
+    for (std::size_t i = 0; i < site.devices.size(); ++i) {
         for (const FileRow& row : kWritten) {
-            const QString& file = site.devices.back().*row.member;
-            if (!file.isEmpty() && !written.insert(file).second)
-                value.fail(QT_TRANSLATE_NOOP("texts", "\"%1\" is written by another device already"), {row.name});
+            const QString place = placeOf(site.devices[i].*row.member);
+            if (place.isEmpty())
+                continue;
+            if (read.contains(place))
+                values[i].fail(QT_TRANSLATE_NOOP("texts", "\"%1\" is a file that is read"), {row.name});
+            if (!written.insert(place).second)
+                values[i].fail(QT_TRANSLATE_NOOP("texts", "\"%1\" is written by another device already"),
+                               {row.name});
         }
     }
     fields.finish();

@@ -1,4 +1,5 @@
 #include <zor/monitor/data/json_document.h>
+#include <zor/monitor/data/message.h>
 #include <zor/monitor/session/log.h>
 
 #include <QDateTime>
@@ -18,6 +19,18 @@ std::string csvField(std::string_view text)
 
 namespace {
 
+constexpr const char* kHeading = "time,event,tag,old,new,result\n";
+
+/// Whether a record may go on in a file: one that is new, or begins as a record does. What is no plain file, as a
+/// pipe, is not looked into.
+bool takesRecord(const QString& name)
+{
+    QFile file(name);
+    const QByteArray heading(kHeading);
+    return !QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly) ||
+           heading.startsWith(file.read(heading.size()));
+}
+
 /// Whether a file ends in the midst of a line: a power cut, a disk that was full.
 bool endsTorn(const QString& name)
 {
@@ -31,11 +44,15 @@ bool endsTorn(const QString& name)
 
 Log::Log(const QString& file) : m_file(file), m_torn(endsTorn(file))
 {
+    if (!takesRecord(file))
+        throw FileError(
+            file.toStdString(), 0,
+            message(QT_TRANSLATE_NOOP("texts", "holds something else than a record, and is left alone")));
     // Without a buffer: what could not be written must not be held back and come out of turn later.
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
         throw FileError(file.toStdString(), 0, m_file.errorString().toStdString());
     if (m_file.size() == 0)
-        write("time,event,tag,old,new,result\n");
+        write(kHeading);
 }
 
 void Log::record(std::string_view event, std::string_view tag, std::string_view oldText, std::string_view newText,

@@ -14,7 +14,7 @@ namespace zor::monitor {
 /// in the device's unit. Each line is in the file when record() returns, or error() says why it is not.
 class Log {
 public:
-    /// Appends to the file. Raises FileError when it cannot be opened.
+    /// Appends to the file. Raises FileError when it cannot be opened, or holds something else than a record.
     explicit Log(const QString& file);
 
     void record(std::string_view event, std::string_view tag, std::string_view oldText, std::string_view newText,

@@ -2421,6 +2421,18 @@
         <source>%1: a rectangle of whole pixels is expected</source>
         <translation>%1: hier wird ein Rechteck aus ganzen Pixeln erwartet</translation>
     </message>
+    <message>
+        <source>this is the file of %1</source>
+        <translation>das ist die Datei von %1</translation>
+    </message>
+    <message>
+        <source>holds something else than a record, and is left alone</source>
+        <translation>enthält etwas anderes als eine Aufzeichnung und bleibt, wie es ist</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a file that is read</source>
+        <translation>&quot;%1&quot; ist eine Datei, die gelesen wird</translation>
+    </message>
 </context>
 <context>
     <name>units</name>

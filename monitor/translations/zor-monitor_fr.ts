@@ -2421,6 +2421,18 @@
         <source>%1: a rectangle of whole pixels is expected</source>
         <translation>%1 : un rectangle en pixels entiers est attendu ici</translation>
     </message>
+    <message>
+        <source>this is the file of %1</source>
+        <translation>c&apos;est le fichier de %1</translation>
+    </message>
+    <message>
+        <source>holds something else than a record, and is left alone</source>
+        <translation>contient autre chose qu&apos;un enregistrement et reste tel quel</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a file that is read</source>
+        <translation>&quot;%1&quot; est un fichier qui est lu</translation>
+    </message>
 </context>
 <context>
     <name>units</name>

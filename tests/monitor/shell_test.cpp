@@ -211,6 +211,7 @@ TEST(SiteFiles, WhatIsWrongIsRefusedWithItsPlaceAndTheSchemaAgrees)
         {"100}", "99}", "/plant/site.json:3: a whole number from 100"},
         {"\"form\": \"b.ui\"", "\"log\": \"a.csv\"", "/plant/site.json:3: \"log\" is written by another device",
          false},
+        {"b.ui", "a.csv", "/plant/site.json:2: \"log\" is a file that is read", false},
         {"\"form\"", "\"from\"", "/plant/site.json:3: \"from\" is not known here"},
         {good.mid(good.indexOf('[')), "[]}", "/plant/site.json:1: a site has 1 to 200 devices"},
     };
