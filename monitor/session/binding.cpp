@@ -193,14 +193,19 @@ void Binding::showNothing()
         setFlag(m_row.modified, false);
 }
 
+std::string Binding::textOf(std::span<const std::uint16_t> registers, const std::string& language,
+                            std::uint32_t mask) const
+{
+    const ShownValue value = describe(*m_parameter, registers, shownUnit(), language, mask);
+    const std::string_view label = fc_GetUnitLabel(value.unit);
+    return label.empty() ? value.text : value.text + ' ' + std::string(label);
+}
+
 Variant Binding::valueFor(std::span<const std::uint16_t> registers, const std::string& language) const
 {
     const core::ValueKind kind = m_row.value->field.kind;
-    if (kind == core::ValueKind::Text && m_parameter->location.type != ValueType::Text) {
-        const ShownValue shownValue = describe(*m_parameter, registers, m_textUnit, language);
-        const std::string_view label = fc_GetUnitLabel(shownValue.unit);
-        return label.empty() ? shownValue.text : shownValue.text + ' ' + std::string(label);
-    }
+    if (kind == core::ValueKind::Text && m_parameter->location.type != ValueType::Text)
+        return textOf(registers, language);
     const bool integer = kind == core::ValueKind::Int32 && m_row.unit == nullptr && m_parameter->scale == 1;
     if (integer && (isInteger(m_parameter->location.type) || m_parameter->location.type == ValueType::Bit))
         return decodeInteger(m_parameter->location, registers);
@@ -256,10 +261,15 @@ void Binding::dropStranger()
     m_stranger.reset();
 }
 
-void Binding::tellOther(std::span<const std::uint16_t> registers)
+void Binding::tellOther(std::span<const std::uint16_t> registers, const std::string& language)
 {
     if (m_row.changed == nullptr)
         return;
+    const std::uint32_t mask =
+        m_row.bitIndex != nullptr && m_parameter->location.type != ValueType::Bit
+            ? decodeBits(m_parameter->location, relevant(Registers(registers.size(), UINT16_MAX)))
+            : 0;
+    quietly([&] { m_texts.explainChange(textOf(registers, language, mask)); });
     if (m_row.other != nullptr) {
         try {
             Variant value = valueFor(registers, {});
@@ -273,6 +283,12 @@ void Binding::tellOther(std::span<const std::uint16_t> registers)
         }
     }
     quietly([&] { m_control.put(*m_row.changed, true); });
+}
+
+void Binding::tellOtherDevice()
+{
+    quietly([&] { m_texts.explainChange({}); });
+    setFlag(m_row.changed, true);
 }
 
 void Binding::forgetOther() { setFlag(m_row.changed, false); }

@@ -50,8 +50,10 @@ public:
     void showNothing();
     /// Shows a value and so ends an edit. False when the control cannot show it.
     bool showValue(std::span<const std::uint16_t> registers, const std::string& language);
-    /// The value has been changed by somebody else.
-    void tellOther(std::span<const std::uint16_t> registers);
+    /// The value has been changed by somebody else, to this.
+    void tellOther(std::span<const std::uint16_t> registers, const std::string& language);
+    /// The value is no longer that of the device that it was read from.
+    void tellOtherDevice();
     /// The change by somebody else has been overwritten.
     void forgetOther();
     /// The part of the registers that this control is about.
@@ -65,6 +67,10 @@ public:
     [[nodiscard]] bool isInHand() const { return isModified() || m_typed.isTyping(); }
     [[nodiscard]] bool isInvalid() const;
     [[nodiscard]] Edit edit() const;
+    /// What stands in the control's field; nothing where it has none.
+    [[nodiscard]] std::optional<std::string> typedText() const;
+    /// Between which an entry may lie, in the device's unit.
+    [[nodiscard]] Range limits() const;
     /// Counts what the operator has done to the control.
     [[nodiscard]] std::uint64_t actions() const { return m_actions; }
     /// The unit in which the operator sees numbers.
@@ -100,6 +106,9 @@ public:
 
 private:
     void event(core::Control& control, const core::EventRow& row, platform::EventArgs args) override;
+    /// As the operator reads it, with its unit; of single bits where there is a mask.
+    [[nodiscard]] std::string textOf(std::span<const std::uint16_t> registers, const std::string& language,
+                                     std::uint32_t mask = 0) const;
     [[nodiscard]] Variant valueFor(std::span<const std::uint16_t> registers, const std::string& language) const;
     /// The bits that an edit changes one by one, as they lie in the device; none where it is of the whole value.
     [[nodiscard]] std::uint32_t bitsAsTheyLie() const;

@@ -3,6 +3,7 @@
 #include <zor/monitor/session/binding.h>
 #include <zor/monitor/session/control_values.h>
 #include <zor/platform/error.h>
+#include <zor/units/mod_Common.h>
 
 #include <utility>
 
@@ -38,6 +39,30 @@ Edit Binding::edit() const
     else
         edit.mask = (edit.bits ^ static_cast<std::uint32_t>(m_control.get(*m_row.value).toInt32())) & own;
     return edit;
+}
+
+std::optional<std::string> Binding::typedText() const
+{
+    for (const core::WidgetRow& row : m_control.info().widgets) {
+        if (const auto* field = dynamic_cast<platform::TextField*>(m_control.widget(row.widget)))
+            return field->text();
+    }
+    return std::nullopt;
+}
+
+Range Binding::limits() const
+{
+    const auto lower = getIfThere("MinValue");
+    const auto upper = getIfThere("MaxValue");
+    if (lower && upper && *lower != *upper) {
+        const MEAS_TYPE unit{m_control.property("DefaultUnit").toInt32()};
+        const auto inDevice = [&](const Variant& limit) {
+            return convert(limit.number(), m_parameter->unitType, unit, m_parameter->unit);
+        };
+        return {inDevice(*lower), inDevice(*upper)};
+    }
+    const auto [lowest, highest] = rangeOf(*m_parameter);
+    return {m_parameter->appearance.minimum.value_or(lowest), m_parameter->appearance.maximum.value_or(highest)};
 }
 
 Variant Binding::entry() const { return m_typed.value().value_or(m_control.get(*m_row.output)); }

@@ -1,6 +1,7 @@
 #include <zor/monitor/session/changes.h>
 #include <zor/monitor/session/value_texts.h>
 #include <zor/platform/error.h>
+#include <zor/units/mod_Common.h>
 
 #include <algorithm>
 #include <array>
@@ -32,6 +33,43 @@ void takeBits(Change& change, const Edit& edit)
     change.bits = (change.bits & ~edit.mask) | (edit.bits & edit.mask);
 }
 
+/// The control has refused the entry and does not say why.
+void takeRefused(Change& change, const Parameter& parameter, const Binding& binding)
+{
+    const std::optional<std::string> typed = binding.typedText();
+    change.problem = Problem::InvalidEntry;
+    if (!typed)
+        return;
+    change.newText = *typed;
+    if (parameter.location.type != ValueType::Text)
+        change.problem = validNumber(std::string_view(*typed)) ? Problem::OutsideLimits : Problem::NotANumber;
+    else if (const Unfit unfit = encode(parameter, *typed).unfit; unfit != Unfit::No)
+        change.problem = problemOf(unfit);
+}
+
+/// What the entry might have been.
+void nameLimits(Change& change, const Parameter& parameter, const Binding& binding, const std::string& language)
+{
+    if (change.problem == Problem::TextTooLong)
+        change.highest = std::to_string(parameter.location.registers * 2);
+    if (change.problem != Problem::OutsideLimits && change.problem != Problem::OutOfRange)
+        return;
+    const Range range = rangeOf(parameter);
+    const Range limits = change.problem == Problem::OutsideLimits ? binding.limits() : range;
+    const auto text = [&](double limit, double end) {
+        if (parameter.location.type == ValueType::Bit)
+            return std::to_string(static_cast<int>(limit));
+        const Encoded encoded = encode(parameter, limit);
+        // The ends of a float have more digits than they tell.
+        const bool endless = !isInteger(parameter.location.type) && limit == end;
+        return endless || encoded.registers.empty()
+                   ? std::string()
+                   : describeExactly(parameter, encoded.registers, change.unit, language).text;
+    };
+    change.lowest = text(limits.lowest, range.lowest);
+    change.highest = text(limits.highest, range.highest);
+}
+
 void take(Change& change, const Parameter& parameter, Binding& binding)
 {
     change.origins.push_back({&binding, binding.actions()});
@@ -42,7 +80,7 @@ void take(Change& change, const Parameter& parameter, Binding& binding)
     if (!parameter.writable) {
         change.problem = Problem::ReadOnly;
     } else if (binding.isInvalid()) {
-        change.problem = Problem::InvalidEntry;
+        takeRefused(change, parameter, binding);
     } else {
         try {
             const Edit edit = binding.edit();
@@ -67,11 +105,11 @@ void describeChange(Change& change, const Parameter& parameter, const std::strin
         else
             change.target = mergeBits(parameter.location, change.before, change.mask, change.bits);
     }
+    nameLimits(change, parameter, *change.origins.front().binding, language);
     const MEAS_TYPE shown = change.unit;
     change.oldText = describeExactly(parameter, change.before, shown, language, change.mask).text;
     if (change.target.empty()) {
-        // An entry that is no valid value has none that could be shown.
-        if (change.problem != Problem::InvalidEntry)
+        if (change.newText.empty() && change.problem != Problem::InvalidEntry)
             change.newText =
                 change.origins.front().binding->getIfThere("OutputValue").value_or(Variant()).toText();
         return;

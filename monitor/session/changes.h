@@ -43,12 +43,14 @@ struct Change {
     std::uint32_t mask = 0; ///< of an edit of bits
     std::uint32_t bits = 0;
     /// @name As the operator reviews it
-    /// What is shown as new is what the registers will hold.
+    /// What is shown as new is what the registers will hold; where they cannot, what was typed.
     /// @{
     std::string tag{};
     std::string oldText{};
     std::string newText{};
     MEAS_TYPE unit = NoneU;
+    std::string lowest{};  ///< that an entry may be, where it is not; empty where there is no telling
+    std::string highest{}; ///< the same; of a text that is too long, how many characters it may have
     bool changedByOther = false;
     /// @}
 };

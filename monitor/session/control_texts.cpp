@@ -30,6 +30,8 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 2> kReasons{
     {{"MSG_DEVICEBUSY", "The device is busy. It is asked again."},
      {"MSG_NOENTRY", "is what the device holds; no entry has this value."}}};
 constexpr std::string_view kNoData = "MSG_DATANOTAVAILABLE";
+constexpr std::string_view kChanged = "MSG_DATACHANGED";
+constexpr std::string_view kNewValue = "Data Changed by other user to ";
 
 /// Empty when there is no translation.
 std::string translation(const char* context, const std::string& identifier, std::string_view comment)
@@ -76,6 +78,7 @@ void ControlTexts::apply()
             m_control.setProperty(original.identifier, text);
     }
     applyNoData();
+    applyChange();
     applyUnitLabel();
 }
 
@@ -101,6 +104,27 @@ void ControlTexts::applyNoData()
     m_control.fb_SetMessage(original->number, m_detail.empty() ? text : m_detail + ' ' + text);
     // A replaced message is shown from the next refresh of the status on.
     m_control.DataNotAvailable(m_control.DataNotAvailable());
+}
+
+void ControlTexts::explainChange(const std::string& value)
+{
+    if (m_newValue == value)
+        return;
+    m_newValue = value;
+    applyChange();
+}
+
+void ControlTexts::applyChange()
+{
+    const auto original = std::ranges::find(m_originals, kChanged, &Original::identifier);
+    if (original == m_originals.end())
+        return;
+    const bool usual = m_newValue.empty();
+    std::string text =
+        translation("messages", usual ? original->identifier : "MSG_NEWVALUE", m_control.info().name);
+    if (text.empty())
+        text = usual ? original->text : std::string(kNewValue);
+    m_control.fb_SetMessage(original->number, text + m_newValue);
 }
 
 void ControlTexts::applyUnitLabel()

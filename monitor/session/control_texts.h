@@ -21,6 +21,9 @@ public:
     /// Says why there is no value, by the identifier of a text ("MSG_DEVICEBUSY"), or with an empty one that there
     /// is none; `detail` comes before it.
     void explainNoData(std::string_view identifier, const std::string& detail = {});
+    /// Says what somebody else has made of the value, behind the words that somebody has; with an empty text, only
+    /// that.
+    void explainChange(const std::string& value);
     /// The label of the unit that the control shows now.
     void applyUnitLabel();
 
@@ -32,11 +35,13 @@ private:
     };
 
     void applyNoData();
+    void applyChange();
 
     core::Control& m_control;
     std::vector<Original> m_originals;
     std::string m_reason;
     std::string m_detail;
+    std::string m_newValue; ///< by somebody else
 };
 
 } // namespace zor::monitor

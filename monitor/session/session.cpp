@@ -117,7 +117,7 @@ void Session::update(Binding& binding, const Registers& registers, bool foreign,
     if (isInEdit(binding)) {
         const bool known = !binding.seen.empty();
         if (known && binding.isModified() && binding.relevant(binding.seen) != binding.relevant(registers))
-            binding.tellOther(registers);
+            binding.tellOther(registers, m_language);
         binding.seen = registers;
         return;
     }
@@ -126,7 +126,7 @@ void Session::update(Binding& binding, const Registers& registers, bool foreign,
     if (again || binding.shown != registers)
         binding.showValue(registers, m_language);
     if (mine)
-        binding.tellOther(registers);
+        binding.tellOther(registers, m_language);
 }
 
 void Session::hearRound(bool answered)
@@ -223,7 +223,7 @@ void Session::hearIdentity(const std::string& type, const std::string& version)
         // What the last device held says nothing about this one.
         binding->await();
         if (binding->isModified() && !binding->seen.empty())
-            binding->tellOther(Registers(binding->seen));
+            binding->tellOtherDevice();
     }
     if (other)
         m_writer.forgetDevice();
@@ -251,7 +251,7 @@ void Session::hearResult(const Change& change, const WriteResult& result)
         state.last = result.readBack;
         for (const Origin& origin : change.origins) {
             origin.binding->seen = result.readBack;
-            origin.binding->tellOther(result.readBack);
+            origin.binding->tellOther(result.readBack, m_language);
         }
     }
     m_results.push_back({change, result});

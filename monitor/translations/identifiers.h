@@ -5,17 +5,12 @@
 #include <QtGlobal>
 
 const char* const kMessages[] = {
-    QT_TRANSLATE_NOOP("messages", "MSG_CFAIL"),
-    QT_TRANSLATE_NOOP("messages", "MSG_DATANOTAVAILABLE"),
-    QT_TRANSLATE_NOOP("messages", "MSG_DEVICEBUSY"),
-    QT_TRANSLATE_NOOP("messages", "MSG_NOENTRY"),
-    QT_TRANSLATE_NOOP("messages", "MSG_DATACHANGED"),
-    QT_TRANSLATE_NOOP("messages", "MSG_INVALIDENTRY"),
-    QT_TRANSLATE_NOOP("messages", "MSG_DEVICETAGNOTFOUND"),
-    QT_TRANSLATE_NOOP("messages", "MSG_INVALIDENTRYTO"),
-    QT_TRANSLATE_NOOP("messages", "MSG_INVALIDENTRYNAN"),
-    QT_TRANSLATE_NOOP("messages", "MSG_INVALIDVALUE"),
-    QT_TRANSLATE_NOOP("messages", "MsgInvalidEntryForText"),
+    QT_TRANSLATE_NOOP("messages", "MSG_CFAIL"),          QT_TRANSLATE_NOOP("messages", "MSG_DATANOTAVAILABLE"),
+    QT_TRANSLATE_NOOP("messages", "MSG_DEVICEBUSY"),     QT_TRANSLATE_NOOP("messages", "MSG_NOENTRY"),
+    QT_TRANSLATE_NOOP("messages", "MSG_DATACHANGED"),    QT_TRANSLATE_NOOP("messages", "MSG_NEWVALUE"),
+    QT_TRANSLATE_NOOP("messages", "MSG_INVALIDENTRY"),   QT_TRANSLATE_NOOP("messages", "MSG_DEVICETAGNOTFOUND"),
+    QT_TRANSLATE_NOOP("messages", "MSG_INVALIDENTRYTO"), QT_TRANSLATE_NOOP("messages", "MSG_INVALIDENTRYNAN"),
+    QT_TRANSLATE_NOOP("messages", "MSG_INVALIDVALUE"),   QT_TRANSLATE_NOOP("messages", "MsgInvalidEntryForText"),
 };
 
 // Kinds of unit, by their words in the unit catalogue.

@@ -66,13 +66,6 @@
         <source>Nothing to write</source>
         <translation>Nichts zu schreiben</translation>
     </message>
-    <message numerus="yes">
-        <source>%n value(s) written and read back</source>
-        <translation>
-            <numerusform>%n Wert geschrieben und zurückgelesen</numerusform>
-            <numerusform>%n Werte geschrieben und zurückgelesen</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Not everything was written</source>
         <translation>Nicht alles ist geschrieben</translation>
@@ -100,6 +93,14 @@
     <message>
         <source>Set to file value...</source>
         <translation>Auf Wert einer Datei setzen...</translation>
+    </message>
+    <message>
+        <source>1 value written and read back</source>
+        <translation>1 Wert geschrieben und zurückgelesen</translation>
+    </message>
+    <message>
+        <source>%1 values written and read back</source>
+        <translation>%1 Werte geschrieben und zurückgelesen</translation>
     </message>
 </context>
 <context>
@@ -176,12 +177,21 @@
         <source>Text files (*.txt)</source>
         <translation>Textdateien (*.txt)</translation>
     </message>
-    <message numerus="yes">
-        <source>%n frame(s) saved</source>
-        <translation>
-            <numerusform>%n Telegramm gesichert</numerusform>
-            <numerusform>%n Telegramme gesichert</numerusform>
-        </translation>
+    <message>
+        <source>Last failure, at %1: %2. The device has answered since.</source>
+        <translation>Letzter Fehler um %1: %2. Seitdem hat das Gerät geantwortet.</translation>
+    </message>
+    <message>
+        <source>Last failure, at %1: %2. %3</source>
+        <translation>Letzter Fehler um %1: %2. %3</translation>
+    </message>
+    <message>
+        <source>1 frame saved</source>
+        <translation>1 Telegramm gesichert</translation>
+    </message>
+    <message>
+        <source>%1 frames saved</source>
+        <translation>%1 Telegramme gesichert</translation>
     </message>
 </context>
 <context>
@@ -541,6 +551,10 @@
         <source>Off</source>
         <translation>Aus</translation>
     </message>
+    <message>
+        <source>simulated device</source>
+        <translation>simuliertes Gerät</translation>
+    </message>
 </context>
 <context>
     <name>ReportDialog</name>
@@ -866,13 +880,6 @@
         <source>The device has none of the parameters that can be written</source>
         <translation>Das Gerät hat keinen der schreibbaren Parameter</translation>
     </message>
-    <message numerus="yes">
-        <source>%n setting(s) saved</source>
-        <translation>
-            <numerusform>%n Einstellung gespeichert</numerusform>
-            <numerusform>%n Einstellungen gespeichert</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Compare with file</source>
         <translation>Mit Datei vergleichen</translation>
@@ -921,6 +928,14 @@
         <source>Set to file value</source>
         <translation>Auf Wert einer Datei setzen</translation>
     </message>
+    <message>
+        <source>1 setting saved</source>
+        <translation>1 Einstellung gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 settings saved</source>
+        <translation>%1 Einstellungen gespeichert</translation>
+    </message>
 </context>
 <context>
     <name>StatusLine</name>
@@ -959,6 +974,10 @@
     <message>
         <source>Writing %1 of %2...</source>
         <translation>%1 von %2 wird geschrieben...</translation>
+    </message>
+    <message>
+        <source>Simulated device</source>
+        <translation>Simuliertes Gerät</translation>
     </message>
 </context>
 <context>
@@ -1012,7 +1031,7 @@
     </message>
     <message>
         <source>Zoom in</source>
-        <translation>Näher</translation>
+        <translation>Vergrößern</translation>
     </message>
     <message>
         <source>Show less time; with Ctrl and the wheel, less of the values</source>
@@ -1020,7 +1039,7 @@
     </message>
     <message>
         <source>Zoom out</source>
-        <translation>Weiter</translation>
+        <translation>Verkleinern</translation>
     </message>
     <message>
         <source>Show more time; with Ctrl and the wheel, more of the values</source>
@@ -1321,6 +1340,10 @@
         <source>This could not be opened:</source>
         <translation>Nicht zu öffnen:</translation>
     </message>
+    <message>
+        <source>%1 (simulated)</source>
+        <translation>%1 (simuliert)</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>
@@ -1415,6 +1438,26 @@
     <message>
         <source>cannot be held</source>
         <translation>nicht möglich</translation>
+    </message>
+    <message>
+        <source>%1: %2 characters at most</source>
+        <translation>%1: höchstens %2 Zeichen</translation>
+    </message>
+    <message>
+        <source>%1: %2 to %3</source>
+        <translation>%1: %2 bis %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 or more</source>
+        <translation>%1: %2 oder mehr</translation>
+    </message>
+    <message>
+        <source>%1: %2 or less</source>
+        <translation>%1: %2 oder weniger</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1738,6 +1781,10 @@
         <source>StatusText</source>
         <comment>ctx_ZorImage</comment>
         <translation>Status</translation>
+    </message>
+    <message>
+        <source>MSG_NEWVALUE</source>
+        <translation>Von anderer Seite geändert auf </translation>
     </message>
 </context>
 <context>
@@ -2432,6 +2479,14 @@
     <message>
         <source>&quot;%1&quot; is a file that is read</source>
         <translation>&quot;%1&quot; ist eine Datei, die gelesen wird</translation>
+    </message>
+    <message>
+        <source>no kind of picture that can be written</source>
+        <translation>keine Art von Bild, die geschrieben werden kann</translation>
+    </message>
+    <message>
+        <source>1 setting saved</source>
+        <translation>1 Einstellung gespeichert</translation>
     </message>
 </context>
 <context>

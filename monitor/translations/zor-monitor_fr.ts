@@ -66,13 +66,6 @@
         <source>Nothing to write</source>
         <translation>Rien à écrire</translation>
     </message>
-    <message numerus="yes">
-        <source>%n value(s) written and read back</source>
-        <translation>
-            <numerusform>%n valeur écrite et relue</numerusform>
-            <numerusform>%n valeurs écrites et relues</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Not everything was written</source>
         <translation>Tout n&apos;a pas été écrit</translation>
@@ -100,6 +93,14 @@
     <message>
         <source>Set to file value...</source>
         <translation>Mettre la valeur d&apos;un fichier...</translation>
+    </message>
+    <message>
+        <source>1 value written and read back</source>
+        <translation>1 valeur écrite et relue</translation>
+    </message>
+    <message>
+        <source>%1 values written and read back</source>
+        <translation>%1 valeurs écrites et relues</translation>
     </message>
 </context>
 <context>
@@ -176,12 +177,21 @@
         <source>Text files (*.txt)</source>
         <translation>Fichiers texte (*.txt)</translation>
     </message>
-    <message numerus="yes">
-        <source>%n frame(s) saved</source>
-        <translation>
-            <numerusform>%n trame enregistrée</numerusform>
-            <numerusform>%n trames enregistrées</numerusform>
-        </translation>
+    <message>
+        <source>Last failure, at %1: %2. The device has answered since.</source>
+        <translation>Dernier échec à %1 : %2. L&apos;appareil a répondu depuis.</translation>
+    </message>
+    <message>
+        <source>Last failure, at %1: %2. %3</source>
+        <translation>Dernier échec à %1 : %2. %3</translation>
+    </message>
+    <message>
+        <source>1 frame saved</source>
+        <translation>1 trame enregistrée</translation>
+    </message>
+    <message>
+        <source>%1 frames saved</source>
+        <translation>%1 trames enregistrées</translation>
     </message>
 </context>
 <context>
@@ -541,6 +551,10 @@
         <source>Off</source>
         <translation>Désactivé</translation>
     </message>
+    <message>
+        <source>simulated device</source>
+        <translation>appareil simulé</translation>
+    </message>
 </context>
 <context>
     <name>ReportDialog</name>
@@ -866,13 +880,6 @@
         <source>The device has none of the parameters that can be written</source>
         <translation>L&apos;appareil n&apos;a aucun des paramètres modifiables</translation>
     </message>
-    <message numerus="yes">
-        <source>%n setting(s) saved</source>
-        <translation>
-            <numerusform>%n réglage enregistré</numerusform>
-            <numerusform>%n réglages enregistrés</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Compare with file</source>
         <translation>Comparer avec un fichier</translation>
@@ -921,6 +928,14 @@
         <source>Set to file value</source>
         <translation>Mettre la valeur d&apos;un fichier</translation>
     </message>
+    <message>
+        <source>1 setting saved</source>
+        <translation>1 réglage enregistré</translation>
+    </message>
+    <message>
+        <source>%1 settings saved</source>
+        <translation>%1 réglages enregistrés</translation>
+    </message>
 </context>
 <context>
     <name>StatusLine</name>
@@ -959,6 +974,10 @@
     <message>
         <source>Writing %1 of %2...</source>
         <translation>Écriture %1 sur %2...</translation>
+    </message>
+    <message>
+        <source>Simulated device</source>
+        <translation>Appareil simulé</translation>
     </message>
 </context>
 <context>
@@ -1321,6 +1340,10 @@
         <source>This could not be opened:</source>
         <translation>Impossible à ouvrir :</translation>
     </message>
+    <message>
+        <source>%1 (simulated)</source>
+        <translation>%1 (simulé)</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>
@@ -1415,6 +1438,26 @@
     <message>
         <source>cannot be held</source>
         <translation>impossible</translation>
+    </message>
+    <message>
+        <source>%1: %2 characters at most</source>
+        <translation>%1 : %2 caractères au plus</translation>
+    </message>
+    <message>
+        <source>%1: %2 to %3</source>
+        <translation>%1 : %2 à %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 or more</source>
+        <translation>%1 : %2 ou plus</translation>
+    </message>
+    <message>
+        <source>%1: %2 or less</source>
+        <translation>%1 : %2 ou moins</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 <context>
@@ -1738,6 +1781,10 @@
         <source>StatusText</source>
         <comment>ctx_ZorImage</comment>
         <translation>État</translation>
+    </message>
+    <message>
+        <source>MSG_NEWVALUE</source>
+        <translation>Modifié par un autre utilisateur : </translation>
     </message>
 </context>
 <context>
@@ -2432,6 +2479,14 @@
     <message>
         <source>&quot;%1&quot; is a file that is read</source>
         <translation>&quot;%1&quot; est un fichier qui est lu</translation>
+    </message>
+    <message>
+        <source>no kind of picture that can be written</source>
+        <translation>aucun type d&apos;image qui puisse être écrit</translation>
+    </message>
+    <message>
+        <source>1 setting saved</source>
+        <translation>1 réglage enregistré</translation>
     </message>
 </context>
 <context>

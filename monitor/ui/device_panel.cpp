@@ -242,12 +242,20 @@ void DevicePanel::showResults(const std::vector<Written>& results)
 {
     QStringList failures;
     for (const Written& written : results) {
-        if (written.result.outcome != WriteOutcome::Written)
-            failures.append(captionOf(session().file().parameters[written.change.parameter]) + ": " +
-                            Words::outcome(written.result));
+        if (written.result.outcome == WriteOutcome::Written)
+            continue;
+        const Change& change = written.change;
+        const Parameter& parameter = session().file().parameters[change.parameter];
+        const ShownValue held =
+            describeExactly(parameter, written.result.readBack, change.unit, m_language, change.mask);
+        failures.append(captionOf(parameter) + ": " +
+                        Words::outcome(written.result, written.result.readBack.empty()
+                                                           ? QString()
+                                                           : Words::value(held.text, held.unit)));
     }
     if (failures.isEmpty())
-        return say(tr("%n value(s) written and read back", nullptr, static_cast<int>(results.size())));
+        return say(results.size() == 1 ? tr("1 value written and read back")
+                                       : tr("%1 values written and read back").arg(results.size()));
     auto* box =
         new QMessageBox(QMessageBox::Warning, tr("Not everything was written"), QString(), QMessageBox::Ok, this);
     box->setAttribute(Qt::WA_DeleteOnClose);

@@ -148,11 +148,13 @@ void ReviewDialog::fill(const Part& part)
 QStringList ReviewDialog::textsOf(const Change& change) const
 {
     const Parameter& parameter = m_file.parameters[change.parameter];
-    QString remark = Words::problem(change.problem);
+    QString remark = Words::problem(change);
     if (change.changedByOther)
         remark += (remark.isEmpty() ? "" : "; ") + tr("changed by another user in the meantime");
+    // What is no number has no unit either.
+    const MEAS_TYPE unit = change.problem == Problem::NotANumber ? NoneU : change.unit;
     return {shown(parameter.appearance.caption.in(m_language)), shown(change.tag),
-            Words::value(change.oldText, change.unit), Words::value(change.newText, change.unit), remark};
+            Words::value(change.oldText, change.unit), Words::value(change.newText, unit), remark};
 }
 
 } // namespace zor::monitor

@@ -47,6 +47,13 @@ constexpr std::array kVerdictWords{
 
 QString Words::verdict(Verdict verdict) { return tr(kVerdictWords[static_cast<std::size_t>(verdict)]); }
 
+QString Words::verdict(const Compared& row)
+{
+    const QString text = verdict(row.verdict);
+    const bool unfit = row.verdict == Verdict::Unfit && row.problem != Problem::None;
+    return unfit ? text + ": " + problem(row.problem) : text;
+}
+
 QString Words::value(const std::string& text, MEAS_TYPE unit)
 {
     const QString label = Words::unit(unit);
@@ -56,9 +63,25 @@ QString Words::value(const std::string& text, MEAS_TYPE unit)
 
 QString Words::problem(Problem problem) { return tr(kProblems[static_cast<std::size_t>(problem)]); }
 
-QString Words::outcome(const WriteResult& result)
+QString Words::problem(const Change& change)
+{
+    const QString text = problem(change.problem);
+    const QString lowest = value(change.lowest, change.unit);
+    const QString highest = value(change.highest, change.unit);
+    if (change.problem == Problem::TextTooLong)
+        return tr("%1: %2 characters at most").arg(text, highest);
+    if (!lowest.isEmpty() && !highest.isEmpty())
+        return tr("%1: %2 to %3").arg(text, QString::fromStdString(change.lowest), highest);
+    if (!lowest.isEmpty())
+        return tr("%1: %2 or more").arg(text, lowest);
+    return highest.isEmpty() ? text : tr("%1: %2 or less").arg(text, highest);
+}
+
+QString Words::outcome(const WriteResult& result, const QString& held)
 {
     QString text = tr(kOutcomeWords[static_cast<std::size_t>(result.outcome)]);
+    if (!held.isEmpty())
+        text = tr("%1: %2").arg(text, held);
     if (result.exception == 0)
         return text;
     Reply reply;

@@ -13,10 +13,15 @@ struct Words {
     Q_DECLARE_TR_FUNCTIONS(Words)
 public:
     [[nodiscard]] static QString problem(Problem problem);
+    /// The same with what the entry might have been.
+    [[nodiscard]] static QString problem(const Change& change);
     [[nodiscard]] static QString verdict(Verdict verdict);
+    /// The same with the reason why the file's value cannot be held.
+    [[nodiscard]] static QString verdict(const Compared& row);
     /// With its unit; one that is not known has none.
     [[nodiscard]] static QString value(const std::string& text, MEAS_TYPE unit);
-    [[nodiscard]] static QString outcome(const WriteResult& result);
+    /// `held` is what the device holds; empty where it is not known, or is what was to be written.
+    [[nodiscard]] static QString outcome(const WriteResult& result, const QString& held = {});
     /// Why a request was not answered, or refused.
     [[nodiscard]] static QString reason(const Reply& reply);
     /// The same from the link's own words; what the operating system says stays as it is.

@@ -163,20 +163,21 @@ TEST(EachClass, TheOthersValueIsHandedToTheControlThatShowsIt)
         int address;
         std::uint16_t other;
         Variant told;
+        const char* said;
         void (*edit)(Host&, core::Control&);
     };
     const std::vector<Row> rows{
-        {"ctx_ZorUpDown", "Limit", 20, 33, 33,
+        {"ctx_ZorUpDown", "Limit", 20, 33, 33, "33 mm",
          [](Host& host, core::Control& c) { host.hands.spin(widgetOf<platform::SpinButton>(c), true); }},
-        {"ctx_ZorSlider", "Limit", 20, 33, 33,
+        {"ctx_ZorSlider", "Limit", 20, 33, 33, "33 mm",
          [](Host& host, core::Control& c) { host.hands.moveTo(widgetOf<platform::Track>(c), 44); }},
-        {"ctx_ZorComboBox", "Mode", 40, 7, 7,
+        {"ctx_ZorComboBox", "Mode", 40, 7, 7, "7",
          [](Host& host, core::Control& c) { host.hands.choose(widgetOf<platform::ComboBox>(c), 1); }},
-        {"ctx_ZorListBox", "Flags", 50, 3, 3,
+        {"ctx_ZorListBox", "Flags", 50, 3, 3, "0, One",
          [](Host& host, core::Control& c) { host.hands.toggle(widgetOf<platform::ListBox>(c), 2); }},
-        {"ctx_ZorCheckBox", "Flags", 50, 3, true,
+        {"ctx_ZorCheckBox", "Flags", 50, 3, true, "0=1",
          [](Host& host, core::Control& c) { host.hands.press(widgetOf<platform::ToggleButton>(c)); }},
-        {"ctx_ZorOptionButton", "Mode", 40, 7, 7,
+        {"ctx_ZorOptionButton", "Mode", 40, 7, 7, "7",
          [](Host& host, core::Control& c) { host.hands.press(widgetOf<platform::ToggleButton>(c)); }},
     };
     for (const Row& row : rows) {
@@ -198,6 +199,8 @@ TEST(EachClass, TheOthersValueIsHandedToTheControlThatShowsIt)
         peer.registers[static_cast<std::size_t>(row.address)] = row.other;
         EXPECT_TRUE(host.until([&] { return get(control, "DataChanged").toBoolean(); }));
         EXPECT_EQ(get(control, "OtherUserValue"), row.told);
+        EXPECT_EQ(get(control, "MsgDataChanged").toText(),
+                  std::string("Data Changed by other user to ") + row.said);
         EXPECT_TRUE(get(control, "DataModified").toBoolean()) << "the edit was lost";
     }
 }

@@ -101,10 +101,11 @@ TEST_F(SessionTest, WhatCannotBeWrittenIsNamedAndKept)
     host.type("Gone", "5");
     const std::vector<Change> changes = host.session->pending();
     ASSERT_EQ(changes.size(), 4U);
-    EXPECT_EQ(changes[0].problem, Problem::InvalidEntry);
+    EXPECT_EQ(changes[0].problem, Problem::OutsideLimits);
+    EXPECT_EQ(changes[0].newText + ": " + changes[0].lowest + " to " + changes[0].highest, "1001: 0 to 1000");
     EXPECT_EQ(changes[1].problem, Problem::CharactersUnknown);
     EXPECT_EQ(changes[2].oldText, "?") << "an edit of what was never read";
-    EXPECT_EQ(changes[3].problem, Problem::InvalidEntry) << "beyond the type";
+    EXPECT_EQ(changes[3].lowest, "-32768") << "beyond the type";
     host.box("Far").setProperty("InvalidEntryEnable", false);
     host.type("Far", "40001");
     EXPECT_EQ(host.session->pending()[3].problem, Problem::OutOfRange);
