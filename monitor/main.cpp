@@ -8,6 +8,7 @@
 
 #include <CLI/CLI.hpp>
 #include <QApplication>
+#include <QIcon>
 
 #include <iostream>
 #include <unistd.h>
@@ -31,6 +32,8 @@ int run(int argc, char** argv)
         !qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    QApplication::setWindowIcon(QIcon(":/monitor/icon.svg"));
+    QGuiApplication::setDesktopFileName("org.zorsmartcontrols.monitor");
     Languages languages;
     // What programs read is the same in every language.
     settings.task.language = settings.task.json ? "en" : settings.language;
@@ -46,7 +49,7 @@ int run(int argc, char** argv)
     if (settings.task.isGiven() || (!settings.report.empty() && settings.runFor == 0))
         return transfer(settings, loadParameters(entryOf(settings)));
     if (settings.serve > 0)
-        return serve(loadParameters(entryOf(settings)), settings.serve);
+        return serve(loadParameters(entryOf(settings)), settings);
     return runWindow(settings, languages);
 }
 

@@ -6,7 +6,9 @@
 
 #include <QCoreApplication>
 #include <QSaveFile>
+#include <QTimer>
 
+#include <chrono>
 #include <iostream>
 #include <numeric>
 
@@ -18,6 +20,7 @@ int report(Session& session, const Settings& settings)
     session.setUnits(unitsOf(settings));
     ReportParts parts;
     parts.language = settings.task.language;
+    parts.simulated = entryOf(settings).isSimulated();
     const std::string& compared = settings.task.compare.empty() ? settings.task.load : settings.task.compare;
     if (!compared.empty())
         parts.compared = loadSettingsFile(compared);
@@ -37,13 +40,15 @@ int report(Session& session, const Settings& settings)
 
 } // namespace
 
-int serve(const ParameterFile& file, int port)
+int serve(const ParameterFile& file, const Settings& settings)
 {
-    Simulator device(file, port);
+    Simulator device(file, settings.serve);
     if (!device.start())
-        return fail(kUsage, message(QT_TRANSLATE_NOOP("texts", "port %1"), {std::to_string(port)}) + ": " +
-                                device.error().toStdString());
+        return fail(kUsage, message(QT_TRANSLATE_NOOP("texts", "port %1"), {std::to_string(settings.serve)}) +
+                                ": " + device.error().toStdString());
     std::cout << "serving on 127.0.0.1:" << device.port() << std::endl;
+    if (settings.runFor > 0)
+        QTimer::singleShot(std::chrono::seconds(settings.runFor), qApp, &QCoreApplication::quit);
     return QCoreApplication::exec();
 }
 

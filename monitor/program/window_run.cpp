@@ -8,6 +8,8 @@
 #include <zor/monitor/ui/window.h>
 
 #include <QApplication>
+#include <QFileInfo>
+#include <QImageWriter>
 #include <QMessageBox>
 
 #include <iostream>
@@ -143,6 +145,12 @@ int runWindow(Settings settings, Languages& languages)
     const Memory memory(watched ? &stored : nullptr);
     if (const QString chosen = memory.language(); settings.language.empty() && !chosen.isEmpty())
         languages.use(chosen);
+    // What cannot be had is said before anything runs for hours.
+    const QByteArray picture =
+        QFileInfo(QString::fromStdString(settings.screenshot)).suffix().toLower().toLatin1();
+    if (!settings.screenshot.empty() && !QImageWriter::supportedImageFormats().contains(picture))
+        throw UsageError("--screenshot " + settings.screenshot + ": " +
+                         message(QT_TRANSLATE_NOOP("texts", "no kind of picture that can be written")));
     core::ClassRegistry classes;
     registerControls(classes);
     Panels panels = settings.asks ? ask(settings, memory, classes) : openAll(settings, classes);

@@ -63,7 +63,10 @@ private:
     static QString timeText(const QDateTime& time)
     {
         const QDateTime local = time.toLocalTime();
-        return QLocale().toString(local.date(), QLocale::ShortFormat) + local.toString(" HH:mm:ss");
+        QString format = QLocale().dateFormat(QLocale::ShortFormat);
+        if (!format.contains("yyyy"))
+            format.replace("yy", "yyyy"); // a report is kept for longer than a century has doubts
+        return QLocale().toString(local.date(), format) + local.toString(" HH:mm:ss");
     }
     [[nodiscard]] QString caption(const Parameter& parameter) const
     {
@@ -85,11 +88,12 @@ private:
     {
         const QDateTime now = QDateTime::currentDateTime();
         const auto known = [](const std::string& text) { return text.empty() ? tr("not known") : plain(text); };
-        m_writer.pairs({{tr("Device"), known(m_session.deviceType())},
-                        {tr("Version"), known(m_session.deviceVersion())},
-                        {tr("Address"), m_session.link().description()},
-                        {tr("Date"), timeText(now) + now.toString(" (t)")},
-                        {tr("Operator"), operatorName()}});
+        m_writer.pairs(
+            {{tr("Device"), known(m_session.deviceType())},
+             {tr("Version"), known(m_session.deviceVersion())},
+             {tr("Address"), m_parts.simulated ? tr("simulated device") : m_session.link().description()},
+             {tr("Date"), timeText(now) + now.toString(" (t)")},
+             {tr("Operator"), operatorName()}});
     }
 
     void addParameters()
@@ -170,15 +174,14 @@ private:
             if (row.verdict == Verdict::Same)
                 continue;
             if (!row.parameter) {
-                m_writer.row(
-                    {QString(), plain(row.tag), plain(row.fileText), QString(), Words::verdict(row.verdict)});
+                m_writer.row({QString(), plain(row.tag), plain(row.fileText), QString(), Words::verdict(row)});
                 continue;
             }
             auto [there, here] = texts(*row.parameter, row.there, row.here);
             if (row.there.empty())
                 there = plain(row.fileText);
             m_writer.row({caption(m_session.file().parameters[*row.parameter]), plain(row.tag), there, here,
-                          Words::verdict(row.verdict)});
+                          Words::verdict(row)});
         }
         m_writer.endTable();
     }

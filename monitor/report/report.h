@@ -20,6 +20,7 @@ struct ReportParts {
     std::optional<SettingsFile> compared{}; ///< the device is compared with it
     std::vector<QImage> pictures{};         ///< of the trend
     std::string language = "en"; ///< of captions and entries; that of the program's own texts is in force
+    bool simulated = false;      ///< the device is none
 };
 
 /// The report as one HTML document that needs no other file: device, address and time; every parameter with its

@@ -82,7 +82,8 @@ ReportParts ReportMaker::partsOf(DevicePanel& panel, std::optional<SettingsFile>
 {
     constexpr QSize kSize(660, 380); ///< what fits a page
     constexpr double kRatio = 3;     ///< as fine as a printer
-    ReportParts parts{std::move(compared), {}, m_languages.current().toStdString()};
+    ReportParts parts{
+        std::move(compared), {}, m_languages.current().toStdString(), panel.device().entry().isSimulated()};
     if (picture && !panel.trend().curves().empty())
         parts.pictures.push_back(
             plotPicture(panel.trend(), m_trend.plot().lastingView(), kSize, kRatio, parts.language));

@@ -142,7 +142,9 @@ int save(Session& session, const SettingsTask& task, std::ostream& out, std::ost
     target.write(textOf(file));
     if (!target.commit())
         throw FileError(task.save, 0, target.errorString().toStdString());
-    out << message(QT_TRANSLATE_NOOP("texts", "%1 settings saved"), {std::to_string(file.settings.size())})
+    const std::size_t count = file.settings.size();
+    out << (count == 1 ? message(QT_TRANSLATE_NOOP("texts", "1 setting saved"))
+                       : message(QT_TRANSLATE_NOOP("texts", "%1 settings saved"), {std::to_string(count)}))
         << '\n';
     return 0;
 }

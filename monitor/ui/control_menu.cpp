@@ -1,7 +1,11 @@
 #include <zor/monitor/ui/control_menu.h>
 #include <zor/platform/qt/container.h>
 
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSlider>
 #include <QApplication>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -22,8 +26,31 @@ Binding* ControlMenu::bindingAt(const QWidget& widget) const
     return nullptr;
 }
 
+bool ControlMenu::triesLocked(QWidget& widget, const QEvent& event) const
+{
+    const bool tries =
+        (event.type() == QEvent::MouseButtonPress &&
+         static_cast<const QMouseEvent&>(event).button() == Qt::LeftButton) ||
+        (event.type() == QEvent::KeyPress && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Space);
+    if (!tries || !m_window.isAncestorOf(&widget))
+        return false;
+    const bool chooses = qobject_cast<QAbstractButton*>(&widget) != nullptr ||
+                         qobject_cast<QComboBox*>(&widget) != nullptr ||
+                         qobject_cast<QAbstractSlider*>(&widget) != nullptr ||
+                         qobject_cast<QAbstractItemView*>(&widget) != nullptr ||
+                         qobject_cast<QAbstractItemView*>(widget.parentWidget()) != nullptr;
+    const Binding* binding = chooses ? bindingAt(widget) : nullptr;
+    if (binding == nullptr || binding->parameter() == nullptr || !binding->has("ModifiedValue"))
+        return false;
+    const core::Control& control = binding->control();
+    return !widget.isEnabled() || control.CFail() || control.WaitingForData() || !binding->parameter()->writable ||
+           binding->getIfThere("ReadOnly").value_or(Variant(false)).toBoolean();
+}
+
 bool ControlMenu::eventFilter(QObject* object, QEvent* event)
 {
+    if (onLocked && object->isWidgetType() && triesLocked(*static_cast<QWidget*>(object), *event))
+        onLocked();
     if (event->type() != QEvent::ContextMenu || !object->isWidgetType())
         return false;
     auto* widget = static_cast<QWidget*>(object);

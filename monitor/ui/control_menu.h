@@ -25,6 +25,9 @@ public:
 
     /// The controls that have a menu.
     std::function<std::span<const std::unique_ptr<Binding>>()> bindings;
+    /// Somebody clicks on a choice that cannot be made now, or presses Space on it: what looks like any other says
+    /// nothing itself.
+    std::function<void()> onLocked;
     /// Adds entries to the menu of a control.
     void add(Fill fill) { m_fills.push_back(std::move(fill)); }
 
@@ -32,6 +35,7 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    [[nodiscard]] bool triesLocked(QWidget& widget, const QEvent& event) const;
     [[nodiscard]] Binding* bindingAt(const QWidget& widget) const;
 
     QWidget& m_window;

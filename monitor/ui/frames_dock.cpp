@@ -6,6 +6,7 @@
 #include <QBoxLayout>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDateTime>
 #include <QEvent>
 #include <QFileDialog>
 #include <QHeaderView>
@@ -19,6 +20,8 @@
 #include <QSplitter>
 #include <QTableView>
 #include <QTreeWidget>
+
+#include <algorithm>
 
 namespace zor::monitor {
 namespace {
@@ -204,7 +207,18 @@ void FramesDock::showFailure()
     if (m_link == nullptr || m_link->lastFailure().outcome == Outcome::Answered)
         return m_failure->setText(tr("No failure so far."));
     const Reply& failure = m_link->lastFailure();
-    m_failure->setText(tr("Last failure: %1. %2").arg(Words::reason(failure), Words::advice(failure)));
+    const QString reason = Words::reason(failure);
+    const auto& frames = m_link->frames().all();
+    const auto last = std::find_if(frames.rbegin(), frames.rend(), [](const auto& one) { return one->isFailure; });
+    if (last == frames.rend()) // it has fallen out
+        return m_failure->setText(tr("Last failure: %1. %2").arg(reason, Words::advice(failure)));
+    const QString time = QDateTime::fromMSecsSinceEpoch((*last)->time).toString("HH:mm:ss");
+    // What the device refuses it goes on refusing, whatever else it answers.
+    const bool since =
+        failure.outcome != Outcome::Refused &&
+        std::any_of(frames.rbegin(), last, [](const auto& one) { return one->kind == Frame::Kind::Reply; });
+    m_failure->setText(since ? tr("Last failure, at %1: %2. The device has answered since.").arg(time, reason)
+                             : tr("Last failure, at %1: %2. %3").arg(time, reason, Words::advice(failure)));
 }
 
 void FramesDock::clear()
@@ -240,7 +254,9 @@ void FramesDock::save(QString file)
     if (target.open(QIODevice::WriteOnly))
         target.write(textOf(false).toUtf8());
     if (target.commit())
-        return say ? say(tr("%n frame(s) saved", nullptr, m_model.rowCount())) : void();
+        return say ? say(m_model.rowCount() == 1 ? tr("1 frame saved")
+                                                 : tr("%1 frames saved").arg(m_model.rowCount()))
+                   : void();
     auto* box = new QMessageBox(QMessageBox::Warning, windowTitle(), file + ": " + target.errorString(),
                                 QMessageBox::Ok, this);
     box->setAttribute(Qt::WA_DeleteOnClose);

@@ -2,6 +2,7 @@
 #include <zor/monitor/ui/kept_return.h>
 #include <zor/monitor/ui/settings_dialog.h>
 #include <zor/monitor/ui/words.h>
+#include <zor/platform/qt/looks.h>
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -129,10 +130,8 @@ QString SettingsDialog::countsText() const
 
 QStringList SettingsDialog::textsOf(const Compared& row) const
 {
-    QString remark = Words::verdict(row.verdict);
-    if (row.problem != Problem::None && row.verdict == Verdict::Unfit)
-        remark += ": " + Words::problem(row.problem);
-    else if (row.verdict == Verdict::Different && m_use.loads && !isLoadable(row))
+    QString remark = Words::verdict(row);
+    if (row.verdict == Verdict::Different && m_use.loads && !isLoadable(row))
         remark += ": " + tr("this form has no field for it");
     const QString caption = row.parameter
                                 ? asText(m_parameters.parameters[*row.parameter].appearance.caption.in(m_language))
@@ -156,6 +155,7 @@ void SettingsDialog::fill()
         for (const QString& text : textsOf(row)) {
             auto* item = new QTableWidgetItem(text);
             item->setData(Qt::UserRole, static_cast<int>(i));
+            item->setToolTip(platform::qt::plainToolTip(text.toStdString())); // of what is cut off
             if (column == 0 && isLoadable(row)) {
                 item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
                 item->setCheckState(Qt::Checked);

@@ -108,7 +108,8 @@ void SettingsTransfer::keep(const QString& file)
         target.write(textOf(settings));
     if (!target.commit())
         return fail(file + ": " + target.errorString());
-    say(tr("%n setting(s) saved", nullptr, static_cast<int>(settings.settings.size())));
+    const std::size_t count = settings.settings.size();
+    say(count == 1 ? tr("1 setting saved") : tr("%1 settings saved").arg(count));
 }
 
 // --- Comparing and loading

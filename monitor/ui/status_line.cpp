@@ -39,9 +39,10 @@ StatusLine::StatusLine(QStatusBar& bar) : m_bar(bar), m_state(new ElidedLabel(&b
     m_bar.addPermanentWidget(m_traffic);
 }
 
-void StatusLine::follow(Session& session)
+void StatusLine::follow(Session& session, bool simulated)
 {
     m_session = &session;
+    m_simulated = simulated;
     m_counted = {session.link().reads().requests, session.link().writes().requests};
     m_traffic->clear();
     m_traffic->setToolTip({});
@@ -70,7 +71,7 @@ void StatusLine::showRound(bool answered)
 
 QString StatusLine::connection(bool answered) const
 {
-    QString device = m_session->link().description();
+    QString device = m_simulated ? tr("Simulated device") : m_session->link().description();
     if (!m_session->deviceType().empty())
         device += QString(", %1 %2").arg(QString::fromStdString(m_session->deviceType()),
                                          QString::fromStdString(m_session->deviceVersion()));

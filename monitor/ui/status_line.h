@@ -19,8 +19,9 @@ public:
     /// Must outlive the line.
     explicit StatusLine(QStatusBar& bar);
 
-    /// Speaks of this session from now on; it must outlive that.
-    void follow(Session& session);
+    /// Speaks of this session from now on; it must outlive that. Of a simulated device it says so, not its
+    /// address.
+    void follow(Session& session, bool simulated);
 
     /// After a round, and after a change of language.
     void showRound(bool answered);
@@ -38,6 +39,7 @@ private:
     QElapsedTimer m_clock;
     /// Reads and writes counted so far, for how many came since.
     std::array<std::uint64_t, 2> m_counted{};
+    bool m_simulated = false;
     bool m_answered = false;
 };
 

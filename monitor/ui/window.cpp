@@ -26,6 +26,7 @@ Window::Window(std::unique_ptr<DevicePanel> first, Languages& languages, const c
     addList();
     setAcceptDrops(true);
     bringToFront(add(std::move(first)));
+    listDevices(); // with one it is hidden, but has its name in a menu
     buildTrend();
     keepFrozenReadable();
     resize(usualSize());
@@ -44,6 +45,7 @@ void Window::buildTrend()
     m_trend->say = [this](const QString& text) { m_status.say(text); };
     whenFront([this](DevicePanel& panel) { m_trend->follow(&panel.trend()); });
     m_controlMenu.bindings = [this] { return session().bindings(); };
+    m_controlMenu.onLocked = [this] { refuseEntry(); };
     m_controlMenu.add([this](QMenu& menu, const Binding& binding) { m_front->addTo(menu, binding); });
     m_controlMenu.add([this](QMenu& menu, const Binding& binding) { m_trend->addTo(menu, binding); });
 }
@@ -97,9 +99,12 @@ void Window::addSearch()
 
 void Window::showFront()
 {
-    m_status.follow(m_front->session());
+    const bool simulated = m_front->device().entry().isSimulated();
+    m_status.follow(m_front->session(), simulated);
     m_search->translate();
-    const QString title = m_front->name();
+    QString title = m_front->name();
+    if (simulated && title != kSimulated)
+        title = tr("%1 (simulated)").arg(title);
     setWindowTitle(title.isEmpty() ? tr("ZorSmartControls Monitor[*]") : tr("%1[*] - Monitor").arg(title));
     buildMenus();
     showState(*m_front);
@@ -150,6 +155,12 @@ void Window::commitEntry()
         m_front->commitEntry();
 }
 
+void Window::refuseEntry()
+{
+    QApplication::beep();
+    m_status.say(tr("Not taken: this field cannot be edited now"));
+}
+
 void Window::keyPressEvent(QKeyEvent* event)
 {
     // What a field takes does not come here; what one that is frozen or locked leaves must not vanish unnoticed.
@@ -157,10 +168,8 @@ void Window::keyPressEvent(QKeyEvent* event)
     const auto* field = qobject_cast<const QLineEdit*>(focus);
     const bool takesNothing =
         focus != nullptr && (!focus->isEnabled() || (field != nullptr && field->isReadOnly()));
-    if (takesNothing && !event->text().isEmpty() && event->text().front().isPrint()) {
-        QApplication::beep();
-        m_status.say(tr("Not taken: this field cannot be edited now"));
-    }
+    if (takesNothing && !event->text().isEmpty() && event->text().front().isPrint())
+        refuseEntry();
     QMainWindow::keyPressEvent(event);
 }
 

@@ -85,6 +85,7 @@ private:
     void addUnits(QMenu& menu, UNIT_TYPE type);
     void buildLanguageMenu();
     void commitEntry();
+    void refuseEntry();
     void keepFrozenReadable();
     void setUnit(UNIT_TYPE type, MEAS_TYPE unit);
     void showFront();

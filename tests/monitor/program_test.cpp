@@ -82,6 +82,7 @@ TEST(Program, SaysWhyItCannotRun)
         {{"--log", absent}, 2, "absent.json: holds something else than a record"},
         {{"--frames", "/dev/full", "--run-for", "1"}, 2, "/dev/full: No space left on device"},
         {{"--log", "/dev/full", "--run-for", "1"}, 2, "/dev/full: No space left on device"},
+        {{"--screenshot", "a.xyz"}, 2, "a.xyz: no kind of picture"},
         {{"--screenshot", folder.filePath("no/a.png"), "--run-for", "1"}, 2, "no/a.png: cannot be written"},
         {{"--report", "a.txt"}, 2, "a.txt: neither .pdf nor .html"},
         {{"--report", folder.filePath("no/a.pdf")}, 2, "no/a.pdf: "},
