@@ -80,11 +80,10 @@ public:
     }
     bool parse_error(std::size_t /*position*/, const std::string& last, const nlohmann::json::exception& /*error*/)
     {
-        // A text comes with its quotes, or with the first of them.
-        const std::size_t begin = last.starts_with('"') ? 1 : 0;
-        const std::size_t end = last.size() > 1 && last.ends_with('"') ? last.size() - 1 : last.size();
-        fail(QT_TRANSLATE_NOOP("texts", "this is not JSON, at \"%1\""),
-             {last.substr(begin, std::min(end - begin, kShown))});
+        // Texts in it have quotes of their own.
+        if (last.empty())
+            fail(QT_TRANSLATE_NOOP("texts", "this is not JSON"));
+        fail(QT_TRANSLATE_NOOP("texts", "this is not JSON, at %1"), {last.substr(0, kShown)});
     }
 
     JsonNode take() { return std::move(m_root); }

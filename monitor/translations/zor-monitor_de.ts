@@ -2309,10 +2309,6 @@
         <translation>ein Parameter hat Einträge oder Bits, nicht beides</translation>
     </message>
     <message>
-        <source>this is not JSON, at &quot;%1&quot;</source>
-        <translation>das ist kein JSON, bei &quot;%1&quot;</translation>
-    </message>
-    <message>
         <source>nested too deeply</source>
         <translation>zu tief geschachtelt</translation>
     </message>
@@ -2487,6 +2483,14 @@
     <message>
         <source>1 setting saved</source>
         <translation>1 Einstellung gespeichert</translation>
+    </message>
+    <message>
+        <source>this is not JSON</source>
+        <translation>das ist kein JSON</translation>
+    </message>
+    <message>
+        <source>this is not JSON, at %1</source>
+        <translation>das ist kein JSON, bei %1</translation>
     </message>
 </context>
 <context>

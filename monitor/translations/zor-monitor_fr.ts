@@ -2309,10 +2309,6 @@
         <translation>un paramètre a des entrées ou des bits, pas les deux</translation>
     </message>
     <message>
-        <source>this is not JSON, at &quot;%1&quot;</source>
-        <translation>ce n&apos;est pas du JSON, à &quot;%1&quot;</translation>
-    </message>
-    <message>
         <source>nested too deeply</source>
         <translation>imbriqué trop profondément</translation>
     </message>
@@ -2487,6 +2483,14 @@
     <message>
         <source>1 setting saved</source>
         <translation>1 réglage enregistré</translation>
+    </message>
+    <message>
+        <source>this is not JSON</source>
+        <translation>ce n&apos;est pas du JSON</translation>
+    </message>
+    <message>
+        <source>this is not JSON, at %1</source>
+        <translation>ce n&apos;est pas du JSON, à %1</translation>
     </message>
 </context>
 <context>
