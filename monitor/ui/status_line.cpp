@@ -3,7 +3,6 @@
 
 #include <QLocale>
 #include <QPainter>
-#include <QTime>
 
 #include <algorithm>
 #include <utility>
@@ -41,7 +40,8 @@ StatusLine::StatusLine(QStatusBar& bar) : m_bar(bar), m_state(new ElidedLabel(&b
 
 void StatusLine::follow(Session& session, bool simulated)
 {
-    m_session = &session;
+    if (std::exchange(m_session, &session) != &session)
+        m_rounds = -1;
     m_simulated = simulated;
     m_counted = {session.link().reads().requests, session.link().writes().requests};
     m_traffic->clear();
@@ -51,6 +51,8 @@ void StatusLine::follow(Session& session, bool simulated)
 
 void StatusLine::showRound(bool answered)
 {
+    if (std::exchange(m_rounds, m_session->poller().rounds()) != m_session->poller().rounds())
+        m_time = QTime::currentTime();
     const bool writing = m_session->isWriting();
     if (std::exchange(m_answered, answered) != answered || writing)
         m_bar.clearMessage();
@@ -75,7 +77,7 @@ QString StatusLine::connection(bool answered) const
     if (!m_session->deviceType().empty())
         device += QString(", %1 %2").arg(QString::fromStdString(m_session->deviceType()),
                                          QString::fromStdString(m_session->deviceVersion()));
-    const QString time = QTime::currentTime().toString("HH:mm:ss");
+    const QString time = m_time.toString("HH:mm:ss");
     if (answered)
         return tr("%1: connected, read at %2").arg(device, time);
     if (m_session->poller().rounds() == 0)

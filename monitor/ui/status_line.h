@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QStatusBar>
+#include <QTime>
 
 #include <array>
 
@@ -23,7 +24,7 @@ public:
     /// address.
     void follow(Session& session, bool simulated);
 
-    /// After a round, and after a change of language.
+    /// After a round, and whenever something about the session has changed.
     void showRound(bool answered);
     /// For some seconds, in place of the state of the connection.
     void say(const QString& text);
@@ -39,6 +40,8 @@ private:
     QElapsedTimer m_clock;
     /// Reads and writes counted so far, for how many came since.
     std::array<std::uint64_t, 2> m_counted{};
+    QTime m_time;      ///< of the last round
+    int m_rounds = -1; ///< of the session, by then
     bool m_simulated = false;
     bool m_answered = false;
 };
