@@ -78,11 +78,11 @@ void ctx_ZorSlider::s_ApplyDeviceValue()
     if (isOvertaken(underWay))
         return;
     const double position = m_units.toOutput(m_deviceValue);
-    static_cast<void>(roundToInt32(position));
+    const std::int32_t whole = roundToInt32(position);
     m_reference = position;
     if (!isUnitSettled())
         m_otherUser = m_units.settled(m_otherUser);
-    moveTo(m_reference);
+    moveTo(whole);
     if (isOvertaken(underWay))
         return;
     assignOutput(m_deviceValue);
@@ -101,7 +101,7 @@ void ctx_ZorSlider::ModifiedValue(double value)
         testValue(value);
         if (isOvertaken(underWay))
             return;
-        moveTo(m_units.toOutput(value));
+        moveTo(roundToInt32(m_units.toOutput(value)));
         if (isOvertaken(underWay))
             return;
         assignOutput(value);
@@ -109,9 +109,8 @@ void ctx_ZorSlider::ModifiedValue(double value)
     });
 }
 
-void ctx_ZorSlider::moveTo(double position)
+void ctx_ZorSlider::moveTo(std::int32_t whole)
 {
-    const std::int32_t whole = roundToInt32(position);
     if (whole > m_track->maximum())
         setPosition(m_track->maximum());
     else

@@ -117,7 +117,7 @@ private:
     void s_OutputUnitChanged() override;
     void s_UpdateMinParamValue() override;
     void s_UpdateMaxParamValue() override;
-    void moveTo(double position);
+    void moveTo(std::int32_t whole);
     void setPosition(std::int32_t position);
     template <class Set>
     void setEnds(Set&& set);
