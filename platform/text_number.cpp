@@ -148,10 +148,14 @@ bool parse(const char* begin, const char* end, double& value) noexcept
         std::string_view text(begin, static_cast<std::size_t>(end - begin));
         const auto exponent = text.find('e');
         const std::string_view mantissa = text.substr(0, exponent);
+        // Far beyond every number, and far from where a sum ends.
+        constexpr long long kLeast = std::numeric_limits<int>::min();
+        constexpr long long kMost = std::numeric_limits<int>::max();
         long long power = 0;
         if (exponent != std::string_view::npos &&
             std::from_chars(begin + exponent + 1, end, power).ec == std::errc::result_out_of_range)
-            power = text[exponent + 1] == '-' ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
+            power = text[exponent + 1] == '-' ? kLeast : kMost;
+        power = std::clamp(power, kLeast, kMost);
         const auto first = mantissa.find_first_of("123456789");
         const auto dot = std::min(mantissa.find('.'), mantissa.size());
         const long long magnitude = static_cast<long long>(dot) - static_cast<long long>(first) + power;

@@ -91,6 +91,7 @@ class Steps:
         **names("EnableControl IconEnable", (True, True, False)),
     }
     UNHANDLED = ()
+    CHANGES = CHANGES
     HANDLED = ("put", "put", "put", "get", "get", "get", "call", "destroy", "raise", "raise")
 
     def value(self, random, name):
@@ -153,7 +154,7 @@ class Steps:
             return [("both", *(looks if kind == "get" else ends + fails)), *self.few(random),
                     ("both", *(("host", event, "off") for event in heard))]
         event = random.choice(heard)
-        changed = next((change for end, change in CHANGES.items() if event.endswith(end)), None)
+        changed = next((change for end, change in self.CHANGES.items() if event.endswith(end)), None)
         first = ("run", ("destroy",) if kind == "destroy" else getattr(self, "random_" + kind)(random))
         if changed and random.random() < 0.5:
             first = ("set", changed[0], random.choice(changed[1:]))

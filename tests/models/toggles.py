@@ -10,6 +10,7 @@ class Toggle(Choice):
     """What check box and option button have in common."""
 
     KEYS, MESSAGES = (32, 32, 112), FIVE
+    CHANGES = {**Choice.CHANGES, "KeyDown": ("KeyCode", 0, 32)}  # arrows move the focus on Qt
     LINE, ICON = 330, 25
 
     def __init_subclass__(cls):
