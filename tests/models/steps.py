@@ -4,9 +4,6 @@ import itertools
 
 from values import FACE, NOTATION, Colour, names, written
 
-# What a handler may make of an event's argument.
-CHANGES = {"KeyDown": ("KeyCode", 0, 36, 40, 32), "KeyPress": ("KeyAscii", 0, 55, 32, 8), "Validate": ("Cancel", True)}
-
 
 class Steps:
     # --- A step of a history, as the console is told and as it answers
@@ -91,7 +88,8 @@ class Steps:
         **names("EnableControl IconEnable", (True, True, False)),
     }
     UNHANDLED = ()
-    CHANGES = CHANGES
+    # What a handler may make of an event's argument.
+    CHANGES = {"KeyDown": ("KeyCode", 0, 36, 40, 32), "KeyPress": ("KeyAscii", 0, 55, 32, 8), "Validate": ("Cancel", True)}
     HANDLED = ("put", "put", "put", "get", "get", "get", "call", "destroy", "raise", "raise")
 
     def value(self, random, name):
