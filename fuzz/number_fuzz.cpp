@@ -97,6 +97,20 @@ std::string write(double value, int decimals)
     return {};
 }
 
+/// Where the ranges of numbers and of the integers that count places end.
+constexpr std::array<const char*, 12> kExponents{"e308",
+                                                 "e309",
+                                                 "e-308",
+                                                 "e-324",
+                                                 "e32768",
+                                                 "e2147483647",
+                                                 "e-2147483648",
+                                                 "e4294967296",
+                                                 "e9223372036854775807",
+                                                 "e-9223372036854775808",
+                                                 "e18446744073709551616",
+                                                 "e-99999999999999999999"};
+
 std::string play(std::string_view input)
 {
     static const std::array<platform::RegionalSettings, 5> kRegions{
@@ -107,6 +121,8 @@ std::string play(std::string_view input)
     std::string wrong = write(pieces.take<double>(), decimals);
     const std::string text(pieces.text(400));
     wrong += read(text);
+    // By the length: an exponent where an integer's range ends is too rare among any bytes.
+    wrong += read(text + kExponents.at(input.size() % kExponents.size()));
     for (const int unit : {-1, 0, 5, 15, 52, 53})
         static_cast<void>(fc_FormatValue(text, MEAS_TYPE{unit}, static_cast<std::int16_t>(decimals)));
     platform::setRegionalSettings({});
