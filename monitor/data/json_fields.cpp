@@ -52,6 +52,13 @@ long long Value::integer(long long lowest, long long highest) const
     return static_cast<long long>(value);
 }
 
+void Value::version(long long known) const
+{
+    if (number() != static_cast<double>(known))
+        fail(QT_TRANSLATE_NOOP("texts", "version %1 is expected here, and this program knows no other"),
+             {std::to_string(known)});
+}
+
 std::vector<Value> Value::array() const
 {
     const auto* array = std::get_if<JsonNode::Array>(&m_node->value);

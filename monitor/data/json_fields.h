@@ -35,6 +35,7 @@ public:
     [[nodiscard]] bool boolean() const;
     [[nodiscard]] double number() const; ///< finite
     [[nodiscard]] long long integer(long long lowest, long long highest) const;
+    void version(long long known) const; ///< of the format; fails for any other
     [[nodiscard]] std::vector<Value> array() const;
     [[nodiscard]] Fields object() const;
 

@@ -77,7 +77,7 @@ SiteFile readSiteFile(std::string_view text, const QString& name)
     const Value format = fields.need("format");
     if (format.text() != kSiteFormat)
         format.fail(QT_TRANSLATE_NOOP("texts", "a site file has the format \"%1\""), {std::string(kSiteFormat)});
-    (void)fields.need("formatVersion").integer(kSiteVersion, kSiteVersion);
+    fields.need("formatVersion").version(kSiteVersion);
     SiteFile site;
     if (const auto title = fields.take("title"))
         site.title = QString::fromStdString(title->text());

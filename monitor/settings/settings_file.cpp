@@ -79,7 +79,7 @@ void readHead(Fields& fields, SettingsFile& file)
     const Value format = fields.need("format");
     if (format.text() != kFormat)
         format.fail(QT_TRANSLATE_NOOP("texts", "a settings file has the format \"%1\""), {std::string(kFormat)});
-    (void)fields.need("formatVersion").integer(kVersion, kVersion);
+    fields.need("formatVersion").version(kVersion);
     if (const auto device = fields.take("device"))
         readDevice(*device, file);
     if (const auto title = fields.take("title"))

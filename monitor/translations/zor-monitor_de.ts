@@ -2397,6 +2397,10 @@
         <translation>hier wird eine ganze Zahl von %1 bis %2 erwartet</translation>
     </message>
     <message>
+        <source>version %1 is expected here, and this program knows no other</source>
+        <translation>hier wird Version %1 erwartet, und dieses Programm kennt keine andere</translation>
+    </message>
+    <message>
         <source>a list is expected here</source>
         <translation>hier wird eine Liste erwartet</translation>
     </message>

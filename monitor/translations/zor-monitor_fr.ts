@@ -2397,6 +2397,10 @@
         <translation>un nombre entier de %1 à %2 est attendu ici</translation>
     </message>
     <message>
+        <source>version %1 is expected here, and this program knows no other</source>
+        <translation>la version %1 est attendue ici, et ce programme n’en connaît pas d’autre</translation>
+    </message>
+    <message>
         <source>a list is expected here</source>
         <translation>une liste est attendue ici</translation>
     </message>

@@ -40,7 +40,7 @@ TEST(SettingsFiles, WhatIsWrongIsRefusedWithItsPlaceAndTheSchemaAgrees)
         {R"(, "registers": [20])", "", nullptr},
         {"20, \"unit\": \"LgthU_MM\"", "\"text\"", nullptr},
         {"zor-settings", "other", "test:1: a settings file has the format"},
-        {"Version\": 1", "Version\": 2", "test:1: a whole number from 1 to 1"},
+        {"Version\": 1", "Version\": 2", "test:1: version 1 is expected here"},
         {"\"format\": \"zor-settings\", ", "", "test:1: \"format\" is missing"},
         {"\"ZT\"", "5", "test:2: a text is expected"},
         {"2026-11-25T", "yesterday", "test:2: \"yesterday08:30:00Z\" is no date"},

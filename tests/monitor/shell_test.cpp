@@ -203,7 +203,7 @@ TEST(SiteFiles, WhatIsWrongIsRefusedWithItsPlaceAndTheSchemaAgrees)
     const std::vector<Damage> rows{
         {"", "", nullptr},
         {"zor-site", "zor-settings", "/plant/site.json:1: a site file has the format"},
-        {"Version\": 1", "Version\": 2", "/plant/site.json:1: a whole number from 1 to 1"},
+        {"Version\": 1", "Version\": 2", "/plant/site.json:1: version 1 is expected here"},
         {"\"address\": \"simulated\", ", "", "/plant/site.json:2: \"address\" is missing"},
         {"simulated", "", "/plant/site.json:2: an empty text"},
         {"simulated", "tcp://", "/plant/site.json:2: tcp://: not a device", false},
