@@ -48,6 +48,17 @@ RunTimeError RunTimeError::of(std::string_view object, std::string_view member, 
     return {m_number, text, reasonAt};
 }
 
+std::string failureText(const std::exception_ptr& error)
+{
+    try {
+        std::rethrow_exception(error);
+    } catch (const std::exception& exception) {
+        return exception.what();
+    } catch (...) {
+        return "failed without a word";
+    }
+}
+
 void raiseError(ErrorNumber number, std::string_view what) { throw RunTimeError(number, what); }
 
 } // namespace zor

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <exception>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -50,6 +51,9 @@ private:
     ErrorNumber m_number;
     std::size_t m_reasonAt = 0;
 };
+
+/// What failed, in words: the text of an exception, or that there is none.
+[[nodiscard]] std::string failureText(const std::exception_ptr& error);
 
 /// Throws a RunTimeError.
 [[noreturn]] void raiseError(ErrorNumber number, std::string_view what = {});

@@ -20,7 +20,7 @@ std::string_view objection(std::string_view separator) noexcept
 {
     if (separator.find_first_of("0123456789+-eE") != std::string_view::npos)
         return "a digit, a sign or an E belongs to the number and separates nothing";
-    if (separator == " ")
+    if (separator.starts_with(' ') || separator.ends_with(' '))
         return "a blank separates nothing; regions group with a no-break space (U+00A0 or U+202F)";
     return {};
 }

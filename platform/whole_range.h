@@ -2,6 +2,8 @@
 
 /// The arithmetic of widgets with a whole value between two ends, the same on every platform.
 
+#include <zor/platform/notice.h>
+
 #include <algorithm>
 #include <cstdint>
 #include <limits>
@@ -46,5 +48,40 @@ struct WholeRange {
     const std::int64_t length = std::int64_t{range.maximum} - range.minimum;
     return static_cast<std::int32_t>(std::max<std::int64_t>(length / kPages, 1));
 }
+
+/// A platform's widget with such a value, on its base for that interface, which reports.
+template <class Base>
+class Ranged : public Base {
+public:
+    using Base::Base;
+
+    /// Where it stands.
+    [[nodiscard]] std::int32_t value() const override { return m_range.value; }
+    /// Cut to the ends; a change is reported.
+    void setValue(std::int32_t value) override
+    {
+        if (m_range.moveTo(value))
+            this->report(Notice::Change);
+    }
+    /// The lower end.
+    [[nodiscard]] std::int32_t minimum() const override { return m_range.minimum; }
+    /// The upper end.
+    [[nodiscard]] std::int32_t maximum() const override { return m_range.maximum; }
+    /// The value is cut to it.
+    void setMinimum(std::int32_t minimum) override
+    {
+        m_range.minimum = minimum;
+        setValue(value());
+    }
+    /// The value is cut to it.
+    void setMaximum(std::int32_t maximum) override
+    {
+        m_range.maximum = maximum;
+        setValue(value());
+    }
+
+protected:
+    WholeRange m_range;
+};
 
 } // namespace zor::platform

@@ -82,40 +82,9 @@ private:
 using HeadlessCheckBox = HeadlessToggle<CheckBox, true>;
 using HeadlessOptionButton = HeadlessToggle<OptionButton, false>;
 
-template <class Interface>
-class HeadlessRange : public WidgetBase<Interface> {
+class HeadlessSpinButton final : public Ranged<WidgetBase<SpinButton>>, public Stepper {
 public:
-    using WidgetBase<Interface>::WidgetBase;
-
-    [[nodiscard]] std::int32_t value() const override { return m_range.value; }
-    void setValue(std::int32_t value) override
-    {
-        if (m_range.moveTo(value))
-            this->report(Notice::Change);
-    }
-    [[nodiscard]] std::int32_t minimum() const override { return m_range.minimum; }
-    [[nodiscard]] std::int32_t maximum() const override { return m_range.maximum; }
-    void setMinimum(std::int32_t minimum) override
-    {
-        m_range.minimum = minimum;
-        setValue(value());
-    }
-    void setMaximum(std::int32_t maximum) override
-    {
-        m_range.maximum = maximum;
-        setValue(value());
-    }
-
-protected:
-    WholeRange m_range;
-};
-
-class HeadlessSpinButton final : public HeadlessRange<SpinButton>, public Stepper {
-public:
-    HeadlessSpinButton(Host& host, int number) : HeadlessRange(host, number, ButtonFace)
-    {
-        m_geometry.width = 240;
-    }
+    HeadlessSpinButton(Host& host, int number) : Ranged(host, number, ButtonFace) { m_geometry.width = 240; }
 
     void setBuddy(TextField& field) override { dynamic_cast<HeadlessTextField&>(field).setStepper(*this); }
     void step(bool up) override
@@ -126,9 +95,9 @@ public:
     }
 };
 
-class HeadlessTrack final : public HeadlessRange<Track> {
+class HeadlessTrack final : public Ranged<WidgetBase<Track>> {
 public:
-    HeadlessTrack(Host& host, int number) : HeadlessRange(host, number, ButtonFace) { m_geometry.height = 510; }
+    HeadlessTrack(Host& host, int number) : Ranged(host, number, ButtonFace) { m_geometry.height = 510; }
 
     [[nodiscard]] std::int16_t tickStyle() const override { return m_tickStyle; }
     void setTickStyle(std::int16_t style) override { m_tickStyle = style; }

@@ -3,6 +3,9 @@
 
 #include <QGroupBox>
 
+#include <algorithm>
+#include <cmath>
+
 namespace zor::platform::qt {
 namespace {
 
@@ -200,9 +203,9 @@ void AccessibleTrack::setCurrentValue(const QVariant& value)
     const double lower = number(track().minimum());
     const double upper = number(track().maximum());
     const double length = track().maximum() - track().minimum();
-    if (upper > lower && !state().readOnly)
-        track().setValue(track().minimum() +
-                         static_cast<int>(std::lround((value.toDouble() - lower) / (upper - lower) * length)));
+    const double part = (value.toDouble() - lower) / (upper - lower);
+    if (upper > lower && std::isfinite(part) && !state().readOnly)
+        track().setValue(track().minimum() + static_cast<int>(std::lround(std::clamp(part, 0.0, 1.0) * length)));
 }
 
 void* AccessibleTrack::interface_cast(QAccessible::InterfaceType type)

@@ -1,6 +1,9 @@
 // The text of a field, as a screen reader walks and edits it.
 
+#include <zor/platform/number_text.h>
 #include <zor/platform/qt/accessible_parts.h>
+
+#include <cmath>
 
 namespace zor::platform::qt {
 
@@ -27,6 +30,24 @@ void* AccessibleField::interface_cast(QAccessible::InterfaceType type)
         return role() == QAccessible::SpinBox ? static_cast<QAccessibleValueInterface*>(this) : nullptr;
     default: return AccessiblePart::interface_cast(type);
     }
+}
+
+// --- The number
+
+QVariant AccessibleField::currentValue() const
+{
+    const auto number = readNumber(edit().text().toStdString());
+    return number ? QVariant(number->value) : QVariant();
+}
+
+void AccessibleField::setCurrentValue(const QVariant& value)
+{
+    // A number has no region, and the field is read in the user's.
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber);
+    replaceText(0, characterCount(),
+                isNumber && std::isfinite(number) ? QString::fromStdString(doubleToText(number))
+                                                  : value.toString());
 }
 
 // --- Selection and caret

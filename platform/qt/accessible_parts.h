@@ -130,8 +130,8 @@ public:
     void insertText(int offset, const QString& text) override { replaceText(offset, offset, text); }
     void replaceText(int start, int end, const QString& text) override;
 
-    [[nodiscard]] QVariant currentValue() const override { return edit().text().toDouble(); }
-    void setCurrentValue(const QVariant& value) override { replaceText(0, characterCount(), value.toString()); }
+    [[nodiscard]] QVariant currentValue() const override;
+    void setCurrentValue(const QVariant& value) override;
     [[nodiscard]] QVariant minimumValue() const override
     {
         return spoken().ends ? spoken().ends->first : QVariant();

@@ -1,3 +1,4 @@
+#include <zor/platform/error.h>
 #include <zor/platform/qt/accessibility.h>
 #include <zor/platform/qt/container.h>
 #include <zor/platform/qt/entry_lists.h>
@@ -241,13 +242,7 @@ void QtContainer::failed(const std::exception_ptr& error)
 {
     if (onError)
         return onError(error);
-    try {
-        std::rethrow_exception(error);
-    } catch (const std::exception& exception) {
-        qWarning("An event handler failed: %s", exception.what());
-    } catch (...) {
-        qWarning("An event handler failed");
-    }
+    qWarning("An event handler failed: %s", failureText(error).c_str());
 }
 
 void QtContainer::discard(QWidget& widget)

@@ -1,3 +1,4 @@
+#include <zor/platform/error.h>
 #include <zor/platform/qt/looks.h>
 #include <zor/platform/qt/page_dialog.h>
 
@@ -63,11 +64,11 @@ bool PageDialog::apply()
     try {
         m_page->apply();
         return true;
-    } catch (const std::exception& error) {
+    } catch (...) {
         constexpr int kLimit = 1000;
         QMessageBox box(QMessageBox::Warning, windowTitle(), {}, QMessageBox::Ok, this);
         box.setTextFormat(Qt::PlainText);
-        box.setText(shownText(error.what(), kLimit));
+        box.setText(shownText(failureText(std::current_exception()), kLimit));
         box.exec();
         return false;
     }

@@ -42,33 +42,15 @@ public:
     QToolButton* down;
 };
 
-class QtSpinButton final : public QtBase<SpinButton, SpinPair> {
+class QtSpinButton final : public Ranged<QtBase<SpinButton, SpinPair>> {
 public:
-    QtSpinButton(const Context& context, int number) : QtBase(context, number, ButtonFace)
+    QtSpinButton(const Context& context, int number) : Ranged(context, number, ButtonFace)
     {
         setGeometry({0, 0, 240, 315});
         QObject::connect(widget().up, &QToolButton::clicked, &widget(), [this] { step(true); });
         QObject::connect(widget().down, &QToolButton::clicked, &widget(), [this] { step(false); });
     }
 
-    [[nodiscard]] std::int32_t value() const override { return m_range.value; }
-    void setValue(std::int32_t value) override
-    {
-        if (m_range.moveTo(value))
-            report(Notice::Change);
-    }
-    [[nodiscard]] std::int32_t minimum() const override { return m_range.minimum; }
-    [[nodiscard]] std::int32_t maximum() const override { return m_range.maximum; }
-    void setMinimum(std::int32_t minimum) override
-    {
-        m_range.minimum = minimum;
-        setValue(value());
-    }
-    void setMaximum(std::int32_t maximum) override
-    {
-        m_range.maximum = maximum;
-        setValue(value());
-    }
     void setBuddy(TextField& field) override
     {
         dynamic_cast<QtTextField&>(field).onStep([this](bool up) { step(up); });
@@ -83,8 +65,6 @@ private:
             report(Notice::Change);
         report(up ? Notice::SpinUp : Notice::SpinDown);
     }
-
-    WholeRange m_range;
 };
 
 /// A slider that the wheel moves only where it has the focus, and that draws its ticks itself: a style draws them

@@ -204,6 +204,7 @@ private:
         case QEvent::MouseButtonRelease:
         case QEvent::MouseButtonDblClick:
         case QEvent::MouseMove:
+        case QEvent::Wheel:
         case QEvent::FontChange:
         case QEvent::StyleChange:
         case QEvent::PaletteChange: return true;

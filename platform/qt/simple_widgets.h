@@ -215,7 +215,8 @@ private:
         explicit Keys(QtImage& image) : m_image(image) {}
         bool eventFilter(QObject* object, QEvent* event) override
         {
-            if (event->type() != QEvent::KeyPress)
+            // One that is frozen keeps the focus, and is clicked by nobody.
+            if (event->type() != QEvent::KeyPress || !m_image.isReachable())
                 return QObject::eventFilter(object, event);
             const auto& press = *static_cast<QKeyEvent*>(event);
             const int key = press.key();

@@ -100,8 +100,8 @@ void FieldEdit::wheelEvent(QWheelEvent* event)
     m_wheel += event->angleDelta().y();
     const int notches = m_wheel / QWheelEvent::DefaultDeltasPerStep;
     m_wheel -= notches * QWheelEvent::DefaultDeltasPerStep;
-    const QPointer<FieldEdit> alive = this;
-    for (int i = 0; i < std::abs(notches) && alive; ++i)
+    // A step's handlers may freeze the field, or end what it belongs to.
+    for (int i = 0; i < std::abs(notches) && onStep && isEnabled(); ++i)
         onStep(notches > 0);
 }
 

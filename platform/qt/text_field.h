@@ -39,6 +39,10 @@ private:
 class QtTextField final : public QtFontBase<TextField, FieldEdit> {
 public:
     QtTextField(const Context& context, int number);
+    /// The line edit may live on until its event has returned, and what it steps may not.
+    ~QtTextField() override { widget().onStep = nullptr; }
+    QtTextField(const QtTextField&) = delete;
+    QtTextField& operator=(const QtTextField&) = delete;
 
     [[nodiscard]] const std::string& text() const override { return m_text; }
     void setText(std::string_view text) override;
