@@ -130,6 +130,11 @@ struct ClassInfo {
     /// Makes one, not yet initialised.
     ControlPtr<> (*create)(platform::Container&);
 
+    /// What the class is called where it is a ready-made widget ("ZorTextBox").
+    [[nodiscard]] constexpr std::string_view widgetName() const noexcept { return name.substr(kPrefix.size()); }
+    /// What the published name has before that.
+    static constexpr std::string_view kPrefix = "ctx_";
+
     /// By name; nullptr for another name.
     [[nodiscard]] const PropertyRow* property(std::string_view property) const noexcept;
     /// By name; nullptr for another name.

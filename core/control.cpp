@@ -216,8 +216,7 @@ void Control::s_UpdateEnabledState()
     for (platform::Widget* widget : body())
         widget->setEnabled(!waiting && !locked);
     // An unknown identifier must stay explainable, so only waiting takes the icon away from the operator.
-    if (waiting || !locked)
-        icon().setEnabled(!waiting);
+    icon().setEnabled(!waiting);
 }
 
 void Control::s_UpdateStatusDisplay()

@@ -194,6 +194,11 @@ public:
     void notice(int widget, platform::Notice notice, platform::EventArgs args) final;
     [[nodiscard]] platform::Spoken spoken(int widget) final;
     void hold() noexcept final { ++m_holds; }
+    /// Whether somebody is in the middle of something with it: then it stays until he is done, whatever its owner
+    /// does, and so must its container.
+    [[nodiscard]] bool isHeld() const noexcept { return m_holds != 0; }
+    /// Whether its owner has destroyed it, and it is only waiting for who holds it.
+    [[nodiscard]] bool hasEnded() const noexcept { return m_ended; }
     /// Ends a hold; an owner may have destroyed the control meanwhile, which then ends here.
     void release() noexcept final
     {

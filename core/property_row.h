@@ -95,6 +95,14 @@ struct PropertyRow {
     Variant (*get)(Control&) = nullptr;
     /// Writes it.
     void (*put)(Control&, const Variant&) = nullptr;
+
+    /// Whether its value follows from others: nobody sets it but the control.
+    [[nodiscard]] constexpr bool isFollowing() const noexcept
+    {
+        return access == Access::Derived || access == Access::ReadOnly;
+    }
+    /// Whether a form has it as a property of the widget.
+    [[nodiscard]] constexpr bool isInForms() const noexcept { return !key.empty() && !isFollowing(); }
 };
 
 namespace detail {

@@ -17,7 +17,6 @@ using std::string;
 using std::string_view;
 
 constexpr string_view kWidgetScope = "zor::";
-constexpr string_view kControlPrefix = "ctx_";
 constexpr string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// Qt's own classes, and Designer's line: they are no business of this library.
@@ -27,7 +26,7 @@ const core::ClassInfo* classOf(const core::ClassRegistry& registry, string_view 
 {
     if (!widget.starts_with(kWidgetScope))
         return nullptr;
-    return registry.find(string(kControlPrefix).append(widget.substr(kWidgetScope.size())));
+    return registry.find(string(core::ClassInfo::kPrefix).append(widget.substr(kWidgetScope.size())));
 }
 
 std::size_t offsetOf(const pugi::xml_node& node)
@@ -54,21 +53,13 @@ bool isQtProperty(string_view name) { return !name.empty() && !(name[0] >= 'A' &
 
 } // namespace
 
-string widgetClass(const core::ClassInfo& info)
-{
-    return string(kWidgetScope).append(info.name.substr(kControlPrefix.size()));
-}
-
-bool followsFromOthers(const core::PropertyRow& row) noexcept
-{
-    return row.access == core::Access::Derived || row.access == core::Access::ReadOnly;
-}
+string widgetClass(const core::ClassInfo& info) { return string(kWidgetScope).append(info.widgetName()); }
 
 std::vector<Variant> storedValues(core::Control& control)
 {
     std::vector<Variant> values;
     for (const core::PropertyRow* row : control.info().properties)
-        values.push_back(row->key.empty() ? Variant() : control.get(*row));
+        values.push_back(row->isInForms() ? control.get(*row) : Variant());
     return values;
 }
 
@@ -77,7 +68,7 @@ string setProperty(core::Control& control, const pugi::xml_node& property, strin
     const core::PropertyRow* row = control.info().property(name);
     if (row == nullptr)
         return isQtProperty(name) ? string() : "no such property";
-    if (followsFromOthers(*row))
+    if (row->isFollowing())
         return "follows from other properties and is not set";
     const pugi::xml_node element = firstElement(property);
     const std::optional<Variant> value = readValue(row->field.kind, element.name(), textOf(element));

@@ -17,10 +17,7 @@ inline constexpr double kTwipsPerPixel = 15;
 /// The class that Designer and uic know a control by ("zor::ZorTextBox").
 [[nodiscard]] std::string widgetClass(const core::ClassInfo& info);
 
-/// Whether a form leaves the property out, because its value follows from others.
-[[nodiscard]] bool followsFromOthers(const core::PropertyRow& row) noexcept;
-
-/// A control's stored properties, in the order of its class's table; Empty where one is not stored.
+/// What a form has of a control, in the order of its class's table; Empty for all else.
 [[nodiscard]] std::vector<Variant> storedValues(core::Control& control);
 
 /// Sets one property from its element; says what was wrong with it, nothing when all was well.

@@ -100,8 +100,6 @@ void declareClass(pugi::xml_node ui, const string& className)
     insertText(entry, "header", "zor/widgets.h");
 }
 
-bool isKept(const core::PropertyRow& row) { return !row.key.empty() && !followsFromOthers(row); }
-
 /// Writes what differs; whether anything did.
 bool writeChanges(pugi::xml_node widget, const core::ClassInfo& info, const std::vector<Variant>& before,
                   const std::vector<Variant>& now)
@@ -110,7 +108,7 @@ bool writeChanges(pugi::xml_node widget, const core::ClassInfo& info, const std:
     for (const core::PropertyRow* row : core::settingOrder(info)) {
         const auto column =
             static_cast<std::size_t>(std::ranges::find(info.properties, row) - info.properties.begin());
-        if (!isKept(*row) || now[column] == before[column])
+        if (!row->isInForms() || now[column] == before[column])
             continue;
         const std::optional<Written> written = writtenValue(row->field.kind, now[column]);
         if (!written)

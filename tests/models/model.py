@@ -234,8 +234,7 @@ class Model(Steps):
         frozen = self["WaitingForData"]
         for widget in self.SHOWN:
             self[widget + ".Enabled"] = not (frozen or self["DeviceTagNotFound"] or not self["EnableControl"])
-        if frozen or not (self["DeviceTagNotFound"] or not self["EnableControl"]):
-            self["img_State.Enabled"] = not frozen
+        self["img_State.Enabled"] = not frozen
 
     def states(self):
         """Rows of flag, whether it shows, tooltip, picture, text of the box, its icon."""

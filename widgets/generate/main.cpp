@@ -60,15 +60,9 @@ constexpr std::array kArgumentTypes{
     ArgumentType{"const QString&", "QString::fromStdString(*std::get<std::string*>", "))"}};
 static_assert(kArgumentTypes.size() == std::variant_size_v<platform::ArgRef>);
 
-string widgetName(const core::ClassInfo& info) { return string(info.name.substr(info.name.find('_') + 1)); }
+string widgetName(const core::ClassInfo& info) { return string(info.widgetName()); }
 
 bool isReadable(const core::PropertyRow& row) { return row.get != nullptr || row.field.at != nullptr; }
-
-/// Whether a form keeps it. A derived value follows from the others.
-bool isKept(const core::PropertyRow& row)
-{
-    return !row.key.empty() && row.access != core::Access::Derived && row.access != core::Access::ReadOnly;
-}
 
 /// The signal that tells of a change of a property which can change without being written; empty for any other.
 /// The value handed over has the signal that tells of it for all classes.
@@ -76,8 +70,7 @@ string notifierOf(const core::PropertyRow& row)
 {
     if (row.name == "OutputValue" || row.name == "ModifiedValue")
         return "valueChanged";
-    const bool follows = row.access == core::Access::Derived || row.access == core::Access::ReadOnly;
-    return isReadable(row) && (row.isLive || follows) ? string(row.name) + "Changed" : string();
+    return isReadable(row) && (row.isLive || row.isFollowing()) ? string(row.name) + "Changed" : string();
 }
 
 std::size_t indexOf(const core::ClassInfo& info, const core::PropertyRow* row)
@@ -102,7 +95,8 @@ string enumerations()
     out << "#pragma once\n\n"
         << kNotice
         << "#include <zor/platform/macros_aside.h>\n\n#include <QWidget>\n\nnamespace zor {\n\n"
-           "/// The published enumerations, with names that Qt can look up. Any other integer may stand in them.\n"
+           "/// The published enumerations, with names that Qt can look up. The setters refuse any other "
+           "integer.\n"
            "class ZorWidget : public QWidget {\n    Q_OBJECT\n\npublic:\n";
     const auto plain = [](const auto& row) { return row.value; };
     writeEnumeration(out, "UNIT_TYPE", units::kUnitTypes,
@@ -124,7 +118,7 @@ void declareProperties(std::ostream& out, const core::ClassInfo& info)
         const string name(row->name);
         const string notifier = notifierOf(*row);
         out << "    Q_PROPERTY(" << qtType(row->field.kind) << ' ' << name << " READ " << name << " WRITE set"
-            << name << (notifier.empty() ? "" : " NOTIFY " + notifier) << (isKept(*row) ? "" : " STORED false")
+            << name << (notifier.empty() ? "" : " NOTIFY " + notifier) << (row->isInForms() ? "" : " STORED false")
             << ")\n";
     }
 }
