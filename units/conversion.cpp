@@ -2,6 +2,7 @@
 #include <zor/units/mod_Common.h>
 #include <zor/units/unit_catalogue.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -108,7 +109,13 @@ struct Cell {
     double offset = 0.0;
 };
 
-constexpr std::size_t kMostUnits = 8; // of one type
+/// Number of units of a type.
+constexpr std::size_t unitsOf(const units::UnitTypeRow& type)
+{
+    return static_cast<std::size_t>(type.last - type.first + 1);
+}
+
+constexpr std::size_t kMostUnits = unitsOf(*std::ranges::max_element(units::kUnitTypes, {}, unitsOf));
 
 /// Which type a unit is of, and the first unit of that type.
 struct Kind {
@@ -127,26 +134,28 @@ constexpr auto kKinds = [] {
 /// For each unit the conversions to the units of its type, in the order of their values.
 using Cells = std::array<std::array<Cell, kMostUnits>, units::kUnits.size()>;
 
-template <std::size_t N>
-constexpr void fill(Cells& cells, MEAS_TYPE first, const Table<N>& table, double Cell::*field)
+template <UNIT_TYPE Type, std::size_t N>
+constexpr void fill(Cells& cells, const Table<N>& table, double Cell::*field)
 {
+    constexpr units::UnitTypeRow kType = units::kUnitTypes[static_cast<std::size_t>(Type)];
+    static_assert(unitsOf(kType) == N, "the table has a row and a column for each unit of the type");
     for (std::size_t from = 0; from < N; ++from)
         for (std::size_t to = 0; to < N; ++to)
-            cells[static_cast<std::size_t>(first) + from][to].*field = table[from][to];
+            cells[static_cast<std::size_t>(kType.first) + from][to].*field = table[from][to];
 }
 
 /// All tables in one, so that a conversion reads one cell. A type without a table converts nothing.
 constexpr Cells kCells = [] {
     Cells cells{};
-    fill(cells, LgthU_MM, kLength, &Cell::factor);
-    fill(cells, VelU_MtrPerSec, kVELOCITY, &Cell::factor);
-    fill(cells, TempU_DegC, kTEMPERATURE, &Cell::factor);
-    fill(cells, TempU_DegC, kTemperatureOffsets, &Cell::offset);
-    fill(cells, VolU_m3, kVOLUMEE, &Cell::factor);
-    fill(cells, PrU_Bar, kPRESSURE, &Cell::factor);
-    fill(cells, VolFlowU_m3PerHr, kVOLUMETRICFLOW, &Cell::factor);
-    fill(cells, TimeU_s, kTIMEUNITS, &Cell::factor);
-    fill(cells, FreqU_Hz, kFREQUENCY, &Cell::factor);
+    fill<Length>(cells, kLength, &Cell::factor);
+    fill<VELOCITY>(cells, kVELOCITY, &Cell::factor);
+    fill<TEMPERATURE>(cells, kTEMPERATURE, &Cell::factor);
+    fill<TEMPERATURE>(cells, kTemperatureOffsets, &Cell::offset);
+    fill<VOLUMEE>(cells, kVOLUMEE, &Cell::factor);
+    fill<PRESSURE>(cells, kPRESSURE, &Cell::factor);
+    fill<VOLUMETRICFLOW>(cells, kVOLUMETRICFLOW, &Cell::factor);
+    fill<TIMEUNITS>(cells, kTIMEUNITS, &Cell::factor);
+    fill<FREQUENCY>(cells, kFREQUENCY, &Cell::factor);
     return cells;
 }();
 

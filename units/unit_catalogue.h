@@ -89,29 +89,39 @@ struct UnitTypeRow {
     UNIT_TYPE type;
     /// The enumeration's member name.
     std::string_view name;
-    std::string_view displayName; ///< empty for a type that no picker offers
-    std::int32_t first;           ///< its units, by value; first > last for a type without units
+    std::string_view displayName{}; ///< empty for a type that no picker offers
+    std::int32_t first = 0;         ///< its units, by value; first > last for a type without units
     /// The last of its units.
-    std::int32_t last;
-    MEAS_TYPE start; ///< what a design-time page sets; NoneU for a type without units
+    std::int32_t last = -1;
+    MEAS_TYPE start = NoneU; ///< what a design-time page sets; NoneU for a type without units
+
+    /// A type without units.
+    consteval UnitTypeRow(UNIT_TYPE value, std::string_view member) : type(value), name(member) {}
+    /// A type with its first and its last unit.
+    consteval UnitTypeRow(UNIT_TYPE value, std::string_view member, std::string_view words, MEAS_TYPE from,
+                          MEAS_TYPE to, MEAS_TYPE starting)
+        : type(value), name(member), displayName(words), first(static_cast<std::int32_t>(from)),
+          last(static_cast<std::int32_t>(to)), start(starting)
+    {}
 };
 
 /// All kinds, by value.
 inline constexpr std::array kUnitTypes{
-    UnitTypeRow{Length, "Length", "Length", 0, 7, LgthU_MM},
-    UnitTypeRow{VELOCITY, "VELOCITY", "Velocity", 8, 14, VelU_MtrPerSec},
-    UnitTypeRow{TEMPERATURE, "TEMPERATURE", "Temperature", 15, 19, TempU_DegC},
-    UnitTypeRow{VOLUMEE, "VOLUMEE", "Volume", 20, 27, VolU_m3},
-    UnitTypeRow{PRESSURE, "PRESSURE", "Pressure", 28, 32, PrU_Psi},
-    UnitTypeRow{VOLUMETRICFLOW, "VOLUMETRICFLOW", "Volumetric Flow", 33, 35, VolFlowU_m3PerHr},
-    UnitTypeRow{ELECTRICPOTENTIAL, "ELECTRICPOTENTIAL", "Electric Potential", 36, 36, ElectU_mV},
-    UnitTypeRow{CURRENT, "CURRENT", "Current", 37, 37, CrntU_mA},
-    UnitTypeRow{TIMEUNITS, "TIMEUNITS", "Time", 38, 41, TimeU_s},
-    UnitTypeRow{FREQUENCY, "FREQUENCY", "Frequency", 42, 43, FreqU_Hz},
-    UnitTypeRow{OTHERS, "OTHERS", "Others", 44, 51, OtherU_Percent},
-    UnitTypeRow{None, "None", "None", 52, 52, NoneU},
-    UnitTypeRow{MASS, "MASS", "", 0, -1, NoneU},
-    UnitTypeRow{MASSFLOW, "MASSFLOW", "", 0, -1, NoneU},
+    UnitTypeRow{Length, "Length", "Length", LgthU_MM, LgthU_CM, LgthU_MM},
+    UnitTypeRow{VELOCITY, "VELOCITY", "Velocity", VelU_MtrPerSec, VelU_InchPerMin, VelU_MtrPerSec},
+    UnitTypeRow{TEMPERATURE, "TEMPERATURE", "Temperature", TempU_DegC, TempU_1By10_DegF, TempU_DegC},
+    UnitTypeRow{VOLUMEE, "VOLUMEE", "Volume", VolU_m3, VolU_Inch3, VolU_m3},
+    UnitTypeRow{PRESSURE, "PRESSURE", "Pressure", PrU_Bar, PrU_Psi, PrU_Psi},
+    UnitTypeRow{VOLUMETRICFLOW, "VOLUMETRICFLOW", "Volumetric Flow", VolFlowU_m3PerHr, VolFlowU_bblPerHr,
+                VolFlowU_m3PerHr},
+    UnitTypeRow{ELECTRICPOTENTIAL, "ELECTRICPOTENTIAL", "Electric Potential", ElectU_mV, ElectU_mV, ElectU_mV},
+    UnitTypeRow{CURRENT, "CURRENT", "Current", CrntU_mA, CrntU_mA, CrntU_mA},
+    UnitTypeRow{TIMEUNITS, "TIMEUNITS", "Time", TimeU_s, TimeU_hr, TimeU_s},
+    UnitTypeRow{FREQUENCY, "FREQUENCY", "Frequency", FreqU_Hz, FreqU_MHz, FreqU_Hz},
+    UnitTypeRow{OTHERS, "OTHERS", "Others", OtherU_dBinto10, OtherU_HzPerM, OtherU_Percent},
+    UnitTypeRow{None, "None", "None", NoneU, NoneU, NoneU},
+    UnitTypeRow{MASS, "MASS"},
+    UnitTypeRow{MASSFLOW, "MASSFLOW"},
 };
 
 namespace detail {

@@ -75,13 +75,19 @@ struct UnitBinding {
                         converted(maxParam, unitType, outputUnit, deviceUnit)) &&
                isBeyond(converted(deviceValue, unitType, deviceUnit, outputUnit), minParam, maxParam);
     }
+    /// Whether a number of the operator's, in OutputUnit, lies outside the valid range. A limit that has been
+    /// re-expressed from unit to unit differs from the one that he reads in its last digits.
+    [[nodiscard]] bool isShownOutside(double number) const noexcept
+    {
+        constexpr double kRounding = 1e-12;
+        return isBeyond(number, minParam, maxParam, kRounding);
+    }
 
 private:
-    [[nodiscard]] static bool isBeyond(double value, double lower, double upper) noexcept
+    [[nodiscard]] static bool isBeyond(double value, double lower, double upper, double rounding = 1e-9) noexcept
     {
-        constexpr double kRounding = 1e-9;
-        return (value < lower && lower - value > kRounding * std::fabs(lower)) ||
-               (value > upper && value - upper > kRounding * std::fabs(upper));
+        return (value < lower && lower - value > rounding * std::fabs(lower)) ||
+               (value > upper && value - upper > rounding * std::fabs(upper));
     }
 };
 

@@ -2,6 +2,8 @@
 #include <zor/controls/numeric/unit_rows.h>
 #include <zor/platform/number_text.h>
 
+#include <cmath>
+
 namespace zor::controls {
 
 UnitControl::UnitControl(const core::ClassInfo& info, platform::Container& container, platform::Twips width,
@@ -49,6 +51,8 @@ void UnitControl::describe(platform::Spoken& spoken) const
 {
     if (m_unitEnable)
         spoken.unit = shownUnit();
+    if (!std::isfinite(m_units.minParam) || !std::isfinite(m_units.maxParam))
+        return;
     spoken.ends = {m_units.minParam, m_units.maxParam};
     spoken.limits = {platform::doubleToText(m_units.minParam), platform::doubleToText(m_units.maxParam)};
 }

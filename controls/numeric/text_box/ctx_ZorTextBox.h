@@ -107,6 +107,7 @@ public:
         lbl_Units = controls::EntryField::kUnits,  ///< the unit label
         img_State = controls::EntryField::kIcon,   ///< the state icon; a click explains the state
     };
+    [[nodiscard]] std::optional<Variant> entryUnderWay() const override;
     [[nodiscard]] platform::Widget* widget(int number) noexcept override;
 
 private:
@@ -162,6 +163,8 @@ private:
     /// What the text hands back, in DeviceUnit.
     [[nodiscard]] Variant entry() const;
     void setInvalidEntry();
+    /// A text entry has more characters than MaxLength.
+    [[nodiscard]] bool isTooLong() const;
     [[nodiscard]] std::string rangeText() const;
     void appendDisplayValue(std::string& text) const;
 
@@ -178,7 +181,6 @@ private:
     void onNotice(int widget, platform::Notice notice, platform::EventArgs args) override;
     void undoEdit() override;
     void describe(platform::Spoken& spoken) const override;
-    [[nodiscard]] std::optional<Variant> entryUnderWay() const override;
     [[nodiscard]] bool isLabel(int widget) const noexcept override { return widget == lbl_Units; }
     [[nodiscard]] std::string shownUnit() const override { return m_field.units().caption(); }
 

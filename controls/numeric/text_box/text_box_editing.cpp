@@ -44,10 +44,8 @@ void ctx_ZorTextBox::validateEntry(bool reformat)
 {
     const bool holding = m_binding.registerType == HoldingRegister;
     if (!isNumeric()) {
-        const bool tooLong = m_status.dataModified &&
-                             std::cmp_greater(platform::characterCount(m_field.text().text()), m_maxLength);
         m_invalidEntry = false;
-        if (tooLong)
+        if (m_status.dataModified && isTooLong())
             setInvalidEntry();
         return;
     }
@@ -59,14 +57,18 @@ void ctx_ZorTextBox::validateEntry(bool reformat)
     }
     // An input register is never range-checked: the operator has not typed what it shows.
     if (!m_invalidEntryEnable || holding) {
-        const bool outside = *number < m_units.minParam || *number > m_units.maxParam;
         m_invalidEntry = false;
-        if (m_invalidEntryEnable && m_status.dataModified && outside)
+        if (m_invalidEntryEnable && m_status.dataModified && m_units.isShownOutside(*number))
             setInvalidEntry();
     }
     // An invalid entry stays as it was typed: the operator must see what he is to correct.
     if (reformat && !m_invalidEntry)
         show(m_field.text().text());
+}
+
+bool ctx_ZorTextBox::isTooLong() const
+{
+    return std::cmp_greater(platform::characterCount(m_field.text().text()), m_maxLength);
 }
 
 void ctx_ZorTextBox::setInvalidEntry()
@@ -115,9 +117,8 @@ std::optional<Variant> ctx_ZorTextBox::entryUnderWay() const
     if (!m_editPending || m_source != Source::Edit)
         return {};
     const std::optional<double> number = m_field.number();
-    const bool isOutside = number && (*number < m_units.minParam || *number > m_units.maxParam);
-    const bool isTooLong = std::cmp_greater(platform::characterCount(m_field.text().text()), m_maxLength);
-    if (isNumeric() ? !number || (m_invalidEntryEnable && isOutside) : isTooLong)
+    const bool isOutside = m_invalidEntryEnable && number && m_units.isShownOutside(*number);
+    if (isNumeric() ? !number || isOutside : isTooLong())
         return {};
     try {
         return entry();

@@ -74,13 +74,12 @@ public:
         img_State = controls::EntryField::kIcon,   ///< the state icon; a click explains the state
         upd_UpDown = 4,                            ///< the spin button
     };
+    [[nodiscard]] std::optional<Variant> entryUnderWay() const override;
     [[nodiscard]] platform::Widget* widget(int number) noexcept override;
 
 private:
     struct Rows;
     struct Tables;
-
-    /// Number of the spin button, after those of the field.
 
     explicit ctx_ZorUpDown(platform::Container& container);
     ~ctx_ZorUpDown() override = default;
@@ -112,7 +111,6 @@ private:
     void onTextChanged();
     void s_CommitEntry();
     void undoEdit() override;
-    [[nodiscard]] std::optional<Variant> entryUnderWay() const override;
     /// What the limits leave of a number. As the button cuts: where they are the wrong way round, the lower
     /// counts.
     [[nodiscard]] double cut(double number) const;
