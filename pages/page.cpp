@@ -74,13 +74,14 @@ void Page::ended(core::Control& /*control*/) noexcept
     m_frame.setChanged(false);
 }
 
-void Page::show(const Entry& entry, const Variant& value)
+void Page::show(Entry& entry, const Variant& value)
 {
     switch (entry.field->kind) {
     case FieldKind::Text: entry.text->setText(value.toText()); break;
     case FieldKind::List: {
         const std::int32_t position = value.toInt32();
         entry.list->setCurrent(position >= 0 && position < entry.list->count() ? position : -1);
+        entry.chosen = entry.list->current();
         break;
     }
     case FieldKind::Number:
@@ -93,22 +94,28 @@ void Page::show(const Entry& entry, const Variant& value)
 
 // --- Apply
 
+// The host may destroy the control while it is told of a change, or select another one: what the page showed is
+// written whole, and into no other control.
 void Page::apply()
 {
     if (m_control == nullptr)
         raiseError(ErrorNumber::ObjectRequired);
     const platform::Hold hold(*m_control);
     core::Control& control = *m_control;
-    // Apply by a key leaves the focus in the field; what was typed there counts all the same.
-    for (const Entry& entry : m_entries) {
-        if (entry.spin && entry.text->hasFocus() && m_accepted != &entry) {
-            acceptNumber(entry);
-            m_accepted = &entry;
-        }
-    }
+    acceptNumbers();
+    m_writes.clear();
     for (const Field* field : writeOrder()) {
         if (const Entry* at = entry(*field))
-            apply(*at);
+            collect(*at);
+    }
+    const auto writer = onWrite;
+    for (const auto& [property, value] : std::exchange(m_writes, {})) {
+        if (control.hasEnded())
+            return;
+        if (writer)
+            writer(control, property, value);
+        else
+            control.setProperty(property, value);
     }
     if (m_control != &control)
         return;
@@ -117,7 +124,18 @@ void Page::apply()
         onApplied(control);
 }
 
-void Page::apply(const Entry& entry)
+/// Apply by a key leaves the focus in the field; what was typed there counts all the same.
+void Page::acceptNumbers()
+{
+    for (const Entry& entry : m_entries) {
+        if (entry.spin && entry.text->hasFocus() && m_accepted != &entry) {
+            acceptNumber(entry);
+            m_accepted = &entry;
+        }
+    }
+}
+
+void Page::collect(const Entry& entry)
 {
     const Field& field = *entry.field;
     if (field.write != nullptr)
@@ -134,16 +152,7 @@ void Page::apply(const Entry& entry)
     }
 }
 
-void Page::write(std::string_view property, const Variant& value)
-{
-    // The host may destroy the control while it is told of a change.
-    if (m_control == nullptr)
-        return;
-    if (onWrite)
-        onWrite(*m_control, property, value);
-    else
-        m_control->setProperty(property, value);
-}
+void Page::write(std::string_view property, const Variant& value) { m_writes.emplace_back(property, value); }
 
 // --- The user of the page
 
@@ -161,7 +170,7 @@ void Page::notice(int widget, Notice notice, platform::EventArgs /*args*/)
     const int part = widget - 1;
     if (m_isShowing || part < 0)
         return;
-    const Entry& entry = m_entries[static_cast<std::size_t>(part / kParts)];
+    Entry& entry = m_entries[static_cast<std::size_t>(part / kParts)];
     switch (notice) {
     case Notice::Change:
         if (m_accepted == &entry)
@@ -172,6 +181,9 @@ void Page::notice(int widget, Notice notice, platform::EventArgs /*args*/)
         if (entry.field->kind != FieldKind::List && entry.field->kind != FieldKind::Check)
             break;
         if (part % kParts != kInput)
+            break;
+        // What was chosen already, and is chosen again, is no change.
+        if (entry.list && std::exchange(entry.chosen, entry.list->current()) == entry.list->current())
             break;
         if (entry.field->clicked != nullptr)
             entry.field->clicked(*this);
@@ -215,8 +227,11 @@ std::int32_t Page::position(const Field& list) const noexcept
 
 void Page::choose(const Field& list, std::int32_t position)
 {
-    if (const Entry* at = entry(list))
-        at->list->setCurrent(position);
+    const auto at = std::ranges::find(m_entries, &list, &Entry::field);
+    if (at == m_entries.end())
+        return;
+    at->list->setCurrent(position);
+    at->chosen = at->list->current();
 }
 
 void Page::updateUsable()

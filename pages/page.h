@@ -55,7 +55,7 @@ public:
     /// @name For the fields' own rules
     /// A field that the page has not is not ticked, has no position and takes no choice.
     /// @{
-    /// Writes a property of the selected control.
+    /// Apply is to write a property of the selected control.
     void write(std::string_view property, const Variant& value);
     /// Whether a check box is ticked.
     [[nodiscard]] bool isTicked(const Field& check) const noexcept;
@@ -87,17 +87,22 @@ private:
         std::unique_ptr<platform::ComboBox> list;
         std::unique_ptr<platform::CheckBox> check;
         std::unique_ptr<platform::SpinButton> spin;
+        std::int32_t chosen = -1; ///< of the list, as the page knows it
 
         [[nodiscard]] platform::Widget& input() const;
     };
+
+    /// What Apply writes, in that order.
+    using Writes = std::vector<std::pair<std::string_view, Variant>>;
 
     void create(const Field& field);
     void arrange();
     [[nodiscard]] const Entry* entry(const Field& field) const noexcept;
 
-    void show(const Entry& entry, const Variant& value);
+    void show(Entry& entry, const Variant& value);
     void acceptNumber(const Entry& entry);
-    void apply(const Entry& entry);
+    void acceptNumbers();
+    void collect(const Entry& entry);
     void updateUsable();
     void setControl(core::Control* control);
 
@@ -108,6 +113,7 @@ private:
     core::Control* m_control = nullptr;
     /// The number field that Apply has taken over as it was left: leaving it after that is no second time.
     const Entry* m_accepted = nullptr;
+    Writes m_writes; ///< of the Apply under way
     bool m_isShowing = false;
 };
 

@@ -118,7 +118,8 @@ class Page(Steps):
             self.settled.discard(widget)
 
     def choose(self, widget, index):
-        self.page[widget], self.changed = index, True
+        self.changed |= index != self.page[widget]
+        self.page[widget] = index
 
     def toggle(self, widget):
         self.page[widget], self.changed = 1 - self.page[widget], True
