@@ -60,6 +60,8 @@ struct EventRow {
 /// When an event is raised, in words for people.
 [[nodiscard]] constexpr std::string_view meaningOf(const EventRow& row) noexcept
 {
+    if (!row.isRaised && row.notice != platform::Notice::None)
+        return "Re-raised where a platform reports it; none that comes with the library does.";
     if (!row.isRaised)
         return "Part of the interface; never raised.";
     return row.meaning.empty() ? platform::meaningOf(row.notice) : row.meaning;

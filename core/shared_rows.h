@@ -79,13 +79,15 @@ struct SharedRows {
             .refreshing({Refresh::Status, Refresh::Enabled});
     static constexpr auto WaitingForData =
         fieldRow<&Control::m_status, &Status::waitingForData>("WaitingForData", Topic::State)
-            .saying("A read is outstanding. While the host has it set the control is frozen, state icon included.")
+            .saying(
+                "A read is outstanding. While the host has it set the control is frozen, state icon included; the "
+                "undo of an edit can still be had from the control's surface.")
             .stored(false)
             .refreshing({Refresh::Enabled});
     static constexpr auto DataChanged =
         fieldRow<&Control::m_status, &Status::dataChanged>("DataChanged", Topic::State)
             .saying("Another user has changed the value. The host sets it; a click on the state icon shows the "
-                    "message and clears it.")
+                    "message and clears it, unless a graver state is shown.")
             .stored(false)
             .refreshing({Refresh::Status})
             .live();
@@ -94,7 +96,7 @@ struct SharedRows {
     static constexpr auto OtherUserValue =
         fieldRow<Field>("OtherUserValue", Topic::Value)
             .saying("What another user wrote, shown first in the text of DataChanged, in OutputUnit where there "
-                    "are units. The host's own; the control never sets it.")
+                    "are units. The host's own; the control only expresses it in another unit.")
             .with(Access::Silent)
             .refreshing({Refresh::Status});
     /// The flag at the end of a path of member pointers.
@@ -165,7 +167,9 @@ struct SharedRows {
             .refreshing({Refresh::Status});
     static constexpr auto MsgDataChanged =
         fieldRow<&Control::m_messages, &Messages::dataChanged>("MsgDataChanged", Topic::Messages)
-            .saying("Message of another user's change; the values are added behind it.")
+            .saying(
+                "Message of another user's change; what the other one wrote, where a class knows it, and what the "
+                "device has are added behind it.")
             .stored("Data Changed by other user ")
             .refreshing({Refresh::Status});
     static constexpr auto MessageHeader =

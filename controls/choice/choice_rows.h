@@ -27,7 +27,7 @@ struct ChoiceRows {
             .then<&C::s_ApplyDeviceValue>();
     static constexpr auto OutputValue =
         core::fieldRow<&C::m_outputValue>("OutputValue", core::Topic::Value)
-            .saying("The value to write to the device: the device's own until the operator chooses.")
+            .saying("The value to write to the device: the device's own until the operator or the host chooses.")
             .stored(0)
             .with(core::Access::Derived);
     static constexpr auto ModifiedValue =

@@ -37,7 +37,8 @@ struct EntryChoiceRows {
     using Class = typename core::detail::Member<decltype(Mark)>::Class;
 
     static constexpr auto InvalidValue = S::InvalidValue<Mark, &InvalidMark::isSet>.saying(
-        "No entry stands for the last value of the device's or the host's; a list box never says so. The "
+        "No entry of a filled list stands for the last value of the device's or the host's; a list box never says "
+        "so. The "
         "control's own.");
     // A new control starts with another text than a form means that says nothing.
     static constexpr auto MsgInvalidValue =

@@ -51,7 +51,8 @@ constexpr std::array<core::EventRow, 26> entryFieldRows(int text, int units, con
         declared<&E::textOLESetData, E>("textOLESetData", "Data", "DataFormat"),
         declared<&E::textOLEStartDrag, E>("textOLEStartDrag", "Data", "AllowedEffects"),
         event<&E::textValidate, E>("textValidate", text, Notice::Validate, "Cancel"),
-        event<&E::unitsChange, E>("unitsChange", units, Notice::Change),
+        event<&E::unitsChange, E>("unitsChange", units, Notice::Change)
+            .saying("The caption of the unit label changed, by whomever."),
         event<&E::unitsClick, E>("unitsClick", units, Notice::Click),
         event<&E::unitsDblClick, E>("unitsDblClick", units, Notice::DblClick),
         event<&E::unitsMouseMove, E>("unitsMouseMove", units, Notice::MouseMove, "Button", "Shift", "X", "Y"),

@@ -45,6 +45,8 @@ std::string literal(const core::Literal& value)
 
 std::string_view access(const PropertyRow& row)
 {
+    if (row.get == nullptr && row.field.at == nullptr)
+        return "all that it takes; not notified";
     switch (row.access) {
     case core::Access::ReadWrite: return "";
     case core::Access::Silent: return "not notified";
@@ -159,7 +161,8 @@ std::string page(const pages::PageInfo& info)
     for (const std::string_view control : info.controls)
         out << (control == info.controls.front() ? " " : ", ") << code(control);
     out << ". " << info.meaning
-        << " It shows the first selected control; Apply writes all of its fields.\n\n"
+        << " It shows the first selected control; Apply writes all of its fields, but for a list in which\n"
+           "nothing is chosen because the property has a value that it does not offer.\n\n"
            "| Field | Caption | Meaning | Kind | Property | Choices |\n|---|---|---|---|---|---|\n";
     for (const pages::Field* field : info.fields) {
         out << "| " << code(field->widget) << " | " << cell(field->caption) << " | " << cell(field->meaning)

@@ -25,7 +25,7 @@ struct ctx_ZorCheckBox::Tables {
             .saying("It reported a change apart from a click: where a platform's box does, which neither "
                     "platform's does."),
         ownEvent<&E::CheckClick>("CheckClick")
-            .saying("The box was ticked or unticked, by whomever; after all that follows from it."),
+            .saying("The box was ticked or unticked, by whomever; not while input is locked."),
         event<&E::CheckDblClick>("CheckDblClick", chk_CheckBox, Notice::DblClick),
         event<&E::CheckGotFocus>("CheckGotFocus", chk_CheckBox, Notice::GotFocus),
         event<&E::CheckKeyDown>("CheckKeyDown", chk_CheckBox, Notice::KeyDown, "KeyCode", "Shift"),

@@ -23,8 +23,7 @@ struct ctx_ZorComboBox::Tables {
     static constexpr std::array kFaceEvents{
         event<&E::ComboChange>("ComboChange", cbo_ComboBox, Notice::Change)
             .saying("Its typed text changed: where the platform's list takes one, which neither platform's does."),
-        ownEvent<&E::ComboClick>("ComboClick")
-            .saying("An entry was chosen, by whomever; after all that follows from it."),
+        ownEvent<&E::ComboClick>("ComboClick").saying("An entry was chosen, by whomever; not by being added."),
         event<&E::ComboDblClick>("ComboDblClick", cbo_ComboBox, Notice::DblClick),
         event<&E::ComboDropDown>("ComboDropDown", cbo_ComboBox, Notice::DropDown),
         event<&E::ComboGotFocus>("ComboGotFocus", cbo_ComboBox, Notice::GotFocus),
@@ -43,9 +42,10 @@ struct ctx_ZorComboBox::Tables {
         event<&E::ComboValidate>("ComboValidate", cbo_ComboBox, Notice::Validate, "Cancel"),
     };
 
-    static constexpr auto kEvents = joined(std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue")
-                                                          .saying("A value came that no entry stands for.")},
-                                           core::conditionRows<E>(), kFaceEvents, core::iconRows<E>(img_State));
+    static constexpr auto kEvents =
+        joined(std::array{ownEvent<&E::InvalidValueSetTrue>("InvalidValueSetTrue")
+                              .saying("A value came that no entry of a filled list stands for.")},
+               core::conditionRows<E>(), kFaceEvents, core::iconRows<E>(img_State));
 
     static constexpr auto kMethods = joined(
         controls::ChoiceRows::kMethods,

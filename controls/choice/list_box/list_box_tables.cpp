@@ -22,7 +22,7 @@ struct ctx_ZorListBox::Tables {
 
     static constexpr std::array kFaceEvents{
         ownEvent<&E::ListClick>("ListClick")
-            .saying("The current entry or its mark changed, by whomever; after all that follows from it."),
+            .saying("The current entry or its mark changed, by whomever; not while input is locked."),
         event<&E::ListDblClick>("ListDblClick", lst_ListBox, Notice::DblClick),
         event<&E::ListGotFocus>("ListGotFocus", lst_ListBox, Notice::GotFocus),
         declared<&E::ListItemCheck>("ListItemCheck", "Item"),

@@ -23,7 +23,7 @@ struct ctx_ZorOptionButton::Tables {
 
     static constexpr std::array kFaceEvents{
         ownEvent<&E::OptionClick>("OptionClick")
-            .saying("The button was chosen, by whomever; after all that follows from it."),
+            .saying("The button was chosen, by whomever; before OutputValueChange tells of its value."),
         event<&E::OptionDblClick>("OptionDblClick", opt_OptionButton, Notice::DblClick),
         event<&E::OptionGotFocus>("OptionGotFocus", opt_OptionButton, Notice::GotFocus),
         event<&E::OptionKeyDown>("OptionKeyDown", opt_OptionButton, Notice::KeyDown, "KeyCode", "Shift"),

@@ -33,7 +33,8 @@ struct ctx_ZorImage::Rows {
 
     // Three texts of a new image are not those of a form that says nothing; forms in the field rely on both.
     static constexpr auto MsgDefault =
-        S::MsgDefault.saying("First words of the message boxes, before MessageHeader.")
+        S::MsgDefault
+            .saying("First words of the box that lists the bits, or says that none is set; before MessageHeader.")
             .stored("Detailed Information about ")
             .initially("Status OK");
     static constexpr auto StatusText =

@@ -69,7 +69,8 @@ struct ctx_ZorSlider::Rows : controls::RangeRows {
     static constexpr auto TickType =
         core::writeOnlyRow<[](This& slider, std::int16_t value) { slider.TickType(value); }>(
             "TickType", core::Topic::Appearance)
-            .saying("Sets what TickStyle reads.");
+            .saying("Sets what TickStyle reads.")
+            .with(core::Access::Silent);
     static constexpr auto TickFrequency =
         core::computedRow<[](This& slider) { return slider.TickFrequency(); }>("TickFrequency",
                                                                                core::Topic::Appearance)
