@@ -47,6 +47,13 @@ void takeRegionalSettings()
     static_cast<void>(taken);
 }
 
+bool isMember(core::ValueKind kind, int value)
+{
+    const QMetaObject& published = ZorWidget::staticMetaObject;
+    const int at = published.indexOfEnumerator(std::string(core::kindName(kind)).c_str());
+    return at < 0 || published.enumerator(at).valueToKey(value) != nullptr;
+}
+
 QString toQString(std::string_view text)
 {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -63,8 +70,8 @@ void ZorControl::Inner::written(std::string_view name)
         return;
     if (name == "DeviceValue") {
         isValueNew = true;
-        handedOver.reset();
-        isCommitted = false;
+        commits->forget();
+        dragged.reset();
     }
     const Telling telling(tellings);
     emit alive->propertyChanged(toQString(name));
@@ -89,29 +96,31 @@ void ZorControl::Inner::formChanges(const QWidget& part, const QEvent& event)
         Qt::QueuedConnection);
 }
 
-bool ZorControl::Inner::takesOver()
+std::optional<Variant> ZorControl::Inner::committed()
 {
     isValueNew = false;
-    Variant value = control->get(*output);
-    const bool isEdit = control->get(*modified).toBoolean();
-    const bool isOther = handedOver ? !(*handedOver == value) : isEdit;
-    handedOver = std::move(value);
-    // Who only passes through a field hands over what it shows, which an up-down rounds.
-    const bool isPassing = !isEdit && !isCommitted && qobject_cast<const QLineEdit*>(face) != nullptr;
-    if (!isOther || isPassing || !control->isByOperator())
-        return false;
-    isCommitted = true;
+    std::optional<Variant> value = commits->take();
     const auto* track = qobject_cast<const QAbstractSlider*>(face);
-    isDragged = track != nullptr && track->isSliderDown();
-    return !isDragged;
+    if (value && track != nullptr && track->isSliderDown())
+        dragged = std::exchange(value, std::nullopt);
+    return value;
 }
 
 void ZorControl::Inner::released()
 {
     const QPointer<ZorControl> alive = owner;
     const Telling telling(tellings);
-    if (std::exchange(isDragged, false) && handedOver && !alive.isNull())
-        emit alive->valueCommitted(widgets::toQVariant(*handedOver));
+    if (const auto value = std::exchange(dragged, std::nullopt); value && !alive.isNull())
+        emit alive->valueCommitted(widgets::toQVariant(*value));
+}
+
+Variant ZorControl::Inner::readable(const core::PropertyRow& row) const
+{
+    try {
+        return control->get(row);
+    } catch (const RunTimeError&) {
+        return {};
+    }
 }
 
 void ZorControl::Inner::settled() noexcept
@@ -124,7 +133,7 @@ void ZorControl::Inner::settled() noexcept
     if (std::exchange(isValueNew, false))
         emit alive->valueChanged();
     for (std::size_t i = 0; i < watches.size() && !alive.isNull(); ++i) {
-        Variant now = control->get(*watches[i].row);
+        Variant now = readable(*watches[i].row);
         if (now == watches[i].last)
             continue;
         watches[i].last = std::move(now);
@@ -150,12 +159,12 @@ ZorControl::~ZorControl()
     Inner& inner = *m_inner;
     inner.owner = nullptr;
     inner.control->unsubscribe(inner);
-    if (inner.container.events.isNone() && inner.tellings.isNone()) {
+    if (!inner.control->isHeld() && inner.container.events.isNone() && inner.tellings.isNone()) {
         inner.control.reset();
         return;
     }
-    // Deleted by a slot of one of its own signals: the control and its widgets, which are still busy, go when the
-    // event has returned, and what they report to goes after them.
+    // Deleted by a slot of one of its own signals, or by a handler of what the program writes: the control and its
+    // widgets, which are still busy, go when that has returned, and what they report to goes after them.
     inner.surface().hide();
     inner.surface().setParent(nullptr);
     inner.control.reset();
@@ -190,12 +199,16 @@ void ZorControl::guarded(std::string_view member, Action&& action) const
     } catch (const RunTimeError& error) {
         number = static_cast<int>(error.number());
         text = error.what();
-    } catch (const std::exception& error) {
+    } catch (...) {
         number = static_cast<int>(ErrorNumber::InvalidCall);
-        text = error.what();
+        text = QString::fromStdString(failureText(std::current_exception()));
     }
-    if (!alive.isNull())
-        emit alive->refused(toQString(member), number, text);
+    if (alive.isNull())
+        return;
+    // While a form is being loaded nobody can listen yet.
+    if (!alive->isSignalConnected(QMetaMethod::fromSignal(&ZorControl::refused)))
+        qWarning("%s", qUtf8Printable(text));
+    emit alive->refused(toQString(member), number, text);
 }
 
 Variant ZorControl::readProperty(std::size_t row) const
@@ -209,7 +222,14 @@ Variant ZorControl::readProperty(std::size_t row) const
 void ZorControl::writeProperty(std::size_t row, const Variant& value)
 {
     const core::PropertyRow& property = *info().properties[row];
-    guarded(property.name, [&] { control().put(property, value); });
+    guarded(property.name, [&] {
+        // What a form says and no enumeration has comes as -1.
+        const core::ValueKind kind = property.field.kind;
+        if (core::isEnumeration(kind) && !isMember(kind, value.toInt32()))
+            throw RunTimeError(ErrorNumber::InvalidCall, "no member of the enumeration")
+                .of(info().name, property.name, value.toText());
+        control().put(property, value);
+    });
 }
 
 void ZorControl::writeProperty(std::size_t row, const QVariant& value)
@@ -250,12 +270,10 @@ QVariant ZorControl::value() const
 {
     QVariant value;
     guarded("value", [&] {
-        const Inner& inner = *m_inner;
         const std::optional<Variant> entry = control().entryUnderWay();
-        const bool isEdited = inner.output != nullptr && control().get(*inner.modified).toBoolean();
-        value = widgets::toQVariant(entry      ? *entry
-                                    : isEdited ? control().get(*inner.output)
-                                               : control().property("DeviceValue"));
+        const bool isEdited =
+            info().property("OutputValue") != nullptr && control().property("DataModified").toBoolean();
+        value = widgets::toQVariant(entry ? *entry : control().property(isEdited ? "OutputValue" : "DeviceValue"));
     });
     return value;
 }
@@ -281,7 +299,7 @@ void ZorControl::connectNotify(const QMetaMethod& signal)
         std::vector<Inner::Watch>& watches = m_inner->watches;
         if (std::ranges::find(watches, row, &Inner::Watch::row) == watches.end() &&
             signal.name() != "valueChanged")
-            watches.push_back({row, signal, control().get(*row)});
+            watches.push_back({row, signal, m_inner->readable(*row)});
         return;
     }
 }

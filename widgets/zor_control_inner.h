@@ -2,6 +2,7 @@
 
 /// What a ready-made QWidget keeps behind itself: the control, and where it reports to.
 
+#include <zor/core/commit_filter.h>
 #include <zor/core/control.h>
 #include <zor/core/frm_Container.h>
 #include <zor/platform/qt/container.h>
@@ -19,8 +20,7 @@ namespace zor {
 
 struct ZorControl::Inner final : core::EventSink {
     Inner(ZorControl& widget, const core::ClassInfo& classInfo)
-        : owner(&widget), container(widget, core::pictureData), info(&classInfo),
-          output(classInfo.property("OutputValue")), modified(classInfo.property("DataModified"))
+        : owner(&widget), container(widget, core::pictureData), info(&classInfo)
     {
         container.setUserMode(true);
     }
@@ -32,6 +32,7 @@ struct ZorControl::Inner final : core::EventSink {
         container.onPropertyChanged = [this](platform::Component&, std::string_view name) { written(name); };
         container.onSettled = [this](platform::Component&) { settled(); };
         container.onFormChanges = [this](QWidget& part, const QEvent& event) { formChanges(part, event); };
+        commits.emplace(*control);
         control->subscribe(*this);
         designed = control->surface().geometry();
         face = &platform::qt::widgetOf(*control->widget(1));
@@ -43,20 +44,21 @@ struct ZorControl::Inner final : core::EventSink {
             return;
         const Telling telling(tellings);
         const bool isValue = row.name == "OutputValueChange";
-        const bool isCommit = isValue && takesOver();
-        const QVariant committed = isCommit ? widgets::toQVariant(*handedOver) : QVariant();
+        const std::optional<Variant> value = isValue ? committed() : std::nullopt;
         alive->emitEvent(static_cast<std::size_t>(&row - &info->events[0]), args);
         if (!alive.isNull() && isValue)
             emit alive->valueChanged();
-        if (!alive.isNull() && isCommit)
-            emit alive->valueCommitted(committed);
+        if (!alive.isNull() && value)
+            emit alive->valueCommitted(widgets::toQVariant(*value));
     }
     void written(std::string_view name);
     void settled() noexcept;
+    /// A property's value; Empty for one that has none just now, as the ticks of a slider without a scale.
+    [[nodiscard]] Variant readable(const core::PropertyRow& row) const;
     /// Follows the part that a control shows, and the one that has the focus.
     void formChanges(const QWidget& part, const QEvent& event);
-    /// Notes the value that is handed over, and says whether the operator is the one who does it.
-    [[nodiscard]] bool takesOver();
+    /// The value that the operator commits with the event that is being told of; nothing while he drags.
+    [[nodiscard]] std::optional<Variant> committed();
     void released();
 
     /// While slots are being called, any of which may delete the widget.
@@ -74,13 +76,10 @@ struct ZorControl::Inner final : core::EventSink {
     ZorControl* owner;
     platform::qt::QtContainer container;
     const core::ClassInfo* info;
-    const core::PropertyRow* output;   ///< nullptr for a control that hands nothing over
-    const core::PropertyRow* modified; ///< with it
     core::ControlPtr<> control;
+    std::optional<core::CommitFilter> commits;
     /// The part that a control shows where the device offers its parameter, and never else.
     QWidget* face = nullptr;
-    std::optional<Variant> handedOver; ///< since the device's value came
-    bool isCommitted = false;          ///< an edit has been handed over since
     std::vector<Watch> watches;
     platform::Rect designed;
     Qt::FocusPolicy focusPolicy = Qt::NoFocus; ///< of the focus proxy, while it can be reached
@@ -88,7 +87,7 @@ struct ZorControl::Inner final : core::EventSink {
     bool isShown = true;                       ///< whether it is to be seen where the device does
     bool keepsFocus = false;                   ///< while the control itself hides its widget
     bool isValueNew = false;                   ///< a device value has come, and nobody has been told
-    bool isDragged = false;                    ///< what is handed over at the end of a drag
+    std::optional<Variant> dragged;            ///< what is committed at the end of a drag
     platform::Depth tellings;
 };
 

@@ -11,17 +11,17 @@ namespace {
 /// Hears of the control's events; the host writes to the device from here, and only what the operator made.
 class Level final : public zor::__ctx_ZorTextBox {
 public:
-    explicit Level(zor::ctx_ZorTextBox& control) : m_control(control) {}
+    explicit Level(zor::ctx_ZorTextBox& control) : m_commits(control) {}
     void OutputValueChange() override
     {
-        if (m_control.isByOperator() && m_control.DataModified())
-            written = m_control.OutputValue().toDouble();
+        if (const auto value = m_commits.take())
+            written = value->toDouble();
     }
 
     double written = 0;
 
 private:
-    zor::ctx_ZorTextBox& m_control;
+    zor::core::CommitFilter m_commits;
 };
 
 } // namespace

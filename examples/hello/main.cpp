@@ -10,16 +10,16 @@
 /// Hears what the operator hands over, and would write it to the device.
 class Host final : public zor::__ctx_ZorTextBox {
 public:
-    explicit Host(zor::ctx_ZorTextBox& level) : m_level(level) {}
+    explicit Host(zor::ctx_ZorTextBox& level) : m_commits(level) {}
     void OutputValueChange() override
     {
         // It also comes with every value of the device's, and when somebody only passes through the field.
-        if (m_level.isByOperator() && m_level.DataModified())
-            std::cout << "OutputValue " << m_level.OutputValue().toText() << std::endl;
+        if (const auto value = m_commits.take())
+            std::cout << "OutputValue " << value->toText() << std::endl;
     }
 
 private:
-    zor::ctx_ZorTextBox& m_level;
+    zor::core::CommitFilter m_commits;
 };
 
 int main(int argc, char** argv)

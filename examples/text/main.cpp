@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <iostream>
+#include <map>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -63,11 +64,15 @@ class Device final : public zor::core::EventSink {
 public:
     void event(Control& control, const zor::core::EventRow& row, zor::platform::EventArgs /*args*/) override
     {
-        if (row.name == "OutputValueChange" && control.isByOperator())
-            std::cout << "  write " << control.DeviceTag() << ' ' << control.property("OutputValue").toText()
-                      << '\n';
+        if (row.name != "OutputValueChange")
+            return;
+        if (const auto value = m_commits.try_emplace(&control, control).first->second.take())
+            std::cout << "  write " << control.DeviceTag() << ' ' << value->toText() << '\n';
     }
-    void ended(Control& /*control*/) noexcept override {}
+    void ended(Control& control) noexcept override { m_commits.erase(&control); }
+
+private:
+    std::map<const Control*, zor::core::CommitFilter> m_commits;
 };
 
 zor::core::ControlPtr<> made(const Parameter& parameter, const zor::core::ClassInfo& info, text::Form& form)

@@ -12,5 +12,6 @@
 #include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
 #include <zor/controls/numeric/up_down/ctx_ZorUpDown.h>
 #include <zor/controls/registration.h>
+#include <zor/core/commit_filter.h>
 #include <zor/core/frm_Container.h>
 #include <zor/platform/regional.h>

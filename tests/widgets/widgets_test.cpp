@@ -18,6 +18,7 @@
 #include <QStandardItemModel>
 #include <QTest>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -104,6 +105,7 @@ TEST(Widgets, WhatIsRefusedIsSaidAndChangesNothing)
         int error;
     } rows[]{{"MaxLength", 70000, 6},
              {"InvalidEntry", true, 383},
+             {"OutputUnit", -1, 5}, // as Qt makes it of a unit that there is not
              {"DeviceValue", QPoint(1, 2), 13},
              {"DeviceValue", qInf(), 6},
              {"DeviceValue", QVariant::fromValue(std::numeric_limits<quint64>::max()), 0},
@@ -123,6 +125,11 @@ TEST(Widgets, WhatIsRefusedIsSaidAndChangesNothing)
             EXPECT_EQ(box.property(property).toDouble(), value.toDouble());
         }
     }
+    ZorSlider slider;
+    QSignalSpy ticks(&slider, &ZorSlider::TickFrequencyChanged);
+    slider.setScaleFactor(0);
+    EXPECT_EQ(ticks.size(), 1) << "what has no value any more";
+
     box.setUserMode(false);
     refused.clear();
     box.setInvalidEntry(true);
@@ -185,6 +192,37 @@ TEST(Widgets, AWidgetMayBeDeletedInASlotOfItsOwnSignal)
     QObject::connect(other, &ZorTextBox::OutputValueChange, &form, [other] { delete other; });
     other->setDeviceValue(5);
     EXPECT_TRUE(alive.isNull());
+
+    // A listener of the control itself, told of what the program writes.
+    struct Deleter final : core::EventSink {
+        ZorControl* widget = nullptr;
+        void event(core::Control& /*control*/, const core::EventRow& row, platform::EventArgs /*args*/) override
+        {
+            if (row.name == "OutputValueChange")
+                delete std::exchange(widget, nullptr);
+        }
+        void ended(core::Control& /*control*/) noexcept override {}
+    } deleter;
+    auto* heard = new ZorTextBox(&form);
+    heard->control().subscribe(deleter);
+    alive = heard;
+    deleter.widget = heard;
+    heard->control().setProperty("DeviceValue", 5);
+    EXPECT_TRUE(alive.isNull());
+
+    // Two notches of a wheel, of which the first ends what they turn.
+    auto* count = new ZorUpDown(&form);
+    count->setMaxValue(100);
+    count->show();
+    count->setFocus();
+    const QPointer<QWidget> turned = count->focusProxy();
+    QObject::connect(count, &ZorUpDown::upDownChange, &form, [count] { delete count; });
+    const QPointF at = turned->rect().center();
+    QWheelEvent wheel(at, turned->mapToGlobal(at), {}, QPoint(0, 240), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(turned, &wheel);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(turned.isNull());
 }
 
 TEST(Widgets, AStyleSheetOfTheProgramHidesNoState)
