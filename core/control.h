@@ -184,7 +184,10 @@ public:
     [[nodiscard]] virtual platform::PopupMenu* menu() { return nullptr; }
     /// Gives a new control its initial values.
     void initialiseProperties() final;
-    /// Takes the stored properties.
+    /// Takes the stored properties, in place of initialiseProperties(); what the bag does not have gets its
+    /// default. But for a label, no value is shown and no state explained until the host writes DeviceValue and
+    /// the flags of its read: a text field is empty, a track at its left end, a box unticked. A value of another
+    /// type raises TypeMismatch; the control is to be destroyed then.
     void readProperties(const platform::PropertyBag& bag) final;
     /// Stores the properties. An enumeration's value that needs more than the 16 bits of its key raises Overflow,
     /// and nothing is stored.

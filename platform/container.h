@@ -11,12 +11,14 @@
 
 namespace zor::platform {
 
-/// What the container tells a control. Either initialise or readProperties comes once, after creation.
+/// What the container tells a control. Either initialiseProperties or readProperties comes once, after creation.
 class Component {
 public:
     /// Gives a new control its initial values.
     virtual void initialiseProperties() = 0;
-    /// Takes the stored properties; what the bag does not have gets its default.
+    /// Takes the stored properties; what the bag does not have gets its default. They are not written one by one:
+    /// the host writes DeviceValue afterwards, once also where DataModified was stored as true. Entries of lists
+    /// and names of bits are not stored.
     virtual void readProperties(const PropertyBag& bag) = 0;
     /// Stores the properties.
     virtual void writeProperties(PropertyBag& bag) = 0;

@@ -39,10 +39,12 @@ inline constexpr double IN3_PER_LITRE = 61.02374; ///< cubic inches per litre
 [[nodiscard]] double fd_GetConversionFactor(const UNIT_TYPE& i_UnitType, MEAS_TYPE i_FromUnit,
                                             const MEAS_TYPE& i_ToUnit) noexcept;
 
-/// What is added after the factor; other than 0 between temperatures only.
+/// What is added after the factor; other than 0 between temperatures only. The quantity does not matter to it:
+/// between two temperatures it is added also where another UNIT_TYPE makes the factor 1.
 [[nodiscard]] double fd_GetOffset(MEAS_TYPE i_FromUnit, const MEAS_TYPE& i_ToUnit) noexcept;
 
-/// value x factor + offset, in that order. The result may be infinite or undefined.
+/// value x factor + offset, in that order, each as the two functions above give it. The result may be infinite or
+/// undefined.
 [[nodiscard]] double converted(double value, UNIT_TYPE type, MEAS_TYPE from, MEAS_TYPE to) noexcept;
 
 /// As converted(), but raises Overflow when the result is infinite or undefined.

@@ -22,7 +22,8 @@ public:
 
     /// @name Units
     /// @{
-    /// The quantity of the three units.
+    /// The quantity of the three units. A write is only stored, so it comes before the units, and they before the
+    /// limits.
     [[nodiscard]] UNIT_TYPE UnitType() const noexcept { return m_units.unitType; }
     void UnitType(UNIT_TYPE value);
     /// The unit of DeviceValue, OutputValue and ModifiedValue.
@@ -34,10 +35,10 @@ public:
     /// The unit of MinValue and MaxValue.
     [[nodiscard]] MEAS_TYPE DefaultUnit() const noexcept { return m_units.defaultUnit; }
     void DefaultUnit(MEAS_TYPE value);
-    /// Whether the unit is shown.
+    /// Whether the unit is shown. A new control has none to show until OutputUnit or UnitLabelCaption is written.
     [[nodiscard]] bool UnitEnable() const noexcept { return m_unitEnable; }
     void UnitEnable(bool value);
-    /// Text of the unit label. Each write of OutputUnit makes it that unit's label again.
+    /// Text of the unit label, empty in a new control. Each write of OutputUnit makes it that unit's label again.
     [[nodiscard]] const std::string& UnitLabelCaption() const noexcept { return m_unitLabelCaption; }
     void UnitLabelCaption(std::string_view value);
     /// The identifier under which a host looks up a translated unit label.
@@ -46,7 +47,7 @@ public:
 
     /// @name Valid range
     /// @{
-    /// Limits of the value, in DefaultUnit, both included.
+    /// Limits of the value, in DefaultUnit, both included. Any two numbers are taken, whichever is larger.
     [[nodiscard]] double MinValue() const noexcept { return m_units.minValue; }
     void MinValue(double value);
     [[nodiscard]] double MaxValue() const noexcept { return m_units.maxValue; }

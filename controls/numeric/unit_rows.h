@@ -14,7 +14,9 @@ struct UnitRows {
 
     static constexpr auto UnitType =
         core::fieldRow<&C::m_units, &Units::unitType>("UnitType", core::Topic::Units)
-            .saying("The quantity of the three units. Conversions take their factor from it.")
+            .saying("The quantity of the three units. Conversions take their factor from it; an offset is added "
+                    "between any two temperatures. A write is only stored, so it comes before the units, and they "
+                    "before the limits.")
             .stored(Length);
     static constexpr auto DeviceUnit =
         core::fieldRow<&C::m_units, &Units::deviceUnit>("DeviceUnit", core::Topic::Units)
@@ -27,8 +29,8 @@ struct UnitRows {
     static constexpr auto DeviceUnitInTenths = DeviceUnit.initially(LgthU_1By10_MM);
     static constexpr auto OutputUnit =
         core::fieldRow<&C::m_units, &Units::outputUnit>("OutputUnit", core::Topic::Units)
-            .saying("The unit in which the operator sees the value and enters it. A write shows value and limits "
-                    "in it.")
+            .saying("The unit in which the operator sees the value and enters it. A write shows its label, and "
+                    "value and limits in it; these stay as they are while the text is no number.")
             .stored(LgthU_MM)
             .then<&C::s_AfterOutputUnit>()
             .written<[](C& control, MEAS_TYPE unit) { control.OutputUnit(unit); }>();
@@ -49,16 +51,19 @@ struct UnitRows {
                                          .then<&C::s_UpdateMaxParamValue>();
     static constexpr auto MinParamValue =
         core::fieldRow<&C::m_units, &Units::minParam>("MinParamValue", core::Topic::Range)
-            .saying("MinValue in OutputUnit. Follows from the others.")
+            .saying("MinValue in OutputUnit. Follows from the others; a write of OutputUnit converts it from the "
+                    "unit before.")
             .stored(0.0)
             .with(core::Access::Derived);
     static constexpr auto MaxParamValue =
         core::fieldRow<&C::m_units, &Units::maxParam>("MaxParamValue", core::Topic::Range)
-            .saying("MaxValue in OutputUnit. Follows from the others.")
+            .saying("MaxValue in OutputUnit. Follows from the others; a write of OutputUnit converts it from the "
+                    "unit before.")
             .stored(0.0)
             .with(core::Access::Derived);
     static constexpr auto UnitEnable = core::fieldRow<&C::m_unitEnable>("UnitEnable", core::Topic::Units)
-                                           .saying("Whether the unit is shown.")
+                                           .saying("Whether the unit is shown. A new control has none to show "
+                                                   "until OutputUnit or UnitLabelCaption is written.")
                                            .stored(true)
                                            .then<[](C& control) {
                                                control.s_UpdateUnitLabelVisibility();
@@ -66,7 +71,8 @@ struct UnitRows {
                                            }>();
     static constexpr auto UnitLabelCaption =
         core::fieldRow<&C::m_unitLabelCaption>("UnitLabelCaption", core::Topic::Units)
-            .saying("Text of the unit label. Each write of OutputUnit makes it that unit's label again.")
+            .saying("Text of the unit label, empty in a new control. Each write of OutputUnit makes it that "
+                    "unit's label again.")
             .stored("")
             .then<[](C& control) { control.s_ShowUnit(control.m_unitLabelCaption); }>()
             .live();

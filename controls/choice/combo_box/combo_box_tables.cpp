@@ -47,26 +47,26 @@ struct ctx_ZorComboBox::Tables {
                               .saying("A value came that no entry of a filled list stands for.")},
                core::conditionRows<E>(), kFaceEvents, core::iconRows<E>(img_State));
 
-    static constexpr auto kMethods = joined(
-        controls::ChoiceRows::kMethods,
-        std::array{
-            method<&This::AddEnumEntry>("AddEnumEntry", "Identifier", "EnumEntryValue")
-                .saying(
-                    "Appends an entry: its text and the value it stands for. A full list (32,767 entries) raises "
-                    "error 6."),
-            method<&This::ClearEnumList>("ClearEnumList").saying("Removes all entries."),
-            method<&This::RemoveEnumEntry>("RemoveEnumEntry", "EnumEntryValue")
-                .saying("Removes the first entry of the value, if there is one."),
-            method<&This::GetEnumEntryText>("GetEnumEntryText", "EnumEntryValue")
-                .saying("Text of the first entry of the value; \"ERROR\" when there is none."),
-            method<&This::GetEnumEntries>("GetEnumEntries")
-                .saying("All texts in the order of the list; \"ERROR\" alone for an empty list."),
-            method<&This::GetEnumEntryValue>("GetEnumEntryValue", "EnumText")
-                .saying("Value of the first entry with exactly this text; \"ERROR\" when there is none."),
-            method<&This::GetEnumEntryValueArray>("GetEnumEntryValueArray")
-                .saying("All values in the order of the list; \"ERROR\" alone for an empty list."),
-            method<&This::GetEnumEntryCount>("GetEnumEntryCount").saying("Number of entries."),
-        });
+    static constexpr auto kMethods =
+        joined(controls::ChoiceRows::kMethods,
+               std::array{
+                   method<&This::AddEnumEntry>("AddEnumEntry", "Identifier", "EnumEntryValue")
+                       .saying("Appends an entry, its text and the value it stands for, and selects it without an "
+                               "event: it is shown and OutputValue has its value until the next value comes, so a "
+                               "list is filled before. A full list (32,767 entries) raises error 6."),
+                   method<&This::ClearEnumList>("ClearEnumList").saying("Removes all entries."),
+                   method<&This::RemoveEnumEntry>("RemoveEnumEntry", "EnumEntryValue")
+                       .saying("Removes the first entry of the value, if there is one."),
+                   method<&This::GetEnumEntryText>("GetEnumEntryText", "EnumEntryValue")
+                       .saying("Text of the first entry of the value; \"ERROR\" when there is none."),
+                   method<&This::GetEnumEntries>("GetEnumEntries")
+                       .saying("All texts in the order of the list; \"ERROR\" alone for an empty list."),
+                   method<&This::GetEnumEntryValue>("GetEnumEntryValue", "EnumText")
+                       .saying("Value of the first entry with exactly this text; \"ERROR\" when there is none."),
+                   method<&This::GetEnumEntryValueArray>("GetEnumEntryValueArray")
+                       .saying("All values in the order of the list; \"ERROR\" alone for an empty list."),
+                   method<&This::GetEnumEntryCount>("GetEnumEntryCount").saying("Number of entries."),
+               });
 
     static constexpr auto kWidgets =
         controls::ChoiceRows::widgets({cbo_ComboBox, "cbo_ComboBox", "The drop-down list."});

@@ -51,9 +51,8 @@ struct ctx_ZorListBox::Tables {
         controls::ChoiceRows::kMethods,
         std::array{
             method<&This::AddBitFieldEntry>("AddBitFieldEntry", "Identifier", "BitFieldEntryValue")
-                .saying(
-                    "Appends an entry: its text and the number of its bit, 0 to 30. A full list (32,767 entries) "
-                    "raises error 6."),
+                .saying("Appends an entry, its text and the number of its bit, 0 to 30, without a mark until the "
+                        "next value. A full list (32,767 entries) raises error 6."),
             method<&This::ClearBitFieldList>("ClearBitFieldList").saying("Removes all entries."),
             method<&This::RemoveBitFieldEntry>("RemoveBitFieldEntry", "BitFieldEntryValue")
                 .saying("Removes the first entry of the bit, if there is one."),

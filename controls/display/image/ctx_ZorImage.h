@@ -40,14 +40,19 @@ public:
     /// Not stored: the host gives them after creating or loading the control.
     /// @{
     /// Number of rows in the table, which starts empty. A positive count gives that many new rows, none of which
-    /// names a bit yet. A negative one silences the list: a click then names no bit at all.
+    /// names a bit yet; with 0 no bit has a name. A negative one silences the list: a click then names no bit at
+    /// all.
     void MaxEntries(std::int16_t MaxCount);
-    /// Row `Index`, from 0 on, names a bit (0 to 31). Where several rows name one bit, the first counts.
-    /// SubscriptOutOfRange, and no change, for a row outside the table.
+    /// Row `Index`, from 0 on, names a bit (0 to 31; the row of any other number is taken and names nothing).
+    /// Where several rows name one bit, the first counts. SubscriptOutOfRange, and no change, for a row outside
+    /// the table.
     void AddBitFieldEntry(std::string_view Identifier, std::int16_t BitFieldEntryValue, std::int16_t Index);
     /// @}
 
     /// @name Texts
+    /// The message box is titled StatusText, " - ", MessageHeader; its text begins with MsgDefault, MessageHeader
+    /// and a colon where it speaks of bits. A new control has "" and "Status OK" for StatusText and MsgDefault,
+    /// which is no sentence yet: the host gives them words, as MsgUndefined and MsgBit, which are empty.
     /// @{
     /// Name of the monitored unit: tooltip, and end of the message box's title.
     using Control::MessageHeader;

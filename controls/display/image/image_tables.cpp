@@ -117,10 +117,12 @@ struct ctx_ZorImage::Tables {
         core::kSetMessage,
         core::kChangeBackColor,
         method<&ctx_ZorImage::MaxEntries>("MaxEntries", "MaxCount")
-            .saying("Makes a new, empty table of names with so many rows."),
+            .saying("Makes a new, empty table of names with so many rows. 0 leaves the bits without names; a "
+                    "negative number silences the list, a click then names no bit at all."),
         method<&ctx_ZorImage::AddBitFieldEntry>("AddBitFieldEntry", "Identifier", "BitFieldEntryValue", "Index")
-            .saying("Gives a bit its name, in a row of the table made by MaxEntries; a row outside of it raises "
-                    "error 9."),
+            .saying("Gives a bit, 0 to 31, its name, in a row of the table made by MaxEntries; a row outside of "
+                    "it raises error 9. The row of any other number names nothing; of several rows of one bit the "
+                    "first counts."),
     };
 
     static constexpr std::array kWidgets{

@@ -57,7 +57,8 @@ public:
     /// Whether numbers are checked against the limits when the operator leaves the field.
     [[nodiscard]] bool InvalidEntryEnable() const noexcept { return m_invalidEntryEnable; }
     void InvalidEntryEnable(bool value);
-    /// The last committed entry was invalid. Writing as OutputValue.
+    /// The last committed entry was invalid; the next commit of a valid one and DeviceValue clear it, an undo does
+    /// not. Writing as OutputValue.
     [[nodiscard]] bool InvalidEntry() const noexcept { return m_invalidEntry; }
     void InvalidEntry(bool value);
     /// Longest valid text (in characters) of a text entry, checked when the operator leaves the field.

@@ -31,7 +31,8 @@ struct ctx_ZorTextBox::Rows : controls::UnitRows {
 
     static constexpr auto InvalidEntry =
         core::fieldRow<&This::m_invalidEntry>("InvalidEntry", core::Topic::State)
-            .saying("The operator's last committed entry failed the check. The control's own.")
+            .saying("The operator's last committed entry failed the check. The control's own; an undo leaves it "
+                    "until the field is left again or DeviceValue is written.")
             .stored(false)
             .with(core::Access::Derived);
     static constexpr auto InvalidEntryEnable =

@@ -34,6 +34,12 @@ struct ctx_ZorUpDown::Rows : controls::RangeRows {
         core::fieldRow<&This::m_numberOfDigits>("NumberOfDigits", core::Topic::Value)
             .saying("Kept and stored for the host, without effect: the up-down shows whole numbers.")
             .storedAs("NumberofDigits", 3);
+    static constexpr auto MinValue = controls::RangeRows::MinValue.saying(
+        "Lowest valid value, in DefaultUnit, included, and rounded in OutputUnit. A lower entry becomes the limit "
+        "when the field is left, without a message. Nothing but 0 can be entered as long as both limits are 0.");
+    static constexpr auto MaxValue = controls::RangeRows::MaxValue.saying(
+        "Highest valid value, in DefaultUnit, included, and rounded in OutputUnit. A higher entry becomes the "
+        "limit when the field is left, without a message.");
     static constexpr auto WidthDifference =
         core::fieldRow<&This::m_field, &controls::EntryField::widthDifference>("WidthDifference",
                                                                                core::Topic::Appearance)
