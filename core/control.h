@@ -86,7 +86,8 @@ public:
     /// @{
     /// Reads a property.
     [[nodiscard]] Variant property(std::string_view name) const;
-    /// Writes a property; what the row says of the write holds.
+    /// Writes a property; what the row says of the write holds. An enumeration takes numbers: zor::memberValue()
+    /// (zor/units.h) gives that of a name ("LgthU_Mtr").
     void setProperty(std::string_view name, const Variant& value);
     /// Another number of arguments than the method has raises WrongArguments.
     MethodResult call(std::string_view method, std::span<const Variant> arguments);

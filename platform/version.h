@@ -1,6 +1,6 @@
 #pragma once
 
-/// The version of the library: semantic versioning, see docs/compatibility.md.
+/// The version of the library: semantic versioning; the guide compatibility.md says what an adopter may rely on.
 
 #include <string_view>
 

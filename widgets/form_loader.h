@@ -6,7 +6,9 @@
 
 namespace zor {
 
-/// A QUiLoader that also knows the widgets of the library, wherever Qt looks for plugins.
+/// A QUiLoader that also knows the widgets of the library, wherever Qt looks for plugins. availableWidgets(),
+/// which is Qt's and not virtual, names what plugins offer and not these; widgetClasses() does. A value in a form
+/// that a control refuses is left out without a note: `zorsh` and forms::Form tell of it when they open the form.
 class ZorUiLoader : public QUiLoader {
     Q_OBJECT
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// What the ready-made QWidgets share. The widgets themselves are generated from the controls' tables, see
-/// zor/widgets/zor_widgets.h in the build tree.
+/// zor/widgets/zor_widgets.h.
 
 #include <zor/platform/notice.h>
 #include <zor/platform/variant.h>
@@ -25,7 +25,9 @@ namespace zor {
 /// A control as a QWidget: properties as Qt properties, methods invokable, events as signals.
 ///
 /// Writing a property through Qt never throws: what the control refuses (a number that does not fit, a derived
-/// property in user mode) changes nothing and is announced by `refused`. A signal carries its arguments by
+/// property in user mode) changes nothing and is announced by `refused`. So is the error of a sink that threw in
+/// an event of the write, which stands then. A value that Qt cannot convert to the property's type does not reach
+/// the control: setProperty() returns false, and `refused` is not emitted. A signal carries its arguments by
 /// value; to change one (to swallow a key, say) subscribe the control's sink interface to control().
 ///
 /// The widget's size is the control's: 15 twips to the device-independent pixel, fewer in a font whose lines are
@@ -77,7 +79,8 @@ signals:
     void valueCommitted(const QVariant& value);
     /// A property was written, or changed together with another.
     void propertyChanged(const QString& name);
-    /// A property write or a method call came to nothing: its name, the error number and a short text.
+    /// A property write or a method call came to nothing, or a sink threw in one of its events: name, error number
+    /// and a short text.
     void refused(const QString& member, int error, const QString& text);
 
 protected:

@@ -37,7 +37,7 @@ public:
     virtual void textKeyDown(std::int16_t& /*KeyCode*/, std::int16_t& /*Shift*/) {}
     virtual void textKeyPress(std::int16_t& /*KeyAscii*/) {}
     virtual void textKeyUp(std::int16_t& /*KeyCode*/, std::int16_t& /*Shift*/) {}
-    /// The four link events: only where the control forwards them and the platform's field offers links.
+    /// The four link events are part of the interface and never raised: no platform's field offers links.
     virtual void textLinkClose() {}
     virtual void textLinkError(std::int16_t& /*LinkErr*/) {}
     virtual void textLinkNotify() {}
@@ -47,8 +47,8 @@ public:
     virtual void textMouseDown(std::int16_t& /*Button*/, std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/) {}
     virtual void textMouseMove(std::int16_t& /*Button*/, std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/) {}
     virtual void textMouseUp(std::int16_t& /*Button*/, std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/) {}
+    /// The OLE events are part of the interface and never raised: no platform reports a drag.
     virtual void textOLECompleteDrag(std::int32_t& /*Effect*/) {}
-    /// Declared, never raised, as the next one.
     virtual void textOLEDragDrop(std::string& /*Data*/, std::int32_t& /*Effect*/, std::int16_t& /*Button*/,
                                  std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/)
     {}
@@ -56,8 +56,8 @@ public:
                                  std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/, std::int16_t& /*State*/)
     {}
     virtual void textOLEGiveFeedback(std::int32_t& /*Effect*/, bool& /*DefaultCursors*/) {}
-    virtual void textOLESetData(std::string& /*Data*/, std::int16_t& /*DataFormat*/) {}       ///< never raised
-    virtual void textOLEStartDrag(std::string& /*Data*/, std::int32_t& /*AllowedEffects*/) {} ///< never raised
+    virtual void textOLESetData(std::string& /*Data*/, std::int16_t& /*DataFormat*/) {}
+    virtual void textOLEStartDrag(std::string& /*Data*/, std::int32_t& /*AllowedEffects*/) {}
     /// The focus is about to leave; Cancel set to true keeps it.
     virtual void textValidate(bool& /*Cancel*/) {}
     virtual void unitsChange() {}

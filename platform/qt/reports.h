@@ -102,8 +102,8 @@ private:
     int m_number;
 };
 
-/// Sends a widget's events through `QtWidget`: reports them, and lets handlers change or swallow keys.
-/// Returns true when the widget must not see the event; `after` is set to what is reported once it has.
+/// Sends a widget's events through `QtWidget`: reports them, and lets handlers change or swallow keys. What is
+/// reported once the widget has handled an event is settled in before(), and reported by after().
 class EventReports {
 public:
     EventReports(QtWidget& widget, QEvent& event) : m_widget(widget), m_event(event) {}
@@ -112,7 +112,8 @@ public:
     [[nodiscard]] bool before();
     /// After the widget has handled it.
     void after();
-    /// A key that a handler replaced by another character.
+    /// What the widget sees in the event's place, where a handler made another key or character of it; else
+    /// nullptr.
     [[nodiscard]] QEvent* replacement() noexcept { return m_replacement.get(); }
 
 private:

@@ -32,10 +32,10 @@ public:
     virtual void CheckMouseMove(std::int16_t& /*Button*/, std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/) {}
     /// Before the undo menu opens.
     virtual void CheckMouseUp(std::int16_t& /*Button*/, std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/) {}
-    virtual void CheckOLECompleteDrag(std::int32_t& /*Effect*/) {}
-    virtual void CheckOLEDragDrop() {} ///< declared, never raised
-    virtual void CheckOLEDragOver() {} ///< declared, never raised
-    virtual void CheckOLEGiveFeedback(std::int32_t& /*Effect*/, bool& /*DefaultCursors*/) {}
+    virtual void CheckOLECompleteDrag(std::int32_t& /*Effect*/) {} ///< never raised
+    virtual void CheckOLEDragDrop() {}                             ///< declared, never raised
+    virtual void CheckOLEDragOver() {}                             ///< declared, never raised
+    virtual void CheckOLEGiveFeedback(std::int32_t& /*Effect*/, bool& /*DefaultCursors*/) {} ///< never raised
     virtual void CheckOLESetData() {}   ///< declared, never raised
     virtual void CheckOLEStartDrag() {} ///< declared, never raised
     virtual void CheckValidate() {}     ///< declared, never raised

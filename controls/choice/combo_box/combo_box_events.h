@@ -30,10 +30,10 @@ public:
     virtual void ComboKeyPress(std::int16_t& /*KeyAscii*/) {}
     virtual void ComboKeyUp(std::int16_t& /*KeyCode*/, std::int16_t& /*Shift*/) {}
     virtual void ComboLostFocus() {}
-    virtual void ComboOLECompleteDrag(std::int32_t& /*Effect*/) {}
-    virtual void ComboOLEDragDrop() {} ///< declared, never raised
-    virtual void ComboOLEDragOver() {} ///< declared, never raised
-    virtual void ComboOLEGiveFeedback(std::int32_t& /*Effect*/, bool& /*DefaultCursors*/) {}
+    virtual void ComboOLECompleteDrag(std::int32_t& /*Effect*/) {} ///< never raised
+    virtual void ComboOLEDragDrop() {}                             ///< declared, never raised
+    virtual void ComboOLEDragOver() {}                             ///< declared, never raised
+    virtual void ComboOLEGiveFeedback(std::int32_t& /*Effect*/, bool& /*DefaultCursors*/) {} ///< never raised
     virtual void ComboOLESetData() {}   ///< declared, never raised
     virtual void ComboOLEStartDrag() {} ///< declared, never raised
     /// The operator scrolled the open list.

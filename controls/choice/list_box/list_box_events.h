@@ -31,10 +31,10 @@ public:
     virtual void ListMouseDown(std::int16_t& /*Button*/, std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/) {}
     virtual void ListMouseMove(std::int16_t& /*Button*/, std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/) {}
     virtual void ListMouseUp(std::int16_t& /*Button*/, std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/) {}
-    virtual void ListOLECompleteDrag(std::int32_t& /*Effect*/) {}
-    virtual void ListOLEDragDrop() {} ///< declared, never raised
-    virtual void ListOLEDragOver() {} ///< declared, never raised
-    virtual void ListOLEGiveFeedback(std::int32_t& /*Effect*/, bool& /*DefaultCursors*/) {}
+    virtual void ListOLECompleteDrag(std::int32_t& /*Effect*/) {} ///< never raised
+    virtual void ListOLEDragDrop() {}                             ///< declared, never raised
+    virtual void ListOLEDragOver() {}                             ///< declared, never raised
+    virtual void ListOLEGiveFeedback(std::int32_t& /*Effect*/, bool& /*DefaultCursors*/) {} ///< never raised
     virtual void ListOLESetData() {}   ///< declared, never raised
     virtual void ListOLEStartDrag() {} ///< declared, never raised
     /// The operator scrolled the list.

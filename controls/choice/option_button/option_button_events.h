@@ -30,10 +30,10 @@ public:
     virtual void OptionMouseMove(std::int16_t& /*Button*/, std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/) {}
     /// Before the undo menu opens.
     virtual void OptionMouseUp(std::int16_t& /*Button*/, std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/) {}
-    virtual void OptionOLECompleteDrag(std::int32_t& /*Effect*/) {}
-    virtual void OptionOLEDragDrop() {} ///< declared, never raised
-    virtual void OptionOLEDragOver() {} ///< declared, never raised
-    virtual void OptionOLEGiveFeedback(std::int32_t& /*Effect*/, bool& /*DefaultCursors*/) {}
+    virtual void OptionOLECompleteDrag(std::int32_t& /*Effect*/) {} ///< never raised
+    virtual void OptionOLEDragDrop() {}                             ///< declared, never raised
+    virtual void OptionOLEDragOver() {}                             ///< declared, never raised
+    virtual void OptionOLEGiveFeedback(std::int32_t& /*Effect*/, bool& /*DefaultCursors*/) {} ///< never raised
     virtual void OptionOLESetData() {}   ///< declared, never raised
     virtual void OptionOLEStartDrag() {} ///< declared, never raised
     /// The focus is about to leave; Cancel set to true keeps it.

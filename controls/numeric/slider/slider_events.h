@@ -22,14 +22,14 @@ public:
     virtual void sliderMouseMove(std::int16_t& /*Button*/, std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/) {}
     virtual void sliderMouseUp(std::int16_t& /*Button*/, std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/) {}
     /// The six drag events: only where the platform's track offers drags.
-    virtual void sliderOLECompleteDrag(std::int32_t& /*Effect*/) {}
+    virtual void sliderOLECompleteDrag(std::int32_t& /*Effect*/) {} ///< never raised
     virtual void sliderOLEDragDrop(std::string& /*Data*/, std::int32_t& /*Effect*/, std::int16_t& /*Button*/,
                                    std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/)
     {}
     virtual void sliderOLEDragOver(std::string& /*Data*/, std::int32_t& /*Effect*/, std::int16_t& /*Button*/,
                                    std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/, std::int16_t& /*State*/)
     {}
-    virtual void sliderOLEGiveFeedback(std::int32_t& /*Effect*/, bool& /*DefaultCursors*/) {}
+    virtual void sliderOLEGiveFeedback(std::int32_t& /*Effect*/, bool& /*DefaultCursors*/) {} ///< never raised
     virtual void sliderOLESetData(std::string& /*Data*/, std::int16_t& /*DataFormat*/) {}
     virtual void sliderOLEStartDrag(std::string& /*Data*/, std::int32_t& /*AllowedEffects*/) {}
     /// The handle is being dragged.
