@@ -189,7 +189,7 @@ public:
     void add(const Info& info)
     {
         if (find(info.name) != nullptr)
-            raiseError(ErrorNumber::InvalidCall);
+            raiseError(ErrorNumber::InvalidCall, std::string(info.name).append(" is registered already"));
         m_rows.push_back(&info);
     }
     /// By name; nullptr for another name.

@@ -5,6 +5,7 @@
 #include <zor/forms/values.h>
 #include <zor/forms/xml_check.h>
 #include <zor/platform/error.h>
+#include <zor/platform/text.h>
 
 #include <algorithm>
 #include <array>
@@ -48,6 +49,20 @@ std::optional<platform::Rect> rectOf(const pugi::xml_node& rect)
     return platform::Rect{sides[0], sides[1], sides[2], sides[3]};
 }
 
+/// What an element holds, as a note shows it, cut where nobody reads on; nothing for one without a text.
+string inQuotes(string_view text)
+{
+    constexpr std::size_t kMost = 60;
+    text = platform::trimmed(text);
+    if (text.empty())
+        return {};
+    const string_view shown = text.substr(0, platform::byteOffset(text, kMost));
+    string quotation = string(" (\"").append(shown).append(shown.size() < text.size() ? "...\")" : "\")");
+    std::ranges::replace_if(
+        quotation, [](unsigned char byte) { return byte < ' '; }, ' ');
+    return quotation;
+}
+
 /// Qt's own properties begin with a small letter, the published ones with a capital.
 bool isQtProperty(string_view name) { return !name.empty() && !(name[0] >= 'A' && name[0] <= 'Z'); }
 
@@ -71,10 +86,14 @@ string setProperty(core::Control& control, const pugi::xml_node& property, strin
     if (row->isFollowing())
         return "follows from other properties and is not set";
     const pugi::xml_node element = firstElement(property);
-    const std::optional<Variant> value = readValue(row->field.kind, element.name(), textOf(element));
+    const string text = textOf(element);
+    const std::optional<Variant> value = readValue(row->field.kind, element.name(), text);
     if (!value)
-        return "<" + string(element.name()) + "> holds no value of the kind " +
-               string(core::kindName(row->field.kind));
+        return string("<")
+            .append(element.name())
+            .append("> holds no value of the kind ")
+            .append(core::kindName(row->field.kind))
+            .append(inQuotes(text));
     try {
         control.put(*row, *value);
     } catch (const RunTimeError& error) {

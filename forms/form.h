@@ -48,7 +48,8 @@ public:
     Form& operator=(Form&&) noexcept;
     ~Form();
 
-    /// The controls, in the order of the file.
+    /// The controls, in the order of the file. A file may give two the same name: who finds them by it sees to
+    /// that.
     [[nodiscard]] std::span<const Item> items() const noexcept;
     /// Sets what the form says on a fresh control of the item's class, already in its place, in the order of the
     /// file.

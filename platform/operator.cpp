@@ -4,6 +4,7 @@
 #include <zor/platform/text.h>
 
 #include <array>
+#include <string>
 
 namespace zor::platform {
 namespace {
@@ -24,7 +25,7 @@ bool isLocked(const Widget& widget)
 void requireFocus(const Widget& widget)
 {
     if (!takesFocus(widget))
-        raiseError(ErrorNumber::NoSuchMember);
+        raiseError(ErrorNumber::NoSuchMember, "a label, image, surface or spin button takes no focus");
 }
 
 } // namespace
@@ -145,7 +146,7 @@ Refusal Operator::chooseItem(PopupMenu& menu, std::size_t item)
     if (!menu.isOpen())
         return Refusal::Closed;
     if (item >= menu.items().size())
-        raiseError(ErrorNumber::SubscriptOutOfRange);
+        raiseError(ErrorNumber::SubscriptOutOfRange, "item " + std::to_string(item));
     clickItem(menu, item);
     return Refusal::None;
 }

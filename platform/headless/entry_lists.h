@@ -58,7 +58,7 @@ protected:
     [[nodiscard]] const Entry& at(std::int32_t index) const
     {
         if (index < 0 || index >= count())
-            raiseError(ErrorNumber::SubscriptOutOfRange);
+            raiseError(ErrorNumber::SubscriptOutOfRange, "entry " + std::to_string(index));
         return m_entries[static_cast<std::size_t>(index)];
     }
 

@@ -7,7 +7,7 @@ namespace zor::platform::qt {
 const EntryModel::Entry& EntryModel::at(std::int32_t row) const
 {
     if (row < 0 || row >= count())
-        raiseError(ErrorNumber::SubscriptOutOfRange);
+        raiseError(ErrorNumber::SubscriptOutOfRange, "entry " + std::to_string(row));
     return m_entries[static_cast<std::size_t>(row)];
 }
 

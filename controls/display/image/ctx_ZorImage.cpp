@@ -50,7 +50,8 @@ void ctx_ZorImage::AddBitFieldEntry(std::string_view Identifier, std::int16_t Bi
                                     std::int16_t Index)
 {
     if (Index < 0 || Index >= m_count)
-        raiseError(ErrorNumber::SubscriptOutOfRange);
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange)
+            .of(info().name, "AddBitFieldEntry", std::to_string(Index));
     m_names[static_cast<std::size_t>(Index)] = {std::string(Identifier), BitFieldEntryValue};
 }
 
