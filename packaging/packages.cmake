@@ -31,7 +31,7 @@ execute_process(COMMAND env LC_ALL=C date -u -R -d ${ZOR_RELEASE_DATE} OUTPUT_VA
                 COMMAND_ERROR_IS_FATAL ANY)
 file(WRITE ${generated}/changelog "zorsmartcontrols (${PROJECT_VERSION}) unstable; urgency=medium
 
-  * Version ${PROJECT_VERSION} of ${ZOR_RELEASE_DATE}: see CHANGELOG.md of the sources.
+  * Version ${PROJECT_VERSION} of ${ZOR_RELEASE_DATE}: see CHANGELOG.md of the sources and of libzorsmartcontrols-dev.
 
  -- ${ZOR_MAINTAINER}  ${date}
 ")
@@ -88,7 +88,7 @@ zor_part(libzorsmartcontrols ABI SECTION libs
          DESCRIPTION "${about}\n\nThis package holds the controls, the platform without a display and the reader of form files.")
 zor_part(libzorsmartcontrols-dev SECTION libdevel NEEDS libzorsmartcontrols
          SUMMARY "data-bound controls for field measurement devices (development files)"
-         DESCRIPTION "${about}\n\nThis package holds what compiling programs without Qt needs.")
+         DESCRIPTION "${about}\n\nThis package holds what compiling programs without Qt needs, the guides and the examples.")
 zor_part(libzorsmartcontrols-qt ABI SECTION libs NEEDS libzorsmartcontrols
          SUMMARY "data-bound controls for field measurement devices, on Qt 6 widgets"
          DESCRIPTION "${about}\n\nThis package holds the controls on Qt 6 widgets, and as QWidgets.")
