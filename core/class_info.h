@@ -98,6 +98,8 @@ inline constexpr WidgetRow kSurfaceRow{platform::kSurfaceWidget, "Surface", "The
 struct ClassInfo {
     /// Its published name.
     std::string_view name;
+    /// What it is for, for people.
+    std::string_view meaning{};
     /// In the order in which they are stored, the properties that are not stored last.
     std::span<const PropertyRow* const> properties;
     /// In the order in which stored properties are read; empty when that is the order of `properties`.
@@ -154,6 +156,8 @@ template <class C>
 /// A class's tables, looked over at compile time: everything in them says what it means.
 [[nodiscard]] consteval ClassInfo complete(const ClassInfo& info)
 {
+    if (info.meaning.empty())
+        mistake("a class has no meaning: say what it is for");
     for (const PropertyRow* row : info.properties) {
         if (row->meaning.empty())
             mistake("a property has no meaning: add .saying(\"...\") to its row");

@@ -36,7 +36,11 @@ QString ControlEntry::name() const { return toQString(m_class.name); }
 
 QString ControlEntry::toolTip() const { return toQString(descriptionOf(m_class.controlClass).toolTip); }
 
-QString ControlEntry::whatsThis() const { return toQString(descriptionOf(m_class.controlClass).whatsThis); }
+QString ControlEntry::whatsThis() const
+{
+    const std::unique_ptr<ZorControl> sample(m_class.create(nullptr));
+    return toQString(sample->info().meaning);
+}
 
 QIcon ControlEntry::icon() const
 {

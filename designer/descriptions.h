@@ -14,7 +14,6 @@ struct Description {
     std::string_view controlClass;
     std::string_view title;
     std::string_view toolTip;
-    std::string_view whatsThis;
 };
 
 /// A class's description; a general one for a class without its own.

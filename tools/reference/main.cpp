@@ -139,7 +139,8 @@ void writeMessages(std::ostream& out, const ClassInfo& info)
 std::string page(const ClassInfo& info)
 {
     std::ostringstream out;
-    out << "# " << info.name << "\n\nWritten from the class's tables by `scripts/reference`.\n\n";
+    out << "# " << info.name << "\n\n"
+        << info.meaning << "\n\nWritten from the class's tables by `scripts/reference`.\n\n";
     writeProperties(out, info);
     writeMethods(out, info);
     writeEvents(out, info);

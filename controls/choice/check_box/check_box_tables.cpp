@@ -59,21 +59,22 @@ struct ctx_ZorCheckBox::Tables {
 const core::ClassInfo& ctx_ZorCheckBox::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info =
-        core::complete({.name = "ctx_ZorCheckBox",
-                        .properties = T::kProperties,
-                        .initialOrder = T::kInitialOrder,
-                        .messages = Rows::kMessages,
-                        .events = T::kEvents,
-                        .raised = {.dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
-                                   .dataModifiedReset = named(T::kEvents, "DataModifiedReset"),
-                                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
-                                   .changed = named(T::kEvents, "CheckClick")},
-                        .methods = controls::ChoiceRows::kMethods,
-                        .states = Rows::kStates,
-                        .effects = controls::ChoiceRows::kEffects,
-                        .widgets = T::kWidgets,
-                        .create = core::created<ctx_ZorCheckBox>});
+    static constexpr core::ClassInfo info = core::complete(
+        {.name = "ctx_ZorCheckBox",
+         .meaning = "Shows and sets one bit of the value, the one whose number is BitFieldEntryIndex.",
+         .properties = T::kProperties,
+         .initialOrder = T::kInitialOrder,
+         .messages = Rows::kMessages,
+         .events = T::kEvents,
+         .raised = {.dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                    .dataModifiedReset = named(T::kEvents, "DataModifiedReset"),
+                    .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                    .changed = named(T::kEvents, "CheckClick")},
+         .methods = controls::ChoiceRows::kMethods,
+         .states = Rows::kStates,
+         .effects = controls::ChoiceRows::kEffects,
+         .widgets = T::kWidgets,
+         .create = core::created<ctx_ZorCheckBox>});
     return info;
 }
 

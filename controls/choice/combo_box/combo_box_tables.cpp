@@ -77,6 +77,8 @@ const core::ClassInfo& ctx_ZorComboBox::classInfo() noexcept
     using T = Tables;
     static constexpr core::ClassInfo info =
         core::complete({.name = "ctx_ZorComboBox",
+                        .meaning = "A drop-down list of the values that a parameter may have. The program fills "
+                                   "it with AddEnumEntry: a name and a value each.",
                         .properties = T::kProperties,
                         .initialOrder = Rows::kStored,
                         .messages = Rows::kMessages,

@@ -75,6 +75,8 @@ const core::ClassInfo& ctx_ZorListBox::classInfo() noexcept
     using T = Tables;
     static constexpr core::ClassInfo info =
         core::complete({.name = "ctx_ZorListBox",
+                        .meaning = "A list with a check mark for each named bit of the value. The program fills "
+                                   "it with AddBitFieldEntry: a name and the number of a bit each.",
                         .properties = T::kProperties,
                         .initialOrder = Rows::kStored,
                         .messages = Rows::kMessages,

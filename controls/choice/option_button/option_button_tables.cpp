@@ -61,6 +61,8 @@ const core::ClassInfo& ctx_ZorOptionButton::classInfo() noexcept
     using T = Tables;
     static constexpr core::ClassInfo info =
         core::complete({.name = "ctx_ZorOptionButton",
+                        .meaning = "A button for one of the values that a parameter may have. Several of them, "
+                                   "each with its EnumEntryValue, offer a choice.",
                         .properties = T::kProperties,
                         .initialOrder = T::kInitialOrder,
                         .messages = Rows::kMessages,

@@ -140,18 +140,21 @@ struct ctx_ZorImage::Tables {
 const core::ClassInfo& ctx_ZorImage::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info = core::complete({.name = "ctx_ZorImage",
-                                                            .properties = T::kProperties,
-                                                            .initialOrder = T::kInitialOrder,
-                                                            .messages = T::kMessages,
-                                                            .events = T::kEvents,
-                                                            .methods = T::kMethods,
-                                                            .states = T::kStates,
-                                                            .effects = T::kEffects,
-                                                            .widgets = T::kWidgets,
-                                                            .subject = T::subject,
-                                                            .boxTitle = T::boxTitle,
-                                                            .create = core::created<ctx_ZorImage>});
+    static constexpr core::ClassInfo info =
+        core::complete({.name = "ctx_ZorImage",
+                        .meaning = "Shows a status word as a picture: one when all is well and another when a bit "
+                                   "is set. A click lists the bits that are.",
+                        .properties = T::kProperties,
+                        .initialOrder = T::kInitialOrder,
+                        .messages = T::kMessages,
+                        .events = T::kEvents,
+                        .methods = T::kMethods,
+                        .states = T::kStates,
+                        .effects = T::kEffects,
+                        .widgets = T::kWidgets,
+                        .subject = T::subject,
+                        .boxTitle = T::boxTitle,
+                        .create = core::created<ctx_ZorImage>});
     return info;
 }
 

@@ -88,16 +88,18 @@ struct ctx_ZorLabel::Tables {
 const core::ClassInfo& ctx_ZorLabel::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info = core::complete({.name = "ctx_ZorLabel",
-                                                            .properties = T::kProperties,
-                                                            .initialOrder = T::kInitialOrder,
-                                                            .messages = T::kMessages,
-                                                            .events = T::kEvents,
-                                                            .methods = T::kMethods,
-                                                            .states = T::kStates,
-                                                            .effects = T::kEffects,
-                                                            .widgets = T::kWidgets,
-                                                            .create = core::created<ctx_ZorLabel>});
+    static constexpr core::ClassInfo info = core::complete(
+        {.name = "ctx_ZorLabel",
+         .meaning = "Shows a value that nobody edits as it comes, as a text with the state icon of every control.",
+         .properties = T::kProperties,
+         .initialOrder = T::kInitialOrder,
+         .messages = T::kMessages,
+         .events = T::kEvents,
+         .methods = T::kMethods,
+         .states = T::kStates,
+         .effects = T::kEffects,
+         .widgets = T::kWidgets,
+         .create = core::created<ctx_ZorLabel>});
     return info;
 }
 

@@ -119,22 +119,23 @@ struct ctx_ZorSlider::Tables {
 const core::ClassInfo& ctx_ZorSlider::classInfo() noexcept
 {
     using T = Tables;
-    static constexpr core::ClassInfo info =
-        core::complete({.name = "ctx_ZorSlider",
-                        .properties = T::kProperties,
-                        .readOrder = T::kOrder,
-                        .initialOrder = T::kOrder,
-                        .messages = Rows::kMessages,
-                        .events = T::kEvents,
-                        .raised = {.invalid = named(T::kEvents, "InvalidValueSetTrue"),
-                                   .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
-                                   .outputValueChange = named(T::kEvents, "OutputValueChange"),
-                                   .changed = named(T::kEvents, "sliderChange")},
-                        .methods = T::kMethods,
-                        .states = T::kStates,
-                        .widgets = T::kWidgets,
-                        .keepsFailedWrites = true,
-                        .create = core::created<ctx_ZorSlider>});
+    static constexpr core::ClassInfo info = core::complete(
+        {.name = "ctx_ZorSlider",
+         .meaning = "Shows a number on a track with ticks and range labels; ScaleFactor says how fine it is.",
+         .properties = T::kProperties,
+         .readOrder = T::kOrder,
+         .initialOrder = T::kOrder,
+         .messages = Rows::kMessages,
+         .events = T::kEvents,
+         .raised = {.invalid = named(T::kEvents, "InvalidValueSetTrue"),
+                    .dataModifiedSetTrue = named(T::kEvents, "DataModifiedSetTrue"),
+                    .outputValueChange = named(T::kEvents, "OutputValueChange"),
+                    .changed = named(T::kEvents, "sliderChange")},
+         .methods = T::kMethods,
+         .states = T::kStates,
+         .widgets = T::kWidgets,
+         .keepsFailedWrites = true,
+         .create = core::created<ctx_ZorSlider>});
     return info;
 }
 

@@ -132,6 +132,9 @@ const core::ClassInfo& ctx_ZorTextBox::classInfo() noexcept
     using T = Tables;
     static constexpr core::ClassInfo info =
         core::complete({.name = "ctx_ZorTextBox",
+                        .meaning = "A text field for a number in a unit, or for a text. Shows the value in "
+                                   "OutputUnit, takes the operator's entry, checks a number against MinValue and "
+                                   "MaxValue and hands it back in the device's unit as OutputValue.",
                         .properties = T::kProperties,
                         .initialOrder = T::kInitialOrder,
                         .messages = T::kMessages,

@@ -62,6 +62,8 @@ const core::ClassInfo& ctx_ZorUpDown::classInfo() noexcept
     using T = Tables;
     static constexpr core::ClassInfo info =
         core::complete({.name = "ctx_ZorUpDown",
+                        .meaning = "Like the text box, for whole numbers that the operator types or steps. An "
+                                   "entry beyond MinValue or MaxValue becomes the limit.",
                         .properties = T::kProperties,
                         .readOrder = T::kOrder,
                         .initialOrder = T::kOrder,
