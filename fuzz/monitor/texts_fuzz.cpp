@@ -9,6 +9,8 @@
 #include <QLabel>
 #include <QTextDocument>
 
+#include <map>
+
 namespace zor::fuzz {
 namespace {
 
@@ -34,24 +36,37 @@ QString shownOn(const QWidget& widget)
     return box == nullptr ? QString() : box->text().replace("&&", "&");
 }
 
+/// A control of each class, that takes one text after the other: making it would take most of the time.
+core::Control& controlOf(const core::ClassInfo& info)
+{
+    struct Shown {
+        explicit Shown(const core::ClassInfo& info) : control(info.create(container))
+        {
+            control->initialiseProperties();
+        }
+        QWidget form;
+        platform::qt::QtContainer container{form, core::pictureData};
+        core::ControlPtr<> control;
+    };
+    static auto& shown = *new std::map<const core::ClassInfo*, Shown>;
+    return *shown.try_emplace(&info, info).first->second.control;
+}
+
 /// A text of a device, a form or a translator in every place that takes one: it is shown as it stands.
 std::string play(std::string_view input)
 {
     static int count = 1;
     static char name[] = "fuzz";
     static char* words[] = {name, nullptr};
-    // Never destroyed: at the program's end Qt's own statics are gone before those of a function.
+    // Never destroyed, as the controls: at the program's end Qt's own statics are gone before those of a function.
     static const auto* const application = new QApplication(count, words);
     static_cast<void>(application);
-    QWidget form;
-    platform::qt::QtContainer container(form, core::pictureData);
     std::string wrong;
     constexpr int kShort = 2000;
     const QString wanted = shownText(input, kShort);
-    // One class a text, by its length: making all nine would take most of the time.
+    // One class a text, by its length.
     const core::ClassInfo& info = *classes().classes()[input.size() % classes().classes().size()];
-    const core::ControlPtr<> control = info.create(container);
-    control->initialiseProperties();
+    core::Control& control = controlOf(info);
     const auto tried = [](auto&& action) {
         try {
             action();
@@ -59,12 +74,14 @@ std::string play(std::string_view input)
             // Not every class has it, and a number is no text.
         }
     };
+    for (const char* method : {"ClearEnumList", "ClearBitFieldList"})
+        tried([&] { control.call(method, {}); });
     for (const char* property :
          {"DeviceTag", "MsgDefault", "CheckBoxCaption", "UnitLabelCaption", "DeviceType", "DeviceValue"})
-        tried([&] { control->setProperty(property, input); });
+        tried([&] { control.setProperty(property, input); });
     for (const char* method : {"AddEnumEntry", "AddBitFieldEntry"})
-        tried([&] { control->call(method, std::vector<Variant>{input, 0}); });
-    const QWidget& face = platform::qt::widgetOf(*control->widget(1));
+        tried([&] { control.call(method, std::vector<Variant>{input, 0}); });
+    const QWidget& face = platform::qt::widgetOf(*control.widget(1));
     if (info.subject == nullptr && read(face.toolTip()) != read(wanted, true))
         wrong.append(info.name).append(": another tooltip: ") += face.toolTip().toStdString();
     if (const QString shown = shownOn(face); !shown.isEmpty() && input.size() < kShort && shown != wanted)
