@@ -31,7 +31,8 @@ execute_process(COMMAND env LC_ALL=C date -u -R -d ${ZOR_RELEASE_DATE} OUTPUT_VA
                 COMMAND_ERROR_IS_FATAL ANY)
 file(WRITE ${generated}/changelog "zorsmartcontrols (${PROJECT_VERSION}) unstable; urgency=medium
 
-  * Version ${PROJECT_VERSION} of ${ZOR_RELEASE_DATE}: see CHANGELOG.md of the sources and of libzorsmartcontrols-dev.
+  * Version ${PROJECT_VERSION} of ${ZOR_RELEASE_DATE}: see CHANGELOG.md of the sources and
+    of libzorsmartcontrols-dev.
 
  -- ${ZOR_MAINTAINER}  ${date}
 ")
