@@ -26,7 +26,9 @@ public:
     /// being dragged hands over each place it passes; what a host writes to the device is for the host to slow
     /// down.
     [[nodiscard]] std::optional<Variant> take();
-    /// A value of the device's has come that raised no OutputValueChange, for it could not be shown.
+    /// What was handed over has not reached the device, or a value of the device's has come that raised no
+    /// OutputValueChange, for it could not be shown: an edit that still stands is handed over anew when the
+    /// operator leaves it the next time.
     void forget() noexcept;
 
 private:
