@@ -112,7 +112,7 @@ struct Cell {
 /// Number of units of a type.
 constexpr std::size_t unitsOf(const units::UnitTypeRow& type)
 {
-    return static_cast<std::size_t>(type.last - type.first + 1);
+    return static_cast<std::size_t>(std::int64_t{type.last} - type.first + 1);
 }
 
 constexpr std::size_t kMostUnits = unitsOf(*std::ranges::max_element(units::kUnitTypes, {}, unitsOf));
