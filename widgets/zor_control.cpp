@@ -11,7 +11,6 @@
 #include <QAbstractSlider>
 #include <QCoreApplication>
 #include <QFocusEvent>
-#include <QLineEdit>
 #include <QMetaMethod>
 #include <QMetaProperty>
 #include <QPainter>

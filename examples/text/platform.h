@@ -162,36 +162,7 @@ private:
     int m_picture = 0;
 };
 
-/// A whole number between two ends. `WholeRange` cuts it as every platform does.
-template <class Interface>
-class Ranged : public Basic<Interface> {
-public:
-    using Basic<Interface>::Basic;
-
-    [[nodiscard]] std::int32_t value() const override { return m_range.value; }
-    void setValue(std::int32_t value) override
-    {
-        if (m_range.moveTo(value))
-            this->report(Notice::Change);
-    }
-    [[nodiscard]] std::int32_t minimum() const override { return m_range.minimum; }
-    [[nodiscard]] std::int32_t maximum() const override { return m_range.maximum; }
-    void setMinimum(std::int32_t minimum) override
-    {
-        m_range.minimum = minimum;
-        setValue(m_range.value);
-    }
-    void setMaximum(std::int32_t maximum) override
-    {
-        m_range.maximum = maximum;
-        setValue(m_range.value);
-    }
-
-protected:
-    WholeRange m_range;
-};
-
-class Spin final : public Ranged<SpinButton> {
+class Spin final : public Ranged<Basic<SpinButton>> {
 public:
     using Ranged::Ranged;
 
@@ -201,7 +172,7 @@ public:
     [[nodiscard]] std::string shown() const override { return "-/+"; }
 };
 
-class Handle final : public Worked<Ranged<Track>> {
+class Handle final : public Worked<Ranged<Basic<Track>>> {
 public:
     using Worked::Worked;
 
