@@ -3,8 +3,8 @@
 /// What the program is told when it is started.
 
 #include <zor/monitor/device/device.h>
+#include <zor/monitor/program/settings_commands.h>
 #include <zor/monitor/session/unit_system.h>
-#include <zor/monitor/settings/settings_commands.h>
 
 #include <string>
 #include <vector>

@@ -1,5 +1,5 @@
+#include <zor/monitor/language/words.h>
 #include <zor/monitor/program/outcome.h>
-#include <zor/monitor/ui/words.h>
 
 #include <iostream>
 

@@ -2,8 +2,8 @@
 
 /// The program with its window.
 
+#include <zor/monitor/language/languages.h>
 #include <zor/monitor/program/options.h>
-#include <zor/monitor/ui/languages.h>
 
 namespace zor::monitor {
 

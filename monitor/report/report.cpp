@@ -1,9 +1,9 @@
+#include <zor/monitor/language/words.h>
 #include <zor/monitor/report/report.h>
 #include <zor/monitor/report/report_pages.h>
 #include <zor/monitor/report/report_writer.h>
 #include <zor/monitor/session/value_texts.h>
 #include <zor/monitor/settings/comparison.h>
-#include <zor/monitor/ui/words.h>
 #include <zor/platform/version.h>
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #include <zor/monitor/data/message.h>
+#include <zor/monitor/language/words.h>
 #include <zor/monitor/scan/scan_command.h>
 #include <zor/monitor/session/frame_file.h>
-#include <zor/monitor/ui/words.h>
 
 #include <QEventLoop>
 

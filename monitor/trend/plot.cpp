@@ -1,5 +1,5 @@
+#include <zor/monitor/language/words.h>
 #include <zor/monitor/trend/plot.h>
-#include <zor/monitor/ui/words.h>
 
 #include <QCoreApplication>
 #include <QDateTime>

@@ -1,7 +1,7 @@
 // The plot outside the window, and its colors.
 
+#include <zor/monitor/language/words.h>
 #include <zor/monitor/trend/plot.h>
-#include <zor/monitor/ui/words.h>
 
 #include <QDateTime>
 #include <QLocale>

@@ -1,8 +1,8 @@
+#include <zor/monitor/language/words.h>
+#include <zor/monitor/parts/framed_marks.h>
 #include <zor/monitor/trend/trend_chooser.h>
 #include <zor/monitor/trend/trend_dock.h>
 #include <zor/monitor/trend/trend_export.h>
-#include <zor/monitor/ui/framed_marks.h>
-#include <zor/monitor/ui/words.h>
 #include <zor/platform/qt/looks.h>
 
 #include <QAction>

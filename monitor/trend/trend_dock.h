@@ -2,8 +2,8 @@
 
 /// The dock "Trend": the plot, what can be done with it, and its curves as a list.
 
+#include <zor/monitor/language/languages.h>
 #include <zor/monitor/trend/plot_widget.h>
-#include <zor/monitor/ui/languages.h>
 
 #include <QCoreApplication>
 #include <QDockWidget>

@@ -1,6 +1,6 @@
+#include <zor/monitor/language/words.h>
 #include <zor/monitor/session/value_texts.h>
 #include <zor/monitor/ui/device_panel.h>
-#include <zor/monitor/ui/words.h>
 
 #include <QApplication>
 #include <QClipboard>

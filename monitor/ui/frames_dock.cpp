@@ -1,6 +1,6 @@
+#include <zor/monitor/language/words.h>
 #include <zor/monitor/ui/frames_dock.h>
 #include <zor/monitor/ui/window.h>
-#include <zor/monitor/ui/words.h>
 
 #include <QApplication>
 #include <QBoxLayout>

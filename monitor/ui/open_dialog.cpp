@@ -1,4 +1,4 @@
-#include <zor/monitor/ui/framed_marks.h>
+#include <zor/monitor/parts/framed_marks.h>
 #include <zor/monitor/ui/open_dialog.h>
 #include <zor/monitor/ui/scan_dialog.h>
 

@@ -1,6 +1,6 @@
-#include <zor/monitor/ui/framed_marks.h>
+#include <zor/monitor/language/words.h>
+#include <zor/monitor/parts/framed_marks.h>
 #include <zor/monitor/ui/review_dialog.h>
-#include <zor/monitor/ui/words.h>
 
 #include <QCheckBox>
 #include <QDialogButtonBox>

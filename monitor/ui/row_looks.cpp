@@ -1,8 +1,8 @@
 #include <zor/monitor/data/codec.h>
+#include <zor/monitor/language/words.h>
 #include <zor/monitor/session/value_texts.h>
 #include <zor/monitor/ui/no_value_veil.h>
 #include <zor/monitor/ui/row_looks.h>
-#include <zor/monitor/ui/words.h>
 #include <zor/platform/error.h>
 #include <zor/platform/qt/container.h>
 #include <zor/platform/qt/looks.h>

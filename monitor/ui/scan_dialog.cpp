@@ -1,6 +1,6 @@
+#include <zor/monitor/language/words.h>
 #include <zor/monitor/scan/scan_command.h>
 #include <zor/monitor/ui/scan_dialog.h>
-#include <zor/monitor/ui/words.h>
 #include <zor/platform/qt/looks.h>
 
 #include <QBoxLayout>

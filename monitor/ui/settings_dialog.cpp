@@ -1,7 +1,7 @@
-#include <zor/monitor/ui/framed_marks.h>
-#include <zor/monitor/ui/kept_return.h>
+#include <zor/monitor/language/words.h>
+#include <zor/monitor/parts/framed_marks.h>
+#include <zor/monitor/parts/kept_return.h>
 #include <zor/monitor/ui/settings_dialog.h>
-#include <zor/monitor/ui/words.h>
 #include <zor/platform/qt/looks.h>
 
 #include <QComboBox>

@@ -1,5 +1,5 @@
+#include <zor/monitor/language/words.h>
 #include <zor/monitor/ui/settings_transfer.h>
-#include <zor/monitor/ui/words.h>
 
 #include <QDate>
 #include <QFileDialog>

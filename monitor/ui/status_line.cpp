@@ -1,5 +1,5 @@
+#include <zor/monitor/language/words.h>
 #include <zor/monitor/ui/status_line.h>
-#include <zor/monitor/ui/words.h>
 
 #include <QLocale>
 #include <QPainter>

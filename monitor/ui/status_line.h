@@ -2,8 +2,8 @@
 
 /// What the status bar says: how the connection stands, what has just been done, how fast the device answers.
 
+#include <zor/monitor/parts/elided_label.h>
 #include <zor/monitor/session/session.h>
-#include <zor/monitor/ui/elided_label.h>
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

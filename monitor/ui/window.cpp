@@ -1,5 +1,5 @@
+#include <zor/monitor/language/words.h>
 #include <zor/monitor/ui/window.h>
-#include <zor/monitor/ui/words.h>
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -2,12 +2,12 @@
 
 /// The monitor's window.
 
-#include <zor/monitor/report/report_maker.h>
+#include <zor/monitor/language/languages.h>
 #include <zor/monitor/trend/trend_dock.h>
 #include <zor/monitor/ui/control_menu.h>
 #include <zor/monitor/ui/device_list.h>
 #include <zor/monitor/ui/device_panel.h>
-#include <zor/monitor/ui/languages.h>
+#include <zor/monitor/ui/report_maker.h>
 #include <zor/monitor/ui/search_field.h>
 #include <zor/monitor/ui/status_line.h>
 

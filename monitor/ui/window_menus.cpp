@@ -1,10 +1,10 @@
 // The window's menus. They are made anew with every language.
 
+#include <zor/monitor/language/words.h>
 #include <zor/monitor/ui/open_dialog.h>
 #include <zor/monitor/ui/scan_dialog.h>
 #include <zor/monitor/ui/tool_icons.h>
 #include <zor/monitor/ui/window.h>
-#include <zor/monitor/ui/words.h>
 #include <zor/platform/version.h>
 #include <zor/units/unit_catalogue.h>
 

@@ -1,5 +1,5 @@
-#include <zor/monitor/report/report_dialog.h>
-#include <zor/monitor/ui/framed_marks.h>
+#include <zor/monitor/parts/framed_marks.h>
+#include <zor/monitor/ui/report_dialog.h>
 
 #include <QCheckBox>
 #include <QDialogButtonBox>

@@ -1,4 +1,4 @@
-#include <zor/monitor/ui/languages.h>
+#include <zor/monitor/language/languages.h>
 #include <zor/platform/qt/qt_regional.h>
 
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include <zor/monitor/ui/words.h>
+#include <zor/monitor/language/words.h>
 #include <zor/units/mod_Common.h>
 #include <zor/units/unit_catalogue.h>
 

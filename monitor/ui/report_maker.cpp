@@ -1,5 +1,5 @@
-#include <zor/monitor/report/report_dialog.h>
-#include <zor/monitor/report/report_maker.h>
+#include <zor/monitor/ui/report_dialog.h>
+#include <zor/monitor/ui/report_maker.h>
 
 #include <QDate>
 #include <QFileDialog>

@@ -1,8 +1,8 @@
 #include <zor/monitor/data/message.h>
+#include <zor/monitor/language/words.h>
+#include <zor/monitor/program/settings_commands.h>
 #include <zor/monitor/settings/comparison.h>
-#include <zor/monitor/settings/settings_commands.h>
 #include <zor/monitor/settings/survey.h>
-#include <zor/monitor/ui/words.h>
 #include <zor/units/mod_Common.h>
 
 #include <QCoreApplication>
