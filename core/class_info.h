@@ -68,7 +68,7 @@ struct RaisedEvents {
     const EventRow* dataModifiedSetTrue = nullptr;
     const EventRow* dataModifiedReset = nullptr;
     const EventRow* outputValueChange = nullptr;
-    const EventRow* changed = nullptr; ///< what the operator sees was changed, by whomever; after all that follows
+    const EventRow* changed = nullptr; ///< what the operator sees was changed, by whomever; the row says when
 };
 
 /// Where a class's write of a shared property refreshes something else than the row says.

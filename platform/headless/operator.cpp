@@ -2,6 +2,7 @@
 #include <zor/platform/headless/menu.h>
 #include <zor/platform/headless/operator.h>
 #include <zor/platform/headless/simple_widgets.h>
+#include <zor/platform/temporarily.h>
 #include <zor/platform/text.h>
 
 #include <algorithm>
@@ -155,9 +156,10 @@ bool HeadlessOperator::moveFocus(Host& window, Widget* widget)
         if (auto* field = dynamic_cast<TextField*>(old))
             field->select(field->selectionStart() + field->selectionLength(), 0);
         bool cancel = false;
-        m_validating = true;
-        base(*old).report(Notice::Validate, std::array<ArgRef, 1>{&cancel});
-        m_validating = false;
+        {
+            const Temporarily validating(m_validating, true);
+            base(*old).report(Notice::Validate, std::array<ArgRef, 1>{&cancel});
+        }
         // Nobody can go on working in what is hidden: that is left, whatever the host says.
         if (cancel && old->isVisible())
             return false;

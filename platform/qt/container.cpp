@@ -5,6 +5,7 @@
 #include <zor/platform/qt/range_widgets.h>
 #include <zor/platform/qt/simple_widgets.h>
 #include <zor/platform/qt/text_field.h>
+#include <zor/platform/temporarily.h>
 
 #include <QDebug>
 #include <QMenu>
@@ -114,9 +115,8 @@ public:
     // from pixels.
     void setGeometry(const Rect& geometry) override
     {
-        m_setting = true;
+        const Temporarily setting(m_setting, true);
         QtBase::setGeometry(geometry);
-        m_setting = false;
     }
 
     [[nodiscard]] std::unique_ptr<TextField> createTextField(int number) override

@@ -1,5 +1,6 @@
 #include <zor/platform/operator.h>
 #include <zor/platform/qt/entry_lists.h>
+#include <zor/platform/temporarily.h>
 
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -69,9 +70,8 @@ void DropDownList::showPopup()
                 onScroll();
         });
     }
-    m_isOpening = true;
+    const Temporarily opening(m_isOpening, true);
     QComboBox::showPopup();
-    m_isOpening = false;
 }
 
 void DropDownList::wheelEvent(QWheelEvent* event)
@@ -210,9 +210,8 @@ bool CheckList::viewportEvent(QEvent* event)
 template <class Handle>
 void CheckList::withMouse(Handle&& handle)
 {
-    m_isMouseAtWork = true;
+    const Temporarily atWork(m_isMouseAtWork, true);
     handle();
-    m_isMouseAtWork = false;
 }
 
 // Other buttons than the left one change nothing.
@@ -243,11 +242,10 @@ void CheckList::focusInEvent(QFocusEvent* event)
 {
     // Qt makes the first entry the current one of a list that has none. Nobody has chosen it.
     const bool hadCurrent = currentIndex().isValid();
-    m_isComing = true;
+    const Temporarily coming(m_isComing, true);
     QListView::focusInEvent(event);
     if (!hadCurrent)
         makeCurrent({}, false);
-    m_isComing = false;
 }
 
 // --- List box

@@ -3,6 +3,7 @@
 /// What all widgets of the Qt platform share: the settings behind the interface.
 
 #include <zor/platform/qt/reports.h>
+#include <zor/platform/temporarily.h>
 
 #include <string>
 #include <vector>
@@ -150,9 +151,8 @@ protected:
     {
         if (isSeenAs(*m_widget, palette))
             return;
-        const bool before = std::exchange(isColouring, true);
+        const Temporarily colouring(isColouring, true);
         m_widget->setPalette(palette);
-        isColouring = before;
     }
 
     /// Gives a widget that is made later what its kind is given at the beginning.

@@ -4,6 +4,7 @@
 
 #include <zor/platform/qt/qt_widget.h>
 #include <zor/platform/qt/text_field.h>
+#include <zor/platform/temporarily.h>
 #include <zor/platform/whole_range.h>
 
 #include <QSlider>
@@ -153,9 +154,8 @@ private:
     template <class Action>
     void set(Action&& action)
     {
-        const bool before = std::exchange(m_setting, true);
+        const Temporarily setting(m_setting, true);
         action();
-        m_setting = before;
     }
     /// Who hears of it may show another value, or freeze the track: then the hand has lost the handle. Where he
     /// moves an end, Qt has forgotten where the hand is.

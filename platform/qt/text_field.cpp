@@ -1,4 +1,5 @@
 #include <zor/platform/qt/text_field.h>
+#include <zor/platform/temporarily.h>
 #include <zor/platform/text.h>
 
 #include <QContextMenuEvent>
@@ -127,14 +128,13 @@ void QtTextField::setText(std::string_view text)
 
 void QtTextField::showText(std::size_t caret)
 {
-    m_setting = true;
+    const Temporarily setting(m_setting, true);
     const QString shown = shownText(m_text, kShownLimit);
     m_cut = shown.size() > kShownLimit;
     if (m_cut)
         widget().takeAnyLength();
     widget().setText(shown);
     widget().setCursorPosition(units(caret));
-    m_setting = false;
     applyLock();
 }
 

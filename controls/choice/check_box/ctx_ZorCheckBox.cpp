@@ -1,7 +1,6 @@
 #include <zor/controls/choice/bit_mask.h>
 #include <zor/controls/choice/check_box/check_box_rows.h>
-
-#include <utility>
+#include <zor/platform/temporarily.h>
 
 namespace zor {
 namespace {
@@ -59,9 +58,8 @@ void ctx_ZorCheckBox::s_ApplyModifiedValue(std::int32_t value)
 
 void ctx_ZorCheckBox::setChecked(bool checked)
 {
-    const bool outer = std::exchange(m_isSetting, true);
+    const platform::Temporarily setting(m_isSetting, true);
     m_check->setOn(checked);
-    m_isSetting = outer;
 }
 
 // --- The operator

@@ -1,4 +1,5 @@
 #include <zor/controls/choice/combo_box/combo_box_rows.h>
+#include <zor/platform/temporarily.h>
 
 namespace zor {
 namespace {
@@ -125,9 +126,8 @@ void ctx_ZorComboBox::s_Layout()
 void ctx_ZorComboBox::AddEnumEntry(std::string_view Identifier, std::int32_t EnumEntryValue)
 {
     m_entries.append(Identifier, EnumEntryValue);
-    m_isAdding = true;
+    const platform::Temporarily adding(m_isAdding, true);
     m_combo->setCurrent(m_combo->count() - 1);
-    m_isAdding = false;
 }
 
 void ctx_ZorComboBox::ClearEnumList() { m_entries.clear(); }

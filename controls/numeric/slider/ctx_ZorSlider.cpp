@@ -1,6 +1,7 @@
 #include <zor/controls/numeric/slider/slider_rows.h>
 #include <zor/platform/error.h>
 #include <zor/platform/number_text.h>
+#include <zor/platform/temporarily.h>
 
 #include <algorithm>
 #include <cmath>
@@ -9,22 +10,9 @@
 namespace zor {
 
 using platform::Notice;
+using platform::Temporarily;
 
 namespace {
-
-/// Sets a variable for the length of a scope.
-template <class T>
-class Temporarily {
-public:
-    Temporarily(T& variable, T value) : m_variable(variable), m_old(std::exchange(variable, value)) {}
-    ~Temporarily() { m_variable = m_old; }
-    Temporarily(const Temporarily&) = delete;
-    Temporarily& operator=(const Temporarily&) = delete;
-
-private:
-    T& m_variable;
-    T m_old;
-};
 
 double finite(double value)
 {

@@ -1,5 +1,6 @@
 #include <zor/controls/numeric/text_box/text_box_rows.h>
 #include <zor/platform/regional.h>
+#include <zor/platform/temporarily.h>
 
 #include <bit>
 
@@ -95,9 +96,8 @@ void ctx_ZorTextBox::show(const Variant& value)
 
 void ctx_ZorTextBox::setText(std::string_view text)
 {
-    m_isShowing = true;
+    const platform::Temporarily showing(m_isShowing, true);
     m_field.text().setText(text);
-    m_isShowing = false;
 }
 
 void ctx_ZorTextBox::assignOutput(const Variant& value)

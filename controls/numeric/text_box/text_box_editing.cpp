@@ -2,6 +2,7 @@
 
 #include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
 #include <zor/platform/error.h>
+#include <zor/platform/temporarily.h>
 #include <zor/platform/text.h>
 
 namespace zor {
@@ -135,9 +136,10 @@ void ctx_ZorTextBox::undoEdit()
         return;
     const auto underWay = newValue();
     m_source = Source::Device;
-    m_isUndoing = true;
-    show(m_displayValue);
-    m_isUndoing = false;
+    {
+        const platform::Temporarily undoing(m_isUndoing, true);
+        show(m_displayValue);
+    }
     if (isOvertaken(underWay))
         return;
     // A field that shows the device's value already does not report: the flag came from elsewhere.

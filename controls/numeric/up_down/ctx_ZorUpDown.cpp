@@ -1,6 +1,7 @@
 #include <zor/controls/numeric/up_down/up_down_rows.h>
 #include <zor/platform/error.h>
 #include <zor/platform/number_text.h>
+#include <zor/platform/temporarily.h>
 
 #include <algorithm>
 #include <array>
@@ -106,9 +107,8 @@ void ctx_ZorUpDown::ModifiedValue(std::int32_t value)
 
 void ctx_ZorUpDown::showText(std::string_view text)
 {
-    m_isShowing = true;
+    const platform::Temporarily showing(m_isShowing, true);
     writeWidget([&] { m_field.text().setText(text); });
-    m_isShowing = false;
 }
 
 void ctx_ZorUpDown::showNumber(std::int32_t number)
@@ -179,15 +179,16 @@ void ctx_ZorUpDown::s_UpdateSpin()
     const std::int32_t before = m_spin->value();
     // Ends and value are one step: who hears of it finds both, and may write any value of the new unit. An end
     // that does not fit stays where it holds nothing back.
-    m_isSpinQuiet = true;
-    spinFrom(std::min(m_spin->minimum(), target));
-    spinUpTo(std::max(m_spin->maximum(), target));
-    spinTo(target);
-    if (fits(m_units.minParam))
-        spinFrom(lower);
-    if (fits(m_units.maxParam))
-        spinUpTo(upper);
-    m_isSpinQuiet = false;
+    {
+        const platform::Temporarily quiet(m_isSpinQuiet, true);
+        spinFrom(std::min(m_spin->minimum(), target));
+        spinUpTo(std::max(m_spin->maximum(), target));
+        spinTo(target);
+        if (fits(m_units.minParam))
+            spinFrom(lower);
+        if (fits(m_units.maxParam))
+            spinUpTo(upper);
+    }
     if (m_spin->value() != before)
         forward(upd_UpDown, Notice::Change, {});
     // What does not fit is told.
@@ -252,9 +253,8 @@ void ctx_ZorUpDown::onSpin()
 {
     if (isInputLocked() || m_stepOvertaken) {
         // The step is undone without a word: the host has not seen a value change.
-        m_isSpinQuiet = true;
+        const platform::Temporarily quiet(m_isSpinQuiet, true);
         spinTo(m_spinValue);
-        m_isSpinQuiet = false;
         return;
     }
     const auto underWay = valueUnderWay();
