@@ -196,19 +196,43 @@ void Form::keepOnly(const std::function<bool(const Item&)>& keep)
 
 string Form::text() const { return markupOf(m_document->xml); }
 
+namespace {
+
+/// A name beside a file that nothing has.
+std::filesystem::path nameBeside(const std::filesystem::path& file)
+{
+    std::filesystem::path beside;
+    int number = 0;
+    std::error_code ignored;
+    do {
+        beside = file;
+        beside += number == 0 ? ".new" : ".new" + std::to_string(number);
+        ++number;
+    } while (std::filesystem::exists(std::filesystem::symlink_status(beside, ignored)));
+    return beside;
+}
+
+} // namespace
+
 void Form::write(const std::filesystem::path& file) const
 {
+    // What a link leads to is written, the link stays.
+    std::error_code failure;
+    std::filesystem::path target = std::filesystem::weakly_canonical(file, failure);
+    if (failure)
+        target = file;
     // Beside the file first: a full disk leaves the old form as it was.
-    std::filesystem::path beside = file;
-    beside += ".new";
+    const std::filesystem::path beside = nameBeside(target);
     std::ofstream out(beside, std::ios::binary | std::ios::trunc);
     out << text();
     out.close();
-    std::error_code failure;
+    std::error_code ignored;
+    if (const auto old = std::filesystem::status(target, ignored); std::filesystem::exists(old))
+        std::filesystem::permissions(beside, old.permissions(), ignored);
+    failure.clear();
     if (out)
-        std::filesystem::rename(beside, file, failure);
+        std::filesystem::rename(beside, target, failure);
     if (!out || failure) {
-        std::error_code ignored;
         std::filesystem::remove(beside, ignored);
         throw FormError(file.string(), 0, "cannot be written");
     }

@@ -11,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -116,6 +117,26 @@ TEST(FormFile, WhatIsNotTouchedKeepsEveryByte)
 }
 
 /// A control with random settings, written and opened again, has the same settings.
+TEST(FormFile, ALinkStaysALinkAndAStrangersFileAsItWas)
+{
+    namespace fs = std::filesystem;
+    const fs::path folder = fs::path(testing::TempDir()) / "zor-form-links";
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    const std::string text = "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"a\"/></ui>\n";
+    std::ofstream(folder / "real.ui") << "old";
+    std::ofstream(folder / "real.ui.new") << "somebody else's";
+    fs::permissions(folder / "real.ui", fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_symlink("real.ui", folder / "link.ui");
+    Form::parse(classes(), text, "f").write(folder / "link.ui");
+    EXPECT_TRUE(fs::is_symlink(folder / "link.ui"));
+    EXPECT_EQ(contents(folder / "real.ui"), text);
+    EXPECT_EQ(fs::status(folder / "real.ui").permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(contents(folder / "real.ui.new"), "somebody else's");
+    EXPECT_THROW(Form::parse(classes(), text, "f").write(folder / "no" / "a.ui"), FormError);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 3) << "something is left over";
+}
+
 TEST(FormFile, EveryClassSurvivesARandomRound)
 {
     tests::Random random;
