@@ -8,6 +8,7 @@
 #include <zor/platform/temporarily.h>
 
 #include <QDebug>
+#include <QGridLayout>
 #include <QMenu>
 #include <QMessageBox>
 
@@ -91,6 +92,9 @@ public:
     QtSurface(const Context& context, Twips width, Twips height) : QtBase(context, kSurfaceWidget, ButtonFace)
     {
         setGeometry({0, 0, width, height});
+        // A control is laid out from the left; in a form that reads from the right, a track alone would turn
+        // round.
+        widget().setLayoutDirection(Qt::LeftToRight);
         m_inner = context;
         m_inner.surface = &widget();
         showNow(widget());
@@ -222,6 +226,24 @@ std::string_view QtContainer::picture(int index) const noexcept
                : std::string_view{};
 }
 
+namespace {
+
+/// A box is as wide as its text; the title, which names the parameter, may be longer.
+void widenToTitle(QMessageBox& box)
+{
+    constexpr int kButtons = 12; ///< of the frame, in heights of a line, with what else stands in the title bar
+    constexpr int kMost = 60;
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (grid == nullptr)
+        return;
+    const QFontMetrics metrics = box.fontMetrics();
+    const int wanted = metrics.horizontalAdvance(box.windowTitle()) + kButtons * metrics.height();
+    grid->addItem(new QSpacerItem(std::min(wanted, kMost * metrics.height()), 0), grid->rowCount(), 0, 1,
+                  grid->columnCount());
+}
+
+} // namespace
+
 void QtContainer::showMessage(Component& component, const MessageBox& box)
 {
     if (onMessage) {
@@ -235,6 +257,7 @@ void QtContainer::showMessage(Component& component, const MessageBox& box)
                         QMessageBox::Ok, &m_parent);
     message.setTextFormat(Qt::PlainText);
     message.setText(shownText(box.text, kTextLimit));
+    widenToTitle(message);
     message.exec();
 }
 

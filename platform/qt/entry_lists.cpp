@@ -2,8 +2,10 @@
 #include <zor/platform/qt/entry_lists.h>
 #include <zor/platform/temporarily.h>
 
+#include <QHelpEvent>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -146,6 +148,16 @@ public:
     {
         constexpr int kRoom = 4;
         return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kRoom);
+    }
+    /// An entry that is cut off is told in full.
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override
+    {
+        if (event->type() != QEvent::ToolTip || !index.isValid() ||
+            sizeHint(option, index).width() <= view->viewport()->width())
+            return QStyledItemDelegate::helpEvent(event, view, option, index);
+        QToolTip::showText(event->globalPos(), plainToolTip(index.data().toString().toStdString()), view);
+        return true;
     }
 };
 
