@@ -58,7 +58,7 @@ int run(int argc, char** argv)
 int main(int argc, char** argv)
 {
     try {
-        return run(argc, argv);
+        return withOutput(run(argc, argv));
     } catch (const FileError& error) {
         return fail(kUsage, error.what());
     } catch (const AddressError& error) {

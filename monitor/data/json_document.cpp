@@ -4,9 +4,10 @@
 #include <QtGlobal>
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
 #include <cstddef>
 #include <iterator>
+#include <unordered_set>
+#include <utility>
 
 namespace zor::monitor {
 namespace {
@@ -72,8 +73,7 @@ public:
     bool end_array() { return close(); }
     bool key(std::string& name)
     {
-        auto& object = std::get<JsonNode::Object>(m_open.back()->value);
-        if (std::ranges::find(object, name, &JsonMember::name) != object.end())
+        if (!m_open.back().names.insert(name).second)
             fail(QT_TRANSLATE_NOOP("texts", "\"%1\" stands twice"), {name});
         m_key = std::move(name);
         return true;
@@ -91,6 +91,10 @@ public:
 private:
     static constexpr std::size_t kShown = 40;
     using Value = decltype(JsonNode::value);
+    struct Level {
+        JsonNode* node;
+        std::unordered_set<std::string> names; ///< of an object's members
+    };
 
     [[noreturn]] void fail(const char* english, std::initializer_list<std::string> parts = {}) const
     {
@@ -106,7 +110,7 @@ private:
         if (m_open.size() >= kDeepest)
             fail(QT_TRANSLATE_NOOP("texts", "nested too deeply"));
         // A list grows only while its newest element is closed, so the pointers stay good.
-        m_open.push_back(&place(std::move(value)));
+        m_open.push_back({&place(std::move(value)), {}});
         return true;
     }
     bool close()
@@ -119,9 +123,9 @@ private:
         JsonNode node{std::move(value), m_count.line};
         if (m_open.empty())
             return m_root = std::move(node);
-        if (auto* array = std::get_if<JsonNode::Array>(&m_open.back()->value))
+        if (auto* array = std::get_if<JsonNode::Array>(&m_open.back().node->value))
             return array->emplace_back(std::move(node));
-        auto& object = std::get<JsonNode::Object>(m_open.back()->value);
+        auto& object = std::get<JsonNode::Object>(m_open.back().node->value);
         object.push_back({std::move(m_key), std::move(node)});
         return object.back().value;
     }
@@ -129,7 +133,7 @@ private:
     const std::string& m_file;
     const LineCount& m_count;
     JsonNode m_root;
-    std::vector<JsonNode*> m_open;
+    std::vector<Level> m_open;
     std::string m_key;
 };
 

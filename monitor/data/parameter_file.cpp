@@ -1,5 +1,6 @@
 #include <zor/monitor/data/codec.h>
 #include <zor/monitor/data/json_fields.h>
+#include <zor/monitor/data/language_rows.h>
 #include <zor/monitor/data/parameter_file.h>
 #include <zor/monitor/data/parameter_rules.h>
 #include <zor/units/mod_Common.h>
@@ -13,7 +14,6 @@ namespace zor::monitor {
 namespace {
 
 constexpr int kLastAddress = 65535;
-constexpr int kHighestNamedBit = 30; ///< that a control can show
 
 LocalText readText(const Value& value)
 {
@@ -21,9 +21,9 @@ LocalText readText(const Value& value)
         return LocalText({{"en", value.text()}});
     std::map<std::string, std::string> texts;
     Fields fields = value.object();
-    for (const std::string_view language : {"en", "de", "fr"}) {
-        if (const auto text = fields.take(language))
-            texts.emplace(language, text->text());
+    for (const LanguageRow& language : kLanguages) {
+        if (const auto text = fields.take(language.code))
+            texts.emplace(language.code, text->text());
     }
     fields.finish();
     if (texts.empty())
@@ -217,7 +217,7 @@ Parameter readParameter(const Value& value)
     if (const auto entries = named("entries", integer || location.type == ValueType::Bit))
         parameter.entries = readEntries(*entries, "value", INT32_MIN, INT32_MAX);
     if (const auto bits = named("bits", integer))
-        parameter.bits = readEntries(*bits, "bit", 0, std::min(location.registers * 16 - 1, kHighestNamedBit));
+        parameter.bits = readEntries(*bits, "bit", 0, std::min(location.registers * 16 - 1, kHighestBit));
     readAppearance(fields, parameter);
     if (parameter.appearance.control.empty())
         parameter.appearance.control = usualControl(parameter);
@@ -331,6 +331,10 @@ ParameterFile readParameterFile(std::string_view text, const std::string& name)
     }
     if (const auto requests = fields.take("requests"))
         file.requests = readRequests(*requests);
+    for (const auto& part : {file.identity.type, file.identity.version}) {
+        if (part && part->registers > file.requests.registers)
+            whole.fail(QT_TRANSLATE_NOOP("texts", "the identity is longer than a request may be"));
+    }
     std::set<std::string> tags;
     for (const Value& value : fields.need("parameters").array()) {
         file.parameters.push_back(readParameter(value));

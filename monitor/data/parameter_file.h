@@ -101,6 +101,13 @@ struct Parameter {
     Appearance appearance;
     Simulation simulation;
     int line = 0;
+
+    /// What people call it in a language: its caption, or its tag where it has none.
+    [[nodiscard]] const std::string& captionIn(const std::string& language) const
+    {
+        const std::string& caption = appearance.caption.in(language);
+        return caption.empty() ? tag : caption;
+    }
 };
 
 /// Where a device says what it is.
@@ -111,6 +118,7 @@ struct Identity {
     Simulation simulatedVersion;
 };
 
+inline constexpr int kHighestBit = 30;          ///< of a bit field or a flag, that a control can show
 inline constexpr int kMostReadRegisters = 125;  ///< of one request
 inline constexpr int kMostWriteRegisters = 123; ///< of one request
 inline constexpr int kMostReadBits = 2000;      ///< of one request

@@ -29,6 +29,13 @@ void Device::connectTo(const QString& address)
 {
     m_session.connectTo(endpointOf(address));
     m_entry.address = address;
+    m_simulator.reset();
+}
+
+void Device::setPeriod(int milliseconds)
+{
+    m_entry.period = milliseconds;
+    m_session.setPeriod(milliseconds);
 }
 
 void Device::start()

@@ -15,6 +15,11 @@ namespace zor::monitor {
 /// The address of a device that the program simulates.
 inline constexpr const char* kSimulated = "simulated";
 
+/// In milliseconds: what an entry may have as its time from poll to poll, and at least for a whole reply.
+inline constexpr int kShortestPeriod = 100;
+inline constexpr int kLongestPeriod = 60000;
+inline constexpr int kShortestTimeout = 10;
+
 /// What it takes to monitor a device, as a command line or an operator says it.
 struct DeviceEntry {
     QString name{};       ///< for people; empty: the title of the parameter file
@@ -44,6 +49,9 @@ public:
 
     /// Goes on with the device at another address. Raises AddressError.
     void connectTo(const QString& address);
+
+    /// Another time from poll to poll, which the entry has too from then on.
+    void setPeriod(int milliseconds);
 
     [[nodiscard]] const DeviceEntry& entry() const { return m_entry; }
     [[nodiscard]] Session& session() { return m_session; }

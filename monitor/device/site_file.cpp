@@ -18,7 +18,6 @@ namespace {
 constexpr std::string_view kSiteFormat = "zor-site";
 constexpr int kSiteVersion = 1;
 constexpr int kMostDevices = 200; ///< each has a connection of its own
-constexpr int kLongest = 60000;   ///< milliseconds
 
 /// A member that names a file.
 struct FileRow {
@@ -41,14 +40,12 @@ QString textIn(const Value& value)
 
 DeviceEntry readEntry(const Value& value, const QDir& folder)
 {
-    constexpr int kShortestPeriod = 100;
-    constexpr int kShortestTimeout = 10;
     Fields fields = value.object();
     DeviceEntry entry;
     const Value address = fields.need("address");
     entry.address = textIn(address);
     try {
-        (void)openLink(entry.address == kSimulated ? "localhost" : entry.address, kLongest);
+        (void)openLink(entry.address == kSimulated ? "localhost" : entry.address, kLongestPeriod);
     } catch (const AddressError& error) {
         address.fail("%1", {error.what()});
     }
@@ -59,9 +56,9 @@ DeviceEntry readEntry(const Value& value, const QDir& folder)
             entry.*row.member = QDir::cleanPath(folder.absoluteFilePath(textIn(*file)));
     }
     if (const auto period = fields.take("period"))
-        entry.period = static_cast<int>(period->integer(kShortestPeriod, kLongest));
+        entry.period = static_cast<int>(period->integer(kShortestPeriod, kLongestPeriod));
     if (const auto timeout = fields.take("timeout"))
-        entry.timeout = static_cast<int>(timeout->integer(kShortestTimeout, kLongest));
+        entry.timeout = static_cast<int>(timeout->integer(kShortestTimeout, kLongestPeriod));
     fields.finish();
     return entry;
 }
@@ -85,26 +82,33 @@ SiteFile readSiteFile(std::string_view text, const QString& name)
     const std::vector<Value> values = devices.array();
     for (const Value& value : values)
         site.devices.push_back(readEntry(value, QFileInfo(name).absoluteDir()));
-    std::set<QString> read{placeOf(name)};
-    for (const DeviceEntry& entry : site.devices)
-        read.insert({placeOf(entry.parameters), placeOf(entry.form)});
-    std::set<QString> written;
-    for (std::size_t i = 0; i < site.devices.size(); ++i) {
-        for (const FileRow& row : kWritten) {
-            const QString place = placeOf(site.devices[i].*row.member);
-            if (place.isEmpty())
-                continue;
-            if (read.contains(place))
-                values[i].fail(QT_TRANSLATE_NOOP("texts", "\"%1\" is a file that is read"), {row.name});
-            if (!written.insert(place).second)
-                values[i].fail(QT_TRANSLATE_NOOP("texts", "\"%1\" is written by another device already"),
-                               {row.name});
-        }
-    }
+    if (const auto clash = clashIn(site.devices, name))
+        values[clash->device].fail(clash->reason, {clash->member});
     fields.finish();
     if (site.devices.empty() || site.devices.size() > kMostDevices)
         devices.fail(QT_TRANSLATE_NOOP("texts", "a site has 1 to %1 devices"), {std::to_string(kMostDevices)});
     return site;
+}
+
+std::optional<FileClash> clashIn(std::span<const DeviceEntry> devices, const QString& site)
+{
+    std::set<QString> read{placeOf(site)};
+    for (const DeviceEntry& entry : devices)
+        read.insert({placeOf(entry.parameters), placeOf(entry.form)});
+    std::set<QString> written;
+    for (std::size_t i = 0; i < devices.size(); ++i) {
+        for (const FileRow& row : kWritten) {
+            const QString place = placeOf(devices[i].*row.member);
+            if (place.isEmpty())
+                continue;
+            if (read.contains(place))
+                return FileClash{i, row.name, QT_TRANSLATE_NOOP("texts", "\"%1\" is a file that is read")};
+            if (!written.insert(place).second)
+                return FileClash{i, row.name,
+                                 QT_TRANSLATE_NOOP("texts", "\"%1\" is written by another device already")};
+        }
+    }
+    return std::nullopt;
 }
 
 SiteFile loadSiteFile(const QString& name) { return readSiteFile(contentOf(name.toStdString()), name); }
@@ -119,9 +123,11 @@ QByteArray textOf(const SiteFile& site, const QString& folder)
             device["name"] = entry.name.toStdString();
         device["address"] = (entry.address.isEmpty() ? QString(kSimulated) : entry.address).toStdString();
         for (const FileRow& row : kFiles) {
-            const QString near = QDir(folder).relativeFilePath(entry.*row.member);
-            if (!(entry.*row.member).isEmpty())
-                device[row.name] = (near.startsWith("..") ? entry.*row.member : near).toStdString();
+            if ((entry.*row.member).isEmpty())
+                continue;
+            const QString whole = QFileInfo(entry.*row.member).absoluteFilePath();
+            const QString near = QDir(folder).relativeFilePath(whole);
+            device[row.name] = (near.startsWith("..") ? whole : near).toStdString();
         }
         if (entry.period != usual.period)
             device["period"] = entry.period;

@@ -5,19 +5,18 @@
 #include <QLibraryInfo>
 
 #include <algorithm>
-#include <array>
 
 static void initialiseResources() { Q_INIT_RESOURCE(monitor); }
 
 namespace zor::monitor {
 namespace {
 
-constexpr std::array kLanguages{LanguageRow{"en", "English"}, LanguageRow{"de", "Deutsch"},
-                                LanguageRow{"fr", "Français"}};
+bool isKnown(const QString& code)
+{
+    return std::ranges::any_of(kLanguages, [&](const LanguageRow& row) { return code == row.code; });
+}
 
 } // namespace
-
-std::span<const LanguageRow> languages() noexcept { return kLanguages; }
 
 Languages::Languages() { initialiseResources(); }
 
@@ -30,16 +29,14 @@ Languages::~Languages()
 QString Languages::systemLanguage()
 {
     const QString code = QLocale::system().name().section('_', 0, 0);
-    const bool known = std::ranges::any_of(kLanguages, [&](const LanguageRow& row) { return code == row.code; });
-    return known ? code : QString("en");
+    return isKnown(code) ? code : QString("en");
 }
 
 void Languages::use(const QString& code)
 {
     QCoreApplication::removeTranslator(&m_own);
     QCoreApplication::removeTranslator(&m_qt);
-    const bool known = std::ranges::any_of(kLanguages, [&](const LanguageRow& row) { return code == row.code; });
-    m_code = known ? code : QString("en");
+    m_code = isKnown(code) ? code : QString("en");
     // The program's texts are English by themselves.
     if (m_code != "en" && m_own.load(":/monitor/zor-monitor_" + m_code + ".qm"))
         QCoreApplication::installTranslator(&m_own);

@@ -2,20 +2,12 @@
 
 /// The language of the whole program.
 
+#include <zor/monitor/data/language_rows.h>
+
 #include <QString>
 #include <QTranslator>
 
-#include <span>
-
 namespace zor::monitor {
-
-struct LanguageRow {
-    const char* code; ///< as in locale names and parameter files
-    const char* name; ///< in the language itself
-};
-
-/// English first.
-[[nodiscard]] std::span<const LanguageRow> languages() noexcept;
 
 /// Installs translators and separators. One for the process; it must end before the application does.
 class Languages {

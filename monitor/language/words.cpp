@@ -19,6 +19,7 @@ constexpr std::array kProblems{
     QT_TRANSLATE_NOOP("Words", "the parameter can only be read"),
     QT_TRANSLATE_NOOP("Words", "the device has not been read yet"),
     QT_TRANSLATE_NOOP("Words", "two fields hold different values"),
+    QT_TRANSLATE_NOOP("Words", "the device does not have this parameter"),
 };
 
 // In the order of WriteOutcome.
@@ -82,25 +83,21 @@ QString Words::outcome(const WriteResult& result, const QString& held)
     QString text = tr(kOutcomeWords[static_cast<std::size_t>(result.outcome)]);
     if (!held.isEmpty())
         text = tr("%1: %2").arg(text, held);
-    if (result.exception == 0)
-        return text;
-    Reply reply;
-    reply.exception = result.exception;
-    return text + QString(" (%1)").arg(reason(reply));
+    return result.exception == 0 ? text : text + QString(" (%1)").arg(reason(result.exception, {}));
 }
 
-QString Words::reason(const Reply& reply)
-{
-    if (reply.exception == 0)
-        return reason(reply.reason);
-    const QString text = tr("exception %1").arg(reply.exception);
-    const std::string_view meaning = exceptionMeaning(reply.exception);
-    return meaning.empty() ? text : text + ": " + reason(std::string(meaning));
-}
+QString Words::reason(const Reply& reply) { return reason(reply.exception, reply.reason); }
 
-QString Words::reason(const std::string& english)
+QString Words::reason(std::uint8_t exception, const std::string& english)
 {
-    return QCoreApplication::translate("reasons", english.c_str());
+    const auto told = [](std::string_view words) {
+        return QCoreApplication::translate("reasons", std::string(words).c_str());
+    };
+    if (exception == 0)
+        return told(english);
+    const QString text = tr("exception %1").arg(exception);
+    const std::string_view meaning = exceptionMeaning(exception);
+    return meaning.empty() ? text : text + ": " + told(meaning);
 }
 
 QString Words::advice(const Reply& reply)

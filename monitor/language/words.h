@@ -24,8 +24,9 @@ public:
     [[nodiscard]] static QString outcome(const WriteResult& result, const QString& held = {});
     /// Why a request was not answered, or refused.
     [[nodiscard]] static QString reason(const Reply& reply);
-    /// The same from the link's own words; what the operating system says stays as it is.
-    [[nodiscard]] static QString reason(const std::string& english);
+    /// The same of an exception, where there was one, or else from the link's own words; what the operating system
+    /// says stays as it is.
+    [[nodiscard]] static QString reason(std::uint8_t exception, const std::string& english);
     /// What to look at then; empty when nothing is known to help.
     [[nodiscard]] static QString advice(const Reply& reply);
     [[nodiscard]] static QString unit(MEAS_TYPE unit);

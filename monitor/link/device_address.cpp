@@ -76,9 +76,14 @@ Endpoint serialEndpoint(const QString& address)
     return {std::make_unique<RtuTransport>(settings), static_cast<std::uint8_t>(unit)};
 }
 
+QUrl urlOf(const QString& address)
+{
+    return QUrl(address.contains("://") ? address : "tcp://" + address, QUrl::StrictMode);
+}
+
 Endpoint tcpEndpoint(const QString& address)
 {
-    const QUrl url(address.contains("://") ? address : "tcp://" + address, QUrl::StrictMode);
+    const QUrl url = urlOf(address);
     if (!url.isValid() || url.scheme() != "tcp" || url.host().isEmpty() || !url.userInfo().isEmpty() ||
         (!url.path().isEmpty() && url.path() != "/") || url.hasFragment() || url.port(kUsualPort) == 0)
         refuseAddress(address, QT_TRANSLATE_NOOP("texts", "not a device; write tcp://HOST:PORT or rtu:DEVICE"));
@@ -94,6 +99,14 @@ Endpoint tcpEndpoint(const QString& address)
 void refuseAddress(const QString& address, const char* english, std::initializer_list<std::string> parts)
 {
     throw AddressError(address.toStdString() + ": " + message(english, parts));
+}
+
+QString peerOf(const QString& address)
+{
+    if (address.startsWith("rtu:"))
+        return address.section('?', 0, 0);
+    const QUrl url = urlOf(address);
+    return url.host() + ':' + QString::number(url.port(kUsualPort));
 }
 
 Endpoint endpointOf(const QString& address)

@@ -26,6 +26,10 @@ struct Endpoint {
     std::uint8_t unit;
 };
 
+/// What an address connects to, whatever its options: a host with its port, or a serial device. Addresses with the
+/// same one share it.
+[[nodiscard]] QString peerOf(const QString& address);
+
 /// The endpoint that
 ///   tcp://HOST:PORT[?unit=N]                                      (the scheme may be left out; port 502)
 ///   rtu:DEVICE[?unit=N&baud=B&parity=none|even|odd&stop=1|2]      (19200 baud, even, 1 stop bit)

@@ -1,3 +1,4 @@
+#include <zor/monitor/data/printable.h>
 #include <zor/monitor/link/frame_decoder.h>
 
 #include <QDateTime>
@@ -234,10 +235,7 @@ private:
             const int index = m_frame.bytes[m_at];
             const std::size_t size = m_frame.bytes[m_at + 1];
             const auto* begin = m_frame.bytes.data() + m_at + 2;
-            std::string text(begin, begin + size);
-            // A text of a device must not steer whoever shows it.
-            std::ranges::replace_if(
-                text, [](char c) { return c < ' ' || c > '~'; }, '?');
+            std::string text = printableAscii(std::string(begin, begin + size));
             m_fields.push_back({m_at, size + 2, QT_TRANSLATE_NOOP("frames", "text"), index, std::move(text)});
             m_at += size + 2;
         }

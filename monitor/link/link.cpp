@@ -1,5 +1,7 @@
 #include <zor/monitor/link/link.h>
 
+#include <QDateTime>
+
 #include <algorithm>
 #include <utility>
 
@@ -286,6 +288,7 @@ void Link::end(UnderWay one, Reply reply)
     } else {
         ++traffic.failures;
         m_lastFailure = reply;
+        m_lastFailureAt = QDateTime::currentMSecsSinceEpoch();
     }
     m_outcomes.push_back({std::move(one.waiting.done), std::move(reply)});
     // Later, so that a caller never hears of an outcome before it has returned.

@@ -78,6 +78,8 @@ public:
     [[nodiscard]] Frames& frames() { return m_frames; }
     /// The last request that was refused or not answered; an answered one when there was none.
     [[nodiscard]] const Reply& lastFailure() const { return m_lastFailure; }
+    /// When that was: milliseconds since 1970, UTC.
+    [[nodiscard]] std::int64_t lastFailureAt() const { return m_lastFailureAt; }
 
 private:
     struct Waiting {
@@ -131,6 +133,7 @@ private:
     Bytes m_received;
     std::array<Traffic, 2> m_traffic;
     Reply m_lastFailure;
+    std::int64_t m_lastFailureAt = 0;
     QTimer m_deadline;
     QTimer m_later;
     QTimer m_quiet;

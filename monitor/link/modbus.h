@@ -30,6 +30,14 @@ enum class Function : std::uint8_t {
     Identify = 43, ///< the device's own identification, as texts
 };
 
+/// Whether a function changes what the device holds.
+[[nodiscard]] constexpr bool writes(Function function) noexcept
+{
+    using enum Function;
+    return function == WriteCoil || function == WriteOne || function == WriteCoils || function == WriteMany ||
+           function == MaskWrite;
+}
+
 struct Request {
     Function function;
     std::uint16_t address; ///< of the first register or coil; of an identification, the first text

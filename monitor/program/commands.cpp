@@ -5,7 +5,6 @@
 #include <zor/monitor/settings/survey.h>
 
 #include <QCoreApplication>
-#include <QSaveFile>
 #include <QTimer>
 
 #include <chrono>
@@ -33,7 +32,6 @@ int report(Session& session, const Settings& settings)
         return fail(kUsage, settings.report + ": " + error.toStdString());
     if (whole)
         return kWell;
-    constexpr int kSilent = 3; ///< of a comparison
     return failUnhealthy(message(QT_TRANSLATE_NOOP("texts", "the device did not answer for all parameters")),
                          session.poller().failure(), settings.task.compare.empty() ? kUnhealthy : kSilent);
 }
@@ -56,9 +54,7 @@ int transfer(const Settings& settings, ParameterFile file)
 {
     if (!settings.task.needsDevice())
         return compareFiles(file, settings.task, std::cout);
-    if (QSaveFile target(QString::fromStdString(settings.report));
-        !settings.report.empty() && !target.open(QIODevice::WriteOnly))
-        throw FileError(settings.report, 0, target.errorString().toStdString());
+    requireWritable(settings.report);
     Device device(entryOf(settings), std::move(file));
     device.start();
     int status = kWell;

@@ -1,3 +1,4 @@
+#include <zor/monitor/data/language_rows.h>
 #include <zor/monitor/program/options.h>
 
 #include <CLI/CLI.hpp>
@@ -26,6 +27,9 @@ CLI::Validator endingIn(const char* one, const char* other)
 void addOptions(CLI::App& app, Settings& settings)
 {
     constexpr int kLongest = 86400;
+    std::vector<std::string> codes;
+    for (const LanguageRow& language : kLanguages)
+        codes.emplace_back(language.code);
     auto* form =
         app.add_option("--form", settings.form,
                        "form drawn in Qt Designer (.ui); without it, one is made from the parameter file");
@@ -36,12 +40,14 @@ void addOptions(CLI::App& app, Settings& settings)
         "--device", settings.device,
         "tcp://HOST:PORT[?unit=N] or rtu:DEVICE[?unit=N&baud=B&parity=P&stop=S]; without it, or with simulated, a "
         "simulated device");
-    app.add_option("--period", settings.period, "milliseconds from poll to poll")->check(CLI::Range(100, 60000));
+    app.add_option("--period", settings.period, "milliseconds from poll to poll")
+        ->check(CLI::Range(kShortestPeriod, kLongestPeriod));
     app.add_option("--timeout", settings.timeout, "milliseconds for a whole reply; without it, the poll period")
-        ->check(CLI::Range(10, 60000));
+        ->check(CLI::Range(kShortestTimeout, kLongestPeriod));
     app.add_option("--run-for", settings.runFor, "seconds to run unattended; prints what was read")
         ->check(CLI::Range(1, kLongest));
-    app.add_option("--screenshot", settings.screenshot, "file for a picture of the window, taken at the end");
+    auto* screenshot =
+        app.add_option("--screenshot", settings.screenshot, "file for a picture of the window, taken at the end");
     auto* log = app.add_option("--log", settings.log,
                                "CSV file to which reads that change their outcome and writes are added");
     auto* frames =
@@ -49,7 +55,7 @@ void addOptions(CLI::App& app, Settings& settings)
     app.add_option(
            "--language", settings.language,
            "en, de or fr; without it, in the window the one last chosen there, else that of the environment")
-        ->check(CLI::IsMember({"en", "de", "fr"}));
+        ->check(CLI::IsMember(codes));
     app.add_option("--units", settings.units, "form, metric, us or device")->check(CLI::IsMember(kUnitSystems));
     app.add_option("--tab", settings.tab, "number of the tab in front, from 0")->check(CLI::Range(0, 1000));
     auto* trend =
@@ -88,8 +94,12 @@ void addOptions(CLI::App& app, Settings& settings)
         ->excludes(save, load, compare, report);
     app.add_option("--site", settings.site, "file that lists several devices, each with its own files")
         ->excludes(device, parameters, form, log, frames, save, load, compare, report);
+    // What nobody would look at is not taken in silence.
+    screenshot->excludes(save, load, compare);
+    trend->excludes(save, load, compare);
     app.add_option("--serve", settings.serve, "run only the simulated device, on this port")
-        ->check(CLI::Range(1, 65535));
+        ->check(CLI::Range(1, 65535))
+        ->excludes(device, form, screenshot, log, frames, trend, save, load, compare, report);
 }
 
 UnitSystem unitsOf(const Settings& settings) { return kUnitSystems.at(settings.units); }

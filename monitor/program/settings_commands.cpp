@@ -1,5 +1,7 @@
 #include <zor/monitor/data/message.h>
+#include <zor/monitor/data/printable.h>
 #include <zor/monitor/language/words.h>
+#include <zor/monitor/program/outcome.h>
 #include <zor/monitor/program/settings_commands.h>
 #include <zor/monitor/settings/comparison.h>
 #include <zor/monitor/settings/survey.h>
@@ -15,24 +17,6 @@
 
 namespace zor::monitor {
 namespace {
-
-constexpr int kSilent = 3; ///< exit status of a comparison without a device
-
-/// A text of a device or a file must not steer a terminal.
-std::string printable(std::string_view text)
-{
-    std::string safe(text);
-    for (std::size_t i = 0; i < safe.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(safe[i]);
-        const bool second =
-            byte == 0xC2U && i + 1 < safe.size() && static_cast<unsigned char>(safe[i + 1]) < 0xA0U;
-        if (second)
-            safe.replace(i, 2, "?");
-        else if (byte < 0x20U || byte == 0x7FU)
-            safe[i] = '?';
-    }
-    return safe;
-}
 
 std::string withUnit(const std::string& text, MEAS_TYPE unit)
 {
@@ -168,8 +152,8 @@ void write(Session& session, const std::vector<Change>& changes, std::ostream& o
     session.onWritten = [&](const std::vector<Written>& results) {
         for (const Written& one : results)
             out << printable(one.change.tag) << "  " << message(nameOf(one.result.outcome).data())
-                << (one.result.reason.empty() ? "" : ": ") << Words::reason(one.result.reason).toStdString()
-                << '\n';
+                << (one.result.reason.empty() ? "" : ": ")
+                << Words::reason(one.result.exception, one.result.reason).toStdString() << '\n';
         loop.quit();
     };
     // Where nothing can be written it ends at once, and the loop must not miss that.
@@ -194,10 +178,17 @@ int load(Session& session, const SettingsTask& task, const SettingsFile& file, s
                << message(QT_TRANSLATE_NOOP("texts", "nothing has been written; with --yes it is")) << '\n';
         return 2;
     }
+    const unsigned device = session.device();
     write(session, changes, out);
     // What was not confirmed may have been carried out all the same, and what was may have moved another value.
     if (!surveyAtOnce(session, parameters))
         return noAnswer(session, errors, 1);
+    if (session.device() != device) {
+        errors << "zor-monitor: "
+               << message(QT_TRANSLATE_NOOP("texts", "another device answers since; it has not been compared"))
+               << '\n';
+        return 1;
+    }
     const Comparison after = compare(session.file(), file, heldBy(session), task.language);
     printText(after, out);
     return after.count(Verdict::Same) + after.count(Verdict::MissingThere) == after.rows.size() ? 0 : 1;

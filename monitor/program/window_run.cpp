@@ -119,20 +119,34 @@ int finish(Window& window, const Settings& settings)
             std::cout << panel->session().report();
         status = std::max(status, withFiles(panel->device(), finish(*panel, settings)));
     }
+    // One that fails loses none of the others: what they show may be the work of a day.
+    const auto hear = [&](const std::string& name, const QString& error) {
+        if (!error.isEmpty())
+            status = std::max<int>(status, fail(kUsage, name + ": " + error.toStdString()));
+    };
     if (!settings.screenshot.empty() && !window.grab().save(QString::fromStdString(settings.screenshot)))
-        return fail(kUsage, settings.screenshot + ": " + message(QT_TRANSLATE_NOOP("texts", "cannot be written")));
-    for (const std::string& name : settings.saveTrend) {
-        const QString error = window.trend().saveTo(QString::fromStdString(name));
-        if (!error.isEmpty())
-            return fail(kUsage, name + ": " + error.toStdString());
-    }
-    if (!settings.report.empty()) {
-        const QString error =
-            window.report().save(window.front(), QString::fromStdString(settings.report), std::nullopt, true);
-        if (!error.isEmpty())
-            return fail(kUsage, settings.report + ": " + error.toStdString());
-    }
+        hear(settings.screenshot,
+             QString::fromStdString(message(QT_TRANSLATE_NOOP("texts", "cannot be written"))));
+    for (const std::string& name : settings.saveTrend)
+        hear(name, window.trend().saveTo(QString::fromStdString(name)));
+    if (!settings.report.empty())
+        hear(settings.report,
+             window.report().save(window.front(), QString::fromStdString(settings.report), std::nullopt, true));
     return status;
+}
+
+/// What cannot be had is said before anything runs for hours.
+void requireOutputs(const Settings& settings)
+{
+    const QByteArray picture =
+        QFileInfo(QString::fromStdString(settings.screenshot)).suffix().toLower().toLatin1();
+    if (!settings.screenshot.empty() && !QImageWriter::supportedImageFormats().contains(picture))
+        throw UsageError("--screenshot " + settings.screenshot + ": " +
+                         message(QT_TRANSLATE_NOOP("texts", "no kind of picture that can be written")));
+    for (const std::string& name : settings.saveTrend)
+        requireWritable(name);
+    requireWritable(settings.screenshot);
+    requireWritable(settings.report);
 }
 
 } // namespace
@@ -145,12 +159,7 @@ int runWindow(Settings settings, Languages& languages)
     const Memory memory(watched ? &stored : nullptr);
     if (const QString chosen = memory.language(); settings.language.empty() && !chosen.isEmpty())
         languages.use(chosen);
-    // What cannot be had is said before anything runs for hours.
-    const QByteArray picture =
-        QFileInfo(QString::fromStdString(settings.screenshot)).suffix().toLower().toLatin1();
-    if (!settings.screenshot.empty() && !QImageWriter::supportedImageFormats().contains(picture))
-        throw UsageError("--screenshot " + settings.screenshot + ": " +
-                         message(QT_TRANSLATE_NOOP("texts", "no kind of picture that can be written")));
+    requireOutputs(settings);
     core::ClassRegistry classes;
     registerControls(classes);
     Panels panels = settings.asks ? ask(settings, memory, classes) : openAll(settings, classes);

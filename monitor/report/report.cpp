@@ -1,3 +1,4 @@
+#include <zor/monitor/data/message.h>
 #include <zor/monitor/language/words.h>
 #include <zor/monitor/report/report.h>
 #include <zor/monitor/report/report_pages.h>
@@ -26,15 +27,6 @@ constexpr std::array kStates{
     QT_TRANSLATE_NOOP("Report", "communication failed"),
     QT_TRANSLATE_NOOP("Report", "not answered yet"),
     QT_TRANSLATE_NOOP("Report", "the device has no value"),
-};
-
-// Results of writes, as the record names them.
-[[maybe_unused]] constexpr std::array kResults{
-    QT_TRANSLATE_NOOP("Report", "written"),         QT_TRANSLATE_NOOP("Report", "refused"),
-    QT_TRANSLATE_NOOP("Report", "not sent"),        QT_TRANSLATE_NOOP("Report", "unconfirmed"),
-    QT_TRANSLATE_NOOP("Report", "differs"),         QT_TRANSLATE_NOOP("Report", "not read back"),
-    QT_TRANSLATE_NOOP("Report", "overtaken"),       QT_TRANSLATE_NOOP("Report", "confirmed"),
-    QT_TRANSLATE_NOOP("Report", "not carried out"),
 };
 
 class Report {
@@ -70,7 +62,7 @@ private:
     }
     [[nodiscard]] QString caption(const Parameter& parameter) const
     {
-        return plain(parameter.appearance.caption.in(m_parts.language));
+        return plain(parameter.captionIn(m_parts.language));
     }
 
     /// A bit that the file has no words for is on or off.
@@ -196,9 +188,9 @@ private:
         for (const WriteRecord& write : m_session.writes()) {
             const Parameter& parameter = m_session.file().parameters[write.parameter];
             const auto [before, target] = texts(write.parameter, write.before, write.target, write.mask);
-            QString result = tr(std::string(write.outcome).c_str());
+            QString result = plain(message(std::string(write.outcome).c_str()));
             if (!write.reason.empty())
-                result += ": " + Words::reason(write.reason);
+                result += ": " + Words::reason(write.exception, write.reason);
             m_writer.row({timeText(write.time), operatorName(), caption(parameter), before, target, result});
         }
         m_writer.endTable();

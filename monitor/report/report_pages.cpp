@@ -3,6 +3,8 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QTextLayout>
+#include <QTextOption>
 
 #include <algorithm>
 #include <map>
@@ -153,13 +155,33 @@ void ReportPages::giveWidths()
     }
 }
 
+namespace {
+
+/// Between words, and within one only where it is wider than its room.
+QTextOption wrapping()
+{
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    return option;
+}
+
+} // namespace
+
 double ReportPages::textHeight(const QString& text, const QFont& font, double width) const
 {
     const QFontMetricsF metrics(font, m_pdf);
     if (!text.contains('\n') && metrics.horizontalAdvance(text) <= width)
         return metrics.height();
-    constexpr double kAny = 1e6;
-    return metrics.boundingRect(QRectF(0, 0, width, kAny), Qt::TextWordWrap | Qt::TextWrapAnywhere, text).height();
+    QTextLayout layout(QString(text).replace('\n', QChar::LineSeparator), font, m_pdf);
+    layout.setTextOption(wrapping());
+    double height = 0;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        height += (height > 0 ? std::max(0.0, metrics.leading()) : 0) + line.height();
+    }
+    layout.endLayout();
+    return height;
 }
 
 double ReportPages::heightOf(const Block& block, std::size_t row) const
@@ -228,8 +250,7 @@ void ReportPages::paint(QPainter& painter, const Piece& piece) const
     painter.setFont(fontOf(block, 0, 0));
     painter.setPen(Qt::black);
     const double before = isHeading(block) ? kBefore * m_line : 0;
-    painter.drawText(piece.place.adjusted(0, before, 0, 0), Qt::TextWordWrap | Qt::TextWrapAnywhere,
-                     shown(block.text));
+    painter.drawText(piece.place.adjusted(0, before, 0, 0), shown(block.text), wrapping());
 }
 
 void ReportPages::paintCells(QPainter& painter, const Piece& piece) const
@@ -245,8 +266,8 @@ void ReportPages::paintCells(QPainter& painter, const Piece& piece) const
         painter.drawRect(cell);
         painter.setPen(Qt::black);
         painter.setFont(fontOf(block, piece.row, i));
-        painter.drawText(cell.adjusted(padding, padding / 2, -padding, 0), Qt::TextWordWrap | Qt::TextWrapAnywhere,
-                         shown(block.rows[piece.row][static_cast<qsizetype>(i)]));
+        painter.drawText(cell.adjusted(padding, padding / 2, -padding, 0),
+                         shown(block.rows[piece.row][static_cast<qsizetype>(i)]), wrapping());
         cell.moveLeft(cell.right());
     }
 }

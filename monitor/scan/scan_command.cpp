@@ -1,4 +1,5 @@
 #include <zor/monitor/data/message.h>
+#include <zor/monitor/data/printable.h>
 #include <zor/monitor/language/words.h>
 #include <zor/monitor/scan/scan_command.h>
 #include <zor/monitor/session/frame_file.h>
@@ -11,22 +12,11 @@
 #include <ostream>
 
 namespace zor::monitor {
-namespace {
-
-std::string printable(std::string text)
-{
-    std::ranges::replace_if(
-        text, [](char c) { return c < ' ' || c > '~'; }, '?');
-    return text;
-}
-
-} // namespace
-
 std::string identificationOf(const ScanHit& hit)
 {
     std::string all;
     for (const auto& [number, text] : hit.texts)
-        all.append(all.empty() ? "" : " ").append(printable(text));
+        all.append(all.empty() ? "" : " ").append(printableAscii(text));
     return all;
 }
 

@@ -64,7 +64,8 @@ std::vector<ScanLine> scanLines(const QString& address)
     for (const QStringList& variant : variants) {
         lines.push_back({joined(address.section('?', 0, 0), variant), unitsOf(address, units)});
         // What else there is to refuse, the address of a single device refuses.
-        (void)endpointOf(lines.back().address);
+        for (const std::uint8_t unit : lines.back().units)
+            (void)endpointOf(lines.back().addressOf(unit));
     }
     return lines;
 }

@@ -7,9 +7,6 @@
 namespace zor::monitor {
 namespace {
 
-/// What tells lines apart that cannot be used at a time.
-QString trackOf(const ScanLine& line) { return line.address.section('?', 0, 0); }
-
 Request firstRequest(const ParameterFile& file)
 {
     return Poller::readRequest(file.identity.type      ? *file.identity.type
@@ -31,8 +28,9 @@ Scanner::Scanner(std::vector<ScanLine> lines, const ParameterFile& file, int dea
 {
     for (ScanLine& line : lines) {
         m_total += static_cast<int>(line.units.size());
-        const auto same = std::ranges::find_if(
-            m_tracks, [&](const auto& track) { return trackOf(track->lines.front()) == trackOf(line); });
+        const auto same = std::ranges::find_if(m_tracks, [&](const auto& track) {
+            return peerOf(track->lines.front().address) == peerOf(line.address);
+        });
         if (same != m_tracks.end()) {
             (*same)->lines.push_back(std::move(line));
         } else {

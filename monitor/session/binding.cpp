@@ -12,8 +12,6 @@
 namespace zor::monitor {
 namespace {
 
-constexpr std::int32_t kHighestBit = 30; ///< that a control knows
-
 /// How the outcome of a read shows: {communication failure, no data, waiting}.
 struct OutcomeRow {
     std::optional<bool> cFail;
@@ -184,7 +182,7 @@ void Binding::showNothing()
     shown.clear();
     seen.clear();
     m_typed.forget();
-    m_unfit = false;
+    m_unfit = m_isOfOtherDevice = false;
     quietly([&] {
         dropStranger();
         monitor::showNothing(m_control);
@@ -216,6 +214,7 @@ bool Binding::showValue(std::span<const std::uint16_t> registers, const std::str
 {
     shown = seen = Registers(registers.begin(), registers.end());
     m_typed.forget();
+    m_isOfOtherDevice = false;
     m_unfit = true;
     quietly([&] {
         dropStranger();
@@ -289,9 +288,14 @@ void Binding::tellOtherDevice()
 {
     quietly([&] { m_texts.explainChange({}); });
     setFlag(m_row.changed, true);
+    m_isOfOtherDevice = true;
 }
 
-void Binding::forgetOther() { setFlag(m_row.changed, false); }
+void Binding::forgetOther()
+{
+    setFlag(m_row.changed, false);
+    m_isOfOtherDevice = false;
+}
 
 Registers Binding::relevant(std::span<const std::uint16_t> registers) const
 {

@@ -54,8 +54,15 @@ public:
     void tellOther(std::span<const std::uint16_t> registers, const std::string& language);
     /// The value is no longer that of the device that it was read from.
     void tellOtherDevice();
+    /// Whether that has been said of the edit that there is.
+    [[nodiscard]] bool isOfOtherDevice() const { return m_isOfOtherDevice; }
     /// The change by somebody else has been overwritten.
     void forgetOther();
+    /// Whether the device is of a type and a version that have the parameter.
+    [[nodiscard]] bool isSupported() const
+    {
+        return !m_control.DeviceTypeNotSupported() && !m_control.DeviceVerNotSupported();
+    }
     /// The part of the registers that this control is about.
     [[nodiscard]] Registers relevant(std::span<const std::uint16_t> registers) const;
     /// @}
@@ -152,6 +159,7 @@ private:
     platform::Depth m_quiet;
     MEAS_TYPE m_textUnit = NoneU;           ///< of a control that shows numbers as texts
     bool m_unfit = false;                   ///< the last value could not be shown
+    bool m_isOfOtherDevice = false;         ///< the edit was begun on another device than the one that answers
     std::optional<std::int32_t> m_stranger; ///< the last value, when no entry has it
 };
 

@@ -113,8 +113,7 @@ void Binding::showIn(MEAS_TYPE unit, const std::string& language)
 
 void Binding::refresh(const std::string& language)
 {
-    const std::string caption = m_parameter != nullptr ? m_parameter->appearance.caption.in(language) : "";
-    putIfThere("MessageHeader", caption.empty() ? m_control.DeviceTag() : caption);
+    putIfThere("MessageHeader", m_parameter != nullptr ? m_parameter->captionIn(language) : m_control.DeviceTag());
     if (m_parameter == nullptr)
         return;
     // Filling a list anew moves its selection, and that must not become the operator's choice.

@@ -75,9 +75,13 @@ void take(Change& change, const Parameter& parameter, Binding& binding)
     change.origins.push_back({&binding, binding.actions()});
     change.before = binding.seen;
     change.unit = binding.shownUnit();
+    change.otherDevice = change.otherDevice || binding.isOfOtherDevice();
     change.changedByOther =
-        change.changedByOther || binding.getIfThere("DataChanged").value_or(Variant(false)).toBoolean();
-    if (!parameter.writable) {
+        change.changedByOther ||
+        (!binding.isOfOtherDevice() && binding.getIfThere("DataChanged").value_or(Variant(false)).toBoolean());
+    if (!binding.isSupported()) {
+        change.problem = Problem::NotThere;
+    } else if (!parameter.writable) {
         change.problem = Problem::ReadOnly;
     } else if (binding.isInvalid()) {
         takeRefused(change, parameter, binding);

@@ -22,6 +22,7 @@ enum class Problem : std::uint8_t {
     ReadOnly,
     NeverRead, ///< bits are changed within what the device holds, and that is not known
     Conflict,  ///< two controls hold different edits of the parameter
+    NotThere,  ///< the device is of a type or a version without the parameter
 };
 
 [[nodiscard]] Problem problemOf(Unfit unfit) noexcept;
@@ -52,6 +53,8 @@ struct Change {
     std::string lowest{};  ///< that an entry may be, where it is not; empty where there is no telling
     std::string highest{}; ///< the same; of a text that is too long, how many characters it may have
     bool changedByOther = false;
+    bool otherDevice =
+        false; ///< since the edit began, another device has come in place of the one it was made for
     /// @}
 };
 

@@ -26,8 +26,7 @@ std::optional<Rank> rankOf(const QString& text, const QString& tag, const Hit& h
 Hit hitOf(const Session& session, std::size_t parameter, const std::string& language)
 {
     const Parameter& row = session.file().parameters[parameter];
-    const std::string& caption = row.appearance.caption.in(language);
-    Hit hit{parameter, QString::fromStdString(caption.empty() ? row.tag : caption), {}};
+    Hit hit{parameter, QString::fromStdString(row.captionIn(language)), {}};
     if (!session.held(parameter).empty()) {
         const ShownValue value = describe(row, session.held(parameter), session.shownUnit(parameter), language);
         const std::string_view unit = fc_GetUnitLabel(value.unit);

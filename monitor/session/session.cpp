@@ -5,6 +5,12 @@
 #include <utility>
 
 namespace zor::monitor {
+namespace {
+
+constexpr const char* kOtherDevice = QT_TRANSLATE_NOOP("reasons", "another device");
+
+} // namespace
+
 Session::Session(std::unique_ptr<Link> link, ParameterFile file, Log* log)
     : m_link(std::move(link)), m_file(std::move(file)), m_log(log), m_poller(*m_link, m_file),
       m_writer(*m_link, m_file), m_states(m_file.parameters.size()), m_shownBy(m_states.size())
@@ -19,6 +25,15 @@ Session::Session(std::unique_ptr<Link> link, ParameterFile file, Log* log)
     };
     m_writer.onResult = [this](const Change& change, const WriteResult& result) { hearResult(change, result); };
     m_writer.onDone = [this] { endWriting(); };
+    m_writer.askWhetherSame = [this](const Link::Done& done) {
+        m_poller.identify([this, before = m_device, done](const Reply& reply) {
+            if (m_device == before)
+                return done(reply);
+            Reply other;
+            other.reason = kOtherDevice;
+            done(other);
+        });
+    };
 }
 
 void Session::start(int periodMilliseconds, int timeoutMilliseconds)
@@ -192,7 +207,7 @@ void Session::writeIdentified(std::vector<Change> changes, const Reply& identifi
         if (identified.outcome != Outcome::Answered)
             hearResult(change, {WriteOutcome::NotSent, identified.exception, {}, identified.reason});
         else if (change.device != m_device)
-            hearResult(change, {WriteOutcome::Overtaken, 0, {}, "another device"});
+            hearResult(change, {WriteOutcome::Overtaken, 0, {}, kOtherDevice});
         else
             writable.push_back(std::move(change));
     }
@@ -211,7 +226,7 @@ void Session::hearIdentity(const std::string& type, const std::string& version)
     // The first is the one that has been read, and perhaps edited, all along.
     const bool other = std::exchange(m_isKnown, true);
     if (other && m_log != nullptr)
-        m_log->record("device", {}, m_type + ' ' + m_version, type + ' ' + version, "another device");
+        m_log->record("device", {}, m_type + ' ' + m_version, type + ' ' + version, kOtherDevice);
     m_type = type;
     m_version = version;
     m_device += other ? 1U : 0U;
@@ -246,7 +261,9 @@ void Session::hearResult(const Change& change, const WriteResult& result)
     if (result.outcome == WriteOutcome::Written) {
         endEdits(change, result.readBack);
     } else if (result.outcome == WriteOutcome::Unconfirmed || result.outcome == WriteOutcome::Unread) {
-        state.unconfirmed = change;
+        // Another device has no part in it: what it holds confirms nothing.
+        if (change.device == m_device)
+            state.unconfirmed = change;
     } else if (!result.readBack.empty()) {
         state.last = result.readBack;
         for (const Origin& origin : change.origins) {
@@ -289,7 +306,8 @@ void Session::settle(std::size_t parameter, const Registers& registers)
     if (done || !open)
         state.unconfirmed.reset();
     if (done || !std::exchange(state.wasDoubted, true))
-        logWrite(change, {}, done ? "confirmed" : "not carried out");
+        logWrite(change, {},
+                 done ? QT_TRANSLATE_NOOP("texts", "confirmed") : QT_TRANSLATE_NOOP("texts", "not carried out"));
     if (done)
         endEdits(change, registers);
 }

@@ -34,7 +34,8 @@ struct WriteRecord {
     Registers target;
     std::uint32_t mask;       ///< of an edit of bits
     std::string_view outcome; ///< as the record names it
-    std::string reason;
+    std::uint8_t exception;   ///< with which the device refused it; 0 for none
+    std::string reason;       ///< in English
 };
 
 class Session : public QObject {

@@ -67,9 +67,7 @@ std::set<std::size_t> Session::editable() const
     for (std::size_t i = 0; i < m_states.size(); ++i) {
         const Parameter& parameter = m_file.parameters[i];
         const auto canEdit = [](const Binding* binding) {
-            const core::Control& control = binding->control();
-            return binding->has("ModifiedValue") && !control.DeviceTypeNotSupported() &&
-                   !control.DeviceVerNotSupported();
+            return binding->has("ModifiedValue") && binding->isSupported();
         };
         const core::ClassInfo* info = classToCome(i);
         const bool toCome = info != nullptr && info->property("ModifiedValue") != nullptr &&

@@ -1,6 +1,7 @@
 // What a session tells people: the record, and the report at its end.
 
 #include <zor/monitor/data/message.h>
+#include <zor/monitor/data/printable.h>
 #include <zor/monitor/session/session.h>
 #include <zor/monitor/session/value_texts.h>
 #include <zor/units/mod_Common.h>
@@ -45,7 +46,7 @@ void Session::logRead(std::size_t parameter, const Reading& reading)
 void Session::logWrite(const Change& change, const WriteResult& result, std::string_view outcome)
 {
     m_writes.push_back({QDateTime::currentDateTimeUtc(), change.parameter, change.before, change.target,
-                        change.mask, outcome, result.reason});
+                        change.mask, outcome, result.exception, result.reason});
     if (m_log == nullptr)
         return;
     const Parameter& row = m_file.parameters[change.parameter];
@@ -67,8 +68,8 @@ std::string Session::report() const
         const Parameter& row = m_file.parameters[i];
         const ShownValue value = describeExactly(row, m_states[i].last, shownUnit(i), m_language);
         const std::string_view label = fc_GetUnitLabel(value.unit);
-        lines.append(row.tag).append("  ").append(value.text);
-        lines.append(label.empty() ? "" : " ").append(label).append("  ");
+        lines.append(printable(row.tag)).append("  ").append(printable(value.text));
+        lines.append(label.empty() ? "" : " ").append(printable(label)).append("  ");
         const bool read = m_states[i].readAt >= 0 || m_states[i].outcome == ReadOutcome::NoAnswer;
         const std::string_view state = read ? kReadWords[static_cast<std::size_t>(m_states[i].outcome)]
                                             : QT_TRANSLATE_NOOP("texts", "not read");

@@ -208,21 +208,42 @@ void Writer::hearWrite(const Reply& reply)
     // A part of the registers holds the new value already.
     if (unchanged)
         result.outcome = WriteOutcome::Differs;
-    readBack(result);
+    askAndReadBack(result);
+}
+
+namespace {
+
+/// The result where it could not be read back.
+WriteResult unread(WriteResult written, const Reply& why)
+{
+    if (written.outcome == WriteOutcome::Written) {
+        written.outcome = WriteOutcome::Unread;
+        written.reason = why.reason;
+    }
+    return written;
+}
+
+} // namespace
+
+void Writer::askAndReadBack(const WriteResult& written)
+{
+    if (!m_connection || m_link.connection() == m_connection)
+        return readBack(written);
+    askWhetherSame([this, written](const Reply& reply) {
+        if (reply.outcome == Outcome::Answered)
+            return readBack(written);
+        finish(unread(written, reply), {});
+    });
 }
 
 void Writer::readBack(const WriteResult& written)
 {
-    m_link.send(readRequest(), [this, written](const Reply& reply) {
+    const auto hear = [this, written](const Reply& reply) {
         if (reply.outcome == Outcome::Answered)
             return finish(written, reply.registers);
-        WriteResult result = written;
-        if (written.outcome == WriteOutcome::Written) {
-            result.outcome = WriteOutcome::Unread;
-            result.reason = reply.reason;
-        }
-        finish(result, {});
-    });
+        finish(unread(written, reply), {});
+    };
+    m_link.send(readRequest(), hear, m_link.connection());
 }
 
 void Writer::finish(const WriteResult& result, const Registers& registers)

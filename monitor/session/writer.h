@@ -41,6 +41,9 @@ public:
 
     std::function<void(const Change&, const WriteResult&)> onResult;
     std::function<void()> onDone;
+    /// Finds out whether the device at the other end is the one that was written to, which it need not be when the
+    /// connection has been lost meanwhile; `done` hears why that is not known, or not so.
+    std::function<void(std::function<void(const Reply&)> done)> askWhetherSame;
 
     /// Changes with a problem must not be among them. Not while isWriting(). With a connection, nothing is written
     /// over any other.
@@ -69,6 +72,7 @@ private:
     void send(const Registers& registers);
     void sendParts();
     void hearWrite(const Reply& reply);
+    void askAndReadBack(const WriteResult& written);
     void readBack(const WriteResult& written);
     void finish(const WriteResult& result, const Registers& registers);
     [[nodiscard]] Request readRequest() const;

@@ -17,7 +17,7 @@ constexpr std::array<std::string_view, 6> kVerdicts{
     QT_TRANSLATE_NOOP("texts", "missing here"), QT_TRANSLATE_NOOP("texts", "missing there"),
     QT_TRANSLATE_NOOP("texts", "not writable"), QT_TRANSLATE_NOOP("texts", "unfit")};
 // In the order of Problem.
-constexpr std::array<std::string_view, 10> kUnfitReasons{
+constexpr std::array<std::string_view, 11> kUnfitReasons{
     "",
     QT_TRANSLATE_NOOP("texts", "not a value of this parameter"),
     QT_TRANSLATE_NOOP("texts", "not a number in a unit of this parameter"),
@@ -27,7 +27,8 @@ constexpr std::array<std::string_view, 10> kUnfitReasons{
     QT_TRANSLATE_NOOP("texts", "characters that the device does not have"),
     QT_TRANSLATE_NOOP("texts", "can only be read"),
     QT_TRANSLATE_NOOP("texts", "not read"),
-    QT_TRANSLATE_NOOP("texts", "two different values")};
+    QT_TRANSLATE_NOOP("texts", "two different values"),
+    QT_TRANSLATE_NOOP("texts", "the device does not have this parameter")};
 
 /// What decides whether two values are the same: of a single bit only that bit, of all others all of it.
 bool holdSame(const Parameter& parameter, const Registers& one, const Registers& other)

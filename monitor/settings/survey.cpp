@@ -33,7 +33,10 @@ Survey::State Survey::hearRound(bool answered)
     constexpr int kMostSilent = 3;
     constexpr int kMostIdle = 10;
     const std::size_t before = std::exchange(m_done, done());
-    if (m_done == total() && m_session.isDeviceKnown())
+    // What was read over a new connection may be another device's. It is asked what it is at the end of the round,
+    // and had it become another, all would have to be read anew by the end of the next.
+    const bool isComplete = m_done == total() && m_session.isDeviceKnown();
+    if (isComplete && (m_session.poller().isIdentified() || before == total()))
         return State::Complete;
     m_silent = answered ? 0 : m_silent + 1;
     m_idle = m_done > before ? 0 : m_idle + 1;

@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>&amp;Save...</source>
-        <translation>Si&amp;chern ...</translation>
+        <translation>Si&amp;chern...</translation>
     </message>
     <message>
         <source>Fields of the frame</source>
@@ -164,10 +164,6 @@
     <message>
         <source>No failure so far.</source>
         <translation>Bisher kein Fehler.</translation>
-    </message>
-    <message>
-        <source>Last failure: %1. %2</source>
-        <translation>Letzter Fehler: %1. %2</translation>
     </message>
     <message>
         <source>Save frames</source>
@@ -366,42 +362,6 @@
     <message>
         <source>the device has no value</source>
         <translation>das Gerät hat keinen Wert</translation>
-    </message>
-    <message>
-        <source>written</source>
-        <translation>geschrieben und zurückgelesen</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>abgelehnt</translation>
-    </message>
-    <message>
-        <source>not sent</source>
-        <translation>nicht gesendet</translation>
-    </message>
-    <message>
-        <source>unconfirmed</source>
-        <translation>nicht bestätigt</translation>
-    </message>
-    <message>
-        <source>differs</source>
-        <translation>das Gerät hält einen anderen Wert</translation>
-    </message>
-    <message>
-        <source>not read back</source>
-        <translation>nicht zurückgelesen</translation>
-    </message>
-    <message>
-        <source>overtaken</source>
-        <translation>überholt: nicht geschrieben</translation>
-    </message>
-    <message>
-        <source>confirmed</source>
-        <translation>bestätigt</translation>
-    </message>
-    <message>
-        <source>not carried out</source>
-        <translation>nicht ausgeführt</translation>
     </message>
     <message>
         <source>Report</source>
@@ -664,6 +624,10 @@
         <source>Tag</source>
         <translation>Kennung</translation>
     </message>
+    <message>
+        <source>another device answers since</source>
+        <translation>seitdem antwortet ein anderes Gerät</translation>
+    </message>
 </context>
 <context>
     <name>ScanDialog</name>
@@ -677,7 +641,7 @@
     </message>
     <message>
         <source>Insert an example...</source>
-        <translation>Beispiel einfügen ...</translation>
+        <translation>Beispiel einfügen...</translation>
     </message>
     <message>
         <source> ms</source>
@@ -1334,7 +1298,7 @@
     </message>
     <message>
         <source>Look &amp;for devices...</source>
-        <translation>Geräte s&amp;uchen ...</translation>
+        <translation>Geräte s&amp;uchen...</translation>
     </message>
     <message>
         <source>This could not be opened:</source>
@@ -1458,6 +1422,10 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>the device does not have this parameter</source>
+        <translation>das Gerät hat diesen Parameter nicht</translation>
     </message>
 </context>
 <context>
@@ -1912,6 +1880,10 @@
     <message>
         <source>bytes that nobody asked for</source>
         <translation>Bytes, um die niemand gebeten hat</translation>
+    </message>
+    <message>
+        <source>another device</source>
+        <translation>ein anderes Gerät</translation>
     </message>
 </context>
 <context>
@@ -2495,6 +2467,30 @@
     <message>
         <source>this is not JSON, at %1</source>
         <translation>das ist kein JSON, bei %1</translation>
+    </message>
+    <message>
+        <source>another device answers since; it has not been compared</source>
+        <translation>seitdem antwortet ein anderes Gerät; es wurde nicht verglichen</translation>
+    </message>
+    <message>
+        <source>the output cannot be written</source>
+        <translation>die Ausgabe kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>the device does not have this parameter</source>
+        <translation>das Gerät hat diesen Parameter nicht</translation>
+    </message>
+    <message>
+        <source>confirmed</source>
+        <translation>bestätigt</translation>
+    </message>
+    <message>
+        <source>not carried out</source>
+        <translation>nicht ausgeführt</translation>
+    </message>
+    <message>
+        <source>the identity is longer than a request may be</source>
+        <translation>die Kennung ist länger, als eine Anfrage sein darf</translation>
     </message>
 </context>
 <context>

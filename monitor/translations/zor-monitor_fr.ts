@@ -166,10 +166,6 @@
         <translation>Aucun échec jusqu&apos;ici.</translation>
     </message>
     <message>
-        <source>Last failure: %1. %2</source>
-        <translation>Dernier échec : %1. %2</translation>
-    </message>
-    <message>
         <source>Save frames</source>
         <translation>Enregistrer les trames</translation>
     </message>
@@ -366,42 +362,6 @@
     <message>
         <source>the device has no value</source>
         <translation>l&apos;appareil n&apos;a pas de valeur</translation>
-    </message>
-    <message>
-        <source>written</source>
-        <translation>écrit et relu</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>refusé</translation>
-    </message>
-    <message>
-        <source>not sent</source>
-        <translation>non envoyé</translation>
-    </message>
-    <message>
-        <source>unconfirmed</source>
-        <translation>non confirmé</translation>
-    </message>
-    <message>
-        <source>differs</source>
-        <translation>l&apos;appareil contient une autre valeur</translation>
-    </message>
-    <message>
-        <source>not read back</source>
-        <translation>non relu</translation>
-    </message>
-    <message>
-        <source>overtaken</source>
-        <translation>dépassé : non écrit</translation>
-    </message>
-    <message>
-        <source>confirmed</source>
-        <translation>confirmé</translation>
-    </message>
-    <message>
-        <source>not carried out</source>
-        <translation>non exécuté</translation>
     </message>
     <message>
         <source>Report</source>
@@ -663,6 +623,10 @@
     <message>
         <source>Tag</source>
         <translation>Repère</translation>
+    </message>
+    <message>
+        <source>another device answers since</source>
+        <translation>un autre appareil répond depuis</translation>
     </message>
 </context>
 <context>
@@ -1459,6 +1423,10 @@
         <source>%1: %2</source>
         <translation>%1 : %2</translation>
     </message>
+    <message>
+        <source>the device does not have this parameter</source>
+        <translation>l&apos;appareil n&apos;a pas ce paramètre</translation>
+    </message>
 </context>
 <context>
     <name>advice</name>
@@ -1912,6 +1880,10 @@
     <message>
         <source>bytes that nobody asked for</source>
         <translation>des octets que personne n&apos;a demandés</translation>
+    </message>
+    <message>
+        <source>another device</source>
+        <translation>un autre appareil</translation>
     </message>
 </context>
 <context>
@@ -2495,6 +2467,30 @@
     <message>
         <source>this is not JSON, at %1</source>
         <translation>ce n&apos;est pas du JSON, à %1</translation>
+    </message>
+    <message>
+        <source>another device answers since; it has not been compared</source>
+        <translation>un autre appareil répond depuis ; il n&apos;a pas été comparé</translation>
+    </message>
+    <message>
+        <source>the output cannot be written</source>
+        <translation>la sortie ne peut pas être écrite</translation>
+    </message>
+    <message>
+        <source>the device does not have this parameter</source>
+        <translation>l&apos;appareil n&apos;a pas ce paramètre</translation>
+    </message>
+    <message>
+        <source>confirmed</source>
+        <translation>confirmé</translation>
+    </message>
+    <message>
+        <source>not carried out</source>
+        <translation>non exécuté</translation>
+    </message>
+    <message>
+        <source>the identity is longer than a request may be</source>
+        <translation>l&apos;identité est plus longue qu&apos;une requête ne peut l&apos;être</translation>
     </message>
 </context>
 <context>

@@ -151,8 +151,15 @@ private:
         constexpr double kLargest = 1e7;
         if (axis.isEmpty)
             return;
-        axis.step = roundStep(axis.span.size(), height / (kLines * metrics().height()));
-        axis.lowest = std::ceil(axis.span.low / axis.step) * axis.step;
+        // One number says nothing about the others.
+        constexpr int kLeast = 2;
+        constexpr int kMost = 20;
+        int most = std::max(kLeast, height / (kLines * metrics().height()));
+        do {
+            axis.step = roundStep(axis.span.size(), most);
+            axis.lowest = std::ceil(axis.span.low / axis.step) * axis.step;
+            ++most;
+        } while (axis.lowest + axis.step * (kLeast - 1) > axis.span.high && most < kMost);
         const bool large = std::max(std::fabs(axis.span.low), std::fabs(axis.span.high)) >= kLargest;
         const int decimals = decimalsFor(axis.step);
         for (double at = axis.lowest; at <= axis.span.high;
@@ -196,7 +203,10 @@ private:
                                  : step < kMinute ? time.toString("HH:mm:ss")
                                                   : time.toString("HH:mm");
             m_painter.setPen(m_palette.color(QPalette::Text));
-            m_painter.drawText(QRect(left - wide, below, 2 * wide, metrics().height()), Qt::AlignHCenter, text);
+            // The newest is under the edge.
+            const int half = metrics().horizontalAdvance(text) / 2 + 1;
+            const int middle = std::min(left, m_area.right() - half);
+            m_painter.drawText(QRect(middle - wide, below, 2 * wide, metrics().height()), Qt::AlignHCenter, text);
         }
     }
 

@@ -40,7 +40,7 @@ void drawLegend(QPainter& painter, const QRect& place, const Trend& trend, const
 {
     constexpr int kMark = 24;
     const QString unit = Words::unit(trend.unitOf(curve));
-    const QString name = QString::fromStdString(trend.parameterOf(curve).appearance.caption.in(language));
+    const QString name = QString::fromStdString(trend.parameterOf(curve).captionIn(language));
     painter.fillRect(QRect(place.left() + kSpace, place.center().y() - 1, kMark, 3),
                      curveColor(curve.color, paper()));
     painter.setPen(Qt::black);

@@ -80,6 +80,10 @@ void Trend::hear(std::size_t parameter, const Reading& reading)
     // An answer that is still awaited is none.
     if (curve == m_curves.end() || reading.outcome == ReadOutcome::Late)
         return;
+    // The session's clock stands still while the computer sleeps, and hears nothing when its time is put forward.
+    constexpr std::int64_t kAhead = 1000;
+    if (const std::int64_t ahead = QDateTime::currentMSecsSinceEpoch() - now(); ahead > kAhead)
+        m_epoch += ahead;
     // What comes in one answer, or in the next ones of a round, has one time.
     constexpr std::int64_t kSame = 20;
     if (now() - m_time > kSame)

@@ -44,7 +44,7 @@ public:
 
     [[nodiscard]] Session& session() const { return m_session; }
     [[nodiscard]] const Parameter& parameterOf(const Curve& curve) const;
-    /// Milliseconds since 1970, on a clock that is not put back.
+    /// Milliseconds since 1970, on a clock that is put forward with the computer's, and never back.
     [[nodiscard]] std::int64_t now() const;
     /// When the first of the samples was taken; now where there is none.
     [[nodiscard]] std::int64_t begin() const;

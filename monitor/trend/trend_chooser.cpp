@@ -27,7 +27,7 @@ TrendChooser::TrendChooser(const Trend& trend, const std::string& language, QWid
         if (!Trend::isPlottable(parameters[i]))
             continue;
         const QString unit = Words::unit(trend.session().shownUnit(i));
-        const QString caption = QString::fromStdString(parameters[i].appearance.caption.in(language));
+        const QString caption = QString::fromStdString(parameters[i].captionIn(language));
         auto* item = new QListWidgetItem(caption + (unit.isEmpty() ? QString() : " [" + unit + ']'), m_list);
         item->setToolTip(platform::qt::plainToolTip(parameters[i].tag));
         item->setData(Qt::UserRole, static_cast<int>(i));

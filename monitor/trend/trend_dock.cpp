@@ -1,5 +1,6 @@
 #include <zor/monitor/language/words.h>
 #include <zor/monitor/parts/framed_marks.h>
+#include <zor/monitor/parts/save_dialog.h>
 #include <zor/monitor/trend/trend_chooser.h>
 #include <zor/monitor/trend/trend_dock.h>
 #include <zor/monitor/trend/trend_export.h>
@@ -8,7 +9,6 @@
 #include <QAction>
 #include <QDate>
 #include <QDateTime>
-#include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
@@ -267,7 +267,7 @@ void TrendDock::fill()
         m_table->insertRow(row);
         const Parameter& parameter = m_trend->parameterOf(curve);
         auto* name = new QTableWidgetItem(lineIcon(curveColor(curve.color, palette())),
-                                          QString::fromStdString(parameter.appearance.caption.in(language())));
+                                          QString::fromStdString(parameter.captionIn(language())));
         name->setToolTip(platform::qt::plainToolTip(parameter.tag));
         name->setFlags(name->flags() | Qt::ItemIsUserCheckable);
         name->setCheckState(curve.shown ? Qt::Checked : Qt::Unchecked);
@@ -347,15 +347,11 @@ QString TrendDock::saveTo(const QString& file) const
 
 void TrendDock::save()
 {
-    const QString csv = tr("Values (*.csv)");
-    const QString usual = "trend" + QDateTime::currentDateTime().toString("-yyyy-MM-dd-HHmm") + ".csv";
-    QString filter = csv;
-    QString file =
-        QFileDialog::getSaveFileName(this, tr("Save trend"), usual, csv + ";;" + tr("Picture (*.png)"), &filter);
+    const QString usual = "trend" + QDateTime::currentDateTime().toString("-yyyy-MM-dd-HHmm");
+    const std::array kinds{FileKind{tr("Values (*.csv)"), "csv"}, FileKind{tr("Picture (*.png)"), "png"}};
+    const QString file = askWhereToSave(this, tr("Save trend"), usual, kinds);
     if (file.isEmpty())
         return;
-    if (filter != csv && file.endsWith(".csv"))
-        file.replace(file.size() - 4, 4, ".png");
     const QString error = saveTo(file);
     if (error.isEmpty()) {
         if (say)

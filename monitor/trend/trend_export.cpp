@@ -42,9 +42,8 @@ std::string describeWrite(const Session& session, const WriteRecord& write, cons
     const ShownValue before = describeExactly(parameter, write.before, unit, language, write.mask);
     const ShownValue after = describeExactly(parameter, write.target, unit, language, write.mask);
     const std::string_view label = fc_GetUnitLabel(after.unit);
-    const std::string& name = parameter.appearance.caption.in(language);
-    return name + ": " + before.text + " \xE2\x86\x92 " + after.text + (label.empty() ? "" : " ") +
-           std::string(label);
+    return parameter.captionIn(language) + ": " + before.text + " \xE2\x86\x92 " + after.text +
+           (label.empty() ? "" : " ") + std::string(label);
 }
 
 std::string trendCsv(const Trend& trend)

@@ -1,10 +1,12 @@
 #include <zor/monitor/ui/device_list.h>
+#include <zor/platform/qt/looks.h>
 
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QPainter>
 #include <QSignalBlocker>
 
+#include <algorithm>
 #include <array>
 
 namespace zor::monitor {
@@ -44,7 +46,10 @@ QIcon lamp(QRgb color, int size)
     painter.setBrush(QColor(color));
     const double rim = size * kRim;
     painter.drawEllipse(QRectF(0, 0, size, size).adjusted(rim, rim, -rim, -rim));
-    return pixmap;
+    QIcon icon;
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected}) // which would tint it
+        icon.addPixmap(pixmap, mode);
+    return icon;
 }
 
 /// A file by its name; where there is none, what takes its place.
@@ -79,6 +84,7 @@ void DeviceList::list(std::span<const std::unique_ptr<DevicePanel>> panels, cons
         const DeviceEntry& entry = panels[i]->device().entry();
         auto* item = new QTreeWidgetItem(m_tree);
         item->setText(kDevice, panels[i]->name());
+        item->setToolTip(kDevice, platform::qt::plainToolTip(panels[i]->name().toStdString()));
         item->setText(kParameters, fileText(entry.parameters, tr("of the demonstration")));
         item->setText(kForm, fileText(entry.form, tr("generated")));
         item->setToolTip(kParameters, entry.parameters);
@@ -89,6 +95,10 @@ void DeviceList::list(std::span<const std::unique_ptr<DevicePanel>> panels, cons
     }
     for (int column = 0; column < kListColumns; ++column)
         m_tree->resizeColumnToContents(column);
+    // A long name leaves room for the state, and stands in the tooltip.
+    constexpr int kMostCharacters = 24;
+    const int most = kMostCharacters * m_tree->fontMetrics().averageCharWidth();
+    m_tree->setColumnWidth(kDevice, std::min(m_tree->columnWidth(kDevice), most));
 }
 
 void DeviceList::renew(std::size_t index, const DevicePanel& panel)

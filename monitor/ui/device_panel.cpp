@@ -103,6 +103,13 @@ QString DevicePanel::name() const
     return title.isEmpty() ? m_device->entry().address : title;
 }
 
+void DevicePanel::connectTo(const QString& address)
+{
+    device().connectTo(address);
+    if (onAddress)
+        onAddress();
+}
+
 void DevicePanel::setLanguage(const std::string& language)
 {
     m_language = language;
@@ -128,8 +135,7 @@ void DevicePanel::setUnit(UNIT_TYPE type, MEAS_TYPE unit)
 
 QString DevicePanel::captionOf(const Parameter& parameter) const
 {
-    const std::string& caption = parameter.appearance.caption.in(m_language);
-    return QString::fromStdString(caption.empty() ? parameter.tag : caption);
+    return QString::fromStdString(parameter.captionIn(m_language));
 }
 
 void DevicePanel::reveal(std::size_t parameter)
@@ -137,7 +143,7 @@ void DevicePanel::reveal(std::size_t parameter)
     const Binding* binding = session().reach(parameter);
     if (binding == nullptr)
         return;
-    if (binding->control().DeviceTypeNotSupported() || binding->control().DeviceVerNotSupported())
+    if (!binding->isSupported())
         return say(tr("The device does not have this parameter"));
     m_form->reveal(binding->control());
 }

@@ -43,6 +43,8 @@ public:
     std::function<void(const QString& text)> say;
     /// After each round, and after a change of language.
     std::function<void()> onRound;
+    /// It has been connected to another address.
+    std::function<void()> onAddress;
     /// Edits have begun, changed or ended; heard some time after, once for many.
     std::function<void()> onEdits;
     /// Translators and separators must be in force already.
@@ -52,6 +54,8 @@ public:
     void remember(const Memory& memory) { m_memory = memory; }
     /// @}
 
+    /// Goes on with the device at another address. Raises AddressError.
+    void connectTo(const QString& address);
     /// What can be done with one control: copying its value, setting it to that of a settings file.
     void addTo(QMenu& menu, const Binding& binding);
     /// Brings a parameter into sight, with the focus in its control.

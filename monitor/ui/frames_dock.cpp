@@ -208,15 +208,13 @@ void FramesDock::showFailure()
         return m_failure->setText(tr("No failure so far."));
     const Reply& failure = m_link->lastFailure();
     const QString reason = Words::reason(failure);
-    const auto& frames = m_link->frames().all();
-    const auto last = std::find_if(frames.rbegin(), frames.rend(), [](const auto& one) { return one->isFailure; });
-    if (last == frames.rend()) // it has fallen out
-        return m_failure->setText(tr("Last failure: %1. %2").arg(reason, Words::advice(failure)));
-    const QString time = QDateTime::fromMSecsSinceEpoch((*last)->time).toString("HH:mm:ss");
+    const std::int64_t at = m_link->lastFailureAt();
+    const QString time = QDateTime::fromMSecsSinceEpoch(at).toString("HH:mm:ss");
     // What the device refuses it goes on refusing, whatever else it answers.
-    const bool since =
-        failure.outcome != Outcome::Refused &&
-        std::any_of(frames.rbegin(), last, [](const auto& one) { return one->kind == Frame::Kind::Reply; });
+    const auto& frames = m_link->frames().all();
+    const auto last = std::find_if(frames.rbegin(), frames.rend(),
+                                   [](const auto& one) { return one->kind == Frame::Kind::Reply; });
+    const bool since = failure.outcome != Outcome::Refused && last != frames.rend() && (*last)->time > at;
     m_failure->setText(since ? tr("Last failure, at %1: %2. The device has answered since.").arg(time, reason)
                              : tr("Last failure, at %1: %2. %3").arg(time, reason, Words::advice(failure)));
 }

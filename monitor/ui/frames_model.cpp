@@ -24,12 +24,11 @@ constexpr std::array kDirections{
     QT_TRANSLATE_NOOP("FramesModel", "remark"),
 };
 
-bool writes(const Frame& frame)
+bool isOfWrite(const Frame& frame)
 {
-    constexpr std::array<std::uint8_t, 5> kWriting{5, 6, 15, 16, 22};
     const Frame& asked = frame.request != nullptr ? *frame.request : frame;
     const std::size_t at = asked.framing->head;
-    return asked.bytes.size() > at && std::ranges::find(kWriting, asked.bytes[at]) != kWriting.end();
+    return asked.bytes.size() > at && writes(static_cast<Function>(asked.bytes[at]));
 }
 
 } // namespace
@@ -47,7 +46,7 @@ std::string FramesModel::word(std::string_view english)
 
 bool FramesModel::passes(const Frame& frame) const
 {
-    if ((m_which == kFailures && !frame.isFailure) || (m_which == kWrites && !writes(frame)))
+    if ((m_which == kFailures && !frame.isFailure) || (m_which == kWrites && !isOfWrite(frame)))
         return false;
     return m_text.isEmpty() || std::ranges::any_of(std::array{kUnit, kMessage, kBytes}, [&](int column) {
                return cell(frame, column).contains(m_text, Qt::CaseInsensitive);

@@ -279,7 +279,7 @@ int GeneratedForm::heightOf(const Page& page) const
     int height = 0;
     for (const Parameter* parameter : page.parameters) {
         const core::ClassInfo& info = classOf(*parameter);
-        height += heightIn(info, *parameter, m_whole->fontMetrics()) + std::max(space, kFrame);
+        height += heightIn(info, *parameter, m_whole->font()) + std::max(space, kFrame);
     }
     return height;
 }
@@ -311,7 +311,7 @@ void GeneratedForm::translatePage(const Page& page)
 
 void GeneratedForm::translateRow(const Row& row)
 {
-    row.caption->setText(breakable(text(row.parameter->appearance.caption.in(m_language))));
+    row.caption->setText(breakable(text(row.parameter->captionIn(m_language))));
     for (std::size_t i = 0; i < row.controls.size(); ++i) {
         core::Control& control = *row.controls[i];
         if (isChoice(control.info()))

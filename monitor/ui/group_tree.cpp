@@ -58,9 +58,7 @@ void GroupTree::open(QTreeWidgetItem& group)
     if (group.childCount() > 0)
         return;
     for (const Parameter* parameter : parametersOf(indexOfTopLevelItem(&group))) {
-        const std::string& caption = parameter->appearance.caption.in(m_language);
-        auto* item =
-            new QTreeWidgetItem(&group, {QString::fromStdString(caption.empty() ? parameter->tag : caption)});
+        auto* item = new QTreeWidgetItem(&group, {QString::fromStdString(parameter->captionIn(m_language))});
         item->setToolTip(0, platform::qt::plainToolTip(parameter->tag));
     }
 }

@@ -1,10 +1,11 @@
+#include <zor/monitor/parts/save_dialog.h>
 #include <zor/monitor/ui/report_dialog.h>
 #include <zor/monitor/ui/report_maker.h>
 
 #include <QDate>
-#include <QFileDialog>
 #include <QMessageBox>
 
+#include <array>
 #include <numeric>
 
 namespace zor::monitor {
@@ -23,13 +24,9 @@ void ReportMaker::ask(DevicePanel& panel)
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(dialog, &QDialog::accepted, &panel, [this, dialog, &panel] {
         const QString usual = "report-" + QString::fromStdString(panel.session().deviceType()) +
-                              QDate::currentDate().toString("-yyyy-MM-dd") + ".pdf";
-        const QString pdf = tr("PDF (*.pdf)");
-        QString filter = pdf;
-        QString file = QFileDialog::getSaveFileName(&m_window, tr("Save report"), usual,
-                                                    pdf + ";;" + tr("HTML (*.html)"), &filter);
-        if (filter != pdf && file.endsWith(".pdf"))
-            file.replace(file.size() - 4, 4, ".html");
+                              QDate::currentDate().toString("-yyyy-MM-dd");
+        const std::array kinds{FileKind{tr("PDF (*.pdf)"), "pdf"}, FileKind{tr("HTML (*.html)"), "html"}};
+        const QString file = askWhereToSave(&m_window, tr("Save report"), usual, kinds);
         if (!file.isEmpty())
             make(panel, file, dialog->compared(), dialog->hasPicture());
     });

@@ -151,10 +151,12 @@ QStringList ReviewDialog::textsOf(const Change& change) const
     QString remark = Words::problem(change);
     if (change.changedByOther)
         remark += (remark.isEmpty() ? "" : "; ") + tr("changed by another user in the meantime");
+    if (change.otherDevice)
+        remark += (remark.isEmpty() ? "" : "; ") + tr("another device answers since");
     // What is no number has no unit either.
     const MEAS_TYPE unit = change.problem == Problem::NotANumber ? NoneU : change.unit;
-    return {shown(parameter.appearance.caption.in(m_language)), shown(change.tag),
-            Words::value(change.oldText, change.unit), Words::value(change.newText, unit), remark};
+    return {shown(parameter.captionIn(m_language)), shown(change.tag), Words::value(change.oldText, change.unit),
+            Words::value(change.newText, unit), remark};
 }
 
 } // namespace zor::monitor

@@ -46,6 +46,16 @@ int linesOf(const Parameter& list) { return std::clamp(static_cast<int>(list.bit
 
 QWidget& surfaceOf(core::Control& control) { return platform::qt::widgetOf(control.surface()); }
 
+/// The pixels of this page's sizes are those of the fonts that controls are designed for: with a larger font all
+/// of it is larger, as the controls are.
+int drawn(const QFont& font, int designed)
+{
+    constexpr double kTwips = 15;
+    return platform::qt::Scale(font).pixels(designed * kTwips);
+}
+
+QFont fontAround(const QWidget& surface) { return surface.parentWidget()->font(); }
+
 /// The right end of what is on the control, shown or not: the icon comes and goes.
 int rightEnd(const QWidget& surface)
 {
@@ -65,8 +75,8 @@ void setWidth(core::Control& control, int width)
         surface.setFixedWidth(width);
     // What is right of the field belongs to unit and icon.
     const core::PropertyRow* row = control.info().property("WidthDifference");
-    const platform::qt::Scale scale(surface.parentWidget()->font());
-    const auto room = static_cast<std::int16_t>(scale.twips(width - kField));
+    const QFont font = fontAround(surface);
+    const auto room = static_cast<std::int16_t>(platform::qt::Scale(font).twips(width - drawn(font, kField)));
     if (row != nullptr && control.get(*row) != Variant(room))
         control.put(*row, room);
 }
@@ -132,9 +142,10 @@ void giveSize(core::Control& control)
 {
     QWidget& surface = surfaceOf(control);
     const LooksRow& looks = looksOf(control.info());
+    const QFont font = fontAround(surface);
     if (looks.height > 0)
-        surface.setFixedHeight(looks.height);
-    setWidth(control, looks.width);
+        surface.setFixedHeight(drawn(font, looks.height));
+    setWidth(control, drawn(font, looks.width));
     if (control.info().name == "ctx_ZorSlider")
         control.setProperty("UnitEnable", false); // the note beside it has the unit
 }
@@ -146,18 +157,21 @@ void giveRoomForBits(core::Control& list, const Parameter& parameter, const std:
     int widest = 0;
     for (const Entry& bit : parameter.bits)
         widest = std::max(widest, metrics.horizontalAdvance(QString::fromStdString(bit.text.in(language))));
-    const int wanted = widest + kMark + kIconRoom + surface.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const QFont font = fontAround(surface);
+    const int most = drawn(font, kWidest);
+    const int wanted =
+        widest + drawn(font, kMark + kIconRoom) + surface.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     // What is still too wide is scrolled; the bar for it takes a line.
-    surface.setFixedHeight((linesOf(parameter) + (wanted > kWidest ? 1 : 0)) * (metrics.height() + kRowSpace) +
+    surface.setFixedHeight((linesOf(parameter) + (wanted > most ? 1 : 0)) * (metrics.height() + kRowSpace) +
                            kRowSpace);
-    setWidth(list, std::clamp(wanted, kUsualWidth, kWidest));
+    setWidth(list, std::clamp(wanted, drawn(font, kUsualWidth), most));
 }
 
-int heightIn(const core::ClassInfo& info, const Parameter& parameter, const QFontMetrics& metrics)
+int heightIn(const core::ClassInfo& info, const Parameter& parameter, const QFont& font)
 {
-    const int height = looksOf(info).height;
+    const int height = drawn(font, looksOf(info).height);
     if (height == 0)
-        return linesOf(parameter) * (metrics.height() + kRowSpace) + kRowSpace;
+        return linesOf(parameter) * (QFontMetrics(font).height() + kRowSpace) + kRowSpace;
     const bool choice = info.property("EnumEntryValue") != nullptr;
     return choice ? height * static_cast<int>(parameter.entries.size()) : height;
 }
@@ -172,7 +186,8 @@ void giveRoomForEntries(core::Control& comboBox)
 void setOwnCaption(core::Control& control, const QString& caption)
 {
     QWidget& surface = surfaceOf(control);
-    const QString shown = surface.fontMetrics().elidedText(caption, Qt::ElideRight, kWidest - kMark - kIconRoom);
+    const QString shown = surface.fontMetrics().elidedText(
+        caption, Qt::ElideRight, drawn(fontAround(surface), kWidest - kMark - kIconRoom));
     control.setProperty(looksOf(control.info()).caption, shown.toStdString());
     surface.setToolTip(shown == caption ? QString() : platform::qt::plainToolTip(caption.toStdString()));
 }
@@ -191,7 +206,8 @@ void fitSize(core::Control& control)
     // Their bodies fill them: what they are wide follows from what they are given.
     const bool fixed = control.info().name == "ctx_ZorListBox" || control.info().name == "ctx_ZorImage";
     if (surface.isVisible() && !fixed)
-        setWidth(control, std::max(looksOf(control.info()).width, rightEnd(surface) + 1));
+        setWidth(control,
+                 std::max(drawn(fontAround(surface), looksOf(control.info()).width), rightEnd(surface) + 1));
 }
 
 void showNote(QLabel& note, core::Control& control, const Parameter& parameter, bool known,

@@ -12,8 +12,8 @@ namespace zor::monitor {
 /// What the generated form must know of a class.
 struct LooksRow {
     std::string_view name;
-    int width;                  ///< pixels; the least
-    int height;                 ///< pixels; 0: as many as its list has lines
+    int width;                  ///< the least, in pixels of the fonts that controls are designed for
+    int height;                 ///< in the same; 0: as many as its list has lines
     bool tall = false;          ///< reaches over more than a line of text
     std::string_view caption{}; ///< the property that carries its own caption
 };
@@ -27,7 +27,7 @@ void giveSize(core::Control& control);
 void giveRoomForBits(core::Control& list, const Parameter& parameter, const std::string& language);
 
 /// The height of a row, as far as it can be told before there are controls in it.
-[[nodiscard]] int heightIn(const core::ClassInfo& info, const Parameter& parameter, const QFontMetrics& metrics);
+[[nodiscard]] int heightIn(const core::ClassInfo& info, const Parameter& parameter, const QFont& font);
 
 /// The list that a combo box opens shows whole entries, as far as that is possible.
 void giveRoomForEntries(core::Control& comboBox);

@@ -53,7 +53,7 @@ ScanDialog& ScanDialog::openFor(DevicePanel& panel)
         dialog->setAddresses(entry.address);
     dialog->onConnect = [dialog](const QString& address) {
         if (dialog->m_panel != nullptr)
-            dialog->m_panel->device().connectTo(address);
+            dialog->m_panel->connectTo(address);
     };
     dialog->open();
     return *dialog;

@@ -41,6 +41,7 @@ SettingsDialog::SettingsDialog(Comparison comparison, const ParameterFile& param
     resize(kWidth, kHeight);
     fill();
     filter();
+    sizeColumns();
     // Only now: filling changes every item.
     connect(m_table, &QTableWidget::itemChanged, this, [this] { allowLoading(); });
     m_table->setFocus();
@@ -133,9 +134,8 @@ QStringList SettingsDialog::textsOf(const Compared& row) const
     QString remark = Words::verdict(row);
     if (row.verdict == Verdict::Different && m_use.loads && !isLoadable(row))
         remark += ": " + tr("this form has no field for it");
-    const QString caption = row.parameter
-                                ? asText(m_parameters.parameters[*row.parameter].appearance.caption.in(m_language))
-                                : QString();
+    const QString caption =
+        row.parameter ? asText(m_parameters.parameters[*row.parameter].captionIn(m_language)) : QString();
     return {caption, asText(row.tag), Words::value(row.fileText, row.unit), Words::value(row.deviceText, row.unit),
             remark};
 }
@@ -163,13 +163,18 @@ void SettingsDialog::fill()
             m_table->setItem(static_cast<int>(i), column++, item);
         }
     }
+    // As the file has them, until a heading is clicked.
+    m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    m_table->setSortingEnabled(true);
+}
+
+void SettingsDialog::sizeColumns()
+{
+    // For what is in sight: a caption or a text of any length leaves the remark its room.
     constexpr int kWidest = 240;
     m_table->resizeColumnsToContents();
     for (int column = 0; column < m_table->columnCount() - 1; ++column)
         m_table->setColumnWidth(column, std::min(m_table->columnWidth(column), kWidest));
-    // As the file has them, until a heading is clicked.
-    m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
-    m_table->setSortingEnabled(true);
 }
 
 void SettingsDialog::filter()

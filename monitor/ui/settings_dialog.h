@@ -49,6 +49,7 @@ private:
     [[nodiscard]] QStringList textsOf(const Compared& row) const;
     [[nodiscard]] bool isLoadable(const Compared& row) const;
     void filter();
+    void sizeColumns();
     void tickAll(bool ticked);
     [[nodiscard]] bool isTicked(int row) const;
     void allowLoading();

@@ -66,9 +66,13 @@ void StatusLine::showRound(bool answered)
     const bool failed = !answered && m_session->poller().rounds() > 0;
     m_state->show(record.isEmpty() ? state : tr("The record cannot be written: %1").arg(record) + "  |  " + state,
                   failed ? Words::advice(m_session->poller().failure()) : QString());
-    // Who does not answer has no speed, and the reason needs the room.
-    m_traffic->setVisible(answered);
     showTraffic();
+    // Who does not answer has no speed; and how the connection stands needs the room first.
+    constexpr int kBetween = 4; ///< characters
+    const QFontMetrics metrics = m_bar.fontMetrics();
+    const int needed = metrics.horizontalAdvance(m_state->text()) + metrics.horizontalAdvance(m_traffic->text()) +
+                       kBetween * metrics.horizontalAdvance('0');
+    m_traffic->setVisible(answered && needed <= m_bar.width());
 }
 
 QString StatusLine::connection(bool answered) const

@@ -2,6 +2,7 @@
 #include <zor/core/frm_Container.h>
 #include <zor/forms/form.h>
 #include <zor/forms/form_error.h>
+#include <zor/monitor/data/file_content.h>
 #include <zor/monitor/data/message.h>
 #include <zor/monitor/ui/form.h>
 #include <zor/monitor/ui/no_value_veil.h>
@@ -9,7 +10,7 @@
 #include <zor/widgets/form_loader.h>
 #include <zor/widgets/zor_control.h>
 
-#include <QFile>
+#include <QBuffer>
 #include <QMainWindow>
 #include <QRegularExpression>
 #include <QScreen>
@@ -96,18 +97,14 @@ std::vector<UiForm::Place> UiForm::placesIn(const core::ClassRegistry& classes, 
 
 UiForm::UiForm(const QString& file, const core::ClassRegistry& classes)
 {
-    QFile source(file);
     const std::string name = file.toStdString();
-    if (!source.open(QIODevice::ReadOnly))
-        throw FileError(name, 0, source.errorString().toStdString());
-    constexpr qint64 kLargest = 16 << 20;
-    if (source.size() > kLargest)
-        throw FileError(name, 0, message(QT_TRANSLATE_NOOP("texts", "larger than 16 MB")));
-    m_places = placesIn(classes, source.readAll(), name);
+    QByteArray text = QByteArray::fromStdString(contentOf(name));
+    m_places = placesIn(classes, text, name);
     if (m_places.empty())
         throw FileError(name, 0,
                         message(QT_TRANSLATE_NOOP("texts", "no controls of the library are on this form")));
-    source.seek(0);
+    QBuffer source(&text);
+    source.open(QIODevice::ReadOnly);
     ZorUiLoader loader;
     QWidget* loaded = loader.load(&source);
     if (loaded == nullptr)

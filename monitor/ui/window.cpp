@@ -113,6 +113,15 @@ void Window::showFront()
 void Window::addDock(QDockWidget& dock, Qt::DockWidgetArea area)
 {
     addDockWidget(area, &dock);
+    // Beside each other neither would have room for what it shows.
+    const auto there =
+        std::ranges::find_if(m_docks, [&](QDockWidget* other) { return dockWidgetArea(other) == area; });
+    if (there != m_docks.end())
+        tabifyDockWidget(*there, &dock);
+    connect(dock.toggleViewAction(), &QAction::triggered, &dock, [&dock](bool shown) {
+        if (shown)
+            dock.raise();
+    });
     dock.hide();
     m_docks.push_back(&dock);
     buildMenus();

@@ -1,6 +1,7 @@
 // The devices in the window: opening, closing, the list of them, files that are dropped.
 
 #include <zor/monitor/data/file_content.h>
+#include <zor/monitor/data/message.h>
 #include <zor/monitor/device/site_file.h>
 #include <zor/monitor/ui/open_dialog.h>
 #include <zor/monitor/ui/window.h>
@@ -27,6 +28,11 @@ DevicePanel& Window::add(std::unique_ptr<DevicePanel> panel)
     };
     added.onRound = [this, &added] { showState(added); };
     added.onEdits = [this, &added] { showState(added); };
+    added.onAddress = [this, &added] {
+        listDevices();
+        if (&added == m_front)
+            showFront();
+    };
     added.setLanguage(m_languages.current().toStdString());
     if (m_units != UnitSystem::Form)
         added.setUnits(m_units);
@@ -114,6 +120,12 @@ void Window::showState(const DevicePanel& panel)
 
 QString Window::tryOpen(const DeviceEntry& entry)
 {
+    std::vector<DeviceEntry> entries;
+    for (const auto& panel : m_panels)
+        entries.push_back(panel->device().entry());
+    entries.push_back(entry);
+    if (const auto clash = clashIn(entries))
+        return QString::fromStdString(message(clash->reason, {clash->member}));
     try {
         add(openPanel(entry, m_classes)).device().start();
         return {};

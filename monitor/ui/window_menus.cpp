@@ -23,9 +23,6 @@
 namespace zor::monitor {
 namespace {
 
-constexpr int kShortestPeriod = 100;
-constexpr int kLongestPeriod = 60000;
-
 struct SystemRow {
     UnitSystem system;
     const char* name;
@@ -186,7 +183,7 @@ void Window::addDeviceActions(QMenu& menu)
                                                 session().poller().period(), kShortestPeriod, kLongestPeriod,
                                                 kShortestPeriod, &accepted);
         if (accepted)
-            session().setPeriod(period);
+            m_front->device().setPeriod(period);
     });
     Simulator* simulator = m_front->device().simulator();
     if (simulator == nullptr)
@@ -261,7 +258,7 @@ void Window::buildLanguageMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Language"));
     auto* group = new QActionGroup(menu);
-    for (const LanguageRow& row : languages()) {
+    for (const LanguageRow& row : kLanguages) {
         // Later: the menu that holds this action is made anew.
         QAction* action = menu->addAction(
             '&' + QString::fromUtf8(row.name), this, [this, &row] { setLanguage(row.code); },

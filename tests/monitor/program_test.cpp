@@ -83,7 +83,7 @@ TEST(Program, SaysWhyItCannotRun)
         {{"--frames", "/dev/full", "--run-for", "1"}, 2, "/dev/full: No space left on device"},
         {{"--log", "/dev/full", "--run-for", "1"}, 2, "/dev/full: No space left on device"},
         {{"--screenshot", "a.xyz"}, 2, "a.xyz: no kind of picture"},
-        {{"--screenshot", folder.filePath("no/a.png"), "--run-for", "1"}, 2, "no/a.png: cannot be written"},
+        {{"--screenshot", folder.filePath("no/a.png"), "--run-for", "1"}, 2, "no/a.png: "},
         {{"--report", "a.txt"}, 2, "a.txt: neither .pdf nor .html"},
         {{"--report", folder.filePath("no/a.pdf")}, 2, "no/a.pdf: "},
         {{"--device", "127.0.0.1:1", "--report", folder.filePath("a.pdf")},
@@ -97,6 +97,9 @@ TEST(Program, SaysWhyItCannotRun)
          "no-site.json:2: a site file has the format"},
         {{"--site", absent, "--device", "simulated"}, 2, "excludes --site"},
         {{"--serve", port}, 2, "port " + port + ": "},
+        {{"--serve", port, "--save-settings", "a.json"}, 2, "excludes"},
+        {{"--trend", "Flow", "--save-settings", "a.json"}, 2, "excludes"},
+        {{"--form", "/dev/zero"}, 2, "/dev/zero: larger than 16 MB"},
         {{"--parameters", bad, "--language", "de"}, 2, bad + ":3: hier wird ein Text erwartet"},
         {{"--form", fileOf("cut.ui", "<ui>\n<widget"), "--language", "fr"}, 2, "cut.ui:2: <widget n'est pas"},
         {{"--device", "tcp://h?unit=x", "--language", "de"}, 2, "unit ist eine Zahl von 0 bis 255"},
@@ -108,6 +111,11 @@ TEST(Program, SaysWhyItCannotRun)
             << row.arguments.join(' ').toStdString() << ": " << bad.error.toStdString();
     }
     EXPECT_EQ(runMonitor({"--help"}).status, 0);
+    QProcess full;
+    full.setStandardOutputFile("/dev/full");
+    full.start(ZOR_MONITOR, {"--run-for", "1"});
+    EXPECT_TRUE(full.waitForFinished());
+    EXPECT_EQ(full.exitCode(), 2) << "what was printed is lost without a word";
     EXPECT_EQ(tests::textIn(record).count('\n'), 25)
         << "a heading, and once for each parameter that nobody answers";
 }

@@ -25,6 +25,7 @@ TEST(ScanLines, AreWhatTheAddressSaysOrRefused)
                  "rtu:/dev/x?baud=9600&parity=even 7; rtu:/dev/x?baud=9600&parity=none 7; "
                  "rtu:/dev/x?baud=19200&parity=even 7; rtu:/dev/x?baud=19200&parity=none 7"},
              Row{"host?unit=256", nullptr},
+             Row{"rtu:/dev/x?unit=0-3", nullptr},
              Row{"host?unit=", nullptr},
              Row{"host?unit=5-3", nullptr},
              Row{"host?unit=1-", nullptr},

@@ -37,8 +37,10 @@ TEST_F(SessionTest, ReadsEachParameterAndTellsHowItWent)
     EXPECT_TRUE(host.until([&] { return host.session->deviceVersion() == "2.3"; }));
     EXPECT_EQ(host.box("Level").DeviceType(), "ZT");
     peer.registers[10] = 77;
+    peer.registers[32] = 0x1B41; // escape, A
     host.rounds();
     EXPECT_EQ(host.text("Level"), "77");
+    EXPECT_NE(host.session->report().find("Name  Abc ?A  live\n"), std::string::npos) << "steers a terminal";
 }
 
 TEST_F(SessionTest, ReadsOnlyWhatIsSeenOrEdited)
@@ -258,11 +260,13 @@ TEST(Sessions, AnotherDeviceIsNoticedAndJudgedAnew)
         Host host(peer.serverPort());
         for (const char* tag : {"Level", "Far"})
             host.add("ctx_ZorTextBox", tag)->DeviceTypeSupported(*tag == 'F' ? "XY" : "ZT");
-        host.run({"Limit"});
+        host.run({"Limit", "Wide"});
+        host.box("Wide").DeviceTypeSupported("ZT");
         EXPECT_TRUE(host.until([&] { return host.session->deviceType() == "ZT"; }));
         EXPECT_FALSE(host.controls[0]->DeviceTypeNotSupported());
         EXPECT_TRUE(host.controls[1]->DeviceTypeNotSupported());
         host.type("Limit", "25");
+        host.type("Wide", "7");
         const std::vector<Change> reviewed = host.session->pending();
         peer.registers[100] = 0x5859;
         if (connectsAnew) {
@@ -274,13 +278,37 @@ TEST(Sessions, AnotherDeviceIsNoticedAndJudgedAnew)
                 host.rounds(5);
             EXPECT_TRUE(host.until([&] { return host.session->deviceType() == "XY"; }));
         }
-        EXPECT_EQ(only(host.write(reviewed)), WriteOutcome::Overtaken);
+        for (const Written& written : host.write(reviewed))
+            EXPECT_EQ(written.result.outcome, WriteOutcome::Overtaken);
         EXPECT_EQ(host.session->deviceType(), "XY");
         EXPECT_EQ(peer.registers[20], 20) << "written into another device than was reviewed";
         EXPECT_TRUE(host.controls[0]->DeviceTypeNotSupported());
         EXPECT_FALSE(host.controls[1]->DeviceTypeNotSupported());
         EXPECT_TRUE(host.get("Limit", "DataChanged").toBoolean());
+        const std::vector<Change> anew = host.session->pending();
+        ASSERT_EQ(anew.size(), 2U);
+        EXPECT_TRUE(anew[0].otherDevice && !anew[0].changedByOther) << "nobody else has changed it";
+        EXPECT_EQ(anew[0].problem, Problem::None);
+        EXPECT_EQ(anew[1].problem, Problem::NotThere) << "would be written into what means something else";
     }
+}
+
+TEST_F(SessionTest, AWriteIsNotConfirmedByAnotherDevice)
+{
+    host.run({"Limit"});
+    host.type("Limit", "5");
+    peer.answer = [&](QTcpSocket& socket, const QByteArray& reply) {
+        if (reply[7] != 6)
+            return void(socket.write(reply));
+        // It leaves without an answer; what takes its place holds the same by chance.
+        peer.registers[100] = 0x5859;
+        socket.abort();
+    };
+    EXPECT_EQ(only(host.write()), WriteOutcome::Unconfirmed);
+    host.rounds(3);
+    EXPECT_EQ(host.session->deviceType(), "XY");
+    EXPECT_TRUE(host.get("Limit", "DataModified").toBoolean());
+    EXPECT_EQ(host.session->writes().size(), 1U) << "settled by what another device holds";
 }
 
 TEST(Sessions, ADeviceThatDoesNotSayWhatItIsHasNoRestrictedParameter)

@@ -112,7 +112,7 @@ TEST_F(Demo, NeitherUnitsNorLanguagesMakeAnEdit)
         }
     }
     for (const UnitSystem system : {UnitSystem::Us, UnitSystem::Metric, UnitSystem::Device, UnitSystem::Form}) {
-        for (const LanguageRow& language : monitor::languages()) {
+        for (const LanguageRow& language : monitor::kLanguages) {
             window->setUnits(system);
             window->setLanguage(language.code);
             untouched(language.code);
@@ -185,7 +185,7 @@ TEST_F(Several, AreSavedAsASiteAndOpenedFromIt)
     QTemporaryDir folder;
     const QString file = folder.filePath("site.json");
     window->saveSite(file);
-    const SiteFile site = loadSiteFile(file);
+    SiteFile site = loadSiteFile(file);
     ASSERT_EQ(site.devices.size(), 3U);
     EXPECT_EQ(site.devices[1].name, "Second");
     EXPECT_TRUE(site.devices[1].isSimulated());
@@ -193,6 +193,10 @@ TEST_F(Several, AreSavedAsASiteAndOpenedFromIt)
     EXPECT_EQ(site.devices[2].period, kPeriod);
     window->take(file); // as if it had been dropped
     EXPECT_EQ(window->panels().size(), 6U);
+    // As the command line may name it.
+    site.devices[0].form = "near.ui";
+    writeFile(file, textOf(site, folder.path()));
+    EXPECT_EQ(loadSiteFile(file).devices[0].form, QFileInfo("near.ui").absoluteFilePath());
 }
 
 TEST(SiteFiles, WhatIsWrongIsRefusedWithItsPlaceAndTheSchemaAgrees)

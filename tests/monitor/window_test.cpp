@@ -216,6 +216,9 @@ TEST_F(Demo, ConnectsToADeviceThatWasLookedFor)
     const unsigned before = window->session().device();
     EXPECT_TRUE(QTest::qWaitFor([&] { return field("HighAlarm").text() == "77.7"; }, kPatience));
     EXPECT_TRUE(QTest::qWaitFor([&] { return window->session().device() != before; }, kPatience));
+    EXPECT_FALSE(window->windowTitle().contains("simulated")) << window->windowTitle().toStdString();
+    const auto actions = window->findChildren<QAction*>();
+    EXPECT_TRUE(std::ranges::none_of(actions, [](auto* one) { return one->text() == "&Simulated device runs"; }));
 }
 
 struct Drawn : Demo {
