@@ -133,7 +133,10 @@ struct ClassInfo {
     ControlPtr<> (*create)(platform::Container&);
 
     /// What the class is called where it is a ready-made widget ("ZorTextBox").
-    [[nodiscard]] constexpr std::string_view widgetName() const noexcept { return name.substr(kPrefix.size()); }
+    [[nodiscard]] constexpr std::string_view widgetName() const noexcept
+    {
+        return name.starts_with(kPrefix) ? name.substr(kPrefix.size()) : name;
+    }
     /// What the published name has before that.
     static constexpr std::string_view kPrefix = "ctx_";
 

@@ -6,7 +6,8 @@ namespace zor::core {
 
 CommitFilter::CommitFilter(Control& control) noexcept
     : m_control(control), m_output(control.info().property("OutputValue")),
-      m_device(control.info().property("DeviceValue")), m_modified(control.info().property("DataModified")),
+      m_device(control.info().property("DeviceValue")), m_own(control.info().property("ModifiedValue")),
+      m_modified(control.info().property("DataModified")),
       m_isField(dynamic_cast<const platform::TextField*>(control.widget(1)) != nullptr)
 {}
 
@@ -16,7 +17,8 @@ std::optional<Variant> CommitFilter::take()
         return {};
     Variant value = m_control.get(*m_output);
     const bool isEdit = m_control.get(*m_modified).toBoolean();
-    const bool isDevice = value == m_control.get(*m_device);
+    // A slider reads both times its ScaleFactor.
+    const bool isDevice = m_control.get(*m_own) == m_control.get(*m_device);
     const bool isOther = m_last ? !(*m_last == value) : isEdit || !isDevice;
     m_last = value;
     if (!m_control.isByOperator()) {

@@ -22,9 +22,9 @@ public:
     explicit CommitFilter(Control& control) noexcept;
 
     /// In a handler of OutputValueChange, once each time: the value to write to the device, in the device's unit,
-    /// where the operator has handed over another one than the device's and than he did before. A slider that is
-    /// being dragged hands over each place it passes; what a host writes to the device is for the host to slow
-    /// down.
+    /// where the operator has handed over another one than this was told of last: another one than the device's,
+    /// or the device's own again after an entry of his. A slider that is being dragged hands over each place it
+    /// passes; what a host writes to the device is for the host to slow down.
     [[nodiscard]] std::optional<Variant> take();
     /// What was handed over has not reached the device, or a value of the device's has come that raised no
     /// OutputValueChange, for it could not be shown: an edit that still stands is handed over anew when the
@@ -35,6 +35,7 @@ private:
     Control& m_control;
     const PropertyRow* m_output;   ///< nullptr for a control that hands nothing over
     const PropertyRow* m_device;   ///< with it
+    const PropertyRow* m_own;      ///< with it: what it hands over, as m_device is read
     const PropertyRow* m_modified; ///< with it
     bool m_isField;                ///< it is passed through
     std::optional<Variant> m_last; ///< what the event told of before

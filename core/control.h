@@ -24,8 +24,8 @@ namespace zor::core {
 /// A control without a kind. Controls are created through their class (`create`) and owned by a ControlPtr.
 ///
 /// Properties are published as pairs of overloads, `bool CFail() const` and `void CFail(bool)`. A write
-/// stores the value, notifies the container under the property's own name and runs the refreshes that depend
-/// on it.
+/// stores the value, notifies the container under the property's own name, unless its row says Access::Silent, and
+/// runs the refreshes that depend on it.
 ///
 /// What remains after an error: a value of the wrong type or beyond its range has changed nothing. When a later
 /// step fails, the property has its old value again, but what the steps before it did to other things stays; a
@@ -128,7 +128,7 @@ public:
     /// @name Listening by name
     /// A listener must be taken away before it ends.
     /// @{
-    /// Hears every event, by its row.
+    /// Hears every event, by its row. Who subscribes twice hears it twice, and unsubscribes twice.
     void subscribe(EventSink& sink) { m_sinks.add({&sink, nullptr}); }
     void unsubscribe(EventSink& sink) noexcept { m_sinks.remove({&sink, nullptr}); }
     /// @}
@@ -148,7 +148,7 @@ public:
     /// Takes the stored properties, in place of initialiseProperties(); what the bag does not have gets its
     /// default. But for a label, no value is shown and no state explained until the host writes DeviceValue and
     /// the flags of its read: a text field is empty, a track at its left end, a box unticked. A value of another
-    /// type raises TypeMismatch; the control is to be destroyed then.
+    /// type raises TypeMismatch, one beyond its property's range Overflow; the control is to be destroyed then.
     void readProperties(const platform::PropertyBag& bag) final;
     /// Stores the properties. An enumeration's value that needs more than the 16 bits of its key raises Overflow,
     /// and nothing is stored.

@@ -121,8 +121,8 @@ class EventSink {
 public:
     /// An event of the control. Arguments are by reference.
     virtual void event(Control& control, const EventRow& row, platform::EventArgs args) = 0;
-    /// The control has been destroyed by its owner; it is not to be used any more. A listener that outlives the
-    /// controls it listens to takes itself away here.
+    /// The control has been destroyed by its owner. A listener that outlives the controls it listens to takes
+    /// itself away here with unsubscribe(); nothing else of the control is to be used any more.
     virtual void ended(Control& /*control*/) noexcept {}
 
 protected:

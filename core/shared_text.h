@@ -22,7 +22,7 @@ public:
         bool isCommon = false; ///< kept for all, and never given up
     };
 
-    /// `common` must outlive the text.
+    /// `common` must outlive the text. What was moved from may be assigned to and destroyed, and nothing else.
     explicit SharedText(const Kept& common) noexcept : m_kept(&common) {}
     explicit SharedText(std::string_view own) : m_kept(new Kept{std::string(own)}) {}
     /// What it says.

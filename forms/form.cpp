@@ -82,6 +82,8 @@ void Form::note(std::size_t line, string_view text) { m_document->note(line, tex
 void Form::fill(std::size_t item, core::Control& control)
 {
     Document& document = *m_document;
+    if (item >= document.items.size())
+        raiseError(ErrorNumber::SubscriptOutOfRange);
     const platform::Hold hold(control);
     for (const pugi::xml_node& property : document.elements[item].children("property")) {
         const string name = attributeOf(property, "name");

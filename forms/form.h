@@ -49,26 +49,29 @@ public:
     ~Form();
 
     /// The controls, in the order of the file. A file may give two the same name: who finds them by it sees to
-    /// that.
+    /// that. Good until the next store() or keepOnly().
     [[nodiscard]] std::span<const Item> items() const noexcept;
     /// Sets what the form says on a fresh control of the item's class, already in its place, in the order of the
-    /// file.
+    /// file. Raises SubscriptOutOfRange for an item that there is not.
     void fill(std::size_t item, core::Control& control);
-    /// What could not be taken over so far, a line each, beginning with file and line.
+    /// What could not be taken over so far, a line each, beginning with file and line. Good until the next one.
     [[nodiscard]] std::span<const std::string> notes() const noexcept;
     /// Adds a note.
     void note(std::size_t line, std::string_view text);
 
     /// Takes a control's stored properties and place into the form, under a name that is new or an item's. Only
     /// what has changed since fill() or the last store() is touched. In the container a control is made for a
-    /// moment, to see what the form's own settings come to.
+    /// moment, to see what the form's own settings come to. An item of another class keeps its name beside it:
+    /// names are for the caller to keep apart. Raises FormError for a form without a widget that a control could
+    /// lie on.
     void store(std::string_view name, core::Control& control, platform::Container& container);
     /// Takes the items out for which `keep` says no.
     void keepOnly(const std::function<bool(const Item&)>& keep);
 
     /// The file as it would be written.
     [[nodiscard]] std::string text() const;
-    /// Writes the file, whole or not at all. Raises FormError.
+    /// Writes the file, whole or not at all: under a new name beside it first. Of a link, what it leads to. Raises
+    /// FormError.
     void write(const std::filesystem::path& file) const;
 
 private:

@@ -160,7 +160,7 @@ platform::Spoken Page::spoken(int widget)
 {
     platform::Spoken spoken;
     const int part = widget - 1;
-    if (part >= 0 && part % kParts == kInput)
+    if (part >= 0 && part / kParts < std::ssize(m_entries) && part % kParts == kInput)
         spoken.name = m_entries[static_cast<std::size_t>(part / kParts)].field->caption;
     return spoken;
 }
@@ -168,7 +168,7 @@ platform::Spoken Page::spoken(int widget)
 void Page::notice(int widget, Notice notice, platform::EventArgs /*args*/)
 {
     const int part = widget - 1;
-    if (m_isShowing || part < 0)
+    if (m_isShowing || part < 0 || part / kParts >= std::ssize(m_entries))
         return;
     Entry& entry = m_entries[static_cast<std::size_t>(part / kParts)];
     switch (notice) {
@@ -216,19 +216,19 @@ void Page::acceptNumber(const Entry& entry)
 bool Page::isTicked(const Field& check) const noexcept
 {
     const Entry* at = entry(check);
-    return at != nullptr && at->check->isOn();
+    return at != nullptr && at->check && at->check->isOn();
 }
 
 std::int32_t Page::position(const Field& list) const noexcept
 {
     const Entry* at = entry(list);
-    return at == nullptr ? -1 : at->list->current();
+    return at == nullptr || !at->list ? -1 : at->list->current();
 }
 
 void Page::choose(const Field& list, std::int32_t position)
 {
     const auto at = std::ranges::find(m_entries, &list, &Entry::field);
-    if (at == m_entries.end())
+    if (at == m_entries.end() || !at->list)
         return;
     at->list->setCurrent(position);
     at->chosen = at->list->current();

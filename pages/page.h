@@ -20,7 +20,7 @@ namespace zor::pages {
 /// selected controls the first is shown and written.
 class Page final : public platform::PropertyPage, public platform::WidgetListener, public core::EventSink {
 public:
-    /// A page with nothing selected, in a frame that must outlive it.
+    /// A page with nothing selected, in a frame that must outlive it, as its class must.
     Page(const PageInfo& info, platform::PageFrame& frame);
     ~Page();
     Page(const Page&) = delete;
@@ -37,7 +37,8 @@ public:
     void select(std::span<core::Control* const> controls);
     /// The control that is shown; nullptr when nothing is selected.
     [[nodiscard]] core::Control* control() const noexcept { return m_control; }
-    /// Raises ObjectRequired when nothing is selected.
+    /// Raises ObjectRequired when nothing is selected. The page must outlive it: neither who hears of a write nor
+    /// a handler of the control may end the page.
     void apply() override;
     /// Whether the page shows something that has not been applied.
     [[nodiscard]] bool isChanged() const noexcept { return m_frame.isChanged(); }
@@ -53,7 +54,8 @@ public:
     [[nodiscard]] std::vector<std::string> widgetNames() const;
 
     /// @name For the fields' own rules
-    /// A field that the page has not is not ticked, has no position and takes no choice.
+    /// A field that the page has not, or that is of another kind, is not ticked, has no position and takes no
+    /// choice.
     /// @{
     /// Apply is to write a property of the selected control.
     void write(std::string_view property, const Variant& value);
@@ -61,7 +63,7 @@ public:
     [[nodiscard]] bool isTicked(const Field& check) const noexcept;
     /// The chosen position of a list, -1 for none.
     [[nodiscard]] std::int32_t position(const Field& list) const noexcept;
-    /// Chooses a position of a list.
+    /// Chooses a position of a list. Raises SubscriptOutOfRange beyond it.
     void choose(const Field& list, std::int32_t position);
     /// @}
 

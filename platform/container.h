@@ -47,7 +47,8 @@ class Container {
 public:
     /// True while the host runs, false while a form is being designed.
     [[nodiscard]] virtual bool userMode() const noexcept = 0;
-    /// A property changed through its write accessor.
+    /// A property was written through its accessor, whether its value is another now or not; the rows say which
+    /// are told of (core::Access::Silent ones are not).
     virtual void propertyChanged(Component& component, std::string_view name) = 0;
     /// What a write, a call or an action of the operator has set going is done, down to the last handler.
     virtual void settled(Component& /*component*/) noexcept {}

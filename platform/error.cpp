@@ -1,14 +1,22 @@
 #include <zor/platform/error.h>
 
+#include <algorithm>
 #include <string>
+#include <utility>
 
 namespace zor {
 namespace {
 
+std::string withoutNuls(std::string text)
+{
+    std::ranges::replace(text, '\0', ' ');
+    return text;
+}
+
 std::string fullText(ErrorNumber number, std::string_view what)
 {
     std::string text(errorText(number));
-    return what.empty() ? text : text.append(": ").append(what);
+    return what.empty() ? text : withoutNuls(text.append(": ").append(what));
 }
 
 } // namespace
@@ -45,11 +53,13 @@ RunTimeError RunTimeError::of(std::string_view object, std::string_view member, 
     text.append(what());
     if (!handed.empty())
         text.append(" (").append(handed).append(")");
-    return {m_number, text, reasonAt};
+    return {m_number, withoutNuls(std::move(text)), reasonAt};
 }
 
 std::string failureText(const std::exception_ptr& error)
 {
+    if (!error)
+        return "no failure";
     try {
         std::rethrow_exception(error);
     } catch (const std::exception& exception) {

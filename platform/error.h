@@ -1,6 +1,6 @@
 #pragma once
 
-/// Run-time errors: the one exception type that crosses the library's interface.
+/// Run-time errors: the exceptions that the library throws. Forms add FormError; what a handler throws passes too.
 
 #include <cstddef>
 #include <cstdint>
@@ -18,7 +18,7 @@ enum class ErrorNumber : std::int32_t {
     SubscriptOutOfRange = 9, ///< an index outside a table
     DivisionByZero = 11,     ///< a division by a scale of 0
     TypeMismatch = 13,       ///< a value of a type that cannot be converted
-    ReadOnly = 383,          ///< a derived property was written while the container runs in user mode
+    ReadOnly = 383,          ///< a derived property was written in user mode, or one that is its widget's own
     ObjectRequired = 424,    ///< no object of that name
     NoSuchMember = 438,      ///< no property or method of that name
     WrongArguments = 450,    ///< a method was called with the wrong number of arguments
@@ -31,15 +31,16 @@ enum class ErrorNumber : std::int32_t {
 /// nothing; what remains of a write that fails later is said at core::Control.
 class RunTimeError : public std::runtime_error {
 public:
-    /// `what` names what is missing or wrong, where that is known: "object required: level2".
+    /// `what` names what is missing or wrong, where that is known: "object required: level2". A NUL in it, which
+    /// would end the text, becomes a blank; so it does below.
     explicit RunTimeError(ErrorNumber number, std::string_view what = {});
 
     /// What went wrong.
     [[nodiscard]] ErrorNumber number() const noexcept { return m_number; }
     /// Whether the text begins with the member that the error is about.
     [[nodiscard]] bool namesMember() const noexcept { return m_reasonAt > 0; }
-    /// The text without it: `type mismatch ("abc")`.
-    [[nodiscard]] std::string_view reason() const noexcept { return std::string_view(what()).substr(m_reasonAt); }
+    /// The text without it: `type mismatch ("abc")`. Good as long as the error.
+    [[nodiscard]] std::string_view reason() const noexcept { return what() + m_reasonAt; }
     /// The same error as one of a member, and of what was handed to it, if that is given as a text:
     /// `ctx_ZorTextBox.NumberOfDigits: type mismatch ("abc")`.
     [[nodiscard]] RunTimeError of(std::string_view object, std::string_view member,
@@ -52,7 +53,7 @@ private:
     std::size_t m_reasonAt = 0;
 };
 
-/// What failed, in words: the text of an exception, or that there is none.
+/// What failed, in words: the text of an exception, or that it has none; "no failure" for a null pointer.
 [[nodiscard]] std::string failureText(const std::exception_ptr& error);
 
 /// Throws a RunTimeError.

@@ -14,8 +14,14 @@
 
 namespace zor::platform {
 
-/// Why an action could not be done. Nothing has changed then.
-enum class Refusal : std::uint8_t { None, Hidden, Disabled, Locked, Closed };
+/// Why an action could not be done. Nothing has changed then, but that an open menu or list has closed.
+enum class Refusal : std::uint8_t {
+    None,     ///< it was done
+    Hidden,   ///< nobody sees the widget
+    Disabled, ///< the widget is frozen
+    Locked,   ///< it can be looked at and not changed
+    Closed,   ///< the menu is not open
+};
 
 /// Where on a widget the operator points, in twips. One rule for all platforms, because events carry it.
 struct Spot {
@@ -51,8 +57,8 @@ enum class Pointer : std::uint8_t { Click, DoubleClick, RightClick };
 /// Each action returns why it was refused, or None. A widget that cannot do what is asked (a label does not
 /// take the focus) raises NoSuchMember.
 ///
-/// An action on a text field, combo box, list box, check box, option button, track or spin button takes the
-/// focus first, as it would for a person; the widget that had it is blurred. A handler that keeps the focus where
+/// An action on a text field, combo box, list box, check box, option button or track takes the focus first, as it
+/// would for a person; the widget that had it is blurred. A handler that keeps the focus where
 /// it is, or freezes or hides the widget, ends the action. `type` sends key down, key press, change and key up
 /// for each character; a key press whose code a handler set to 0 changes nothing.
 ///
@@ -75,7 +81,7 @@ public:
     Refusal select(TextField& field, std::size_t start, std::size_t length);
     /// Key down, key press where the key has a character, key up. 8 Backspace, 13 Enter, 27 Escape, 32 Space,
     /// 33 to 40 Page Up, Page Down, End, Home and the arrows, 46 Delete, and the upper-case letters and digits do
-    /// what they say.
+    /// what they say. Raises InvalidCall for Tab, which leads elsewhere on every form.
     Refusal key(Widget& widget, std::int16_t code);
     /// One step of a spin button.
     Refusal spin(SpinButton& button, bool up);

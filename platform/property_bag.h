@@ -16,7 +16,8 @@ public:
     /// The value under the name, or the default when there is none.
     [[nodiscard]] virtual Variant ReadProperty(std::string_view name, const Variant& defaultValue) const = 0;
 
-    /// Stores the value, unless it equals the default: then the name is left out.
+    /// Stores the value in place of an earlier one, unless it equals the default: then the bag has nothing under
+    /// the name.
     virtual void WriteProperty(std::string_view name, const Variant& value, const Variant& defaultValue) = 0;
 };
 

@@ -31,7 +31,8 @@ void appendCharacter(std::string& text, char32_t character);
 /// Without the blanks (U+0020) at both ends.
 [[nodiscard]] std::string_view trimmed(std::string_view text) noexcept;
 
-/// Whether two texts are equal without regard to case, at least for the letters of Latin-1.
+/// Whether two texts are equal without regard to case, at least for the letters of Latin-1. What is no UTF-8 is
+/// U+FFFD here, one byte as the other.
 [[nodiscard]] bool equalIgnoringCase(std::string_view left, std::string_view right) noexcept;
 
 /// Negative, 0 or positive: order of two texts, character by character without regard to case.

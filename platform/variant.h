@@ -87,7 +87,8 @@ public:
     [[nodiscard]] std::int32_t toInt32() const;
     /// As a number.
     [[nodiscard]] double toDouble() const;
-    /// Numbers as plain decimal text with the user's decimal separator; booleans as "True" and "False".
+    /// Numbers in 15 significant digits with the user's decimal separator, with an exponent from 1E+15 on and
+    /// below 1E-04 ("1E-05"); booleans as "True" and "False". An infinite or undefined number raises Overflow.
     [[nodiscard]] std::string toText() const;
     /// The string itself; only for a value that isText().
     [[nodiscard]] const std::string& text() const noexcept { return *std::get_if<std::string>(&m_value); }

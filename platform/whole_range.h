@@ -11,7 +11,7 @@
 
 namespace zor::platform {
 
-/// A value that never leaves its ends. Ends turned upside down hold it at the lower one.
+/// A value that never leaves its ends. Where the ends are turned upside down it stands at `minimum`.
 struct WholeRange {
     std::int32_t value = 0;    ///< where it stands
     std::int32_t minimum = 0;  ///< the lower end

@@ -177,16 +177,18 @@ public:
     [[nodiscard]] virtual bool hasFocus() const = 0;
 };
 
-/// What combo box and list box share: entries with a text and a 32-bit datum each.
+/// What combo box and list box share: entries with a text and a 32-bit datum each. A position outside of them
+/// raises SubscriptOutOfRange.
 class EntryWidget : public FontWidget {
 public:
     /// Number of entries.
     [[nodiscard]] virtual std::int32_t count() const = 0;
     /// Adds an entry at the end.
     virtual void append(std::string_view text, std::int32_t datum) = 0;
-    /// Removes the entry at a position.
+    /// Removes the entry at a position: with it goes the current position, which else stays with its entry.
+    /// Nothing is reported.
     virtual void remove(std::int32_t index) = 0;
-    /// Removes all entries.
+    /// Removes all entries; none is current then. Nothing is reported.
     virtual void clear() = 0;
     /// Text of the entry at a position.
     [[nodiscard]] virtual const std::string& entryText(std::int32_t index) const = 0;
@@ -214,7 +216,7 @@ class ListBox : public EntryWidget {
 public:
     /// Whether the entry has its mark.
     [[nodiscard]] virtual bool isSelected(std::int32_t index) const = 0;
-    /// Makes the entry the current one and reports Click when its mark changes.
+    /// When its mark changes, makes the entry the current one and reports Click.
     virtual void setSelected(std::int32_t index, bool selected) = 0;
     /// Number of marks.
     [[nodiscard]] virtual std::int32_t selectedCount() const = 0;

@@ -64,10 +64,10 @@ inline constexpr double IN3_PER_LITRE = 61.02374; ///< cubic inches per litre
 /// Whether a value is a number on which a reading with the user's separators and a reading without any
 /// agree to within 1: "12,5" is one where the comma is the decimal separator, "1.000" is none where the
 /// point groups. For a text with an exponent the mantissa decides. Booleans and Empty are no numbers,
-/// neither are infinite and undefined doubles.
+/// neither are infinite and undefined doubles, nor is a text whose number fits no double.
 [[nodiscard]] bool fb_IsValidNumber(const Variant& v_Value) noexcept;
 
-/// The number of a value for which fb_IsValidNumber() holds and which fits a double, else nothing.
+/// The number of a value for which fb_IsValidNumber() holds, else nothing.
 [[nodiscard]] std::optional<double> validNumber(const Variant& value) noexcept;
 [[nodiscard]] std::optional<double> validNumber(std::string_view text) noexcept;
 
@@ -77,12 +77,14 @@ inline constexpr double IN3_PER_LITRE = 61.02374; ///< cubic inches per litre
                                                  std::string_view c_DeviceType) noexcept;
 
 /// Whether a firmware version lies outside the limits that stand at `i_TypeIndex` in the two comma-separated
-/// lists. A blank list and an empty entry limit nothing; a list without the entry admits no version.
+/// lists. A blank list and an empty entry limit nothing; a list without the entry admits no version, and a
+/// negative index, which is that of a type in no list, none whatever the lists are.
 [[nodiscard]] bool fb_VersionNotSupported(std::string_view c_MinVersionList, std::string_view c_MaxVersionList,
                                           std::string_view c_DeviceVersion, std::int16_t i_TypeIndex);
 
-/// Pads the parts left and right of the first character that is no digit to two characters, so that
-/// versions compare as texts: 1.5 becomes 01.05. A version of digits alone stays as it is.
+/// Puts a 0 before each of the parts left and right of the first character that is no digit, where it is shorter
+/// than two characters, so that versions compare as texts: 1.5 becomes 01.05, and an empty part "0". A version of
+/// digits alone stays as it is.
 void s_PadVersion(std::string& c_Version);
 
 /// The value of a member of the published enumerations by its name ("LgthU_MM").

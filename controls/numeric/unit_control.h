@@ -47,7 +47,9 @@ public:
 
     /// @name Valid range
     /// @{
-    /// Limits of the value, in DefaultUnit, both included. Any two numbers are taken, whichever is larger.
+    /// Limits of the value, in DefaultUnit, both included. Any two numbers are taken, whichever is larger;
+    /// infinite and undefined ones raise Overflow. Where whole numbers are edited, so do those beyond 32 bits in
+    /// OutputUnit, and the limit stays as written.
     [[nodiscard]] double MinValue() const noexcept { return m_units.minValue; }
     void MinValue(double value);
     [[nodiscard]] double MaxValue() const noexcept { return m_units.maxValue; }

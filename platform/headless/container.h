@@ -14,6 +14,10 @@ class HeadlessMenu;
 /// Holds the surfaces of the controls created in it; it must outlive them. Starts in design mode.
 class HeadlessContainer final : public Container {
 public:
+    HeadlessContainer() = default;
+    HeadlessContainer(const HeadlessContainer&) = delete;
+    HeadlessContainer& operator=(const HeadlessContainer&) = delete;
+
     [[nodiscard]] bool userMode() const noexcept override { return m_userMode; }
     /// Runs the form, or goes back to designing.
     void setUserMode(bool userMode) noexcept { m_userMode = userMode; }

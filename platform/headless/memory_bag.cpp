@@ -25,7 +25,9 @@ Variant MemoryPropertyBag::ReadProperty(std::string_view name, const Variant& de
 void MemoryPropertyBag::WriteProperty(std::string_view name, const Variant& value, const Variant& defaultValue)
 {
     if (!(value == defaultValue))
-        set(name, value);
+        return set(name, value);
+    if (const std::size_t at = find(name); at != m_entries.size())
+        m_entries.erase(m_entries.begin() + static_cast<std::ptrdiff_t>(at));
 }
 
 void MemoryPropertyBag::set(std::string_view name, Variant value)

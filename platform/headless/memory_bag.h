@@ -12,7 +12,7 @@
 
 namespace zor::platform::headless {
 
-/// Keeps the values in the order in which they were written.
+/// Keeps the values in the order in which their names were first written.
 class MemoryPropertyBag final : public PropertyBag {
 public:
     /// Name and value.
@@ -23,7 +23,7 @@ public:
 
     /// Puts a value under a name, whatever the default; replaces an earlier one.
     void set(std::string_view name, Variant value);
-    /// All values, in the order in which they were written.
+    /// All values. Good until the next write.
     [[nodiscard]] std::span<const Entry> entries() const noexcept { return m_entries; }
 
 private:

@@ -7,6 +7,22 @@
 namespace zor::tests {
 namespace {
 
+TEST(Errors, HoldWhateverTheyAreTold)
+{
+    const RunTimeError error(ErrorNumber::NoSuchMember, std::string_view("a\0b", 3));
+    EXPECT_STREQ(error.what(), "no such property or method: a b");
+    EXPECT_EQ(error.of("box", "member").reason(), error.what());
+    EXPECT_EQ(failureText(nullptr), "no failure");
+}
+
+TEST(Bags, HoldNothingUnderANameThatHasItsDefaultAgain)
+{
+    platform::headless::MemoryPropertyBag bag;
+    bag.WriteProperty("CFail", true, false);
+    bag.WriteProperty("CFail", false, false);
+    EXPECT_TRUE(bag.entries().empty());
+}
+
 TEST_F(TextBoxTest, AnOverflowingConversionChangesNothing)
 {
     box->DeviceValue(1234);

@@ -10,9 +10,9 @@ class __ctx_ZorCheckBox {
 public:
     virtual ~__ctx_ZorCheckBox() = default;
 
-    /// A click left the box different from the device's bit.
+    /// The box was changed, by the operator or by a value, and differs from the device's bit then.
     virtual void DataModifiedSetTrue() {}
-    /// A click left the box as the device's bit is.
+    /// The box was changed, by the operator or by a value, and is as the device's bit then.
     virtual void DataModifiedReset() {}
     /// OutputValue was assigned.
     virtual void OutputValueChange() {}
@@ -20,7 +20,8 @@ public:
     virtual void DeviceTypeNotSupportedSetTrue() {} ///< declared, never raised
     virtual void DataChangedSetTrue() {}            ///< declared, never raised
     virtual void CheckChange() {}                   ///< only where the platform's box reports changes apart
-    /// The box changed, by the operator or by a value; after everything else that follows from it.
+    /// The box changed, by the operator or by a value; not while input is locked. A value that the host writes
+    /// raises OutputValueChange once more behind it.
     virtual void CheckClick() {}
     virtual void CheckDblClick() {}
     virtual void CheckGotFocus() {}

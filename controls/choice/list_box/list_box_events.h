@@ -11,15 +11,16 @@ public:
     virtual ~__ctx_ZorListBox() = default;
 
     virtual void InvalidValueSetTrue() {} ///< declared, never raised
-    /// A click left OutputValue different from the device's value; on every such click.
+    /// A mark was changed, by the operator or by a value, and OutputValue differs from the device's value then; on
+    /// every such change.
     virtual void DataModifiedSetTrue() {}
     /// OutputValue was assigned.
     virtual void OutputValueChange() {}
     virtual void DeviceVerNotSupportedSetTrue() {}  ///< declared, never raised
     virtual void DeviceTypeNotSupportedSetTrue() {} ///< declared, never raised
     virtual void DataChangedSetTrue() {}            ///< declared, never raised
-    /// The current entry or its mark changed, by the operator or by a value; after everything else that
-    /// follows from it.
+    /// The current entry or its mark changed, by the operator or by a value; not while input is locked. A value
+    /// that the host writes raises OutputValueChange once more behind it.
     virtual void ListClick() {}
     virtual void ListDblClick() {}
     virtual void ListGotFocus() {}

@@ -10,7 +10,8 @@ class __ctx_ZorOptionButton {
 public:
     virtual ~__ctx_ZorOptionButton() = default;
 
-    /// A click left OutputValue different from the device's value.
+    /// The button was changed, by the operator or by a value, and OutputValue differs from the device's value
+    /// then.
     virtual void DataModifiedSetTrue() {}
     /// A click left the button selected: OutputValue is its value. A new value from the device, or an undo,
     /// raises it only by selecting the button.
@@ -18,7 +19,7 @@ public:
     virtual void DeviceVerNotSupportedSetTrue() {}  ///< declared, never raised
     virtual void DeviceTypeNotSupportedSetTrue() {} ///< declared, never raised
     virtual void DataChangedSetTrue() {}            ///< declared, never raised
-    /// The button was selected, by the operator or by a value.
+    /// The button was selected, by the operator or by a value; before OutputValueChange tells of its value.
     virtual void OptionClick() {}
     virtual void OptionDblClick() {}
     virtual void OptionGotFocus() {}

@@ -15,6 +15,7 @@ struct ctx_ZorOptionButton::Rows
             .saying("The present value of the parameter; the button is on when it equals EnumEntryValue.")
             .placed(core::Placing::Chosen)
             .initially(0)
+            .live()
             .then<&This::s_ApplyEnumValue>();
     static constexpr auto OptionButtonCaption =
         core::fieldRow<&This::m_caption>("OptionButtonCaption", core::Topic::Appearance)
@@ -30,7 +31,8 @@ struct ctx_ZorOptionButton::Rows
         core::computedRow<[](This& button) { return button.OptionButtonValue(); }>("OptionButtonValue",
                                                                                    core::Topic::Appearance)
             .saying("Whether the button is on. A write changes nothing.")
-            .written<[](This& button, bool value) { button.OptionButtonValue(value); }>();
+            .written<[](This& button, bool value) { button.OptionButtonValue(value); }>()
+            .live();
     static constexpr auto OtherUser = S::OtherUserValue<&This::m_otherUser>;
 };
 

@@ -18,8 +18,9 @@ namespace zor {
 /// A track with the ends of its range named below it and a state icon beside it.
 ///
 /// A position of the track is a whole number of steps: the value in OutputUnit x ScaleFactor. The host writes
-/// DeviceValue in DeviceUnit; OutputValue hands back what the operator moved the track to, and exactly what the
-/// host wrote as long as nobody moves it. A new DeviceValue always ends an edit.
+/// DeviceValue in DeviceUnit; OutputValue hands back what the operator moved the track to, and what the host
+/// wrote as long as nobody moves it, but for the rounding of a multiplication and a division by ScaleFactor. A new
+/// DeviceValue always ends an edit.
 ///
 /// A position that does not fit 32 bits raises Overflow, and a division by a ScaleFactor of 0 raises
 /// DivisionByZero; what was done before that stays.
@@ -69,10 +70,13 @@ public:
 
     /// @name Ticks: the track's own settings, not stored
     /// @{
-    /// 0 below the track, 1 above, 2 both, 3 none; written under the second name.
+    /// 0 below the track, 1 above, 2 both, 3 none, and any other number is kept without a meaning; written under
+    /// the second name.
     [[nodiscard]] std::int16_t TickStyle() const;
     void TickType(std::int16_t value);
-    /// Distance from tick to tick, in OutputUnit. Reading raises DivisionByZero for a ScaleFactor of 0.
+    /// Distance from tick to tick, in OutputUnit. What is written is cut to whole steps of the track, at least
+    /// one; an undefined number, or one beyond 32 bits, raises Overflow. Reading raises DivisionByZero for a
+    /// ScaleFactor of 0.
     [[nodiscard]] double TickFrequency() const;
     void TickFrequency(double value);
     [[nodiscard]] std::int32_t GetNumTicks() const;
