@@ -172,6 +172,22 @@ void readAppearance(Fields& fields, Parameter& parameter)
         readSupported(*supported, appearance.supported);
 }
 
+void readQuantity(Fields& fields, bool isNumber, Parameter& parameter)
+{
+    if (const auto scale = fields.take("scale")) {
+        parameter.scale = scale->number();
+        if (!isNumber || parameter.scale == 0)
+            scale->fail(isNumber ? QT_TRANSLATE_NOOP("texts", "a scale is not 0")
+                                 : QT_TRANSLATE_NOOP("texts", "only a number has a scale"));
+    }
+    if (const auto unit = fields.take("unit")) {
+        parameter.unit = readUnit(*unit);
+        if (!isNumber)
+            unit->fail(QT_TRANSLATE_NOOP("texts", "only a number has a unit"));
+    }
+    parameter.unitType = typeOf(parameter.unit);
+}
+
 Parameter readParameter(const Value& value)
 {
     Parameter parameter;
@@ -186,18 +202,7 @@ Parameter readParameter(const Value& value)
     const bool number = integer || location.type == ValueType::Float32 || location.type == ValueType::Float64;
     if (location.type == ValueType::Bit && !holdsBits(location.bank))
         location.bit = static_cast<std::uint8_t>(fields.need("bit").integer(0, 15));
-    if (const auto scale = fields.take("scale")) {
-        parameter.scale = scale->number();
-        if (!number || parameter.scale == 0)
-            scale->fail(number ? QT_TRANSLATE_NOOP("texts", "a scale is not 0")
-                               : QT_TRANSLATE_NOOP("texts", "only a number has a scale"));
-    }
-    if (const auto unit = fields.take("unit")) {
-        parameter.unit = readUnit(*unit);
-        if (!number)
-            unit->fail(QT_TRANSLATE_NOOP("texts", "only a number has a unit"));
-    }
-    parameter.unitType = typeOf(parameter.unit);
+    readQuantity(fields, number, parameter);
     if (const auto access = fields.take("access")) {
         parameter.writable = access->text() == "write";
         if (std::ranges::find(kAccesses, access->text()) == kAccesses.end())

@@ -10,7 +10,7 @@
 
 namespace zor::monitor {
 
-/// Columns: time (UTC, ISO 8601 with milliseconds), event ("read" or "write"), tag, old, new, result. Values are
+/// Columns: time (UTC, ISO 8601 with milliseconds), event ("read", "write", or "device" where another one answers), tag, old, new, result. Values are
 /// in the device's unit. Each line is in the file when record() returns, or error() says why it is not.
 class Log {
 public:

@@ -85,6 +85,28 @@ TrendDock::TrendDock(const Languages& languages, QWidget* parent)
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setTabKeyNavigation(false);
     FramedMarks::on(*m_table);
+    setWidget(makeBody());
+    buildActions();
+    m_plot->onView = [this] { showValues(); };
+    connect(m_table, &QTableWidget::itemSelectionChanged, this, [this] { select(); });
+    connect(m_table, &QTableWidget::itemChanged, this, [this](const QTableWidgetItem* item) {
+        if (!m_filling && item->column() == kName)
+            m_trend->show(static_cast<std::size_t>(item->data(Qt::UserRole).toInt()),
+                          item->checkState() == Qt::Checked);
+    });
+    constexpr int kTick = 100;
+    m_timer.setInterval(kTick);
+    connect(&m_timer, &QTimer::timeout, this, [this] {
+        constexpr int kRarely = 5;
+        m_plot->pass();
+        if (++m_ticks % kRarely == 0)
+            showValues();
+    });
+    translate();
+}
+
+QWidget* TrendDock::makeBody()
+{
     auto* side = new QWidget;
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);
@@ -104,24 +126,7 @@ TrendDock::TrendDock(const Languages& languages, QWidget* parent)
     lines->setSpacing(2);
     lines->addWidget(m_bar);
     lines->addWidget(split, 1);
-    setWidget(whole);
-    buildActions();
-    m_plot->onView = [this] { showValues(); };
-    connect(m_table, &QTableWidget::itemSelectionChanged, this, [this] { select(); });
-    connect(m_table, &QTableWidget::itemChanged, this, [this](const QTableWidgetItem* item) {
-        if (!m_filling && item->column() == kName)
-            m_trend->show(static_cast<std::size_t>(item->data(Qt::UserRole).toInt()),
-                          item->checkState() == Qt::Checked);
-    });
-    constexpr int kTick = 100;
-    m_timer.setInterval(kTick);
-    connect(&m_timer, &QTimer::timeout, this, [this] {
-        constexpr int kRarely = 5;
-        m_plot->pass();
-        if (++m_ticks % kRarely == 0)
-            showValues();
-    });
-    translate();
+    return whole;
 }
 
 void TrendDock::buildActions()

@@ -50,6 +50,7 @@ protected:
 
 private:
     void appear();
+    [[nodiscard]] QWidget* makeBody();
     void buildActions();
     void translate();
     void fill();

@@ -85,7 +85,21 @@ void FramesDock::build()
     }
     m_pause->setCheckable(true);
     column->addLayout(line);
-    auto* parts = new QSplitter(Qt::Horizontal, body);
+    column->addWidget(makeTables(), 1);
+    setWidget(body);
+    connect(m_text, &QLineEdit::textChanged, this, [this] { refilter(); });
+    connect(m_which, &QComboBox::currentIndexChanged, this, [this] { refilter(); });
+    connect(m_pause, &QPushButton::toggled, this, [this] { follow(); });
+    connect(m_clear, &QPushButton::clicked, this, [this] { clear(); });
+    connect(m_copy, &QPushButton::clicked, this, [this] { copy(); });
+    connect(m_save, &QPushButton::clicked, this, [this] { save(); });
+    auto* find = new QShortcut(QKeySequence::Find, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+    connect(find, &QShortcut::activated, this, [this] { m_text->setFocus(); });
+}
+
+QWidget* FramesDock::makeTables()
+{
+    auto* parts = new QSplitter(Qt::Horizontal);
     m_table = new QTableView(parts);
     m_table->setModel(&m_model);
     m_table->verticalHeader()->hide();
@@ -105,8 +119,6 @@ void FramesDock::build()
     parts->setStretchFactor(0, 3);
     parts->setStretchFactor(1, 2);
     parts->setChildrenCollapsible(false);
-    column->addWidget(parts, 1);
-    setWidget(body);
     // Whoever looks at the newest goes on doing so.
     QScrollBar* bar = m_table->verticalScrollBar();
     connect(bar, &QScrollBar::valueChanged, this, [this, bar] { m_atEnd = bar->value() == bar->maximum(); });
@@ -114,17 +126,10 @@ void FramesDock::build()
         if (m_atEnd)
             m_table->scrollToBottom();
     });
-    connect(m_text, &QLineEdit::textChanged, this, [this] { refilter(); });
-    connect(m_which, &QComboBox::currentIndexChanged, this, [this] { refilter(); });
-    connect(m_pause, &QPushButton::toggled, this, [this] { follow(); });
-    connect(m_clear, &QPushButton::clicked, this, [this] { clear(); });
-    connect(m_copy, &QPushButton::clicked, this, [this] { copy(); });
-    connect(m_save, &QPushButton::clicked, this, [this] { save(); });
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { showFields(); });
     auto* copies = new QShortcut(QKeySequence::Copy, m_table, nullptr, nullptr, Qt::WidgetShortcut);
     connect(copies, &QShortcut::activated, this, [this] { copy(); });
-    auto* find = new QShortcut(QKeySequence::Find, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
-    connect(find, &QShortcut::activated, this, [this] { m_text->setFocus(); });
+    return parts;
 }
 
 void FramesDock::retranslate()

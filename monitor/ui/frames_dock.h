@@ -42,6 +42,7 @@ protected:
 
 private:
     void build();
+    [[nodiscard]] QWidget* makeTables();
     void retranslate();
     void follow();
     void refilter();

@@ -66,6 +66,14 @@ OpenDialog::OpenDialog(const Memory& memory, QWidget* parent)
     column->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connectFields(look);
+    constexpr int kWidth = 560;
+    resize(kWidth, sizeHint().height());
+    setEntry(recent.isEmpty() ? DeviceEntry() : recent.front());
+}
+
+void OpenDialog::connectFields(QPushButton* look)
+{
     QWidget* before = m_recent;
     for (QWidget* next : std::initializer_list<QWidget*>{m_simulated, m_real, m_address, look}) {
         if (before != nullptr)
@@ -81,9 +89,6 @@ OpenDialog::OpenDialog(const Memory& memory, QWidget* parent)
     }
     connect(m_address, &QLineEdit::textChanged, this, [this] { checkAddress(); });
     connect(m_simulated, &QRadioButton::toggled, this, [this] { checkAddress(); });
-    constexpr int kWidth = 560;
-    resize(kWidth, sizeHint().height());
-    setEntry(recent.isEmpty() ? DeviceEntry() : recent.front());
 }
 
 void OpenDialog::addRecent(const QList<DeviceEntry>& devices, const QStringList& sites)

@@ -10,6 +10,7 @@
 class QFormLayout;
 class QLineEdit;
 class QListWidget;
+class QPushButton;
 class QRadioButton;
 
 namespace zor::monitor {
@@ -30,6 +31,7 @@ public:
     void setEntry(const DeviceEntry& entry);
 
 private:
+    void connectFields(QPushButton* look);
     void addRecent(const QList<DeviceEntry>& devices, const QStringList& sites);
     void setSite(const QString& file);
     void leaveSite();

@@ -1,5 +1,6 @@
 #include <zor/monitor/language/words.h>
 #include <zor/monitor/parts/framed_marks.h>
+#include <zor/monitor/parts/row_table.h>
 #include <zor/monitor/ui/review_dialog.h>
 
 #include <QCheckBox>
@@ -65,15 +66,8 @@ ReviewDialog::ReviewDialog(std::vector<Change> changes, const ParameterFile& fil
 ReviewDialog::Part ReviewDialog::addPart(const QString& heading, bool writable)
 {
     const QStringList headings{tr("Parameter"), tr("Tag"), tr("Old value"), tr("New value"), tr("Remark")};
-    auto* table = new QTableWidget(0, static_cast<int>(headings.size()), this);
-    table->setHorizontalHeaderLabels(headings);
-    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    table->horizontalHeader()->setStretchLastSection(true);
-    table->verticalHeader()->hide();
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    QTableWidget* table = makeRowTable(headings, heading, this);
     table->setSelectionMode(QAbstractItemView::NoSelection);
-    table->setTabKeyNavigation(false);
-    table->setAccessibleName(heading);
     return {new QLabel(heading, this), table, writable};
 }
 

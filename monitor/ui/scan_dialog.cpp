@@ -1,4 +1,5 @@
 #include <zor/monitor/language/words.h>
+#include <zor/monitor/parts/row_table.h>
 #include <zor/monitor/scan/scan_command.h>
 #include <zor/monitor/ui/scan_dialog.h>
 #include <zor/platform/qt/looks.h>
@@ -62,6 +63,17 @@ ScanDialog& ScanDialog::openFor(DevicePanel& panel)
 void ScanDialog::build()
 {
     auto* column = new QVBoxLayout(this);
+    addAddresses(*column);
+    addTable(*column);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    m_connect = buttons->addButton(tr("Co&nnect"), QDialogButtonBox::AcceptRole);
+    column->addWidget(buttons);
+    connect(m_connect, &QPushButton::clicked, this, [this] { choose(); });
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+void ScanDialog::addAddresses(QVBoxLayout& column)
+{
     auto* label =
         new QLabel(tr("&Addresses, one to the line. Only these are asked. Unit, baud rate and parity may be "
                       "lists: unit=1-10,17 baud=9600,19200 parity=even,none"),
@@ -73,13 +85,18 @@ void ScanDialog::build()
         "tcp://192.168.1.20:502?unit=1-10\nrtu:/dev/ttyUSB0?baud=9600,19200&parity=even,none");
     m_addresses->setFixedHeight(fontMetrics().lineSpacing() * 5);
     label->setBuddy(m_addresses);
-    column->addWidget(label);
-    column->addWidget(m_addresses);
+    column.addWidget(label);
+    column.addWidget(m_addresses);
     m_examples = new QComboBox(this);
     m_examples->addItem(tr("Insert an example..."));
     m_examples->addItems(examples());
     m_examples->setAccessibleName(m_examples->itemText(0));
     m_examples->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    connect(m_examples, &QComboBox::activated, this, [this](int index) {
+        if (index > 0)
+            m_addresses->appendPlainText(m_examples->itemText(index));
+        m_examples->setCurrentIndex(0);
+    });
     m_timeout = new QSpinBox(this);
     constexpr int kShortest = 10;
     constexpr int kLongest = 10000;
@@ -89,43 +106,29 @@ void ScanDialog::build()
     auto* wait = new QLabel(tr("&Timeout:"), this);
     wait->setBuddy(m_timeout);
     m_scan = new QPushButton(this);
+    connect(m_scan, &QPushButton::clicked, this, [this] { scan(); });
     auto* line = new QHBoxLayout;
     line->addWidget(m_examples, 1);
     line->addWidget(wait);
     line->addWidget(m_timeout);
     line->addWidget(m_scan);
-    column->addLayout(line);
-    const QStringList headings{tr("Address"), tr("Device"), tr("Version"), tr("Identification"), tr("Remark")};
-    m_table = new QTableWidget(0, static_cast<int>(headings.size()), this);
-    m_table->setHorizontalHeaderLabels(headings);
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_table->horizontalHeader()->setStretchLastSection(true);
-    m_table->verticalHeader()->hide();
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    column.addLayout(line);
+}
+
+void ScanDialog::addTable(QVBoxLayout& column)
+{
+    m_table = makeRowTable({tr("Address"), tr("Device"), tr("Version"), tr("Identification"), tr("Remark")},
+                           tr("What answers"), this);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setTabKeyNavigation(false);
-    m_table->setAccessibleName(tr("What answers"));
-    column->addWidget(m_table, 1);
+    connect(m_table, &QTableWidget::itemDoubleClicked, this, [this] { choose(); });
+    connect(m_table, &QTableWidget::itemSelectionChanged, this, [this] { showRunning(); });
+    column.addWidget(m_table, 1);
     m_progress = new QProgressBar(this);
     m_state = new QLabel(this);
     m_state->setTextFormat(Qt::PlainText);
     m_state->setWordWrap(true);
-    column->addWidget(m_progress);
-    column->addWidget(m_state);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    m_connect = buttons->addButton(tr("Co&nnect"), QDialogButtonBox::AcceptRole);
-    column->addWidget(buttons);
-    connect(m_scan, &QPushButton::clicked, this, [this] { scan(); });
-    connect(m_connect, &QPushButton::clicked, this, [this] { choose(); });
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(m_table, &QTableWidget::itemDoubleClicked, this, [this] { choose(); });
-    connect(m_table, &QTableWidget::itemSelectionChanged, this, [this] { showRunning(); });
-    connect(m_examples, &QComboBox::activated, this, [this](int index) {
-        if (index > 0)
-            m_addresses->appendPlainText(m_examples->itemText(index));
-        m_examples->setCurrentIndex(0);
-    });
+    column.addWidget(m_progress);
+    column.addWidget(m_state);
 }
 
 QString ScanDialog::addresses() const { return m_addresses->toPlainText(); }

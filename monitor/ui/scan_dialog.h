@@ -16,6 +16,7 @@ class QProgressBar;
 class QPushButton;
 class QSpinBox;
 class QTableWidget;
+class QVBoxLayout;
 
 namespace zor::monitor {
 
@@ -41,6 +42,8 @@ public:
 
 private:
     void build();
+    void addAddresses(QVBoxLayout& column);
+    void addTable(QVBoxLayout& column);
     void addRow(const QStringList& cells, bool answers);
     void showRunning();
     void end(const QString& text);

@@ -1,6 +1,7 @@
 #include <zor/monitor/language/words.h>
 #include <zor/monitor/parts/framed_marks.h>
 #include <zor/monitor/parts/kept_return.h>
+#include <zor/monitor/parts/row_table.h>
 #include <zor/monitor/ui/settings_dialog.h>
 #include <zor/platform/qt/looks.h>
 
@@ -86,18 +87,10 @@ void SettingsDialog::addHead(QVBoxLayout& column)
 void SettingsDialog::addTable()
 {
     const QStringList headings{tr("Parameter"), tr("Tag"), m_use.one, m_use.other, tr("Remark")};
-    m_table = new QTableWidget(0, static_cast<int>(headings.size()), this);
-    m_table->setHorizontalHeaderLabels(headings);
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_table->horizontalHeader()->setStretchLastSection(true);
-    m_table->verticalHeader()->hide();
+    m_table = makeRowTable(headings, m_use.title, this);
     m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setTabKeyNavigation(false);
     m_table->setWordWrap(false);
     FramedMarks::on(*m_table);
-    m_table->setAccessibleName(m_use.title);
 }
 
 void SettingsDialog::addButtons(QVBoxLayout& column)
