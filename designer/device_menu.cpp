@@ -50,14 +50,16 @@ QVariant untranslated(QDesignerFormEditorInterface& core, const QString& text)
 }
 
 /// Writes through Designer, so that the form knows of the change and can take it back. What a property has
-/// already is left alone: Designer would store it from then on.
+/// already is left alone: Designer would store it from then on. Not so a unit: the one of a new control is shown
+/// by none until it is written.
 void record(QDesignerFormWindowInterface& form, ZorControl& widget, const std::vector<Write>& writes)
 {
     form.beginCommand(DeviceMenu::tr("Device settings of %1").arg(widget.objectName()));
     for (const auto& [property, value] : writes) {
-        if (widget.control().property(property) == value)
-            continue;
         const core::PropertyRow* row = widget.info().property(property);
+        const bool isUnit = row != nullptr && row->field.kind == core::ValueKind::MeasType;
+        if (!isUnit && widget.control().property(property) == value)
+            continue;
         const bool isIdentifier = row != nullptr && row->isIdentifier && value.isText();
         form.cursor()->setWidgetProperty(&widget, QString::fromStdString(property),
                                          isIdentifier

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <set>
 
 namespace zor::forms {
 namespace {
@@ -81,8 +82,12 @@ std::vector<Variant> storedValues(core::Control& control)
 string setProperty(core::Control& control, const pugi::xml_node& property, string_view name)
 {
     const core::PropertyRow* row = control.info().property(name);
+    if (row == nullptr && isQtProperty(name)) {
+        const string published = platform::upperCase(name.substr(0, 1)).append(name.substr(1));
+        return control.info().property(published) == nullptr ? string() : "no such property: it is " + published;
+    }
     if (row == nullptr)
-        return isQtProperty(name) ? string() : "no such property";
+        return "no such property";
     if (row->isFollowing())
         return "follows from other properties and is not set";
     const pugi::xml_node element = firstElement(property);
@@ -144,6 +149,20 @@ void Form::Document::collect(const pugi::xml_node& element)
     }
 }
 
+void Form::Document::noteWhatIsLost(const pugi::xml_node& element, const string& item)
+{
+    std::set<string> names;
+    for (const pugi::xml_node& property : element.children("property")) {
+        const string name = attributeOf(property, "name");
+        if (!names.insert(name).second)
+            note(line(property), item + '.' + name + ": stands twice, and the last one counts");
+    }
+    for (const pugi::xml_node& inside : element.children("widget")) {
+        if (classOf(classes, attributeOf(inside, "class")) != nullptr)
+            note(line(inside), item + ": a control inside a control is none of the form's");
+    }
+}
+
 /// Whether it is a control's; what lies inside one is none of the form's controls.
 bool Form::Document::add(const pugi::xml_node& element)
 {
@@ -161,6 +180,7 @@ bool Form::Document::add(const pugi::xml_node& element)
         if (!item.place)
             note(line(geometry), item.name + ".geometry: a rectangle of whole pixels is expected");
     }
+    noteWhatIsLost(element, item.name);
     items.push_back(std::move(item));
     elements.push_back(element);
     shown.emplace_back();

@@ -50,6 +50,7 @@ struct Form::Document {
 
 private:
     void collect(const pugi::xml_node& element);
+    void noteWhatIsLost(const pugi::xml_node& element, const std::string& item);
     bool add(const pugi::xml_node& element);
 
     std::size_t m_countedTo = 0;

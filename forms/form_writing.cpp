@@ -40,11 +40,13 @@ pugi::xml_node propertyElement(pugi::xml_node widget, const core::ClassInfo& inf
     const auto placeOf = [&](string_view wanted) {
         return std::ranges::find(order, wanted, &core::PropertyRow::name) - order.begin();
     };
+    pugi::xml_node last; // where it stands twice, that one counts
     for (const pugi::xml_node& property : widget.children("property")) {
-        const string present = attributeOf(property, "name");
-        if (present == name)
-            return property;
+        if (attributeOf(property, "name") == name)
+            last = property;
     }
+    if (last)
+        return last;
     pugi::xml_node before;
     for (const pugi::xml_node& property : widget.children("property")) {
         const string present = attributeOf(property, "name");

@@ -5,6 +5,7 @@
 #include <zor/platform/qt/container.h>
 #include <zor/platform/qt/looks.h>
 #include <zor/platform/qt/qt_regional.h>
+#include <zor/platform/temporarily.h>
 #include <zor/widgets/conversion.h>
 #include <zor/widgets/zor_control_inner.h>
 
@@ -67,7 +68,8 @@ void ZorControl::Inner::written(std::string_view name)
     const QPointer<ZorControl> alive = owner;
     if (alive.isNull())
         return;
-    if (name == "DeviceValue") {
+    // The other button's value is the device's, too.
+    if (name == "DeviceValue" || name == "EnumValue") {
         isValueNew = true;
         commits->forget();
         dragged.reset();
@@ -153,6 +155,39 @@ ZorControl::ZorControl(std::string_view className, QWidget* parent)
     resize(sizeHint());
 }
 
+/// What remains of a widget that was deleted while it was busy. It goes when nothing is under way any more, which
+/// an event loop that a slot runs cannot know.
+class ZorControl::Leaving final : public QObject {
+public:
+    explicit Leaving(std::unique_ptr<Inner> inner) : m_inner(std::move(inner)) {}
+    /// Ends it after the surface, if that is still there.
+    void after(QObject* surface)
+    {
+        if (surface == nullptr)
+            deleteLater();
+        else
+            connect(surface, &QObject::destroyed, this, &QObject::deleteLater);
+    }
+
+protected:
+    bool event(QEvent* event) override
+    {
+        constexpr int kAgain = 20; // milliseconds
+        if (event->type() != QEvent::DeferredDelete || m_inner->tellings.isNone())
+            return QObject::event(event);
+        startTimer(kAgain);
+        return true;
+    }
+    void timerEvent(QTimerEvent* /*event*/) override
+    {
+        if (m_inner->tellings.isNone())
+            delete this;
+    }
+
+private:
+    std::unique_ptr<Inner> m_inner;
+};
+
 ZorControl::~ZorControl()
 {
     Inner& inner = *m_inner;
@@ -164,15 +199,11 @@ ZorControl::~ZorControl()
     }
     // Deleted by a slot of one of its own signals, or by a handler of what the program writes: the control and its
     // widgets, which are still busy, go when that has returned, and what they report to goes after them.
-    inner.surface().hide();
-    inner.surface().setParent(nullptr);
+    const QPointer surface = &inner.surface();
+    surface->hide();
+    surface->setParent(nullptr);
     inner.control.reset();
-    struct Leaving final : QObject {
-        std::unique_ptr<Inner> inner;
-    };
-    auto leaving = std::make_unique<Leaving>();
-    leaving->inner = std::move(m_inner);
-    leaving.release()->deleteLater();
+    (new Leaving(std::move(m_inner)))->after(surface);
 }
 
 core::Control& ZorControl::control() const noexcept { return *m_inner->control; }
@@ -272,7 +303,9 @@ QVariant ZorControl::value() const
         const std::optional<Variant> entry = control().entryUnderWay();
         const bool isEdited =
             info().property("OutputValue") != nullptr && control().property("DataModified").toBoolean();
-        value = widgets::toQVariant(entry ? *entry : control().property(isEdited ? "OutputValue" : "DeviceValue"));
+        // A slider's DeviceValue is read times its ScaleFactor, which would grow with each round through a model.
+        const bool isOutput = isEdited || info().property("ScaleFactor") != nullptr;
+        value = widgets::toQVariant(entry ? *entry : control().property(isOutput ? "OutputValue" : "DeviceValue"));
     });
     return value;
 }
@@ -342,7 +375,6 @@ void ZorControl::takeFocusProxy()
         if ((widget.focusPolicy() & Qt::TabFocus) == 0)
             continue;
         setFocusProxy(&widget);
-        m_inner->focusPolicy = widget.focusPolicy();
         setFocusPolicy(widget.focusPolicy());
         break;
     }
@@ -354,18 +386,23 @@ void ZorControl::followFace()
     // Qt hands the focus on to a proxy without asking whether it can be reached, and Tab would lead no further.
     if (QWidget* proxy = focusProxy()) {
         const bool isReachable = proxy->isEnabled() && !proxy->isHidden();
-        proxy->setFocusPolicy(isReachable ? m_inner->focusPolicy : Qt::NoFocus);
+        proxy->setFocusPolicy(isReachable ? focusPolicy() : Qt::NoFocus);
     }
     const bool isAbsent = isUserMode() && m_inner->face->isHidden();
     if (std::exchange(m_inner->isAbsent, isAbsent) == isAbsent)
         return;
+    std::optional<bool>& isShown = m_inner->isShown;
     if (isAbsent)
-        m_inner->isShown = !(isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide));
-    // A window of its own that nobody has shown yet stays where it is.
-    m_inner->keepsFocus = true;
-    if (isAbsent || (m_inner->isShown && parentWidget() != nullptr))
-        ZorWidget::setVisible(!isAbsent);
-    m_inner->keepsFocus = false;
+        isShown = !isHidden()                                     ? std::optional(true)
+                  : testAttribute(Qt::WA_WState_ExplicitShowHide) ? std::optional(false)
+                                                                  : std::nullopt;
+    const platform::Temporarily keeping(m_inner->keepsFocus, true);
+    if (isAbsent)
+        ZorWidget::setVisible(false);
+    else if (isShown.value_or(parentWidget() != nullptr))
+        ZorWidget::setVisible(true);
+    else if (!isShown) // it has no place yet: as a new one it is shown with that
+        setAttribute(Qt::WA_WState_ExplicitShowHide, false);
 }
 
 void ZorControl::setVisible(bool visible)

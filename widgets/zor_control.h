@@ -56,7 +56,8 @@ public:
     [[nodiscard]] bool isUserMode() const noexcept;
     void setUserMode(bool userMode);
 
-    /// A valid entry under way, else OutputValue where there is an edit, else DeviceValue.
+    /// A valid entry under way, else OutputValue where there is an edit, else the device's value as it was written
+    /// (DeviceValue, but for a slider, which reads that times its ScaleFactor).
     [[nodiscard]] QVariant value() const;
     /// Writes DeviceValue.
     void setValue(const QVariant& value);
@@ -70,7 +71,7 @@ public:
     /// layout closes the gap. What the program asks for meanwhile counts once the device offers it.
     void setVisible(bool visible) override;
 
-signals:
+Q_SIGNALS:
     /// The value handed over is another, or has been handed over again; by whomever.
     void valueChanged();
     /// The operator has handed over a value, in the device's unit: the one to write to the device. Nothing that
@@ -107,6 +108,7 @@ protected:
 
 private:
     struct Inner;
+    class Leaving;
 
     template <class Action>
     void guarded(std::string_view member, Action&& action) const;

@@ -82,12 +82,11 @@ struct ZorControl::Inner final : core::EventSink {
     QWidget* face = nullptr;
     std::vector<Watch> watches;
     platform::Rect designed;
-    Qt::FocusPolicy focusPolicy = Qt::NoFocus; ///< of the focus proxy, while it can be reached
-    bool isAbsent = false;                     ///< hidden because the device does not offer the parameter
-    bool isShown = true;                       ///< whether it is to be seen where the device does
-    bool keepsFocus = false;                   ///< while the control itself hides its widget
-    bool isValueNew = false;                   ///< a device value has come, and nobody has been told
-    std::optional<Variant> dragged;            ///< what is committed at the end of a drag
+    bool isAbsent = false;          ///< hidden because the device does not offer the parameter
+    std::optional<bool> isShown;    ///< whether it is to be seen where the device does; if anybody says
+    bool keepsFocus = false;        ///< while the control itself hides its widget
+    bool isValueNew = false;        ///< a device value has come, and nobody has been told
+    std::optional<Variant> dragged; ///< what is committed at the end of a drag
     platform::Depth tellings;
 };
 

@@ -253,12 +253,15 @@ void QtContainer::showMessage(Component& component, const MessageBox& box)
     constexpr std::array kIcons{QMessageBox::Critical, QMessageBox::Information, QMessageBox::Warning};
     constexpr int kTitleLimit = 200;
     constexpr int kTextLimit = 4000;
-    QMessageBox message(kIcons[static_cast<std::size_t>(box.icon)], shownText(box.title, kTitleLimit), QString(),
+    // Who deletes the form while the box is open deletes the box with it.
+    const QPointer message =
+        new QMessageBox(kIcons[static_cast<std::size_t>(box.icon)], shownText(box.title, kTitleLimit), QString(),
                         QMessageBox::Ok, &m_parent);
-    message.setTextFormat(Qt::PlainText);
-    message.setText(shownText(box.text, kTextLimit));
-    widenToTitle(message);
-    message.exec();
+    message->setTextFormat(Qt::PlainText);
+    message->setText(shownText(box.text, kTextLimit));
+    widenToTitle(*message);
+    message->exec();
+    delete message;
 }
 
 void QtContainer::failed(const std::exception_ptr& error)
@@ -276,9 +279,20 @@ void QtContainer::discard(QWidget& widget)
         delete &widget;
         return;
     }
+    // deleteLater() would be carried out by an event loop that a handler runs, while the event is still under way.
     widget.hide();
     widget.setParent(nullptr);
-    widget.deleteLater();
+    m_discarded.emplace_back(&widget);
 }
+
+void QtContainer::deleteDiscarded() noexcept
+{
+    for (const auto& widget : std::exchange(m_discarded, {})) {
+        if (widget != nullptr)
+            widget->deleteLater();
+    }
+}
+
+QtContainer::~QtContainer() { deleteDiscarded(); }
 
 } // namespace zor::platform::qt

@@ -6,11 +6,14 @@
 #include <zor/platform/depth.h>
 #include <zor/platform/qt/looks.h>
 
+#include <QPointer>
+
 #include <cstddef>
 #include <exception>
 #include <functional>
 #include <span>
 #include <string_view>
+#include <vector>
 
 class QEvent;
 class QWidget;
@@ -23,6 +26,9 @@ class QtContainer final : public Container {
 public:
     /// `pictures`: the SVG texts of the image list, picture 1 first; they must outlive the container.
     QtContainer(QWidget& parent, std::span<const std::string_view> pictures);
+    ~QtContainer();
+    QtContainer(const QtContainer&) = delete;
+    QtContainer& operator=(const QtContainer&) = delete;
 
     [[nodiscard]] bool userMode() const noexcept override { return m_userMode; }
     /// Runs the form, or goes back to designing.
@@ -73,14 +79,23 @@ public:
     void setOpenMenu(PopupMenu* menu) noexcept { m_openMenu = menu; }
     /// Passes on what a handler threw.
     void failed(const std::exception_ptr& error);
-    /// Takes a Qt widget away; inside one of its events it is deleted when the event has ended.
+    /// Takes a Qt widget away; inside an event it is deleted when that has ended, whatever event loops run in it.
     void discard(QWidget& widget);
+    /// Deletes what was taken away inside the event that has just ended.
+    void sweep() noexcept
+    {
+        if (!m_discarded.empty() && events.isNone())
+            deleteDiscarded();
+    }
     /// Counts the events under way.
     Depth events;
     /// @}
 
 private:
+    void deleteDiscarded() noexcept;
+
     QWidget& m_parent;
+    std::vector<QPointer<QWidget>> m_discarded;
     std::span<const std::string_view> m_pictures;
     PopupMenu* m_openMenu = nullptr;
     Scale m_scale;

@@ -4,6 +4,7 @@
 
 #include <QDialogButtonBox>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -18,14 +19,35 @@ PageDialog::PageDialog(QWidget* parent) : QDialog(parent), m_area(new QWidget(th
     constexpr int kAboveButtons = 14;
     layout->setSpacing(kAboveButtons);
     layout->addWidget(m_area);
-    auto* buttons =
+    m_buttons =
         new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, this);
-    layout->addWidget(buttons);
-    m_apply = buttons->button(QDialogButtonBox::Apply);
+    layout->addWidget(m_buttons);
+    m_apply = m_buttons->button(QDialogButtonBox::Apply);
     m_apply->setEnabled(false);
     connect(m_apply, &QPushButton::clicked, this, [this] { apply(); });
-    connect(buttons, &QDialogButtonBox::accepted, this, [this] { accept(); });
-    connect(buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
+    connect(m_buttons, &QDialogButtonBox::accepted, this, [this] { accept(); });
+    connect(m_buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
+}
+
+void PageDialog::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    // The fields come first, though the page makes them after the buttons.
+    QWidget* first = nullptr;
+    QWidget* last = nullptr;
+    for (QWidget* next = nextInFocusChain(); next != this; next = next->nextInFocusChain()) {
+        if (!m_area->isAncestorOf(next) || (next->focusPolicy() & Qt::TabFocus) == 0 || !next->isEnabled())
+            continue;
+        first = first == nullptr ? next : first;
+        last = next;
+    }
+    if (first == nullptr)
+        return;
+    for (QAbstractButton* button : m_buttons->buttons()) {
+        setTabOrder(last, button);
+        last = button;
+    }
+    first->setFocus();
 }
 
 PageDialog::~PageDialog() = default;
@@ -66,10 +88,12 @@ bool PageDialog::apply()
         return true;
     } catch (...) {
         constexpr int kLimit = 1000;
-        QMessageBox box(QMessageBox::Warning, windowTitle(), {}, QMessageBox::Ok, this);
-        box.setTextFormat(Qt::PlainText);
-        box.setText(shownText(failureText(std::current_exception()), kLimit));
-        box.exec();
+        // Who deletes the dialog while the box is open deletes the box with it.
+        const QPointer box = new QMessageBox(QMessageBox::Warning, windowTitle(), {}, QMessageBox::Ok, this);
+        box->setTextFormat(Qt::PlainText);
+        box->setText(shownText(failureText(std::current_exception()), kLimit));
+        box->exec();
+        delete box;
         return false;
     }
 }

@@ -7,6 +7,7 @@
 
 #include <QDialog>
 
+class QDialogButtonBox;
 class QPushButton;
 
 namespace zor::platform::qt {
@@ -30,11 +31,15 @@ public:
     /// OK: applies what was changed, and closes when that went well.
     void accept() override;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     /// False when the page could not be applied; the user has been told then.
     bool apply();
 
     QWidget* m_area;
+    QDialogButtonBox* m_buttons = nullptr;
     QPushButton* m_apply = nullptr;
     QtContainer m_container;
     PropertyPage* m_page = nullptr;

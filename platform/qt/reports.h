@@ -32,13 +32,19 @@ struct Context {
 class EventScope {
 public:
     explicit EventScope(const Context& context) noexcept
-        : m_level(context.container->events), m_hold(*context.listener)
+        : m_sweep{*context.container}, m_level(context.container->events), m_hold(*context.listener)
     {}
     EventScope(const EventScope&) = delete;
     EventScope& operator=(const EventScope&) = delete;
 
 private:
-    // In this order: the control ends while its event still counts.
+    struct Sweep {
+        QtContainer& container;
+        ~Sweep() { container.sweep(); }
+    };
+
+    // In this order: the control ends while its event still counts, and its widgets go when it no longer does.
+    Sweep m_sweep;
     Depth::Level m_level;
     Hold<WidgetListener> m_hold;
 };

@@ -351,6 +351,7 @@ TEST(Designer, AChangeOnAPageIsOneStepThatCanBeTakenBack)
     const OpenForm form(oneOfEach());
     const QString before = form.window->contents();
     onPage(form, "ctx_ZorTextBox", [&](QDialog& dialog) {
+        EXPECT_NE(qobject_cast<QLineEdit*>(dialog.focusWidget()), nullptr) << "the first field comes first";
         for (auto* box : dialog.findChildren<QComboBox*>()) {
             if (box->findText("Pressure") >= 0)
                 box->setCurrentText("Pressure");
@@ -365,10 +366,21 @@ TEST(Designer, AChangeOnAPageIsOneStepThatCanBeTakenBack)
                               "<string notr=\"true\">X&amp;</string>"})
         EXPECT_TRUE(after.contains(saved)) << saved << '\n' << after.toStdString();
     EXPECT_FALSE(after.contains("MaxLength")) << "what was not changed is not stored";
+    EXPECT_TRUE(after.contains("name=\"OutputUnit\""))
+        << "a unit that a new control has is shown by none until then";
     form.window->commandHistory()->undo();
     EXPECT_EQ(form.window->contents(), before);
     form.window->commandHistory()->redo();
     EXPECT_EQ(form.window->contents(), after);
+
+    const OpenForm fresh(oneOfEach());
+    EXPECT_FALSE(fresh.window->contents().contains("name=\"OutputUnit\""));
+    onPage(fresh, "ctx_ZorTextBox", [&](QDialog& dialog) {
+        QTest::keyClicks(dialog.findChildren<QLineEdit*>().first(), "X");
+        press(dialog, QDialogButtonBox::Apply);
+    });
+    EXPECT_TRUE(fresh.window->contents().contains("name=\"OutputUnit\""))
+        << "no control shows one until it is written";
 }
 
 } // namespace

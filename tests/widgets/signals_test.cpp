@@ -1,15 +1,20 @@
 // What the QWidgets tell a program that listens, and what it may do then.
 
+#include <zor/controls/numeric/text_box/ctx_ZorTextBox.h>
+#include <zor/platform/qt/container.h>
 #include <zor/widgets.h>
 
 #include <QAbstractSlider>
 #include <QApplication>
 #include <QDataWidgetMapper>
 #include <QDoubleSpinBox>
+#include <QEventLoop>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QTest>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <gtest/gtest.h>
@@ -38,6 +43,12 @@ TEST(WidgetSignals, WhatChangesByItselfSaysSo)
     box.setDeviceTypeSupported("A");
     box.setDeviceType("B");
     EXPECT_EQ(support.size(), 1);
+
+    ZorSlider slider;
+    slider.setMaxValue(100);
+    slider.setScaleFactor(10);
+    slider.setValue(5);
+    EXPECT_EQ(slider.value(), 5.0) << "would grow with each round through a model";
 }
 
 TEST(WidgetSignals, OnlyWhatTheOperatorHandsOverIsCommitted)
@@ -227,6 +238,75 @@ TEST(WidgetSignals, AWidgetMayBeDeletedInASlotOfItsOwnSignal)
     QCoreApplication::sendEvent(turned, &wheel);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(turned.isNull());
+}
+
+// Where a slot asks the operator, the event that it answers is still under way while another one ends the widget.
+TEST(WidgetSignals, AWidgetMayBeDeletedWhileASlotOrItsOwnBoxWaits)
+{
+    QWidget form;
+    form.show();
+    QApplication::setActiveWindow(&form);
+    auto* box = new ZorTextBox(&form);
+    box->show();
+    box->setFocus();
+    const QPointer<ZorTextBox> alive = box;
+    const auto deleteMeanwhile = [&] {
+        QEventLoop loop;
+        QTimer::singleShot(0, &loop, [&] { delete alive; });
+        QTimer::singleShot(40, &loop, &QEventLoop::quit);
+        loop.exec();
+    };
+    QObject::connect(box, &ZorTextBox::textChange, &form, deleteMeanwhile);
+    QTest::keyClick(box->focusProxy(), Qt::Key_1);
+    EXPECT_TRUE(alive.isNull());
+
+    auto* written = new ZorTextBox(&form);
+    const QPointer<ZorTextBox> other = written;
+    QObject::connect(written, &ZorTextBox::propertyChanged, &form, [&] {
+        QEventLoop loop;
+        QTimer::singleShot(0, &loop, [&] { delete other; });
+        QTimer::singleShot(40, &loop, &QEventLoop::quit);
+        loop.exec();
+    });
+    written->setMaxValue(5);
+    EXPECT_TRUE(other.isNull());
+
+    auto* failed = new ZorTextBox(&form);
+    failed->show();
+    failed->setCFail(true);
+    const QPointer<QWidget> icon = &platform::qt::widgetOf(*failed->control().widget(ctx_ZorTextBox::img_State));
+    QTimer::singleShot(20, &form, [failed] { delete failed; });
+    QTest::mouseClick(icon, Qt::LeftButton);
+    EXPECT_TRUE(form.findChildren<QMessageBox*>().isEmpty());
+    QTest::qWait(60);
+    EXPECT_TRUE(icon.isNull());
+}
+
+TEST(WidgetSignals, WhatTheDeviceLackedBeforeItHadAPlaceComesBackWithTheDevice)
+{
+    const auto swap = [](ZorTextBox& box, const char* type) {
+        box.setDeviceTypeSupported("A");
+        box.setDeviceType(type);
+    };
+    QWidget form;
+    QVBoxLayout layout(&form);
+    auto* placed = new ZorTextBox;
+    swap(*placed, "B");
+    swap(*placed, "A");
+    layout.addWidget(placed);
+    form.show();
+    EXPECT_TRUE(placed->isVisible());
+    placed->setFocusPolicy(Qt::ClickFocus);
+    swap(*placed, "B");
+    swap(*placed, "A");
+    EXPECT_EQ(placed->focusProxy()->focusPolicy(), Qt::ClickFocus) << "what the program has chosen";
+
+    ZorTextBox window;
+    window.show();
+    swap(window, "B");
+    EXPECT_FALSE(window.isVisible());
+    swap(window, "A");
+    EXPECT_TRUE(window.isVisible());
 }
 
 } // namespace

@@ -164,10 +164,10 @@ void declareClass(std::ostream& out, const core::ClassInfo& info)
     out << '\n';
     for (const core::MethodRow& row : info.methods)
         out << "    /// " << row.meaning << "\n    Q_INVOKABLE " << methodOf(row, {}) << ";\n";
-    out << "\npublic slots:\n";
+    out << "\npublic Q_SLOTS:\n";
     for (const core::PropertyRow* row : info.properties)
         out << "    void set" << row->name << '(' << argument(row->field.kind, "value") << ");\n";
-    out << "\nsignals:\n";
+    out << "\nQ_SIGNALS:\n";
     for (const core::EventRow& row : info.events) {
         if (row.isRaised)
             out << "    /// " << core::meaningOf(row) << "\n    void " << signalOf(row) << ";\n";
