@@ -22,13 +22,10 @@ QString propertyRules(const core::ClassInfo& info)
     for (const core::PropertyRow* row : info.properties) {
         rules += QString("<tooltip name=\"%1\">%2</tooltip>")
                      .arg(toQString(row->name), toQString(row->meaning).toHtmlEscaped());
-        // A value that is a text is no words of the form: translated anew, it would end the operator's edit.
-        const bool isValue = row->field.kind == core::ValueKind::Any;
-        const bool isWords = !isValue && !row->isIdentifier;
-        if (isValue || row->field.kind == core::ValueKind::Text)
+        if (row->field.kind == core::ValueKind::Text)
             rules += QString("<stringpropertyspecification name=\"%1\" type=\"%2\"%3/>")
-                         .arg(toQString(row->name), isWords ? "multiline" : "singleline",
-                              isWords ? "" : " notr=\"true\"");
+                         .arg(toQString(row->name), row->isIdentifier ? "singleline" : "multiline",
+                              row->isIdentifier ? " notr=\"true\"" : "");
     }
     return rules;
 }

@@ -3,6 +3,7 @@
 /// What Designer says about controls and their properties.
 
 #include <zor/core/class_info.h>
+#include <zor/widgets/conversion.h>
 
 #include <QString>
 
@@ -19,10 +20,7 @@ struct Description {
 /// A class's description; a general one for a class without its own.
 [[nodiscard]] const Description& descriptionOf(std::string_view controlClass) noexcept;
 
-[[nodiscard]] inline QString toQString(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
+using widgets::toQString;
 
 /// The heading under which the property editor shows a property.
 [[nodiscard]] std::string_view headingOf(const core::PropertyRow& row) noexcept;

@@ -7,9 +7,15 @@
 #include <QString>
 #include <QVariant>
 
+#include <string_view>
 #include <type_traits>
 
 namespace zor::widgets {
+
+[[nodiscard]] inline QString toQString(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
 
 [[nodiscard]] QVariant toQVariant(const Variant& value);
 /// Booleans, numbers and texts as they are, no value as Empty; anything else by its text. An integer that does not

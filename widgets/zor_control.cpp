@@ -10,8 +10,6 @@
 #include <zor/widgets/zor_control_inner.h>
 
 #include <QAbstractSlider>
-#include <QCoreApplication>
-#include <QFocusEvent>
 #include <QMetaMethod>
 #include <QMetaProperty>
 #include <QPainter>
@@ -54,93 +52,7 @@ bool isMember(core::ValueKind kind, int value)
     return at < 0 || published.enumerator(at).valueToKey(value) != nullptr;
 }
 
-QString toQString(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 } // namespace
-
-// --- The control, and where it reports to
-
-void ZorControl::Inner::written(std::string_view name)
-{
-    const QPointer<ZorControl> alive = owner;
-    if (alive.isNull())
-        return;
-    // The other button's value is the device's, too.
-    if (name == "DeviceValue" || name == "EnumValue") {
-        isValueNew = true;
-        commits->forget();
-        dragged.reset();
-    }
-    const Telling telling(tellings);
-    emit alive->propertyChanged(toQString(name));
-}
-
-void ZorControl::Inner::formChanges(const QWidget& part, const QEvent& event)
-{
-    if (owner == nullptr || (&part != face && &part != owner->focusProxy()))
-        return;
-    if (event.type() != QEvent::FocusOut)
-        return owner->followFace();
-    if (&part != owner->focusProxy())
-        return;
-    // Who watches this widget for its focus (a data mapper) would see nothing of the part that has it.
-    const auto reason = static_cast<const QFocusEvent&>(event).reason();
-    QMetaObject::invokeMethod(
-        owner,
-        [widget = owner, reason] {
-            QFocusEvent left(QEvent::FocusOut, reason);
-            QCoreApplication::sendEvent(widget, &left);
-        },
-        Qt::QueuedConnection);
-}
-
-std::optional<Variant> ZorControl::Inner::committed()
-{
-    isValueNew = false;
-    std::optional<Variant> value = commits->take();
-    const auto* track = qobject_cast<const QAbstractSlider*>(face);
-    if (value && track != nullptr && track->isSliderDown())
-        dragged = std::exchange(value, std::nullopt);
-    return value;
-}
-
-void ZorControl::Inner::released()
-{
-    const QPointer<ZorControl> alive = owner;
-    const Telling telling(tellings);
-    if (const auto value = std::exchange(dragged, std::nullopt); value && !alive.isNull())
-        emit alive->valueCommitted(widgets::toQVariant(*value));
-}
-
-Variant ZorControl::Inner::readable(const core::PropertyRow& row) const
-{
-    try {
-        return control->get(row);
-    } catch (const RunTimeError&) {
-        return {};
-    }
-}
-
-void ZorControl::Inner::settled() noexcept
-{
-    const QPointer<ZorControl> alive = owner;
-    if (alive.isNull() || (!isValueNew && watches.empty()))
-        return;
-    const platform::Hold hold(*control);
-    const Telling telling(tellings);
-    if (std::exchange(isValueNew, false))
-        emit alive->valueChanged();
-    for (std::size_t i = 0; i < watches.size() && !alive.isNull(); ++i) {
-        Variant now = readable(*watches[i].row);
-        if (now == watches[i].last)
-            continue;
-        watches[i].last = std::move(now);
-        watches[i].notifier.invoke(owner, Qt::DirectConnection);
-    }
-}
 
 ZorControl::ZorControl(std::string_view className, QWidget* parent)
     : ZorWidget(parent), m_inner(std::make_unique<Inner>(*this, classNamed(className)))
@@ -154,39 +66,6 @@ ZorControl::ZorControl(std::string_view className, QWidget* parent)
     setSizePolicy(QSizePolicy::Preferred, hasList() ? QSizePolicy::Expanding : QSizePolicy::Fixed);
     resize(sizeHint());
 }
-
-/// What remains of a widget that was deleted while it was busy. It goes when nothing is under way any more, which
-/// an event loop that a slot runs cannot know.
-class ZorControl::Leaving final : public QObject {
-public:
-    explicit Leaving(std::unique_ptr<Inner> inner) : m_inner(std::move(inner)) {}
-    /// Ends it after the surface, if that is still there.
-    void after(QObject* surface)
-    {
-        if (surface == nullptr)
-            deleteLater();
-        else
-            connect(surface, &QObject::destroyed, this, &QObject::deleteLater);
-    }
-
-protected:
-    bool event(QEvent* event) override
-    {
-        constexpr int kAgain = 20; // milliseconds
-        if (event->type() != QEvent::DeferredDelete || m_inner->tellings.isNone())
-            return QObject::event(event);
-        startTimer(kAgain);
-        return true;
-    }
-    void timerEvent(QTimerEvent* /*event*/) override
-    {
-        if (m_inner->tellings.isNone())
-            delete this;
-    }
-
-private:
-    std::unique_ptr<Inner> m_inner;
-};
 
 ZorControl::~ZorControl()
 {
@@ -238,7 +117,7 @@ void ZorControl::guarded(std::string_view member, Action&& action) const
     // While a form is being loaded nobody can listen yet.
     if (!alive->isSignalConnected(QMetaMethod::fromSignal(&ZorControl::refused)))
         qWarning("%s", qUtf8Printable(text));
-    emit alive->refused(toQString(member), number, text);
+    emit alive->refused(widgets::toQString(member), number, text);
 }
 
 Variant ZorControl::readProperty(std::size_t row) const

@@ -10,10 +10,13 @@
 #include <zor/widgets/conversion.h>
 #include <zor/widgets/zor_control.h>
 
+#include <QEvent>
 #include <QMetaMethod>
 #include <QPointer>
 
+#include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace zor {
@@ -88,6 +91,39 @@ struct ZorControl::Inner final : core::EventSink {
     bool isValueNew = false;        ///< a device value has come, and nobody has been told
     std::optional<Variant> dragged; ///< what is committed at the end of a drag
     platform::Depth tellings;
+};
+
+/// What remains of a widget that was deleted while it was busy. It goes when nothing is under way any more, which
+/// an event loop that a slot runs cannot know.
+class ZorControl::Leaving final : public QObject {
+public:
+    explicit Leaving(std::unique_ptr<Inner> inner) : m_inner(std::move(inner)) {}
+    /// Ends it after the surface, if that is still there.
+    void after(QObject* surface)
+    {
+        if (surface == nullptr)
+            deleteLater();
+        else
+            connect(surface, &QObject::destroyed, this, &QObject::deleteLater);
+    }
+
+protected:
+    bool event(QEvent* event) override
+    {
+        constexpr int kAgain = 20; // milliseconds
+        if (event->type() != QEvent::DeferredDelete || m_inner->tellings.isNone())
+            return QObject::event(event);
+        startTimer(kAgain);
+        return true;
+    }
+    void timerEvent(QTimerEvent* /*event*/) override
+    {
+        if (m_inner->tellings.isNone())
+            delete this;
+    }
+
+private:
+    std::unique_ptr<Inner> m_inner;
 };
 
 } // namespace zor

@@ -2,6 +2,7 @@
 #include <zor/monitor/session/writer.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace zor::monitor {
 namespace {
@@ -241,6 +242,9 @@ void Writer::readBack(const WriteResult& written)
     const auto hear = [this, written](const Reply& reply) {
         if (reply.outcome == Outcome::Answered)
             return finish(written, reply.registers);
+        // Lost with a connection that another request has given up: it is asked for once more over the next.
+        if (reply.fault == Fault::ConnectionLost && !std::exchange(m_isAskedAgain, true))
+            return askAndReadBack(written);
         finish(unread(written, reply), {});
     };
     m_link.send(readRequest(), hear, m_link.connection());
@@ -261,7 +265,7 @@ void Writer::finish(const WriteResult& result, const Registers& registers)
         onResult(change, own);
     }
     m_jobs.pop_front();
-    m_isBegun = false;
+    m_isBegun = m_isAskedAgain = false;
     next();
 }
 

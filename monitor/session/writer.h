@@ -82,6 +82,7 @@ private:
     std::deque<Job> m_jobs;
     std::deque<Request> m_parts; ///< of the job under way, that are still to be sent
     bool m_isBegun = false;      ///< a part has been carried out
+    bool m_isAskedAgain = false; ///< the read back
     bool m_isMaskable = true;    ///< as far as is known of the device
     std::optional<unsigned> m_connection;
 };
