@@ -10,8 +10,9 @@
 
 namespace zor::monitor {
 
-/// Columns: time (UTC, ISO 8601 with milliseconds), event ("read", "write", or "device" where another one answers), tag, old, new, result. Values are
-/// in the device's unit. Each line is in the file when record() returns, or error() says why it is not.
+/// Columns: time (UTC, ISO 8601 with milliseconds), event ("read", "write", or "device" where another one
+/// answers), tag, old, new, result. Values are in the device's unit. Each line is in the file when record()
+/// returns, or error() says why it is not.
 class Log {
 public:
     /// Appends to the file. Raises FileError when it cannot be opened, or holds something else than a record.

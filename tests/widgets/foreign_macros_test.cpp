@@ -1,6 +1,6 @@
 // Headers of X11 make macros of words that published names are made of. Qt's own headers do not bear that, so they
-// come first; ours may come at any time, and leave the macros as they were. Ours do without Qt's own, too, which many
-// projects switch off.
+// come first; ours may come at any time, and leave the macros as they were. Ours do without Qt's own, too, which
+// many projects switch off.
 
 #define QT_NO_KEYWORDS
 
