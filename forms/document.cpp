@@ -155,7 +155,8 @@ void Form::Document::noteWhatIsLost(const pugi::xml_node& element, const string&
     for (const pugi::xml_node& property : element.children("property")) {
         const string name = attributeOf(property, "name");
         if (!names.insert(name).second)
-            note(line(property), item + '.' + name + ": stands twice, and the last one counts");
+            note(line(property),
+                 string(item).append(".").append(name).append(": stands twice, and the last one counts"));
     }
     for (const pugi::xml_node& inside : element.children("widget")) {
         if (classOf(classes, attributeOf(inside, "class")) != nullptr)
