@@ -82,7 +82,8 @@ ZorControl::~ZorControl()
     surface->hide();
     surface->setParent(nullptr);
     inner.control.reset();
-    (new Leaving(std::move(m_inner)))->after(surface);
+    auto leaving = std::make_unique<Leaving>(std::move(m_inner));
+    leaving.release()->after(surface);
 }
 
 core::Control& ZorControl::control() const noexcept { return *m_inner->control; }
