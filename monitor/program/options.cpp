@@ -28,6 +28,7 @@ void addOptions(CLI::App& app, Settings& settings)
 {
     constexpr int kLongest = 86400;
     std::vector<std::string> codes;
+    codes.reserve(kLanguages.size());
     for (const LanguageRow& language : kLanguages)
         codes.emplace_back(language.code);
     auto* form =
