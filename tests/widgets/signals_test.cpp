@@ -246,29 +246,22 @@ TEST(WidgetSignals, AWidgetMayBeDeletedWhileASlotOrItsOwnBoxWaits)
     QWidget form;
     form.show();
     QApplication::setActiveWindow(&form);
-    auto* box = new ZorTextBox(&form);
-    box->show();
-    box->setFocus();
-    const QPointer<ZorTextBox> alive = box;
-    const auto deleteMeanwhile = [&] {
+    const auto deleteMeanwhile = [](const QPointer<ZorTextBox>& box) {
         QEventLoop loop;
-        QTimer::singleShot(0, &loop, [&] { delete alive; });
+        QTimer::singleShot(0, &loop, [&] { delete box; });
         QTimer::singleShot(40, &loop, &QEventLoop::quit);
         loop.exec();
     };
-    QObject::connect(box, &ZorTextBox::textChange, &form, deleteMeanwhile);
+    const QPointer<ZorTextBox> box = new ZorTextBox(&form);
+    box->show();
+    box->setFocus();
+    QObject::connect(box, &ZorTextBox::textChange, &form, [&] { deleteMeanwhile(box); });
     QTest::keyClick(box->focusProxy(), Qt::Key_1);
-    EXPECT_TRUE(alive.isNull());
+    EXPECT_TRUE(box.isNull());
 
-    auto* written = new ZorTextBox(&form);
-    const QPointer<ZorTextBox> other = written;
-    QObject::connect(written, &ZorTextBox::propertyChanged, &form, [&] {
-        QEventLoop loop;
-        QTimer::singleShot(0, &loop, [&] { delete other; });
-        QTimer::singleShot(40, &loop, &QEventLoop::quit);
-        loop.exec();
-    });
-    written->setMaxValue(5);
+    const QPointer<ZorTextBox> other = new ZorTextBox(&form);
+    QObject::connect(other, &ZorTextBox::propertyChanged, &form, [&] { deleteMeanwhile(other); });
+    other->setMaxValue(5);
     EXPECT_TRUE(other.isNull());
 
     auto* failed = new ZorTextBox(&form);
